@@ -1,0 +1,97 @@
+// The public class: every worksheet function as a method, in an order that stays fixed.
+#pragma once
+
+#include "host/export.h"
+#include "host/host_value.h"
+#include "text/options.h"
+
+namespace quorvex {
+
+/// The worksheet functions.
+///
+/// Operands are numbers as text or as any host value: digits with one decimal separator, a leading
+/// minus or parentheses, thousands separators, currency symbol, E notation (1.5E+3), matching
+/// quote marks around. Separators and symbol are those of the user's locale at the time of the
+/// call. A result is text formatted by the options, or an error token: "#VALUE!", "#NUM!",
+/// "#DIV/0!".
+///
+/// The options, all optional, in this order: `format_negative` 0 (no sign), 1 (leading minus, the
+/// default) or 2 (parentheses); `format_thousands`, `format_currency`, `exponential_notation`,
+/// true or false; `maximum_significant_digits`, `Default_MaxSD` if missing;
+/// `format_decimal_place`, a fixed count of places; `preserve_decimal_place`, without effect.
+///
+/// Methods keep no state. A calculation that the host breaks off throws `Run_Time_Failure` number
+/// 18 from any of them.
+class QUORVEX_API cls_Quorvex {
+ public:
+  /// `Restrictionator` with the last two arguments missing.
+  type_Restrictionator PublicRestrictionatorCaller(
+      const HostValue& format_negative = Missing, const HostValue& format_thousands = Missing,
+      const HostValue& format_currency = Missing, const HostValue& exponential_notation = Missing,
+      const HostValue& maximum_significant_digits = Missing);
+
+  /// The options as every function resolves them. Throws `Run_Time_Failure` 13 for an option that
+  /// can't be read.
+  type_Restrictionator Restrictionator(const HostValue& format_negative = Missing,
+                                       const HostValue& format_thousands = Missing,
+                                       const HostValue& format_currency = Missing,
+                                       const HostValue& exponential_notation = Missing,
+                                       const HostValue& maximum_significant_digits = Missing,
+                                       const HostValue& format_decimal_place = Missing,
+                                       const HostValue& preserve_decimal_place = Missing);
+
+  /// Whether addition would accept the value as a number. Throws `Run_Time_Failure` 13 for a
+  /// missing value and for an array, which have no text.
+  bool qvxISNUMBER(const HostValue& num);
+
+  /// The number 1, 0 or -1 by the sign of `num`; "0" as text for a blank cell or empty text,
+  /// "#VALUE!" for what is no number. The sign is looked for at the very start of the value:
+  /// *'-5'*, in quote marks, gives 1. Throws `Run_Time_Failure` 13 as `qvxISNUMBER` does.
+  HostValue qvxSIGN(const HostValue& num);
+
+  /// The sum, or the difference `number1` less `number2`. Any operand or option that can't be read
+  /// gives "#VALUE!"; an operand that is an error token gives that token.
+  NumberText qvxADD(const HostValue& number1, const HostValue& number2,
+                    const HostValue& format_negative = Missing,
+                    const HostValue& format_thousands = Missing,
+                    const HostValue& format_currency = Missing,
+                    const HostValue& exponential_notation = Missing,
+                    const HostValue& maximum_significant_digits = Missing,
+                    const HostValue& format_decimal_place = Missing,
+                    const HostValue& preserve_decimal_place = Missing);
+  NumberText qvxSUBTRACT(const HostValue& number1, const HostValue& number2,
+                         const HostValue& format_negative = Missing,
+                         const HostValue& format_thousands = Missing,
+                         const HostValue& format_currency = Missing,
+                         const HostValue& exponential_notation = Missing,
+                         const HostValue& maximum_significant_digits = Missing,
+                         const HostValue& format_decimal_place = Missing,
+                         const HostValue& preserve_decimal_place = Missing);
+
+  /// Comparisons, at any length: the text "True" or "False". "#NUM!" for what is no number, and an
+  /// error token for itself; but `qvxISNOTEQUAL` answers "True" to "#VALUE!" and "#DIV/0!".
+  /// Operands that have no text (missing, arrays) throw `Run_Time_Failure` 13.
+  HostValue qvxISEQUAL(const HostValue& number1, const HostValue& number2);
+  HostValue qvxISNOTEQUAL(const HostValue& number1, const HostValue& number2);
+  /// Replaces the caller's values by their text.
+  HostValue qvxISGREATER(HostValue& number1, HostValue& number2);
+  HostValue qvxISGREATEROREQUAL(const HostValue& number1, const HostValue& number2);
+  HostValue qvxISLESS(const HostValue& number1, const HostValue& number2);
+  HostValue qvxISLESSOREQUAL(const HostValue& number1, const HostValue& number2);
+
+  /// The maximum significant digits of a call that gives none, as a host number.
+  HostValue qvxDEFAULTMAXSD();
+
+  /// `number` with the options applied, cut to the limit plus one digits. An error token, or the
+  /// token for what is no number, comes back as it is. Throws `Run_Time_Failure` for an option that
+  /// can't be read, and when rounding to fixed places would carry into a thousands separator.
+  NumberText qvxFORMAT(const NumberText& number, const HostValue& format_negative = Missing,
+                       const HostValue& format_thousands = Missing,
+                       const HostValue& format_currency = Missing,
+                       const HostValue& exponential_notation = Missing,
+                       const HostValue& maximum_significant_digits = Missing,
+                       const HostValue& format_decimal_place = Missing,
+                       const HostValue& preserve_decimal_place = Missing);
+};
+
+}  // namespace quorvex

@@ -1,0 +1,129 @@
+// What the engine asks of its surroundings: a small interface each, with a default for this system
+// and a place to put another one in its stead (tests, hosts).
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "host/export.h"
+
+namespace quorvex {
+
+enum class Currency_Side { before = 1, after = 2 };
+
+/// How the user writes numbers. Each separator is one character, which may be several bytes.
+struct Locale {
+  std::string decimal_separator = ".";
+  std::string thousands_separator = ",";
+  std::string currency_symbol = "$";
+  Currency_Side currency_side = Currency_Side::before;
+};
+
+/// What makes a locale unusable for number text (a separator that is no single character, is a
+/// digit or a sign, or is the same as the other one; a currency symbol that could be taken for a
+/// number), as a sentence for the user; nothing if it is fine.
+QUORVEX_API std::optional<std::string> Locale_Problem(const Locale& locale);
+
+class QUORVEX_API Locale_Source {
+ public:
+  virtual ~Locale_Source();
+  /// The locale as it is now. Asked at each use: callers keep nothing of it.
+  virtual const Locale& current() = 0;
+};
+
+/// A per-user store of texts under three-level keys.
+class QUORVEX_API Settings_Store {
+ public:
+  virtual ~Settings_Store();
+  virtual std::optional<std::string> read(std::string_view application, std::string_view section,
+                                          std::string_view key) = 0;
+  virtual void write(std::string_view application, std::string_view section, std::string_view key,
+                     std::string_view value) = 0;
+};
+
+/// A one-shot deferred call on the host's thread. It can be armed anew, from its own call too;
+/// arming an armed timer moves it. Destroying it cancels it.
+class QUORVEX_API Timer {
+ public:
+  virtual ~Timer();
+  virtual void arm(std::chrono::milliseconds delay) = 0;
+  virtual void cancel() = 0;
+};
+
+class QUORVEX_API Timer_Service {
+ public:
+  virtual ~Timer_Service();
+  virtual std::unique_ptr<Timer> make(std::function<void()> call) = 0;
+  /// Runs what is due; the host calls it when its thread is idle.
+  virtual void run_due() = 0;
+};
+
+enum class Message_Icon { none, information, question, warning, error };
+enum class Message_Buttons { ok, yes_no };
+enum class Message_Answer { ok, yes, no };
+
+class QUORVEX_API Message_Box {
+ public:
+  virtual ~Message_Box();
+  virtual Message_Answer show(std::string_view title, std::string_view text, Message_Icon icon,
+                              Message_Buttons buttons) = 0;
+};
+
+/// Called inside every loop whose length the input decides. A host that wants the calculation to
+/// end throws `Run_Time_Failure` with `interrupted` from here.
+class QUORVEX_API Yielder {
+ public:
+  virtual ~Yielder();
+  virtual void yield() = 0;
+};
+
+/// How much more memory the process can be given.
+class QUORVEX_API Memory_Gauge {
+ public:
+  virtual ~Memory_Gauge();
+  virtual std::size_t available_bytes() = 0;
+};
+
+struct Platform {
+  std::shared_ptr<Locale_Source> locale;
+  std::shared_ptr<Settings_Store> settings;
+  std::shared_ptr<Timer_Service> timers;
+  std::shared_ptr<Message_Box> message_box;
+  std::shared_ptr<Yielder> yielder;
+  std::shared_ptr<Memory_Gauge> memory;
+};
+
+/// The platform in use. Its members may be replaced; none may be null.
+QUORVEX_API Platform& Current_Platform();
+
+/// The defaults of this system. `src/host/platform/` holds one implementation for each.
+Platform Default_Platform();
+
+/// A source that always gives this locale.
+QUORVEX_API std::shared_ptr<Locale_Source> Fixed_Locale(Locale locale);
+
+/// The system's locale of that name (fr_FR, de_CH.UTF-8); nothing if the system has none such.
+QUORVEX_API std::optional<Locale> System_Locale(std::string_view name);
+
+inline const Locale& Current_Locale() {
+  return Current_Platform().locale->current();
+}
+
+inline void Yield() {
+  Current_Platform().yielder->yield();
+}
+
+/// How many digits a loop may treat between two calls of `Yield`.
+inline constexpr std::size_t digits_between_yields = std::size_t{1} << 20;
+
+/// Fails with out_of_memory where `bytes` more can't be had. A system that promises memory which it
+/// doesn't have would end the whole process when the memory is touched, so a text whose size a few
+/// characters of input decide is asked for here first.
+QUORVEX_API void Require_Memory(double bytes);
+
+}  // namespace quorvex

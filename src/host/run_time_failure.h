@@ -1,0 +1,60 @@
+// The one exception of the engine.
+#pragma once
+
+#include <new>
+#include <stdexcept>
+#include <string>
+
+#include "host/export.h"
+
+namespace quorvex {
+
+/// The host's error numbers, as far as the engine raises them.
+enum class Failure_Number : int {
+  invalid_call = 5,
+  overflow = 6,
+  out_of_memory = 7,
+  subscript_out_of_range = 9,
+  type_mismatch = 13,
+  too_complex = 16,
+  interrupted = 18,
+};
+
+/// A run-time failure: the host's error number, and a message that a user can act on.
+///
+/// A routine with a handler turns it into an error token; from every other routine it leaves the
+/// public method. `Failure_Number::interrupted` passes every handler, since it says that somebody
+/// wants the calculation to end, and nothing about the operands.
+class QUORVEX_API Run_Time_Failure : public std::runtime_error {
+ public:
+  Run_Time_Failure(Failure_Number number, const std::string& message);
+  Run_Time_Failure(const Run_Time_Failure&) = default;
+  Run_Time_Failure& operator=(const Run_Time_Failure&) = default;
+  Run_Time_Failure(Run_Time_Failure&&) = default;
+  Run_Time_Failure& operator=(Run_Time_Failure&&) = default;
+  ~Run_Time_Failure() override;
+
+  Failure_Number number() const noexcept { return number_; }
+
+ private:
+  Failure_Number number_;
+};
+
+/// Runs `body` and gives what it gives. A failure in it goes, as a `Run_Time_Failure`, to
+/// `handler`, whose result is then given; `interrupted` is thrown on. Memory that can't be had and
+/// texts longer than the machine can hold arrive as `out_of_memory`.
+template <typename Body, typename Handler>
+auto With_Handler(Body&& body, Handler&& handler) -> decltype(body()) {
+  try {
+    return body();
+  } catch (const Run_Time_Failure& failure) {
+    if (failure.number() == Failure_Number::interrupted) throw;
+    return handler(failure);
+  } catch (const std::bad_alloc&) {
+    return handler(Run_Time_Failure(Failure_Number::out_of_memory, "There is not enough memory."));
+  } catch (const std::length_error&) {
+    return handler(Run_Time_Failure(Failure_Number::out_of_memory, "A text would grow too long."));
+  }
+}
+
+}  // namespace quorvex
