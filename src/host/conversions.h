@@ -25,7 +25,10 @@ QUORVEX_API std::string To_Text(const HostValue& value);
 
 /// As `To_Text`, but copies nothing when the value is text: the view then looks into the value,
 /// and otherwise into `scratch`.
-QUORVEX_API std::string_view Text_Of(const HostValue& value, std::string& scratch);
+inline std::string_view Text_Of(const HostValue& value, std::string& scratch) {
+  if (value.is_text()) return value.text();
+  return scratch = To_Text(value);
+}
 
 /// Text as a 64-bit float: a plain or E-form decimal in the locale's separators, with blanks around
 /// it, thousands separators, a currency symbol, and parentheses for a negative. Too large a number

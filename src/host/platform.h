@@ -24,19 +24,20 @@ struct Locale {
   Currency_Side currency_side = Currency_Side::before;
 };
 
-/// What makes a locale unusable for number text (a separator that is no single character, is a
-/// digit or a sign, or is the same as the other one; a currency symbol that could be taken for a
-/// number), as a sentence for the user; nothing if it is fine.
+/// What makes a locale unusable for number text, as a sentence for the user; nothing if it is fine.
+/// A separator must be one character with no meaning of its own in a number, and not the other one.
+/// A currency symbol may be empty; it must not be taken for a number, a part of one, or an error.
 QUORVEX_API std::optional<std::string> Locale_Problem(const Locale& locale);
 
 class QUORVEX_API Locale_Source {
  public:
   virtual ~Locale_Source();
-  /// The locale as it is now. Asked at each use: callers keep nothing of it.
+  /// The locale as it is now, free of problems. Asked at each use: callers keep nothing of it.
   virtual const Locale& current() = 0;
 };
 
-/// A per-user store of texts under three-level keys.
+/// A per-user store of texts under three-level keys. What can't be read isn't there; what can't be
+/// written fails with invalid_call.
 class QUORVEX_API Settings_Store {
  public:
   virtual ~Settings_Store();
@@ -82,6 +83,14 @@ class QUORVEX_API Yielder {
   virtual void yield() = 0;
 };
 
+/// The letters of all scripts.
+class QUORVEX_API Letter_Case {
+ public:
+  virtual ~Letter_Case();
+  /// The capital of a letter; every other character as it is.
+  virtual char32_t capital(char32_t character) = 0;
+};
+
 /// How much more memory the process can be given.
 class QUORVEX_API Memory_Gauge {
  public:
@@ -96,10 +105,18 @@ struct Platform {
   std::shared_ptr<Message_Box> message_box;
   std::shared_ptr<Yielder> yielder;
   std::shared_ptr<Memory_Gauge> memory;
+  std::shared_ptr<Letter_Case> letters;
 };
 
+/// Makes the platform of the process when it is first called. For `Current_Platform` only.
+QUORVEX_API Platform& Process_Platform();
+
 /// The platform in use. Its members may be replaced; none may be null.
-QUORVEX_API Platform& Current_Platform();
+inline Platform& Current_Platform() {
+  // Every call of the engine comes here several times, so the library is asked only once.
+  static Platform& platform = Process_Platform();
+  return platform;
+}
 
 /// The defaults of this system. `src/host/platform/` holds one implementation for each.
 Platform Default_Platform();

@@ -1,0 +1,26 @@
+// Addition and subtraction of spans of ASCII digits, eight digits at a time, from right to left.
+//
+// All spans of a call have the same length. The output may be one of the inputs, but must not
+// overlap them otherwise. Every routine yields to the host within long spans.
+#pragma once
+
+#include <cstddef>
+
+namespace quorvex::digit_spans {
+
+/// out = a + b + carry. Returns the carry that runs over.
+bool Add(char* out, const char* a, const char* b, std::size_t length, bool carry);
+
+/// out = a + carry. Returns the carry that runs over.
+bool Add_Carry(char* out, const char* a, std::size_t length, bool carry);
+
+/// out = a - b - borrow. Returns the borrow that is owed.
+bool Subtract(char* out, const char* a, const char* b, std::size_t length, bool borrow);
+
+/// out = a - borrow. Returns the borrow that is owed.
+bool Subtract_Borrow(char* out, const char* a, std::size_t length, bool borrow);
+
+/// out = 0 - b: the tens complement of b. Returns the borrow that is owed.
+bool Complement(char* out, const char* b, std::size_t length);
+
+}  // namespace quorvex::digit_spans

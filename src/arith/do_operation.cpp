@@ -1,0 +1,103 @@
+#include "arith/do_operation.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "arith/add_digits.h"
+#include "arith/resolve_signs.h"
+#include "arith/subtract_digits.h"
+#include "host/conversions.h"
+#include "host/run_time_failure.h"
+#include "text/format_result.h"
+#include "text/operand.h"
+#include "text/tokens.h"
+
+namespace quorvex {
+namespace {
+
+// What an operation gives before formatting.
+struct Raw_Result {
+  NumberText digits;
+  double position = 0;
+  bool negative = false;
+};
+
+// The text of an operand. An error value of the host has none, as far as arithmetic goes.
+std::string_view Operand_Text(const HostValue& value, std::string& scratch) {
+  if (value.kind() == HostValue::Kind::error) {
+    throw Run_Time_Failure(Failure_Number::type_mismatch, "An operand is an error value.");
+  }
+  if (Is_Single_Cell(value)) {
+    // The cell's value ends here, so its text must not be looked at in place.
+    std::string inner;
+    scratch = std::string(Operand_Text(value.range().cell(1, 1), inner));
+    return scratch;
+  }
+  return Text_Of(value, scratch);
+}
+
+const Decimal_Parts& Digits_Of(const Operand& operand) {
+  if (!operand.parts()) {
+    throw Run_Time_Failure(Failure_Number::type_mismatch, "An operand is no number.");
+  }
+  return *operand.parts();
+}
+
+Raw_Result Add_Or_Subtract(const type_SignOp& reduced) {
+  const Decimal_Parts& a = Digits_Of(*reduced.Operand1);
+  const Decimal_Parts& b = Digits_Of(*reduced.Operand2);
+  const auto position = static_cast<double>(std::max(a.fraction.size(), b.fraction.size()) + 1);
+  if (reduced.Operation == operation::add) {
+    return {Add_Decimals(a, b), position, reduced.Negative};
+  }
+  type_Subtraction difference = Subtract_Decimals(a, b);
+  return {std::move(difference.Difference), position, difference.NegativeSubtraction};
+}
+
+Raw_Result Operate(const type_SignOp& reduced) {
+  switch (reduced.Operation) {
+    case operation::add:
+    case operation::subtract:
+      return Add_Or_Subtract(reduced);
+    case operation::multiply:
+    case operation::divide:
+    case operation::root:
+    case operation::power:
+      throw Run_Time_Failure(Failure_Number::invalid_call, "The operation has no routine yet.");
+    default:
+      return {};
+  }
+}
+
+NumberText Operate_On_Text(std::int16_t Operation, std::string_view number1,
+                           std::string_view number2, const Format_Arguments& format,
+                           const Operation_Flags& flags) {
+  if (const auto token = Token_Of_Operands(number1, number2)) return NumberText(*token);
+  const Operand operand1(number1);
+  const Operand operand2(number2);
+  type_Restrictionator options = Restrictionator(format);
+  // One guard digit here, and formatting keeps one more: so results have two beyond the limit.
+  options.maxSD += 1;
+  if (flags.intermediate) options.FormatDecimalPlace = Missing;
+
+  Raw_Result raw = Operate(Resolve_Signs(Operation, operand1, operand2));
+  return Format_Result(std::move(raw.digits), raw.position, !raw.negative, options,
+                       flags.intermediate);
+}
+
+}  // namespace
+
+NumberText Do_Operation(std::int16_t Operation, const HostValue& number1, const HostValue& number2,
+                        const Format_Arguments& format, const Operation_Flags& flags) {
+  return With_Handler(
+      [&] {
+        std::string scratch1;
+        std::string scratch2;
+        return Operate_On_Text(Operation, Operand_Text(number1, scratch1),
+                               Operand_Text(number2, scratch2), format, flags);
+      },
+      [](const Run_Time_Failure&) { return NumberText(value_token); });
+}
+
+}  // namespace quorvex

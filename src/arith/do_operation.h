@@ -1,0 +1,34 @@
+// The one routine through which all arithmetic on two operands passes.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "host/host_value.h"
+#include "text/options.h"
+
+namespace quorvex {
+
+/// Operation codes.
+namespace operation {
+inline constexpr std::int16_t add = 1;
+inline constexpr std::int16_t subtract = 2;
+inline constexpr std::int16_t multiply = 3;
+inline constexpr std::int16_t divide = 4;
+inline constexpr std::int16_t root = 5;
+inline constexpr std::int16_t power = 6;
+}  // namespace operation
+
+/// What workers ask of an operation beside its operands.
+struct Operation_Flags {
+  /// An intermediate value of a worker: no length checks, and no fixed places.
+  bool intermediate = false;
+};
+
+/// Gives the result of an operation as formatted text with at most the limit plus two significant
+/// digits. An operand that is an error token gives that token ("#VALUE!" before "#NUM!" before
+/// "#DIV/0!"); every run-time failure ends in "#VALUE!". An unknown operation gives empty text.
+NumberText Do_Operation(std::int16_t Operation, const HostValue& number1, const HostValue& number2,
+                        const Format_Arguments& format, const Operation_Flags& flags = {});
+
+}  // namespace quorvex

@@ -1,0 +1,87 @@
+// Calls of methods with lists of host values: the arguments are converted to what the method's
+// signature says, and its result to what a call gives.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+#include "frame/catalogue.h"
+#include "host/conversions.h"
+
+namespace quorvex::binding {
+
+template <typename>
+constexpr bool unknown = false;
+
+template <typename Type>
+constexpr Parameter_Kind Kind_Of() {
+  using Value = std::remove_cvref_t<Type>;
+  if constexpr (std::is_same_v<Value, HostValue>) {
+    return Parameter_Kind::value;
+  } else if constexpr (std::is_same_v<Value, NumberText>) {
+    return Parameter_Kind::text;
+  } else {
+    static_assert(unknown<Value>, "no kind of parameter is of this type");
+  }
+}
+
+template <typename Type>
+constexpr Result_Kind Result_Of() {
+  if constexpr (std::is_same_v<Type, NumberText>) {
+    return Result_Kind::text;
+  } else if constexpr (std::is_same_v<Type, HostValue>) {
+    return Result_Kind::value;
+  } else if constexpr (std::is_same_v<Type, bool>) {
+    return Result_Kind::boolean;
+  } else {
+    return Result_Kind::record;
+  }
+}
+
+/// An argument as a parameter takes it: a value by reference, text converted.
+template <typename Type>
+decltype(auto) Take(HostValue& argument) {
+  if constexpr (Kind_Of<Type>() == Parameter_Kind::value) {
+    return (argument);
+  } else {
+    return To_Text(argument);
+  }
+}
+
+inline Call_Result Give(HostValue value) {
+  return value;
+}
+inline Call_Result Give(NumberText text) {
+  return HostValue(std::move(text));
+}
+inline Call_Result Give(bool boolean) {
+  return HostValue(boolean);
+}
+Call_Result Give(const type_Restrictionator& options);
+
+template <auto method>
+struct Bound;
+
+template <typename Result, typename... Types, Result (cls_Quorvex::*method)(Types...)>
+struct Bound<method> {
+  static constexpr std::array<Parameter_Kind, sizeof...(Types)> kinds{Kind_Of<Types>()...};
+  static constexpr Result_Kind result = Result_Of<Result>();
+
+  static Call_Result Invoke(cls_Quorvex& engine, std::span<HostValue> arguments) {
+    return Invoke(engine, arguments, std::index_sequence_for<Types...>{});
+  }
+
+ private:
+  template <std::size_t... places>
+  static Call_Result Invoke(cls_Quorvex& engine, [[maybe_unused]] std::span<HostValue> arguments,
+                            std::index_sequence<places...>) {
+    return Give((engine.*method)(Take<Types>(arguments[places])...));
+  }
+};
+
+}  // namespace quorvex::binding

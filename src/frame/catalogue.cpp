@@ -1,0 +1,237 @@
+#include "frame/catalogue.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <string>
+
+#include "frame/binding.h"
+#include "host/run_time_failure.h"
+
+namespace quorvex {
+
+namespace binding {
+
+Call_Result Give(const type_Restrictionator& options) {
+  return Record{{{"FormatNegative", options.FormatNegative},
+                 {"FormatThousands", options.FormatThousands},
+                 {"FormatCurrency", options.FormatCurrency},
+                 {"ExponentialNotation", options.ExponentialNotation},
+                 {"maxSD", options.maxSD},
+                 {"InsertFunctionDialog", options.InsertFunctionDialog},
+                 {"IncluderExcluderFunctions", options.IncluderExcluderFunctions},
+                 {"FormatDecimalPlace", options.FormatDecimalPlace},
+                 {"PreserveTrailingZerosAfterDecimal", options.PreserveTrailingZerosAfterDecimal}}};
+}
+
+}  // namespace binding
+
+namespace {
+
+using Parameters = std::vector<Parameter>;
+
+constexpr std::string_view operators = "High-Precision Operators";
+constexpr std::string_view math = "High-Precision Math";
+constexpr std::string_view information = "High-Precision Information";
+constexpr std::string_view miscellaneous = "High-Precision Miscellaneous";
+constexpr std::string_view not_offered;
+
+Parameter Operand_Parameter(std::string_view name, std::string_view help) {
+  return {name, help};
+}
+
+Parameter By_Value(std::string_view name, std::string_view help) {
+  return {.name = name, .help = help, .by_value = true};
+}
+
+Parameter Optional(std::string_view name, std::string_view help) {
+  return {.name = name, .help = help, .optional = true};
+}
+
+// Parameters followed by the formatting options that most methods take.
+Parameters With_Formats(Parameters parameters) {
+  parameters.insert(parameters.end(),
+                    {Optional("format_negative",
+                              "0 shows no sign, 1 a leading minus (the default), 2 parentheses"),
+                     Optional("format_thousands", "TRUE groups the integer digits by thousands"),
+                     Optional("format_currency", "TRUE attaches the currency symbol"),
+                     Optional("exponential_notation", "TRUE writes E notation, without grouping")});
+  return parameters;
+}
+
+Parameters With_Digits(Parameters parameters) {
+  parameters = With_Formats(std::move(parameters));
+  parameters.push_back(Optional("maximum_significant_digits",
+                                "the limit of significant digits; left out, the default limit"));
+  return parameters;
+}
+
+Parameters With_Places(Parameters parameters) {
+  parameters = With_Digits(std::move(parameters));
+  parameters.push_back(
+      Optional("format_decimal_place", "a fixed count of decimal places, rounded half up"));
+  parameters.push_back(Optional("preserve_decimal_place", "accepted, without effect"));
+  return parameters;
+}
+
+template <auto method>
+Method Row(std::string_view name, std::string_view family, std::string_view category,
+           std::string_view description, std::string_view example, Parameters parameters) {
+  using Bound = binding::Bound<method>;
+  if (parameters.size() != Bound::kinds.size()) {
+    throw std::logic_error(std::string(name) + " is described with another count of parameters.");
+  }
+  for (std::size_t place = 0; place < parameters.size(); ++place) {
+    parameters[place].kind = Bound::kinds[place];
+  }
+  return {name,          family,        category, description, example, std::move(parameters),
+          Bound::result, &Bound::Invoke};
+}
+
+constexpr std::string_view first_number = "a number";
+constexpr std::string_view second_number = "another number";
+
+std::vector<Method> Call_Frame_Rows() {
+  return {
+      Row<&cls_Quorvex::PublicRestrictionatorCaller>(
+          "PublicRestrictionatorCaller", "Call frame", not_offered,
+          "Resolves the first five formatting options, as every function does.",
+          "PublicRestrictionatorCaller(2, TRUE)", With_Digits({})),
+      Row<&cls_Quorvex::Restrictionator>("Restrictionator", "Call frame", not_offered,
+                                         "Resolves the formatting options, as every function does.",
+                                         "Restrictionator(2, TRUE, , , 50, 2)", With_Places({})),
+  };
+}
+
+std::vector<Method> Number_Rows() {
+  return {
+      Row<&cls_Quorvex::qvxISNUMBER>(
+          "qvxISNUMBER", "Recognition", information,
+          "Determines whether a value or text string can be evaluated as a number by Quorvex "
+          "functions, with up to 32,767 significant digits of precision. Returns TRUE if input can "
+          "be evaluated as a number by Quorvex functions; returns FALSE if not.",
+          "qvxISNUMBER(\"-1,234.5\")", {Operand_Parameter("num", "a value or text")}),
+      Row<&cls_Quorvex::qvxSIGN>(
+          "qvxSIGN", "Comparison", math,
+          "Determines the sign of a number, with up to 32,767 significant digits of precision. "
+          "Returns 1 for a positive number, 0 for zero and -1 for a negative number.",
+          "qvxSIGN(-273.15)", {Operand_Parameter("num", first_number)}),
+      Row<&cls_Quorvex::qvxADD>(
+          "qvxADD", "Arithmetic", operators,
+          "Adds two numbers, with up to 32,767 significant digits of precision.",
+          "qvxADD(\"12345678901234567890.5\", 1.25)",
+          With_Places({Operand_Parameter("number1", first_number),
+                       Operand_Parameter("number2", second_number)})),
+      Row<&cls_Quorvex::qvxSUBTRACT>(
+          "qvxSUBTRACT", "Arithmetic", operators,
+          "Subtracts one number from another, with up to 32,767 significant digits of precision. "
+          "Number2 is subtracted from number1.",
+          "qvxSUBTRACT(1, \"0.00000000000000000001\")",
+          With_Places({Operand_Parameter("number1", "the number to subtract from"),
+                       Operand_Parameter("number2", "the number to subtract")})),
+  };
+}
+
+Parameters Compared_By_Value() {
+  return {By_Value("number1", first_number), By_Value("number2", second_number)};
+}
+
+std::vector<Method> Comparison_Rows() {
+  return {
+      Row<&cls_Quorvex::qvxISEQUAL>(
+          "qvxISEQUAL", "Comparison", operators,
+          "Determines whether two numbers are equal, with up to 32,767 significant digits of "
+          "precision. Returns TRUE if they are equal; returns FALSE if not.",
+          "qvxISEQUAL(\"1.50\", 1.5)", Compared_By_Value()),
+      Row<&cls_Quorvex::qvxISNOTEQUAL>(
+          "qvxISNOTEQUAL", "Comparison", operators,
+          "Determines whether two numbers differ, with up to 32,767 significant digits of "
+          "precision. Returns TRUE if they differ; returns FALSE if they are equal.",
+          "qvxISNOTEQUAL(\"1.50\", 1.5)", Compared_By_Value()),
+      Row<&cls_Quorvex::qvxISGREATER>(
+          "qvxISGREATER", "Comparison", operators,
+          "Determines whether one number is larger than another, with up to 32,767 significant "
+          "digits of precision. Returns TRUE if the first number is larger than the second; "
+          "returns FALSE if the first number is smaller than the second number, or if they are "
+          "equal.",
+          "qvxISGREATER(\"0.1\", \"0.09\")",
+          {Operand_Parameter("number1", first_number),
+           Operand_Parameter("number2", second_number)}),
+      Row<&cls_Quorvex::qvxISGREATEROREQUAL>(
+          "qvxISGREATEROREQUAL", "Comparison", operators,
+          "Determines whether one number is larger than another or equal to it, with up to 32,767 "
+          "significant digits of precision. Returns TRUE if the first number is larger than the "
+          "second or equal to it; returns FALSE if it is smaller.",
+          "qvxISGREATEROREQUAL(2, 10)", Compared_By_Value()),
+      Row<&cls_Quorvex::qvxISLESS>(
+          "qvxISLESS", "Comparison", operators,
+          "Determines whether one number is smaller than another, with up to 32,767 significant "
+          "digits of precision. Returns TRUE if the first number is smaller than the second; "
+          "returns FALSE if it is larger, or if they are equal.",
+          "qvxISLESS(-2, -1)", Compared_By_Value()),
+      Row<&cls_Quorvex::qvxISLESSOREQUAL>(
+          "qvxISLESSOREQUAL", "Comparison", operators,
+          "Determines whether one number is smaller than another or equal to it, with up to 32,767 "
+          "significant digits of precision. Returns TRUE if the first number is smaller than the "
+          "second or equal to it; returns FALSE if it is larger.",
+          "qvxISLESSOREQUAL(2, 2)", Compared_By_Value()),
+  };
+}
+
+std::vector<Method> Last_Rows() {
+  return {
+      Row<&cls_Quorvex::qvxDEFAULTMAXSD>(
+          "qvxDEFAULTMAXSD", "Call frame", not_offered,
+          "Returns the maximum significant digits that a function uses when none are given.",
+          "qvxDEFAULTMAXSD()", {}),
+      Row<&cls_Quorvex::qvxFORMAT>("qvxFORMAT", "Formatting", miscellaneous,
+                                   "Applies formatting to a number entered as text.",
+                                   "qvxFORMAT(\"-1234567.891\", 2, TRUE, TRUE, , , 2)",
+                                   With_Places({Operand_Parameter("number", "a number as text")})),
+  };
+}
+
+std::vector<Method> Make_Catalogue() {
+  std::vector<Method> methods;
+  for (auto rows : {Call_Frame_Rows(), Number_Rows(), Comparison_Rows(), Last_Rows()}) {
+    std::ranges::move(rows, std::back_inserter(methods));
+  }
+  return methods;
+}
+
+char Lower(char letter) {
+  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
+bool Same_Name(std::string_view a, std::string_view b) {
+  return std::ranges::equal(a, b, {}, Lower, Lower);
+}
+
+}  // namespace
+
+std::span<const Method> Catalogue() {
+  static const std::vector<Method> methods = Make_Catalogue();
+  return methods;
+}
+
+const Method* Find_Method(std::string_view name) {
+  const auto methods = Catalogue();
+  const auto found = std::ranges::find_if(
+      methods, [&](const Method& method) { return Same_Name(method.name, name); });
+  return found == methods.end() ? nullptr : &*found;
+}
+
+Call_Result Invoke(cls_Quorvex& engine, const Method& method, std::vector<HostValue> arguments) {
+  if (arguments.size() > method.parameters.size()) {
+    throw std::invalid_argument(std::string(method.name) + " takes fewer arguments.");
+  }
+  arguments.resize(method.parameters.size());
+  try {
+    return method.invoke(engine, arguments);
+  } catch (const std::bad_alloc&) {
+    throw Run_Time_Failure(Failure_Number::out_of_memory, "There is not enough memory.");
+  } catch (const std::length_error&) {
+    throw Run_Time_Failure(Failure_Number::out_of_memory, "A text would grow too long.");
+  }
+}
+
+}  // namespace quorvex

@@ -1,0 +1,123 @@
+#include "frame/cls_Quorvex.h"
+
+#include "arith/do_operation.h"
+#include "host/conversions.h"
+#include "text/compare_numbers.h"
+#include "text/format_result.h"
+#include "text/recognition.h"
+#include "text/tokens.h"
+
+namespace quorvex {
+namespace {
+
+// The answer of a comparison as a cell shows it: a boolean as its word, a token as it is.
+HostValue Shown(const HostValue& answer) {
+  return To_Text(answer);
+}
+
+HostValue Compare(const HostValue& number1, const HostValue& number2, bool testEqual,
+                  bool testGreater) {
+  std::string scratch1;
+  std::string scratch2;
+  return Compare_Numbers(Text_Of(number1, scratch1), Text_Of(number2, scratch2), testEqual,
+                         testGreater);
+}
+
+}  // namespace
+
+type_Restrictionator cls_Quorvex::PublicRestrictionatorCaller(
+    const HostValue& format_negative, const HostValue& format_thousands,
+    const HostValue& format_currency, const HostValue& exponential_notation,
+    const HostValue& maximum_significant_digits) {
+  return Restrictionator(format_negative, format_thousands, format_currency, exponential_notation,
+                         maximum_significant_digits);
+}
+
+type_Restrictionator cls_Quorvex::Restrictionator(const HostValue& format_negative,
+                                                  const HostValue& format_thousands,
+                                                  const HostValue& format_currency,
+                                                  const HostValue& exponential_notation,
+                                                  const HostValue& maximum_significant_digits,
+                                                  const HostValue& format_decimal_place,
+                                                  const HostValue& preserve_decimal_place) {
+  return quorvex::Restrictionator({format_negative, format_thousands, format_currency,
+                                   exponential_notation, maximum_significant_digits,
+                                   format_decimal_place, preserve_decimal_place});
+}
+
+bool cls_Quorvex::qvxISNUMBER(const HostValue& num) {
+  std::string scratch;
+  return Is_Number_Text(Text_Of(num, scratch));
+}
+
+HostValue cls_Quorvex::qvxSIGN(const HostValue& num) {
+  return Sign_Function(num);
+}
+
+NumberText cls_Quorvex::qvxADD(const HostValue& number1, const HostValue& number2,
+                               const HostValue& format_negative, const HostValue& format_thousands,
+                               const HostValue& format_currency,
+                               const HostValue& exponential_notation,
+                               const HostValue& maximum_significant_digits,
+                               const HostValue& format_decimal_place,
+                               const HostValue& preserve_decimal_place) {
+  return Do_Operation(operation::add, number1, number2,
+                      {format_negative, format_thousands, format_currency, exponential_notation,
+                       maximum_significant_digits, format_decimal_place, preserve_decimal_place});
+}
+
+NumberText cls_Quorvex::qvxSUBTRACT(
+    const HostValue& number1, const HostValue& number2, const HostValue& format_negative,
+    const HostValue& format_thousands, const HostValue& format_currency,
+    const HostValue& exponential_notation, const HostValue& maximum_significant_digits,
+    const HostValue& format_decimal_place, const HostValue& preserve_decimal_place) {
+  return Do_Operation(operation::subtract, number1, number2,
+                      {format_negative, format_thousands, format_currency, exponential_notation,
+                       maximum_significant_digits, format_decimal_place, preserve_decimal_place});
+}
+
+HostValue cls_Quorvex::qvxISEQUAL(const HostValue& number1, const HostValue& number2) {
+  return Shown(Compare(number1, number2, true, false));
+}
+
+HostValue cls_Quorvex::qvxISNOTEQUAL(const HostValue& number1, const HostValue& number2) {
+  const HostValue answer = Compare(number1, number2, true, false);
+  if (answer.is_text() && answer.text() == num_token) return answer;
+  return Shown(!Is_True(answer));
+}
+
+HostValue cls_Quorvex::qvxISGREATER(HostValue& number1, HostValue& number2) {
+  number1 = To_Text(number1);
+  number2 = To_Text(number2);
+  return Shown(Compare_Numbers(number1.text(), number2.text(), false, true));
+}
+
+HostValue cls_Quorvex::qvxISGREATEROREQUAL(const HostValue& number1, const HostValue& number2) {
+  return Shown(Compare(number1, number2, true, true));
+}
+
+HostValue cls_Quorvex::qvxISLESS(const HostValue& number1, const HostValue& number2) {
+  return Shown(Compare(number2, number1, false, true));
+}
+
+HostValue cls_Quorvex::qvxISLESSOREQUAL(const HostValue& number1, const HostValue& number2) {
+  return Shown(Compare(number2, number1, true, true));
+}
+
+HostValue cls_Quorvex::qvxDEFAULTMAXSD() {
+  return Default_MaxSD();
+}
+
+NumberText cls_Quorvex::qvxFORMAT(const NumberText& number, const HostValue& format_negative,
+                                  const HostValue& format_thousands,
+                                  const HostValue& format_currency,
+                                  const HostValue& exponential_notation,
+                                  const HostValue& maximum_significant_digits,
+                                  const HostValue& format_decimal_place,
+                                  const HostValue& preserve_decimal_place) {
+  return Format_Number(number,
+                       {format_negative, format_thousands, format_currency, exponential_notation,
+                        maximum_significant_digits, format_decimal_place, preserve_decimal_place});
+}
+
+}  // namespace quorvex

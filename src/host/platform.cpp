@@ -1,0 +1,63 @@
+// The platform in use, and what is the same on every system.
+#include "host/platform.h"
+
+#include <cstdio>
+#include <utility>
+
+#include "host/run_time_failure.h"
+
+namespace quorvex {
+
+// Defined here so that the library holds the one copy of each type's information.
+Locale_Source::~Locale_Source() = default;
+Settings_Store::~Settings_Store() = default;
+Timer::~Timer() = default;
+Timer_Service::~Timer_Service() = default;
+Message_Box::~Message_Box() = default;
+Yielder::~Yielder() = default;
+Letter_Case::~Letter_Case() = default;
+Memory_Gauge::~Memory_Gauge() = default;
+
+namespace {
+
+class Constant_Locale final : public Locale_Source {
+ public:
+  explicit Constant_Locale(Locale locale) : locale_(std::move(locale)) {}
+  const Locale& current() override { return locale_; }
+
+ private:
+  Locale locale_;
+};
+
+std::string Size_Text(double bytes) {
+  constexpr double megabyte = 1048576;
+  char text[64];
+  std::snprintf(text, sizeof text, bytes < 1024 * megabyte ? "%.0f MB" : "%.3g GB",
+                bytes < 1024 * megabyte ? bytes / megabyte : bytes / megabyte / 1024);
+  return text;
+}
+
+}  // namespace
+
+Platform& Process_Platform() {
+  // Never destroyed: what runs at the end of the process may still need it.
+  static auto* const platform = new Platform(Default_Platform());
+  return *platform;
+}
+
+std::shared_ptr<Locale_Source> Fixed_Locale(Locale locale) {
+  return std::make_shared<Constant_Locale>(std::move(locale));
+}
+
+void Require_Memory(double bytes) {
+  // So little isn't worth the time that asking takes.
+  constexpr double always_granted = 64.0 * 1048576;
+  if (bytes < always_granted) return;
+  const auto available = static_cast<double>(Current_Platform().memory->available_bytes());
+  if (bytes <= available) return;
+  throw Run_Time_Failure(Failure_Number::out_of_memory, "There is not enough memory: this needs " +
+                                                            Size_Text(bytes) + ", and " +
+                                                            Size_Text(available) + " are free.");
+}
+
+}  // namespace quorvex

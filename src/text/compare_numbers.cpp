@@ -1,0 +1,60 @@
+#include "text/compare_numbers.h"
+
+#include <string>
+
+#include "host/conversions.h"
+#include "host/run_time_failure.h"
+#include "text/operand.h"
+#include "text/primitives.h"
+#include "text/recognition.h"
+#include "text/tokens.h"
+
+namespace quorvex {
+namespace {
+
+std::strong_ordering Compare_Values(const Operand& number1, const Operand& number2) {
+  const Decimal_Parts& parts1 = *number1.parts();
+  const Decimal_Parts& parts2 = *number2.parts();
+  const bool positive1 = number1.positive() || Is_Zero(parts1);
+  const bool positive2 = number2.positive() || Is_Zero(parts2);
+  if (positive1 != positive2) return positive1 <=> positive2;
+  return positive1 ? Compare_Magnitudes(parts1, parts2) : Compare_Magnitudes(parts2, parts1);
+}
+
+}  // namespace
+
+HostValue Compare_Numbers(std::string_view number1, std::string_view number2, bool testEqual,
+                          bool testGreater) {
+  if (const auto token = Token_Of_Operands(number1, number2)) return *token;
+  if (Is_Lone_Mark(number1) || Is_Lone_Mark(number2)) return num_token;
+  return With_Handler(
+      [&]() -> HostValue {
+        const Operand operand1(number1);
+        const Operand operand2(number2);
+        if (!operand1.parts() || !operand2.parts()) return num_token;
+        const auto order = Compare_Values(operand1, operand2);
+        return (testEqual && order == 0) || (testGreater && order > 0);
+      },
+      [](const Run_Time_Failure&) { return HostValue(num_token); });
+}
+
+bool Compare_Digit_Strings(std::string_view text1, std::string_view text2, bool orEqual,
+                           bool orGreater) {
+  const auto order = text1.size() != text2.size() ? text1.size() <=> text2.size() : text1 <=> text2;
+  return (orEqual && order == 0) || (orGreater && order > 0);
+}
+
+HostValue Sign_Function(const HostValue& num) {
+  std::string scratch;
+  const std::string_view text = Text_Of(num, scratch);
+  if (text.empty()) return "0";
+  if (!Is_Number_Text(text)) return value_token;
+  if (Is_True(Compare_Numbers(text, "0", true, false))) return 0;
+  return Is_Positive(num) ? 1 : -1;
+}
+
+bool Is_True(const HostValue& result) {
+  return result.kind() == HostValue::Kind::boolean && result.boolean();
+}
+
+}  // namespace quorvex

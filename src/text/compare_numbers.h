@@ -1,0 +1,28 @@
+// The order of two numbers held as text, at any length.
+#pragma once
+
+#include <string_view>
+
+#include "host/host_value.h"
+
+namespace quorvex {
+
+/// Compares by value. The answer is a boolean: true if `testEqual` and the numbers are equal, or
+/// `testGreater` and the first is greater. Or it is a token as text: one that an operand is
+/// ("#VALUE!" before "#NUM!" before "#DIV/0!"), and "#NUM!" for an operand that is no number.
+HostValue Compare_Numbers(std::string_view number1, std::string_view number2, bool testEqual,
+                          bool testGreater);
+
+/// Compares two digit strings of like scale, without leading zeros: the longer is the greater, and
+/// at equal lengths the first different character decides.
+bool Compare_Digit_Strings(std::string_view text1, std::string_view text2, bool orEqual,
+                           bool orGreater);
+
+/// The worker of `qvxSIGN`: the number 1, 0 or -1; "0" as text for blank and empty text, "#VALUE!"
+/// for what is no number. The sign is read from the first character of the value as it came.
+HostValue Sign_Function(const HostValue& num);
+
+/// True if a result is boolean true and no token.
+bool Is_True(const HostValue& result);
+
+}  // namespace quorvex

@@ -1,0 +1,65 @@
+#include "text/digit_runs.h"
+
+#include <cstdint>
+
+#include "text/digit_words.h"
+
+namespace quorvex {
+namespace {
+
+namespace words = digit_words;
+
+bool Is_Digit(char character) {
+  return character >= '0' && character <= '9';
+}
+
+// A block of four words is looked at as one, so that a long run costs one branch in 32 digits.
+constexpr std::size_t block = 4 * words::size;
+
+bool Is_Block_Of_Digits(const char* text) {
+  return (words::Non_Digit_Bits(words::Load(text)) |
+          words::Non_Digit_Bits(words::Load(text + words::size)) |
+          words::Non_Digit_Bits(words::Load(text + 2 * words::size)) |
+          words::Non_Digit_Bits(words::Load(text + 3 * words::size))) == 0;
+}
+
+}  // namespace
+
+std::size_t Count_Digits(std::string_view text) {
+  const char* const data = text.data();
+  const std::size_t length = text.size();
+  std::size_t count = 0;
+  while (count + block <= length && Is_Block_Of_Digits(data + count)) count += block;
+  while (count + words::size <= length && words::Non_Digit_Bits(words::Load(data + count)) == 0) {
+    count += words::size;
+  }
+  while (count < length && Is_Digit(data[count])) ++count;
+  return count;
+}
+
+std::size_t Count_Leading_Zeros(std::string_view text) {
+  const char* const data = text.data();
+  const std::size_t length = text.size();
+  std::size_t count = 0;
+  while (count + words::size <= length && words::Load(data + count) == words::zeros) {
+    count += words::size;
+  }
+  while (count < length && data[count] == '0') ++count;
+  return count;
+}
+
+std::size_t Count_Trailing_Zeros(std::string_view text) {
+  const char* const data = text.data();
+  std::size_t end = text.size();
+  while (end >= words::size && words::Load(data + end - words::size) == words::zeros) {
+    end -= words::size;
+  }
+  while (end > 0 && data[end - 1] == '0') --end;
+  return text.size() - end;
+}
+
+bool Has_Non_Digit(std::string_view text) {
+  return Count_Digits(text) != text.size();
+}
+
+}  // namespace quorvex

@@ -1,0 +1,119 @@
+#include "text/format_result.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "host/conversions.h"
+#include "host/platform.h"
+#include "host/utf8.h"
+#include "text/clean_up_number.h"
+#include "text/decimal_positions.h"
+#include "text/fixed_places.h"
+#include "text/length_limit.h"
+#include "text/primitives.h"
+#include "text/round_to_length.h"
+#include "text/to_exponential.h"
+#include "text/tokens.h"
+
+namespace quorvex {
+namespace {
+
+constexpr std::int16_t addition_code =
+    1;  // aligning with 0 gives the position of the number itself
+constexpr std::int16_t without_sign = 0;
+constexpr std::int16_t in_parentheses = 2;
+
+// Zeros at the left don't count as significant and stay. A text that begins with the separator
+// grows by its missing zero, and then nothing is put back.
+void Cut_To_Significant_Digits(std::string& digits, double count) {
+  if (static_cast<double>(digits.size()) <= count) return;
+  const std::size_t before = digits.size();
+  Strip_Leading_Zeros(digits);
+  const std::size_t lost = before > digits.size() ? before - digits.size() : 0;
+  digits = Round_To_Length(std::move(digits), count);
+  digits.insert(0, lost, '0');
+}
+
+void Set_Separator(std::string& digits, double position) {
+  if (position <= 1) return;
+  Require_Memory(position);
+  const auto places = static_cast<std::size_t>(position) - 1;
+  if (digits.size() <= places) digits.insert(0, places + 1 - digits.size(), '0');
+  digits.insert(digits.size() - places, Decimal_Separator());
+}
+
+void Group_Integer_Digits(std::string& text) {
+  const std::size_t separator = text.find(Decimal_Separator());
+  const auto integer = std::string_view(text).substr(0, separator);
+  std::string grouped = Insert_Thousands_Separators(integer);
+  if (separator != std::string::npos) grouped.append(text, separator);
+  text = std::move(grouped);
+}
+
+// The characters that are left for digits and separator beside the currency symbol and the sign.
+double Length_Limit(const type_Restrictionator& options, bool positive) {
+  double limit = maximum_digits;
+  if (options.FormatCurrency) {
+    limit -= static_cast<double>(Count_Characters(Current_Locale().currency_symbol));
+  }
+  return positive ? limit : limit - options.FormatNegative;
+}
+
+bool Is_Too_Long(const std::string& text, double limit) {
+  // Bytes are no fewer than characters, so the exact count is for giants only.
+  if (static_cast<double>(text.size()) <= limit - 1) return false;
+  const std::size_t separator = text.find(Decimal_Separator());
+  if (separator == std::string::npos) {
+    return limit - 1 < static_cast<double>(Count_Characters(text));
+  }
+  const auto integer = std::string_view(text).substr(0, separator);
+  return static_cast<double>(Count_Characters(integer) + 1) > limit;
+}
+
+NumberText Apply_Sign(NumberText text, bool positive, std::int16_t style, bool noLengthChecks) {
+  const bool shows_none = positive || text == "0";
+  if (!shows_none && style == without_sign) return text;
+  const double room = longest_cell_text - (shows_none ? 0 : style);
+  if (!noLengthChecks) text = Limit_Text_Length(std::move(text), room);
+  if (shows_none) return text;
+  text.insert(0, 1, style == in_parentheses ? '(' : '-');
+  if (style == in_parentheses) text += ')';
+  return text;
+}
+
+}  // namespace
+
+NumberText Format_Result(NumberText result, double position, bool positive,
+                         const type_Restrictionator& options, bool noLengthChecks) {
+  const std::optional<std::int32_t> places = Fixed_Places(options.FormatDecimalPlace);
+  if (position < 0) return NumberText(value_token);
+  if (result.empty() || Has_Token_Mark(result)) return result;
+
+  Cut_To_Significant_Digits(result, options.maxSD + 1);
+  if (result.starts_with(token_mark)) return result;
+  Set_Separator(result, position);
+  Strip_Trailing_Zeros(result);
+  Strip_Leading_Zeros(result);
+  if (options.FormatThousands && !options.ExponentialNotation) Group_Integer_Digits(result);
+  if (places) result = Set_Fixed_Places(std::move(result), *places);
+  if (!noLengthChecks && Is_Too_Long(result, Length_Limit(options, positive))) {
+    return NumberText(num_token);
+  }
+  if (options.ExponentialNotation) result = To_Exponential(result);
+  if (options.FormatCurrency) result = Add_Currency_Symbol(std::move(result));
+  return Apply_Sign(std::move(result), positive, options.FormatNegative, noLengthChecks);
+}
+
+NumberText Format_Number(std::string_view number, const Format_Arguments& arguments) {
+  NumberText text = Clean_Up_Number(number, true, true).NumClean;
+  const bool positive = Is_Positive(text);
+  if (text.starts_with('-')) text.erase(0, 1);
+  type_DecPosFromEnd aligned = Decimal_Positions(std::move(text), "0", addition_code);
+  Remove_Decimal_Separator(aligned.Operand1_Trim);
+  return Format_Result(std::move(aligned.Operand1_Trim), aligned.Position, positive,
+                       Restrictionator(arguments), false);
+}
+
+}  // namespace quorvex

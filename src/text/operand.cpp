@@ -1,0 +1,61 @@
+#include "text/operand.h"
+
+#include <algorithm>
+
+#include "text/digit_runs.h"
+#include "text/expand_exponent.h"
+#include "text/primitives.h"
+#include "text/quotes.h"
+
+namespace quorvex {
+
+std::optional<Decimal_Parts> Split_Decimal(std::string_view text) {
+  const std::size_t integer = Count_Digits(text);
+  if (integer == text.size()) return Decimal_Parts{text, {}};
+  const std::string& separator = Decimal_Separator();
+  std::string_view rest = text.substr(integer);
+  if (!rest.starts_with(separator)) return std::nullopt;
+  rest.remove_prefix(separator.size());
+  if (Has_Non_Digit(rest)) return std::nullopt;
+  return Decimal_Parts{text.substr(0, integer), rest};
+}
+
+std::strong_ordering Compare_Magnitudes(const Decimal_Parts& a, const Decimal_Parts& b) {
+  const std::string_view a_integer = a.integer.substr(Count_Leading_Zeros(a.integer));
+  const std::string_view b_integer = b.integer.substr(Count_Leading_Zeros(b.integer));
+  if (const auto order = a_integer.size() <=> b_integer.size(); order != 0) return order;
+  if (const auto order = a_integer <=> b_integer; order != 0) return order;
+  const std::size_t both = std::min(a.fraction.size(), b.fraction.size());
+  if (const auto order = a.fraction.substr(0, both) <=> b.fraction.substr(0, both); order != 0) {
+    return order;
+  }
+  const bool a_more = Count_Leading_Zeros(a.fraction.substr(both)) != a.fraction.size() - both;
+  const bool b_more = Count_Leading_Zeros(b.fraction.substr(both)) != b.fraction.size() - both;
+  return a_more <=> b_more;
+}
+
+bool Is_Zero(const Decimal_Parts& parts) {
+  return Count_Leading_Zeros(parts.integer) == parts.integer.size() &&
+         Count_Leading_Zeros(parts.fraction) == parts.fraction.size();
+}
+
+Operand::Operand(std::string_view text, Exponent_Zeros zeros) {
+  const bool minus = text.starts_with('-');
+  parts_ = Split_Decimal(minus ? text.substr(1) : text);
+  if (parts_) {
+    positive_ = !minus;
+    magnitude_ = minus ? text.substr(1) : text;
+    return;
+  }
+  cleaned_ = Strip_Quotes(text);
+  Remove_Currency_Symbol(cleaned_);
+  Remove_Thousands_Separators(cleaned_);
+  Exponent_Form form = Read_Exponent(cleaned_);
+  cleaned_ = zeros == Exponent_Zeros::all ? Write_Decimal(std::move(form))
+                                          : Write_Decimal(std::move(form), 1);
+  positive_ = Is_Positive(cleaned_);
+  magnitude_ = Strip_Sign(cleaned_);
+  parts_ = Split_Decimal(magnitude_);
+}
+
+}  // namespace quorvex

@@ -1,0 +1,58 @@
+// An operand cleaned up for arithmetic: its sign, and the digits of its magnitude.
+#pragma once
+
+#include <compare>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quorvex {
+
+/// Digits left and right of the decimal separator, as views into some text; either may be empty.
+struct Decimal_Parts {
+  std::string_view integer;
+  std::string_view fraction;
+};
+
+/// Cuts a text of digits with at most one decimal separator; nothing for any other text.
+std::optional<Decimal_Parts> Split_Decimal(std::string_view text);
+
+/// The order of two magnitudes by value, whatever zeros stand around them.
+std::strong_ordering Compare_Magnitudes(const Decimal_Parts& a, const Decimal_Parts& b);
+
+/// True if all digits are zeros, or there are none.
+bool Is_Zero(const Decimal_Parts& parts);
+
+/// How exponents are written out: with all their zeros, or with one that stands for any number of
+/// them, which is enough to tell a number from other text.
+enum class Exponent_Zeros { all, one };
+
+/// Number text after clean-up: quote marks, currency symbol and thousands separators taken out, E
+/// notation written as decimals, the sign set apart.
+///
+/// A plain number (digits, at most one separator, at most a leading minus) is recognised in one
+/// pass and not copied: the text must outlive the operand. The constructor fails as
+/// `Expand_Exponent` does.
+class Operand {
+ public:
+  explicit Operand(std::string_view text, Exponent_Zeros zeros = Exponent_Zeros::all);
+  Operand(const Operand&) = delete;
+  Operand& operator=(const Operand&) = delete;
+
+  bool positive() const { return positive_; }
+
+  /// The text behind the sign, whatever it holds.
+  std::string_view magnitude() const { return magnitude_; }
+
+  /// The magnitude, if it is made up of digits and at most one separator.
+  const std::optional<Decimal_Parts>& parts() const { return parts_; }
+
+ private:
+  std::string cleaned_;  // where clean-up had to write
+  bool positive_ = true;
+  std::string_view magnitude_;
+  std::optional<Decimal_Parts> parts_;
+};
+
+}  // namespace quorvex

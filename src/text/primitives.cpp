@@ -1,0 +1,115 @@
+#include "text/primitives.h"
+
+#include <utility>
+
+#include "host/conversions.h"
+#include "host/utf8.h"
+#include "text/digit_runs.h"
+
+namespace quorvex {
+namespace {
+
+// Takes every occurrence of `part` out, in one pass.
+void Remove_All(std::string& text, std::string_view part) {
+  if (part.empty()) return;
+  std::size_t found = text.find(part);
+  if (found == std::string::npos) return;
+  std::size_t kept = found;
+  while (found != std::string::npos) {
+    const std::size_t from = found + part.size();
+    found = text.find(part, from);
+    const std::size_t to = found == std::string::npos ? text.size() : found;
+    text.replace(kept, to - from, text, from, to - from);
+    kept += to - from;
+  }
+  text.resize(kept);
+}
+
+}  // namespace
+
+type_Currency_Symbol Get_Currency_Symbol() {
+  const Locale& locale = Current_Locale();
+  return {locale.currency_symbol, static_cast<std::int16_t>(locale.currency_side)};
+}
+
+bool Is_Positive(std::string_view text) {
+  return text.empty() || (text.front() != '-' && text.front() != '(');
+}
+
+bool Is_Positive(const HostValue& value) {
+  if (Is_Single_Cell(value)) return Is_Positive(value.range().cell(1, 1));
+  return value.is_text() ? Is_Positive(value.text()) : To_Number(value) >= 0;
+}
+
+std::string_view Strip_Sign(std::string_view text) {
+  if (text.starts_with('-')) return text.substr(1);
+  if (!text.starts_with('(')) return text;
+  text.remove_prefix(1);
+  text.remove_suffix(Last_Character_Bytes(text));
+  return text;
+}
+
+void Strip_Leading_Zeros(std::string& text) {
+  if (text == "0") return;
+  const std::string& thousands = Thousands_Separator();
+  std::size_t dropped = 0;
+  for (bool found = true; found;) {
+    const std::size_t before = dropped;
+    dropped += Count_Leading_Zeros(std::string_view(text).substr(dropped));
+    if (std::string_view(text).substr(dropped).starts_with(thousands)) dropped += thousands.size();
+    found = dropped != before;
+  }
+  text.erase(0, dropped);
+  if (text.empty() || text.starts_with(Decimal_Separator())) text.insert(0, 1, '0');
+}
+
+void Strip_Trailing_Zeros(std::string& text) {
+  const std::string& separator = Decimal_Separator();
+  const std::size_t place = text.find(separator);
+  if (place == std::string::npos) return;
+  if (place == 0) text.insert(0, 1, '0');
+  text.resize(text.size() - Count_Trailing_Zeros(text));
+  if (text.ends_with(separator)) text.resize(text.size() - separator.size());
+}
+
+void Remove_Decimal_Separator(std::string& text) {
+  const std::string& separator = Decimal_Separator();
+  const std::size_t place = text.find(separator);
+  if (place != std::string::npos) text.erase(place, separator.size());
+}
+
+void Remove_Currency_Symbol(std::string& text) {
+  Remove_All(text, Current_Locale().currency_symbol);
+}
+
+void Remove_Thousands_Separators(std::string& text) {
+  Remove_All(text, Thousands_Separator());
+}
+
+std::string Insert_Thousands_Separators(std::string_view text) {
+  constexpr std::size_t group = 3;
+  if (text.size() <= group) return std::string(text);
+  const std::string& separator = Thousands_Separator();
+  const std::size_t separators = (text.size() - 1) / group;
+  std::string grouped;
+  grouped.reserve(text.size() + separators * separator.size());
+  grouped += text.substr(0, text.size() - separators * group);
+  for (std::size_t place = grouped.size(); place < text.size(); place += group) {
+    grouped += separator;
+    grouped += text.substr(place, group);
+  }
+  return grouped;
+}
+
+double Larger_Of(double first, double second) {
+  return first <= second ? second : first;
+}
+
+double Decimal_Position_Of(std::string_view text) {
+  const std::string& separator = Decimal_Separator();
+  const std::size_t place = text.find(separator);
+  if (place == std::string_view::npos) return 0;
+  return static_cast<double>(Count_Characters(text.substr(place + separator.size())) + 1);
+}
+
+}  // namespace quorvex
