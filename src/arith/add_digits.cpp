@@ -13,11 +13,19 @@ namespace {
 // Room for what formatting puts beside the digits, so that the sum is the one text allocated.
 constexpr std::size_t room_for_marks = 8;
 
-// The sum of two integer parts below `carry`, into the end of `out`. The carry that runs over.
+// The sum of two fractions; beyond the shorter one it is the longer one's digits. The carry that
+// runs over.
+bool Add_Fractions(char* out, std::string_view longer, std::string_view shorter) {
+  const std::size_t both = shorter.size();
+  std::memcpy(out + both, longer.data() + both, longer.size() - both);
+  return digit_spans::Add(out, longer.data(), shorter.data(), both, false);
+}
+
+// The sum of two integer parts and a carry. The carry that runs over.
 bool Add_Integers(char* out, std::string_view longer, std::string_view shorter, bool carry) {
   const std::size_t head = longer.size() - shorter.size();
   carry = digit_spans::Add(out + head, longer.data() + head, shorter.data(), shorter.size(), carry);
-  return digit_spans::Add_Carry(out, longer.data(), head, carry);
+  return head == 0 ? carry : digit_spans::Add_Carry(out, longer.data(), head, carry);
 }
 
 }  // namespace
@@ -31,9 +39,7 @@ NumberText Add_Decimals(const Decimal_Parts& a, const Decimal_Parts& b) {
   sum.reserve(longer.size() + more.size() + room_for_marks);
   sum.resize(longer.size() + more.size());
   char* const fraction = sum.data() + longer.size();
-  const std::size_t tail = more.size() - less.size();
-  if (tail > 0) std::memcpy(fraction + less.size(), more.data() + less.size(), tail);
-  bool carry = digit_spans::Add(fraction, more.data(), less.data(), less.size(), false);
+  bool carry = !more.empty() && Add_Fractions(fraction, more, less);
   carry = Add_Integers(sum.data(), longer, shorter, carry);
   if (carry) sum.insert(0, 1, '1');
   return sum;

@@ -16,11 +16,15 @@ namespace words = digit_words;
 struct Text {
   const char* digits;
   std::uint64_t word(std::size_t place) const { return words::Load(digits + place); }
+  std::uint64_t first(std::size_t place, std::size_t count) const {
+    return words::Load_First(digits + place, count);
+  }
   int digit(std::size_t place) const { return digits[place] - '0'; }
 };
 
 struct Zeros {
   static std::uint64_t word(std::size_t) { return words::zeros; }
+  static std::uint64_t first(std::size_t, std::size_t) { return words::zeros; }
   static int digit(std::size_t) { return 0; }
 };
 
@@ -49,9 +53,18 @@ struct Difference {
 // The digits from `begin` to `end`.
 template <typename Step, typename A, typename B>
 bool Run_Block(char* out, A a, B b, std::size_t begin, std::size_t end, bool carry) {
+  const bool has_word = end - begin >= words::size;
   while (end - begin >= words::size) {
     end -= words::size;
     words::Store(out + end, Step::word(a.word(end), b.word(end), carry));
+  }
+  const std::size_t rest = end - begin;
+  if (rest > 0 && has_word) {
+    // Zeros stand above the digits of a short word: a carry makes the lowest of them a 1, a borrow
+    // a 9, which are both odd.
+    const std::uint64_t word = Step::word(a.first(begin, rest), b.first(begin, rest), carry);
+    words::Store_Last(out + begin, word, rest);
+    return ((word >> (8 * rest)) & 1U) != 0;
   }
   while (end > begin) {
     --end;

@@ -25,6 +25,7 @@ struct Raw_Result {
 
 // The text of an operand. An error value of the host has none, as far as arithmetic goes.
 std::string_view Operand_Text(const HostValue& value, std::string& scratch) {
+  if (value.is_text()) return value.text();
   if (value.kind() == HostValue::Kind::error) {
     throw Run_Time_Failure(Failure_Number::type_mismatch, "An operand is an error value.");
   }
@@ -49,7 +50,9 @@ Raw_Result Add_Or_Subtract(const type_SignOp& reduced) {
   const Decimal_Parts& b = Digits_Of(*reduced.Operand2);
   const auto position = static_cast<double>(std::max(a.fraction.size(), b.fraction.size()) + 1);
   if (reduced.Operation == operation::add) {
-    return {Add_Decimals(a, b), position, reduced.Negative};
+    NumberText sum = Add_Decimals(a, b);
+    if (sum.empty()) sum = "0";  // two operands without digits, such as blank cells
+    return {std::move(sum), position, reduced.Negative};
   }
   type_Subtraction difference = Subtract_Decimals(a, b);
   return {std::move(difference.Difference), position, difference.NegativeSubtraction};
@@ -79,7 +82,9 @@ NumberText Operate_On_Text(std::int16_t Operation, std::string_view number1,
   type_Restrictionator options = Restrictionator(format);
   // One guard digit here, and formatting keeps one more: so results have two beyond the limit.
   options.maxSD += 1;
-  if (flags.intermediate) options.FormatDecimalPlace = Missing;
+  if (flags.intermediate && !options.FormatDecimalPlace.is_missing()) {
+    options.FormatDecimalPlace = Missing;
+  }
 
   Raw_Result raw = Operate(Resolve_Signs(Operation, operand1, operand2));
   return Format_Result(std::move(raw.digits), raw.position, !raw.negative, options,

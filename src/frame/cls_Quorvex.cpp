@@ -87,8 +87,8 @@ HostValue cls_Quorvex::qvxISNOTEQUAL(const HostValue& number1, const HostValue& 
 }
 
 HostValue cls_Quorvex::qvxISGREATER(HostValue& number1, HostValue& number2) {
-  number1 = To_Text(number1);
-  number2 = To_Text(number2);
+  if (!number1.is_text()) number1 = To_Text(number1);
+  if (!number2.is_text()) number2 = To_Text(number2);
   return Shown(Compare_Numbers(number1.text(), number2.text(), false, true));
 }
 

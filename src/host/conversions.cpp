@@ -172,10 +172,11 @@ std::string To_Capitals(std::string_view text) {
   while (!text.empty()) {
     const char c = text.front();
     const Character character = First_Character(text);
-    if (character.bytes == 1)
+    if (character.bytes == 1) {
       capitals += c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-    else
+    } else {
       Append_Character(capitals, Current_Platform().letters->capital(character.code));
+    }
     text.remove_prefix(character.bytes);
   }
   return capitals;

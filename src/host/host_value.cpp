@@ -9,9 +9,7 @@ HostValue::HostValue(Array array) : data_(std::make_shared<const Array>(std::mov
 HostValue::HostValue(List list) : data_(std::make_shared<const List>(std::move(list))) {}
 
 HostValue HostValue::Empty() noexcept {
-  HostValue value;
-  value.data_ = Blank{};
-  return value;
+  return HostValue(Blank{});
 }
 
 bool Is_Single_Cell(const HostValue& value) {

@@ -97,6 +97,7 @@ class QUORVEX_API HostValue {
 
  private:
   struct Blank {};
+  explicit HostValue(Blank blank) noexcept : data_(blank) {}
 
   // In the order of `Kind`.
   std::variant<std::monostate, Blank, double, std::string, bool, Error_Code,

@@ -11,7 +11,8 @@ namespace quorvex {
 namespace {
 
 // A dot would do where commas part the decimals, but then 1.5, typed by habit, would be read as 15.
-constexpr const char* no_break_space = "\u00A0";
+constexpr std::string_view no_break_space = "\u00A0";
+constexpr std::string_view narrow_no_break_space = "\u202F";
 
 bool Is_Digit(char c) {
   return c >= '0' && c <= '9';
@@ -46,9 +47,10 @@ std::optional<std::string> Separator_Problem(std::string_view field, std::string
 
 /// The text without any of the parts, which are no empty texts.
 std::string Without(std::string text, std::initializer_list<std::string_view> parts) {
-  for (const std::string_view part : parts)
+  for (const std::string_view part : parts) {
     for (std::size_t at = 0; (at = text.find(part, at)) != std::string::npos;)
       text.erase(at, part.size());
+  }
   return text;
 }
 
@@ -63,10 +65,21 @@ std::optional<std::string> Currency_Problem(const Locale& locale) {
   // Taking such a symbol off a number would take its sign off as well.
   if (std::ranges::any_of(symbol, Is_Mark))
     return Problem_Of(field, "must not hold a sign, a parenthesis or #.");
-  const std::string rest = Without(
-      symbol, {locale.decimal_separator, locale.thousands_separator, no_break_space, "\u202F"});
+  const std::string rest = Without(symbol, {locale.decimal_separator, locale.thousands_separator,
+                                            no_break_space, narrow_no_break_space});
   if (rest.find_first_not_of("0123456789eE'\" ") == std::string::npos)
     return Problem_Of(field, "must not be made up only of what numbers are made of.");
+  return std::nullopt;
+}
+
+/// The separators must be sound by themselves.
+std::optional<std::string> Pair_Problem(const Locale& locale) {
+  const std::string_view decimal = locale.decimal_separator;
+  if (decimal == locale.thousands_separator)
+    return "The decimal separator and the thousands separator must not be alike.";
+  // Blanks around a number mean nothing, so one at its end must not be part of it.
+  if (decimal == " " || decimal == no_break_space || decimal == narrow_no_break_space)
+    return "The decimal separator must not be a blank.";
   return std::nullopt;
 }
 
@@ -81,26 +94,30 @@ std::optional<std::string> Locale_Problem(const Locale& locale) {
     return problem;
   if (auto problem = Separator_Problem("thousands separator", locale.thousands_separator))
     return problem;
-  if (locale.decimal_separator == locale.thousands_separator)
-    return "The decimal separator and the thousands separator must not be alike.";
+  if (auto problem = Pair_Problem(locale)) return problem;
   return Currency_Problem(locale);
 }
 
 Locale Usable_Locale(const Locale_Report& report) {
   Locale locale;
-  if (!Separator_Problem("", report.decimal_separator))
-    locale.decimal_separator = report.decimal_separator;
+  locale.currency_symbol.clear();
+  Locale trial = locale;
+  trial.decimal_separator = report.decimal_separator;
+  trial.thousands_separator = report.decimal_separator == "," ? "." : ",";
+  if (Is_Fine(trial)) locale.decimal_separator = report.decimal_separator;
   for (const std::string& separator :
-       {report.thousands_separator, report.monetary_thousands_separator, std::string(",")}) {
+       {report.thousands_separator, report.monetary_thousands_separator,
+        std::string(locale.decimal_separator == "." ? std::string_view(",") : no_break_space)}) {
     locale.thousands_separator = separator;
     if (Is_Fine(locale)) break;
   }
-  if (!Is_Fine(locale)) locale.thousands_separator = no_break_space;
-  if (report.currency_symbol.empty()) return locale;
-  const Locale plain = locale;
-  locale.currency_symbol = report.currency_symbol;
-  locale.currency_side = report.currency_side;
-  return Is_Fine(locale) ? locale : plain;
+  Locale with_symbol = locale;
+  with_symbol.currency_symbol = report.currency_symbol;
+  with_symbol.currency_side = report.currency_side;
+  if (!report.currency_symbol.empty() && Is_Fine(with_symbol)) return with_symbol;
+  locale.currency_symbol = Locale().currency_symbol;
+  if (!Is_Fine(locale)) locale.currency_symbol.clear();
+  return locale;
 }
 
 }  // namespace quorvex

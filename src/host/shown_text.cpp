@@ -14,10 +14,8 @@ std::string Shown_Text(std::string_view text) {
       break;
     }
     const Character character = First_Character(text);
-    if (character.valid && character.code >= ' ' && character.code != 0x7F)
-      shown += text.substr(0, character.bytes);
-    else
-      shown += '?';
+    const bool shows = character.valid && character.code >= ' ' && character.code != 0x7F;
+    shown += shows ? text.substr(0, character.bytes) : "?";
     text.remove_prefix(character.bytes);
   }
   return shown += '"';

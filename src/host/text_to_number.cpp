@@ -68,7 +68,6 @@ class Number_Reader {
   /// After `read`. Infinite for what is too large.
   double value() const {
     double number = 0;
-    if (!any_significant_) return number;
     const char* const end = plain_.data() + plain_.size();
     // Out of range tells nothing of the direction; the place of the first digit does.
     if (std::from_chars(plain_.data(), end, number).ec == std::errc::result_out_of_range)
@@ -107,17 +106,16 @@ class Number_Reader {
 
   bool take_mantissa() {
     std::size_t digits = take_digits();
-    if (digits > 0)
-      while (Take_Prefix(rest_, locale_.thousands_separator))
-        if (take_digits() == 0) return false;
+    while (digits > 0 && Take_Prefix(rest_, locale_.thousands_separator))
+      if (take_digits() == 0) return false;
     const std::size_t whole = plain_.size();
     if (Take_Prefix(rest_, locale_.decimal_separator)) {
       plain_ += '.';
       digits += take_digits();
     }
     const std::size_t first = plain_.find_first_not_of("0.");
-    any_significant_ = first != std::string::npos;
-    if (any_significant_) power_ = static_cast<double>(whole) - static_cast<double>(first);
+    if (first != std::string::npos)
+      power_ = static_cast<double>(whole) - static_cast<double>(first);
     return digits > 0;
   }
 
@@ -140,7 +138,6 @@ class Number_Reader {
   std::string plain_;  // what from_chars understands: digits, a dot, an exponent
   double power_ = 0;   // about the power of ten of the number
   bool negative_ = false;
-  bool any_significant_ = false;
   bool symbol_taken_ = false;
 };
 
@@ -151,9 +148,10 @@ double Text_To_Number(std::string_view text) {
   if (!reader.read())
     throw Run_Time_Failure(Failure_Number::type_mismatch, Shown_Text(text) + " is not a number.");
   const double number = reader.value();
-  if (std::isinf(number))
+  if (std::isinf(number)) {
     throw Run_Time_Failure(Failure_Number::overflow,
                            Shown_Text(text) + " is too large for a number of the host.");
+  }
   return number;
 }
 

@@ -33,6 +33,11 @@ std::size_t Count_Digits(std::string_view text) {
   while (count + words::size <= length && words::Non_Digit_Bits(words::Load(data + count)) == 0) {
     count += words::size;
   }
+  // What is left of a text of digits lies within its last word.
+  if (count < length && length >= words::size && length - count < words::size &&
+      words::Non_Digit_Bits(words::Load(data + length - words::size)) == 0) {
+    return length;
+  }
   while (count < length && Is_Digit(data[count])) ++count;
   return count;
 }

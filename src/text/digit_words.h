@@ -37,6 +37,18 @@ inline void Store(char* digits, std::uint64_t word) {
   std::memcpy(digits, &word, size);
 }
 
+/// The first `count` digits of a text (1 to 7) in the low bytes of a word, zeros above. The text
+/// must have eight characters all the same.
+inline std::uint64_t Load_First(const char* digits, std::size_t count) {
+  const auto bits = static_cast<unsigned>(8 * count);
+  return (Load(digits) >> (64U - bits)) | (zeros << bits);
+}
+
+/// Writes the low `count` bytes of a word.
+inline void Store_Last(char* digits, std::uint64_t word, std::size_t count) {
+  for (; count > 0; word >>= 8U) digits[--count] = static_cast<char>(word);
+}
+
 /// Nonzero exactly if any byte is no digit. A byte with '0' taken off is 0 to 9 for a digit; adding
 /// 0x76 takes every other value to the high bit or beyond, and a byte runs over only in a word that
 /// is bad already.

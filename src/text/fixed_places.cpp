@@ -56,21 +56,20 @@ std::optional<std::int32_t> Fixed_Places(const HostValue& format_decimal_place) 
   return Is_Positive(value) ? To_Int32(value) : 0;
 }
 
-NumberText Set_Fixed_Places(NumberText text, std::int32_t places) {
+void Set_Fixed_Places(NumberText& text, std::int32_t places) {
   const auto wanted = static_cast<std::size_t>(places);
   const std::string& mark = Decimal_Separator();
   const std::size_t separator = text.find(mark);
   if (separator == std::string::npos) {
-    if (wanted == 0) return text;
+    if (wanted == 0) return;
     text += mark;
     Fill(text, wanted);
-    return text;
+    return;
   }
   const std::size_t fraction = separator + mark.size();
   const std::size_t present = text.size() - fraction;
   if (present < wanted) Fill(text, wanted - present);
   if (present > wanted) Round_Fraction(text, separator, fraction, wanted);
-  return text;
 }
 
 }  // namespace quorvex

@@ -15,6 +15,6 @@ std::optional<std::int32_t> Fixed_Places(const HostValue& format_decimal_place);
 /// Fills the fraction of a text with zeros, or rounds it half up, to `places` digits. The text may
 /// be grouped: a carry that runs into a thousands separator fails with type_mismatch, and one that
 /// runs over at the left puts a bare "1" in front.
-NumberText Set_Fixed_Places(NumberText text, std::int32_t places);
+void Set_Fixed_Places(NumberText& text, std::int32_t places);
 
 }  // namespace quorvex

@@ -10,6 +10,7 @@
 #include "host/utf8.h"
 #include "text/clean_up_number.h"
 #include "text/decimal_positions.h"
+#include "text/digit_runs.h"
 #include "text/fixed_places.h"
 #include "text/length_limit.h"
 #include "text/primitives.h"
@@ -22,6 +23,7 @@ namespace {
 
 constexpr std::int16_t addition_code =
     1;  // aligning with 0 gives the position of the number itself
+constexpr std::size_t short_enough = std::size_t{1} << 30;  // for any sign and any limit of length
 constexpr std::int16_t without_sign = 0;
 constexpr std::int16_t in_parentheses = 2;
 
@@ -33,7 +35,7 @@ void Cut_To_Significant_Digits(std::string& digits, double count) {
   Strip_Leading_Zeros(digits);
   const std::size_t lost = before > digits.size() ? before - digits.size() : 0;
   digits = Round_To_Length(std::move(digits), count);
-  digits.insert(0, lost, '0');
+  if (!Has_Token_Mark(digits)) digits.insert(0, lost, '0');
 }
 
 void Set_Separator(std::string& digits, double position) {
@@ -72,15 +74,25 @@ bool Is_Too_Long(const std::string& text, double limit) {
   return static_cast<double>(Count_Characters(integer) + 1) > limit;
 }
 
-NumberText Apply_Sign(NumberText text, bool positive, std::int16_t style, bool noLengthChecks) {
-  const bool shows_none = positive || text == "0";
-  if (!shows_none && style == without_sign) return text;
-  const double room = longest_cell_text - (shows_none ? 0 : style);
-  if (!noLengthChecks) text = Limit_Text_Length(std::move(text), room);
-  if (shows_none) return text;
+void Show_Sign(NumberText& text, bool positive, std::int16_t style) {
+  if (positive || style == without_sign) return;
   text.insert(0, 1, style == in_parentheses ? '(' : '-');
   if (style == in_parentheses) text += ')';
-  return text;
+}
+
+// True for digits that all the steps of formatting would leave as they are, but for the sign.
+bool Is_Plain_Whole_Number(const NumberText& digits, const type_Restrictionator& options) {
+  return digits.front() != '0' && static_cast<double>(digits.size()) <= options.maxSD &&
+         digits.size() < short_enough && !options.FormatThousands && !options.FormatCurrency &&
+         !options.ExponentialNotation && options.FormatDecimalPlace.is_missing();
+}
+
+void Apply_Sign(NumberText& text, bool positive, std::int16_t style, bool noLengthChecks) {
+  const bool shows_none = positive || text == "0";
+  if (!shows_none && style == without_sign) return;
+  const double room = longest_cell_text - (shows_none ? 0 : style);
+  if (!noLengthChecks) Limit_Text_Length(text, room);
+  if (!shows_none) Show_Sign(text, positive, style);
 }
 
 }  // namespace
@@ -89,7 +101,12 @@ NumberText Format_Result(NumberText result, double position, bool positive,
                          const type_Restrictionator& options, bool noLengthChecks) {
   const std::optional<std::int32_t> places = Fixed_Places(options.FormatDecimalPlace);
   if (position < 0) return NumberText(value_token);
-  if (result.empty() || Has_Token_Mark(result)) return result;
+  const bool all_digits = !Has_Non_Digit(result);
+  if (result.empty() || (!all_digits && Has_Token_Mark(result))) return result;
+  if (all_digits && position <= 1 && Is_Plain_Whole_Number(result, options)) {
+    Show_Sign(result, positive, options.FormatNegative);
+    return result;
+  }
 
   Cut_To_Significant_Digits(result, options.maxSD + 1);
   if (result.starts_with(token_mark)) return result;
@@ -97,13 +114,14 @@ NumberText Format_Result(NumberText result, double position, bool positive,
   Strip_Trailing_Zeros(result);
   Strip_Leading_Zeros(result);
   if (options.FormatThousands && !options.ExponentialNotation) Group_Integer_Digits(result);
-  if (places) result = Set_Fixed_Places(std::move(result), *places);
+  if (places) Set_Fixed_Places(result, *places);
   if (!noLengthChecks && Is_Too_Long(result, Length_Limit(options, positive))) {
     return NumberText(num_token);
   }
   if (options.ExponentialNotation) result = To_Exponential(result);
-  if (options.FormatCurrency) result = Add_Currency_Symbol(std::move(result));
-  return Apply_Sign(std::move(result), positive, options.FormatNegative, noLengthChecks);
+  if (options.FormatCurrency) Add_Currency_Symbol(result);
+  Apply_Sign(result, positive, options.FormatNegative, noLengthChecks);
+  return result;
 }
 
 NumberText Format_Number(std::string_view number, const Format_Arguments& arguments) {

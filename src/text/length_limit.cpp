@@ -47,18 +47,18 @@ NumberText Cut(NumberText text, double limit) {
 
 }  // namespace
 
-NumberText Limit_Text_Length(NumberText text, double maxLen) {
+void Limit_Text_Length(NumberText& text, double maxLen) {
   const double limit = maximum_digits - (longest_cell_text - maxLen);
   // Bytes are no fewer than characters, so only a text near the ceiling is counted.
-  if (static_cast<double>(text.size()) <= limit || Length(text) <= limit) return text;
-  return With_Handler([&] { return Cut(std::move(text), limit); },
+  if (static_cast<double>(text.size()) <= limit || Length(text) <= limit) return;
+  text = With_Handler([&] { return Cut(std::move(text), limit); },
                       [](const Run_Time_Failure&) { return NumberText(value_token); });
 }
 
-NumberText Add_Currency_Symbol(NumberText text) {
+void Add_Currency_Symbol(NumberText& text) {
   const type_Currency_Symbol currency = Get_Currency_Symbol();
-  text = Limit_Text_Length(std::move(text), longest_cell_text - Length(currency.Symbol));
-  return currency.Position == 1 ? currency.Symbol + text : text + currency.Symbol;
+  Limit_Text_Length(text, longest_cell_text - Length(currency.Symbol));
+  text.insert(currency.Position == 1 ? 0 : text.size(), currency.Symbol);
 }
 
 }  // namespace quorvex

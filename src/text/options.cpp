@@ -42,7 +42,9 @@ type_Restrictionator Restrictionator(const Format_Arguments& arguments) {
   options.FormatCurrency = Is_Chosen(arguments.format_currency);
   options.ExponentialNotation = Is_Chosen(arguments.exponential_notation);
   options.maxSD = Digits(arguments.maximum_significant_digits);
-  options.FormatDecimalPlace = arguments.format_decimal_place;
+  if (!arguments.format_decimal_place.is_missing()) {
+    options.FormatDecimalPlace = arguments.format_decimal_place;
+  }
   options.PreserveTrailingZerosAfterDecimal = Is_Chosen(arguments.preserve_decimal_place);
   if (options.ExponentialNotation) options.FormatThousands = false;
   return options;

@@ -50,7 +50,7 @@ std::string_view Strip_Sign(std::string_view text) {
 }
 
 void Strip_Leading_Zeros(std::string& text) {
-  if (text == "0") return;
+  if (text == "0" || (!text.empty() && text.front() >= '1' && text.front() <= '9')) return;
   const std::string& thousands = Thousands_Separator();
   std::size_t dropped = 0;
   for (bool found = true; found;) {

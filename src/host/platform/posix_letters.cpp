@@ -1,11 +1,8 @@
 // Letters of all scripts, as the C library knows them.
 #include <clocale>
 #include <cwctype>
-#include <type_traits>
 
 #include "host/platform/posix.h"
-
-#include <locale.h>
 
 namespace quorvex {
 

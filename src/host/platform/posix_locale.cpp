@@ -1,13 +1,13 @@
 // The locales of POSIX systems.
+#include <iconv.h>
+#include <langinfo.h>
+
 #include <clocale>
+#include <cstdint>
 #include <cstdlib>
 
 #include "host/locale_rules.h"
 #include "host/platform/posix.h"
-
-#include <iconv.h>
-#include <langinfo.h>
-#include <locale.h>
 
 namespace quorvex {
 
@@ -43,7 +43,7 @@ class Category {
 std::string In_Utf8(const char* text, const char* codeset) {
   std::string source = text;
   if (std::string_view(codeset) == "UTF-8") return source;
-  const iconv_t converter = iconv_open("UTF-8", codeset);
+  auto* const converter = iconv_open("UTF-8", codeset);
   // The failed value is -1 made a pointer.
   if (reinterpret_cast<std::intptr_t>(converter) == -1) return {};
   std::string result(source.size() * 4 + 4, '\0');

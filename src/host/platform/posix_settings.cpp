@@ -67,9 +67,10 @@ class Settings_File final : public Settings_Store {
 
   void write(std::string_view application, std::string_view section, std::string_view key,
              std::string_view value) override {
-    if (!path_)
+    if (!path_) {
       throw Run_Time_Failure(Failure_Number::invalid_call,
                              "Settings can't be stored: the user has no home folder.");
+    }
     std::error_code error;
     fs::create_directories(path_->parent_path(), error);
     if (error)

@@ -1,0 +1,199 @@
+// Reads one line of JSON with the strictness that a protocol needs.
+#include "batch/json_document.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+#include <vector>
+
+namespace quorvex {
+namespace {
+
+using nlohmann::json;
+
+// Writes what it is told back as JSON text, for one whole value.
+class Echo {
+ public:
+  bool done() const { return depth_ == 0 && !text_.empty(); }
+  std::string& text() { return text_; }
+
+  void scalar(std::string_view token) {
+    separate();
+    text_ += token;
+  }
+  void string(std::string_view text) {
+    separate();
+    Append_Json_String(text_, text);
+  }
+  void key(std::string_view name) {
+    string(name);
+    text_ += ':';
+    separated_ = true;
+  }
+  void open(char bracket) {
+    separate();
+    text_ += bracket;
+    separated_ = true;
+    ++depth_;
+  }
+  void close(char bracket) {
+    text_ += bracket;
+    separated_ = false;
+    --depth_;
+  }
+
+ private:
+  void separate() {
+    if (!separated_) text_ += ',';
+    separated_ = false;
+  }
+
+  std::string text_;
+  std::size_t depth_ = 0;
+  bool separated_ = true;
+};
+
+// The library's message without its own prefix and without the text last read, which may be
+// millions of characters long.
+std::string Plain_Message(std::string_view message) {
+  const auto detail = message.find(" - ");
+  if (detail != std::string_view::npos) message.remove_prefix(detail + 3);
+  message = message.substr(0, message.find("; last read:"));
+  return std::string(message);
+}
+
+// Builds the document from the parser's events. The names are those that the parser calls.
+class Builder {
+ public:
+  explicit Builder(Json_Document& document) : document_(document) {}
+
+  bool null() { return scalar("null", nullptr); }
+  bool boolean(bool value) { return scalar(value ? "true" : "false", value); }
+  bool number_integer(std::int64_t value) { return scalar(std::to_string(value), value); }
+  bool number_unsigned(std::uint64_t value) { return scalar(std::to_string(value), value); }
+  bool number_float(double value, const std::string& token) { return scalar(token, value); }
+  bool binary(json::binary_t& /*value*/) { return false; }
+
+  bool string(std::string& value) {
+    if (in_id_) {
+      echo_.string(value);
+      return finish_id();
+    }
+    put(std::move(value));
+    return true;
+  }
+
+  bool key(std::string& name) {
+    if (in_id_) {
+      echo_.key(name);
+      return true;
+    }
+    if (open_.size() == 1 && name == "id") return start_id();
+    const auto [place, is_new] = open_.back()->get_ref<json::object_t&>().try_emplace(name);
+    if (!is_new) throw Invalid_Request("the key \"" + name.substr(0, 80) + "\" is given twice");
+    member_ = &place->second;
+    return true;
+  }
+
+  bool start_object(std::size_t /*count*/) { return start('{', json::object()); }
+  bool start_array(std::size_t /*count*/) { return start('[', json::array()); }
+  bool end_object() { return end('}'); }
+  bool end_array() { return end(']'); }
+
+  bool parse_error(std::size_t position, const std::string& /*token*/,
+                   const nlohmann::detail::exception& error) {
+    const std::string number_prefix = "number overflow";
+    if (std::string_view(error.what()).find(number_prefix) != std::string_view::npos)
+      throw Invalid_Request("a number is too large for a 64-bit float");
+    throw Invalid_Request("not well-formed JSON at byte " + std::to_string(position) + ": " +
+                          Plain_Message(error.what()));
+  }
+
+ private:
+  template <typename Value>
+  bool scalar(std::string_view token, Value value) {
+    if (in_id_) {
+      echo_.scalar(token);
+      return finish_id();
+    }
+    put(value);
+    return true;
+  }
+
+  bool start(char bracket, json&& container) {
+    if (++depth_ > maximum_json_depth)
+      throw Invalid_Request("more than " + std::to_string(maximum_json_depth) +
+                            " levels of arrays and objects");
+    if (in_id_)
+      echo_.open(bracket);
+    else
+      open_.push_back(put(std::move(container)));
+    return true;
+  }
+
+  bool end(char bracket) {
+    --depth_;
+    if (!in_id_) {
+      open_.pop_back();
+      return true;
+    }
+    echo_.close(bracket);
+    return finish_id();
+  }
+
+  // Puts a value where the next one belongs, and tells where it stands now.
+  template <typename Value>
+  json* put(Value&& value) {
+    json* place = &document_.root;
+    if (!open_.empty() && open_.back()->is_array())
+      place = &open_.back()->get_ref<json::array_t&>().emplace_back();
+    else if (!open_.empty())
+      place = member_;
+    *place = std::forward<Value>(value);
+    return place;
+  }
+
+  bool start_id() {
+    if (!document_.id.empty()) throw Invalid_Request("the key \"id\" is given twice");
+    in_id_ = true;
+    return true;
+  }
+
+  bool finish_id() {
+    if (!echo_.done()) return true;
+    document_.id = std::move(echo_.text());
+    in_id_ = false;
+    return true;
+  }
+
+  Json_Document& document_;
+  std::vector<json*> open_;
+  json* member_ = nullptr;
+  Echo echo_;
+  std::size_t depth_ = 0;
+  bool in_id_ = false;
+};
+
+bool Is_Plain(char character) {
+  const auto byte = static_cast<unsigned char>(character);
+  return byte >= 0x20 && byte < 0x7F && character != '"' && character != '\\';
+}
+
+}  // namespace
+
+void Parse_Json(std::string_view line, Json_Document& document) {
+  Builder builder(document);
+  json::sax_parse(line, &builder);
+}
+
+void Append_Json_String(std::string& out, std::string_view text) {
+  if (std::all_of(text.begin(), text.end(), Is_Plain)) {
+    out += '"';
+    out += text;
+    out += '"';
+    return;
+  }
+  out += json(text).dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
+}  // namespace quorvex

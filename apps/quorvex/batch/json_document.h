@@ -1,0 +1,36 @@
+// Reads one line of JSON with the strictness that a protocol needs.
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace quorvex {
+
+/// Why a line is no good request, as a sentence for its sender.
+class Invalid_Request : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Levels of arrays and objects that a line may nest. Values are walked by recursion, so that this
+/// keeps the stack safe from hostile input.
+inline constexpr std::size_t maximum_json_depth = 64;
+
+/// One parsed line. The value of the top level's "id" is not kept as a value but as JSON text, so
+/// that it goes back to the sender with every digit and in the order in which it came.
+struct Json_Document {
+  nlohmann::json root;
+  std::string id;  // empty if there is none
+};
+
+/// Parses a line. Throws `Invalid_Request` for broken JSON, invalid UTF-8, a key given twice, a
+/// number too large for a 64-bit float, and for too many levels; `document.id` is then set if the
+/// id stood before the fault.
+void Parse_Json(std::string_view line, Json_Document& document);
+
+/// A text as a JSON string, quotes included. Bytes that are no UTF-8 become replacement characters.
+void Append_Json_String(std::string& out, std::string_view text);
+
+}  // namespace quorvex

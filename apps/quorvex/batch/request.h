@@ -1,0 +1,27 @@
+// One request of the batch protocol.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "frame/catalogue.h"
+#include "host/host_value.h"
+
+namespace quorvex {
+
+/// What a line asks for. Either `problem` says why it is no request, or `method` is set.
+struct Request {
+  std::string id;  // JSON text; empty if none was given
+  const Method* method = nullptr;
+  std::vector<HostValue> arguments;
+  std::string problem;
+};
+
+/// Reads a line. Never throws for what the line holds.
+Request Read_Request(std::string_view line);
+
+/// Whether a line holds blanks only: such lines are skipped.
+bool Is_Blank_Line(std::string_view line);
+
+}  // namespace quorvex

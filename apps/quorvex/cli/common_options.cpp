@@ -1,0 +1,93 @@
+// Options that all calculating commands share.
+#include "cli/common_options.h"
+
+#include <CLI/CLI.hpp>
+#include <cmath>
+
+#include "cli/session.h"
+#include "host/platform.h"
+#include "text/options.h"
+
+namespace quorvex {
+namespace {
+
+constexpr double longest_timeout = 1e9;
+
+Locale Chosen_Locale(const Common_Options& options) {
+  if (options.locale_name) {
+    const auto locale = System_Locale(*options.locale_name);
+    if (!locale)
+      throw Usage_Error("this system has no locale \"" + *options.locale_name +
+                        "\"; `locale -a` lists those it has");
+    return *locale;
+  }
+  Locale locale = Current_Locale();
+  if (options.decimal) locale.decimal_separator = *options.decimal;
+  if (options.thousands) locale.thousands_separator = *options.thousands;
+  if (options.currency) locale.currency_symbol = *options.currency;
+  if (options.currency_side)
+    locale.currency_side =
+        *options.currency_side == "after" ? Currency_Side::after : Currency_Side::before;
+  return locale;
+}
+
+bool Gives_Parts(const Common_Options& options) {
+  return options.decimal || options.thousands || options.currency || options.currency_side;
+}
+
+std::string Check_Side(const std::string& text) {
+  return text == "before" || text == "after" ? "" : "before or after is needed, not " + text;
+}
+
+std::string Check_Digits(const std::string& text) {
+  double digits = 0;
+  const bool is_good = CLI::detail::lexical_cast(text, digits) && digits >= 1 &&
+                       digits <= maximum_digits && digits == std::floor(digits);
+  return is_good ? "" : "a whole number from 1 to 2147483648 is needed, not " + text;
+}
+
+std::string Check_Timeout(const std::string& text) {
+  double seconds = 0;
+  const bool is_good =
+      CLI::detail::lexical_cast(text, seconds) && seconds > 0 && seconds <= longest_timeout;
+  return is_good ? "" : "a number of seconds above 0 is needed, not " + text;
+}
+
+}  // namespace
+
+void Add_Common_Options(CLI::App& command, Common_Options& options) {
+  const auto add = [&](const char* name, auto& target, const char* value, const char* help) {
+    return command.add_option(name, target, help)
+        ->type_name(value)
+        ->group("Number format and limits");
+  };
+  add("--locale", options.locale_name, "NAME",
+      "Write numbers as this locale of the system does (de_CH)");
+  add("--decimal", options.decimal, "CHARACTER", "Decimal separator");
+  add("--thousands", options.thousands, "CHARACTER", "Thousands separator");
+  add("--currency", options.currency, "TEXT", "Currency symbol");
+  add("--currency-side", options.currency_side, "before|after", "Place of the symbol")
+      ->check(CLI::Validator(Check_Side, ""));
+  add("--digits", options.digits, "N", "Significant digits where a call gives none")
+      ->check(CLI::Validator(Check_Digits, ""));
+  add("--timeout", options.timeout, "SECONDS", "End a calculation that takes longer")
+      ->check(CLI::Validator(Check_Timeout, ""));
+}
+
+std::shared_ptr<Call_Guard> Apply(const Common_Options& options) {
+  if (options.locale_name && Gives_Parts(options))
+    throw Usage_Error("--locale names a whole locale: give it, or the parts one by one");
+  if (options.locale_name || Gives_Parts(options)) {
+    const Locale locale = Chosen_Locale(options);
+    if (const auto problem = Locale_Problem(locale)) throw Usage_Error(*problem);
+    Current_Platform().locale = Fixed_Locale(locale);
+  }
+  if (options.digits) Set_Default_MaxSD(*options.digits);
+  std::optional<Seconds> limit;
+  if (options.timeout) limit = Seconds(*options.timeout);
+  auto guard = std::make_shared<Call_Guard>(limit);
+  Current_Platform().yielder = guard;
+  return guard;
+}
+
+}  // namespace quorvex

@@ -1,0 +1,26 @@
+// What the functions are, for people to read: lists, explanations and the reference page.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "frame/catalogue.h"
+#include "frame/cls_Quorvex.h"
+
+namespace quorvex {
+
+/// All functions by category, a line each.
+std::string Function_List();
+
+/// One function: how to call it, what it does, its arguments, and its example calculated here and
+/// now. Nothing if there is no function of that name.
+std::optional<std::string> Function_Help(cls_Quorvex& engine, std::string_view name);
+
+/// What to tell somebody who asked for a function that is not there.
+std::string No_Such_Function(std::string_view name);
+
+/// The reference of all functions in Markdown.
+std::string Function_Reference(cls_Quorvex& engine);
+
+}  // namespace quorvex

@@ -1,0 +1,156 @@
+// The prompt: formulas and a few words of command, typed on a terminal.
+#include "cli/prompt.h"
+
+#include <algorithm>
+#include <array>
+#include <csignal>
+#include <cstdlib>
+
+#include "cli/formulas.h"
+#include "cli/function_reference.h"
+#include "formula/literals.h"
+#include "frame/catalogue.h"
+#include "quorvex_version.h"
+
+namespace quorvex {
+namespace {
+
+constexpr std::string_view prompt_help =
+    "Type a formula, as in a spreadsheet:  qvxADD(\"12345678901234567890.5\", 1.25)\n"
+    "  functions    lists all functions\n"
+    "  help NAME    explains one of them\n"
+    "  quit         leaves; so do exit and Ctrl-D\n"
+    "Tab completes names, arrow keys go back to earlier lines, and Ctrl-C ends a calculation.\n";
+
+constexpr std::array<std::string_view, 4> commands = {"exit", "functions", "help", "quit"};
+
+// A second Ctrl-C while a calculation has not yet heeded the first one ends the tool, as it ends
+// any other.
+extern "C" void Interrupt(int signal) {
+  if (Call_Guard::is_interrupted()) {
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+  }
+  Call_Guard::interrupt();
+}
+
+void Catch_Interrupts() {
+  struct sigaction action {};
+  action.sa_handler = &Interrupt;
+  ::sigemptyset(&action.sa_mask);
+  ::sigaction(SIGINT, &action, nullptr);
+}
+
+std::filesystem::path History_File() {
+  const char* state = std::getenv("XDG_STATE_HOME");
+  if (state != nullptr && *state == '/') return std::filesystem::path(state) / "quorvex/history";
+  const char* home = std::getenv("HOME");
+  if (home == nullptr || *home == '\0') return {};
+  return std::filesystem::path(home) / ".local/state/quorvex/history";
+}
+
+std::string_view Trimmed(std::string_view text) {
+  constexpr std::string_view blanks = " \t";
+  const auto begin = text.find_first_not_of(blanks);
+  if (begin == std::string_view::npos) return {};
+  return text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
+}
+
+void Explain(Session& session, std::string_view name) {
+  if (const auto help = Function_Help(session.engine(), name)) {
+    session.output().buffer() += *help;
+    session.output().flush();
+  } else {
+    session.error(No_Such_Function(name));
+  }
+}
+
+void Obey(Session& session, std::string_view line) {
+  const std::string_view word = line.substr(0, line.find(' '));
+  const std::string_view rest = Trimmed(line.substr(word.size()));
+  if (Same_Word(word, "help") && !rest.empty()) {
+    Explain(session, rest);
+  } else if (Same_Word(line, "help") || Same_Word(line, "functions")) {
+    session.output().buffer() +=
+        Same_Word(line, "help") ? std::string(prompt_help) : Function_List();
+  } else {
+    Calculate(session, line);
+  }
+  session.output().flush();
+}
+
+bool Is_Word_Character(char character) {
+  return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z') ||
+         (character >= '0' && character <= '9') || character == '_';
+}
+
+bool Begins_Like(std::string_view name, std::string_view typed) {
+  return name.size() >= typed.size() && Same_Word(name.substr(0, typed.size()), typed);
+}
+
+std::vector<std::string> Candidates(std::string_view word, bool is_first, bool is_help) {
+  std::vector<std::string> candidates;
+  if (is_first) {
+    for (const std::string_view command : commands)
+      if (Begins_Like(command, word)) candidates.emplace_back(command);
+  }
+  for (const Method& method : Catalogue()) {
+    if (Begins_Like(method.name, word))
+      candidates.push_back(std::string(method.name) + (is_help ? "" : "("));
+  }
+  return candidates;
+}
+
+std::string Common_Beginning(const std::vector<std::string>& texts) {
+  std::string common = texts.front();
+  for (const std::string& text : texts) {
+    const auto differs = std::mismatch(common.begin(), common.end(), text.begin(), text.end());
+    common.erase(differs.first, common.end());
+  }
+  return common;
+}
+
+}  // namespace
+
+Completion Complete_Word(std::string_view before_cursor) {
+  std::size_t begin = before_cursor.size();
+  while (begin > 0 && Is_Word_Character(before_cursor[begin - 1])) --begin;
+  const std::string_view word = before_cursor.substr(begin);
+  const std::string_view before_word = Trimmed(before_cursor.substr(0, begin));
+  Completion completion;
+  completion.typed = word.size();
+  const bool is_help = Same_Word(before_word, "help");
+  completion.candidates = Candidates(word, before_word.empty(), is_help);
+  if (completion.candidates.empty()) return completion;
+  completion.replacement = Common_Beginning(completion.candidates);
+  // Names that differ in their first letters leave the word as it was typed.
+  if (completion.replacement.size() < word.size()) completion.replacement = word;
+  if (completion.candidates.size() == 1) completion.candidates.clear();
+  return completion;
+}
+
+Outcome Run_Prompt(Session& session) {
+  Catch_Interrupts();
+  session.output().write_line(std::string("Quorvex ") + version +
+                              ". Type a formula, \"help\" or \"quit\".");
+  session.output().flush();
+  Line_Editor editor("> ", History_File(), &Complete_Word);
+  std::string line;
+  for (;;) {
+    const auto status = editor.read(line);
+    if (status == Line_Editor::Status::interrupted) continue;
+    if (status == Line_Editor::Status::end) {
+      session.output().write_line("");
+      break;
+    }
+    const std::string_view typed = Trimmed(line);
+    if (typed.empty()) continue;
+    editor.remember(std::string(typed));
+    if (Same_Word(typed, "quit") || Same_Word(typed, "exit")) break;
+    Obey(session, typed);
+  }
+  session.output().flush();
+  return Outcome::success;
+}
+
+}  // namespace quorvex

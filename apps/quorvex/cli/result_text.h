@@ -1,0 +1,18 @@
+// Results as people read them.
+#pragma once
+
+#include <string>
+
+#include "frame/catalogue.h"
+
+namespace quorvex {
+
+/// Appends a result, each line of it with its line end: a record a field a line, an array a row a
+/// line with its columns aligned, any other value as itself. A method without a result gives no
+/// line.
+void Append_Result_Lines(std::string& out, const Call_Result& result);
+
+/// True for an error value and for an error token as the whole text.
+bool Is_Error_Result(const Call_Result& result);
+
+}  // namespace quorvex

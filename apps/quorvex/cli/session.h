@@ -1,0 +1,62 @@
+// What the commands of the tool share: engine, output, and how a run ends.
+#pragma once
+
+#include <algorithm>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "batch/call_guard.h"
+#include "batch/line_io.h"
+#include "frame/cls_Quorvex.h"
+
+namespace quorvex {
+
+/// In order of gravity: of several formulas the worst one decides.
+enum class Outcome : int { success = 0, failed_calculation = 1, wrong_usage = 2 };
+
+inline Outcome Worse_Of(Outcome one, Outcome other) {
+  return std::max(one, other);
+}
+
+/// The tool was called with something that it can't use; the message says what, and `detail` may
+/// show it in further lines.
+class Usage_Error : public std::runtime_error {
+ public:
+  explicit Usage_Error(const std::string& message, std::string detail = {})
+      : std::runtime_error(message), detail_(std::move(detail)) {}
+
+  const std::string& detail() const noexcept { return detail_; }
+
+ private:
+  std::string detail_;
+};
+
+/// A formula with a place in it marked, as it stands below a message.
+std::string Marked_Lines(std::string_view formula, std::size_t position);
+
+/// One run of the tool.
+class Session {
+ public:
+  explicit Session(std::shared_ptr<Call_Guard> guard);
+
+  cls_Quorvex& engine() { return engine_; }
+  Call_Guard& guard() { return *guard_; }
+  Line_Writer& output() { return output_; }
+
+  /// Writes "error: message" to standard error, after all output so far. `detail` holds further
+  /// lines, without the last line end.
+  void error(std::string_view message, std::string_view detail = {});
+  /// The same for a place in a formula, which is shown with the place marked.
+  void error_at(std::string_view message, std::string_view formula, std::size_t position);
+
+ private:
+  cls_Quorvex engine_;
+  std::shared_ptr<Call_Guard> guard_;
+  Line_Writer output_;
+  bool is_coloured_;
+};
+
+}  // namespace quorvex

@@ -1,0 +1,156 @@
+#include "formula/evaluate.h"
+
+#include <cmath>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "formula/literals.h"
+#include "host/conversions.h"
+#include "host/platform.h"
+#include "text/options.h"
+
+namespace quorvex {
+
+namespace {
+
+// The sign is put on or taken off as text, so that every digit stays as it is.
+std::string With_Sign_Turned(const std::string& text) {
+  if (text.starts_with('-')) return text.substr(1);
+  if (text.starts_with('(') && text.ends_with(')')) return text.substr(1, text.size() - 2);
+  return "-" + text;
+}
+
+HostValue Negated_Text(cls_Quorvex& engine, const HostValue& text) {
+  if (!engine.qvxISNUMBER(text)) return Error_Code::value;
+  HostValue turned = With_Sign_Turned(text.text());
+  if (engine.qvxISNUMBER(turned)) return turned;
+  // The sign stands within the text, behind a currency symbol or in quote marks.
+  return engine.qvxSUBTRACT(0, text, Missing, Missing, Missing, Missing, maximum_digits);
+}
+
+HostValue Negated(cls_Quorvex& engine, const HostValue& value) {
+  switch (value.kind()) {
+    case HostValue::Kind::empty:
+      return 0;
+    case HostValue::Kind::number:
+      return value.number() == 0 ? 0.0 : -value.number();
+    case HostValue::Kind::text:
+      return Negated_Text(engine, value);
+    case HostValue::Kind::error:
+      return value;
+    case HostValue::Kind::range:
+      if (Is_Single_Cell(value)) return Negated(engine, value.range().cell(1, 1));
+      return Error_Code::value;
+    default:
+      return Error_Code::value;
+  }
+}
+
+class Evaluator {
+ public:
+  Evaluator(cls_Quorvex& engine, const Formula& formula, Reference_Source& source)
+      : engine_(engine), formula_(formula), source_(source) {}
+
+  Call_Result operator()(const Omitted& /*argument*/) { return HostValue(); }
+  Call_Result operator()(const HostValue& constant) { return constant; }
+  Call_Result operator()(const Reference_Index& reference) {
+    return source_.cells(formula_.references[reference.index]);
+  }
+  Call_Result operator()(const Name_Index& name) {
+    return source_.name(formula_.names[name.index]);
+  }
+  Call_Result operator()(const Negation& negation) {
+    return Negated(engine_, value_of(negation.operand.front()));
+  }
+  Call_Result operator()(const Call& call) {
+    std::vector<HostValue> arguments;
+    arguments.reserve(call.arguments.size());
+    for (const Expression& argument : call.arguments) arguments.push_back(value_of(argument));
+    const auto& parameters = call.method->parameters;
+    if (parameters.size() == 1 && parameters[0].kind == Parameter_Kind::list) {
+      std::vector<HostValue> one;
+      one.emplace_back(List(std::move(arguments)));
+      arguments = std::move(one);
+    }
+    return Invoke(engine_, *call.method, std::move(arguments));
+  }
+
+ private:
+  HostValue value_of(const Expression& expression) {
+    Call_Result result = std::visit(*this, expression.node);
+    if (auto* value = std::get_if<HostValue>(&result)) return std::move(*value);
+    return Error_Code::value;
+  }
+
+  cls_Quorvex& engine_;
+  const Formula& formula_;
+  Reference_Source& source_;
+};
+
+class No_Worksheet final : public Reference_Source {
+ public:
+  HostValue cells(const Reference& reference) override {
+    const bool one = reference.area.first == reference.area.last;
+    throw Syntax_Error(Area_Text(reference.area) +
+                           (one ? " refers to a cell" : " refers to cells") +
+                           ", and there is no worksheet here",
+                       reference.position);
+  }
+  HostValue name(const Name_Use& use) override {
+    throw Syntax_Error(use.name + " is no function, and there is no worksheet here on which it " +
+                           "could be a name; text stands in double quotes",
+                       use.position);
+  }
+};
+
+std::string Rendered_Range(const Range& range) {
+  Array array;
+  array.rows = range.rows();
+  array.columns = range.columns();
+  for (std::size_t row = 1; row <= array.rows; ++row) {
+    Yield();
+    for (std::size_t column = 1; column <= array.columns; ++column) {
+      array.values.push_back(range.cell(row, column));
+    }
+  }
+  return array.values.size() == 1 ? Render(array.values[0]) : Constant_Text(std::move(array));
+}
+
+std::string Rendered_List(const List& list) {
+  Array array;
+  array.rows = 1;
+  array.columns = list.size();
+  array.values = list;
+  return Constant_Text(std::move(array));
+}
+
+}  // namespace
+
+Reference_Source::~Reference_Source() = default;
+
+Call_Result Evaluate(cls_Quorvex& engine, const Formula& formula, Reference_Source& source) {
+  return std::visit(Evaluator(engine, formula, source), formula.root.node);
+}
+
+Call_Result Evaluate_Alone(cls_Quorvex& engine, const Formula& formula) {
+  No_Worksheet source;
+  return Evaluate(engine, formula, source);
+}
+
+std::string Render(const HostValue& value) {
+  switch (value.kind()) {
+    case HostValue::Kind::text:
+      return value.text();
+    case HostValue::Kind::number:
+      return std::isfinite(value.number()) ? Number_To_Text(value.number()) : "#NUM!";
+    case HostValue::Kind::range:
+      return Rendered_Range(value.range());
+    case HostValue::Kind::list:
+      return Rendered_List(value.list());
+    default:
+      return Constant_Text(value);
+  }
+}
+
+}  // namespace quorvex

@@ -1,0 +1,38 @@
+// Calculating formulas, and showing what they give.
+#pragma once
+
+#include <string>
+
+#include "formula/formula.h"
+#include "frame/catalogue.h"
+#include "frame/cls_Quorvex.h"
+#include "host/host_value.h"
+
+namespace quorvex {
+
+/// Where a formula finds the cells and names that it refers to.
+class Reference_Source {
+ public:
+  Reference_Source() = default;
+  Reference_Source(const Reference_Source&) = delete;
+  Reference_Source& operator=(const Reference_Source&) = delete;
+  virtual ~Reference_Source();
+
+  /// A range over the cells, or an error value.
+  virtual HostValue cells(const Reference& reference) = 0;
+  virtual HostValue name(const Name_Use& use) = 0;
+};
+
+/// Calculates a formula. A function that gives a record, or nothing, gives #VALUE! to the function
+/// that it is an argument of. The result may be a range. A method's `Run_Time_Failure` is let
+/// through.
+Call_Result Evaluate(cls_Quorvex& engine, const Formula& formula, Reference_Source& source);
+
+/// Calculates a formula where there is no worksheet: a cell or a name in it is a `Syntax_Error`.
+Call_Result Evaluate_Alone(cls_Quorvex& engine, const Formula& formula);
+
+/// A value as it is shown: text as it is, numbers in the user's locale, TRUE and FALSE, #N/A and
+/// its like, blank as empty text, arrays as {1,2;3,4}.
+std::string Render(const HostValue& value);
+
+}  // namespace quorvex

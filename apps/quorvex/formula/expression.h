@@ -1,0 +1,56 @@
+// The syntax tree of a formula.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "formula/reference.h"
+#include "frame/catalogue.h"
+#include "host/host_value.h"
+
+namespace quorvex {
+
+/// Cells that a formula refers to; on the formula's own worksheet if `sheet` is empty.
+struct Reference {
+  std::string sheet;
+  Cell_Area area;
+  std::size_t position = 0;  // of its first byte in the formula's text
+};
+
+/// A name that a formula uses; of the formula's own worksheet if `sheet` is empty.
+struct Name_Use {
+  std::string sheet;
+  std::string name;
+  std::size_t position = 0;
+};
+
+struct Expression;
+
+/// An argument left out, as in f(1,,3).
+struct Omitted {};
+
+/// References and names stand in lists of the formula; the tree keeps their index.
+struct Reference_Index {
+  std::size_t index = 0;
+};
+struct Name_Index {
+  std::size_t index = 0;
+};
+
+/// A minus before anything but a number.
+struct Negation {
+  std::vector<Expression> operand;  // exactly one
+};
+
+struct Call {
+  const Method* method = nullptr;
+  std::vector<Expression> arguments;
+};
+
+struct Expression {
+  std::variant<Omitted, HostValue, Reference_Index, Name_Index, Negation, Call> node;
+};
+
+}  // namespace quorvex

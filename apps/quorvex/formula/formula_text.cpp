@@ -1,0 +1,107 @@
+// Writing formulas.
+#include <array>
+#include <charconv>
+#include <stdexcept>
+
+#include "formula/formula.h"
+#include "formula/lexer.h"
+#include "formula/literals.h"
+
+namespace quorvex {
+
+namespace {
+
+// Formulas have "." in every locale.
+std::string Number_Literal(double number) {
+  std::array<char, 32> buffer{};
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
+                                 std::chars_format::general, 15);
+  return {buffer.data(), end.ptr};
+}
+
+std::string Array_Text(const Array& array) {
+  std::string text = "{";
+  for (std::size_t at = 0; at < array.values.size(); ++at) {
+    if (at > 0) text += at % array.columns == 0 ? ';' : ',';
+    text += Constant_Text(array.values[at]);
+  }
+  return text + "}";
+}
+
+std::string Sheet_Prefix(const std::string& sheet) {
+  if (sheet.empty()) return {};
+  const bool plain = Word_Length(sheet) == sheet.size() && !(sheet[0] >= '0' && sheet[0] <= '9') &&
+                     sheet[0] != '.';
+  return (plain ? sheet : Quoted(sheet, '\'')) + "!";
+}
+
+// Calls the overload for what stands at each node. A chain of a few hundred levels at most.
+class Writer {
+ public:
+  explicit Writer(const Formula& formula) : formula_(formula) {}
+
+  std::string write(const Expression& expression) {
+    std::visit(*this, expression.node);
+    return std::move(text_);
+  }
+
+  void operator()(const Omitted& /*argument*/) {}
+  void operator()(const HostValue& constant) { text_ += Constant_Text(constant); }
+  void operator()(const Reference_Index& reference) {
+    const Reference& cells = formula_.references[reference.index];
+    text_ += Sheet_Prefix(cells.sheet) + Area_Text(cells.area);
+  }
+  void operator()(const Name_Index& name) {
+    const Name_Use& use = formula_.names[name.index];
+    text_ += Sheet_Prefix(use.sheet) + use.name;
+  }
+  void operator()(const Negation& negation) {
+    const auto& operand = negation.operand.front().node;
+    const auto* constant = std::get_if<HostValue>(&operand);
+    // Right behind it, a number would take the minus for its own.
+    const bool apart = constant != nullptr && constant->kind() == HostValue::Kind::number &&
+                       constant->number() >= 0;
+    text_ += apart ? "-(" : "-";
+    std::visit(*this, operand);
+    if (apart) text_ += ')';
+  }
+  void operator()(const Call& call) {
+    text_.append(call.method->name) += '(';
+    const char* separator = "";
+    for (const Expression& argument : call.arguments) {
+      text_ += separator;
+      std::visit(*this, argument.node);
+      separator = ",";
+    }
+    text_ += ')';
+  }
+
+ private:
+  const Formula& formula_;
+  std::string text_;
+};
+
+}  // namespace
+
+std::string Formula_Text(const Formula& formula) {
+  return Writer(formula).write(formula.root);
+}
+
+std::string Constant_Text(const HostValue& constant) {
+  switch (constant.kind()) {
+    case HostValue::Kind::number:
+      return Number_Literal(constant.number());
+    case HostValue::Kind::text:
+      return Quoted(constant.text(), '"');
+    case HostValue::Kind::boolean:
+      return constant.boolean() ? "TRUE" : "FALSE";
+    case HostValue::Kind::error:
+      return std::string(Error_Text(constant.error()));
+    case HostValue::Kind::array:
+      return Array_Text(constant.array());
+    default:
+      return {};
+  }
+}
+
+}  // namespace quorvex

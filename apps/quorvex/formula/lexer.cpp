@@ -1,0 +1,162 @@
+#include "formula/lexer.h"
+
+#include <algorithm>
+
+#include "formula/formula.h"
+#include "formula/literals.h"
+#include "host/utf8.h"
+
+namespace quorvex {
+
+namespace {
+
+// Arrives with formulas copied from documents and web pages.
+constexpr std::string_view no_break_space = "\xC2\xA0";
+
+bool Is_Digit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+bool Is_Word_Character(char c) {
+  const auto byte = static_cast<unsigned char>(c);
+  return byte >= 0x80 || Is_Digit(c) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') ||
+         c == '_' || c == '.' || c == '\\' || c == '?' || c == '$';
+}
+
+Token_Kind Mark_Kind(char c) {
+  switch (c) {
+    case '(':
+      return Token_Kind::open;
+    case ')':
+      return Token_Kind::close;
+    case '{':
+      return Token_Kind::open_array;
+    case '}':
+      return Token_Kind::close_array;
+    case ',':
+      return Token_Kind::comma;
+    case ';':
+      return Token_Kind::semicolon;
+    case ':':
+      return Token_Kind::colon;
+    case '!':
+      return Token_Kind::exclamation;
+    case '-':
+      return Token_Kind::minus;
+    default:
+      return Token_Kind::end;
+  }
+}
+
+}  // namespace
+
+std::size_t Word_Length(std::string_view text) {
+  std::size_t at = 0;
+  while (at < text.size() && Is_Word_Character(text[at]) &&
+         !text.substr(at).starts_with(no_break_space)) {
+    ++at;
+  }
+  return at;
+}
+
+Token Lexer::next() {
+  skip_blanks();
+  if (position_ == text_.size()) return {Token_Kind::end, position_, {}};
+  const char c = text_[position_];
+  if (c == '"') {
+    return take_quoted(Token_Kind::text, c, "the text is not closed; a \" is missing at its end");
+  }
+  if (c == '\'') {
+    return take_quoted(Token_Kind::quoted_sheet, c,
+                       "the name of the worksheet is not closed; a ' is missing at its end");
+  }
+  if (c == '#') return take_error();
+  if (Is_Digit(c) || c == '.') return take_number();
+  const std::size_t word = Word_Length(text_.substr(position_));
+  return word > 0 ? take(Token_Kind::word, word) : take_mark();
+}
+
+void Lexer::skip_blanks() {
+  for (;;) {
+    const std::string_view rest = text_.substr(position_);
+    if (rest.starts_with(no_break_space)) {
+      position_ += no_break_space.size();
+    } else if (!rest.empty() &&
+               std::string_view(" \t\r\n").find(rest[0]) != std::string_view::npos) {
+      ++position_;
+    } else {
+      return;
+    }
+  }
+}
+
+Token Lexer::take(Token_Kind kind, std::size_t length) {
+  const Token token{kind, position_, text_.substr(position_, length)};
+  position_ += length;
+  return token;
+}
+
+Token Lexer::take_quoted(Token_Kind kind, char quote, const char* complaint) {
+  std::size_t at = position_ + 1;
+  for (;;) {
+    at = text_.find(quote, at);
+    if (at == std::string_view::npos) throw Syntax_Error(complaint, position_);
+    const bool doubled = at + 1 < text_.size() && text_[at + 1] == quote;
+    if (!doubled) return take(kind, at + 1 - position_);
+    at += 2;
+  }
+}
+
+Token Lexer::take_number() {
+  const std::size_t length = Number_Length(text_.substr(position_), ".");
+  if (length == 0 || Word_Length(text_.substr(position_ + length)) > 0) {
+    throw Syntax_Error("this is no number; digits with one \".\" were expected, or 1.5E+3",
+                       position_);
+  }
+  return take(Token_Kind::number, length);
+}
+
+Token Lexer::take_error() {
+  const auto error = Leading_Error(text_.substr(position_));
+  if (!error) {
+    throw Syntax_Error(
+        "unknown error value; there are #NULL!, #DIV/0!, #VALUE!, #REF!, #NAME?, "
+        "#NUM! and #N/A",
+        position_);
+  }
+  return take(Token_Kind::error_literal, Error_Text(*error).size());
+}
+
+Token Lexer::take_mark() {
+  const std::string_view rest = text_.substr(position_);
+  const Token_Kind kind = Mark_Kind(rest[0]);
+  if (kind != Token_Kind::end) return take(kind, 1);
+  const std::string mark(rest.substr(0, First_Character_Bytes(rest)));
+  if (std::string_view("+*/^&%<>=").find(mark) != std::string_view::npos) {
+    throw Syntax_Error("\"" + mark + "\" has no meaning here; functions calculate and compare, " +
+                           "as in qvxADD(1, 2)",
+                       position_);
+  }
+  throw Syntax_Error("this character has no meaning here", position_);
+}
+
+std::string Unquoted(std::string_view spelling) {
+  const char quote = spelling.front();
+  std::string text;
+  text.reserve(spelling.size() - 2);
+  for (std::size_t at = 1; at + 1 < spelling.size(); ++at) {
+    text += spelling[at];
+    if (spelling[at] == quote) ++at;
+  }
+  return text;
+}
+
+std::string Quoted(std::string_view text, char quote) {
+  std::string quoted(1, quote);
+  quoted.reserve(text.size() + 2);
+  for (const char c : text) quoted.append(c == quote ? 2 : 1, c);
+  quoted += quote;
+  return quoted;
+}
+
+}  // namespace quorvex

@@ -1,0 +1,50 @@
+// One recalculation of a workbook, in order of dependency.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "sheet/precedents.h"
+#include "sheet/workbook.h"
+
+namespace quorvex {
+
+/// Visits the formulas depth first and finds the groups that depend on each other in circles
+/// (strongly connected components, by Tarjan's method). A group closes after all that it depends
+/// on; a formula on no circle is then calculated. The stack is on the heap, so chains of
+/// dependency may be of any length.
+class Recalculation {
+ public:
+  Recalculation(const Workbook& workbook, cls_Quorvex& engine, const Progress& progress)
+      : workbook_(workbook), engine_(engine), progress_(progress) {}
+
+  void run();
+
+ private:
+  struct Visit {
+    Calculation* calculation;
+    Precedents precedents;
+    bool needs_itself = false;
+  };
+
+  void collect();
+  void visit_from(Calculation& start);
+  void enter(Calculation& calculation);
+  void meet(Calculation& precedent);
+  void leave();
+  void close_group(const Calculation& root, bool needs_itself);
+  void calculate(Calculation& calculation);
+  void mark_circle(const std::vector<Calculation*>& group);
+  void count_done();
+
+  const Workbook& workbook_;
+  cls_Quorvex& engine_;
+  const Progress& progress_;
+  std::vector<Calculation*> all_;
+  std::vector<Visit> visits_;
+  std::vector<Calculation*> waiting_;  // entered, and of a group that is not closed
+  std::size_t entered_ = 0;
+  std::size_t done_ = 0;
+};
+
+}  // namespace quorvex

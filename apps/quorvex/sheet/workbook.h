@@ -1,0 +1,38 @@
+// A workbook: worksheets by name, and their recalculation.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "frame/cls_Quorvex.h"
+#include "sheet/worksheet.h"
+
+namespace quorvex {
+
+/// Told how many formulas of all are calculated, after each of them.
+using Progress = std::function<void(std::size_t done, std::size_t all)>;
+
+class Workbook {
+ public:
+  /// Throws `std::invalid_argument` if there is a worksheet of that name, or the name is empty.
+  Worksheet& add(std::string name);
+  /// Looked up without regard to case; null if there is none.
+  Worksheet* find(std::string_view name) const;
+  /// In the order in which they were added.
+  const std::vector<std::unique_ptr<Worksheet>>& worksheets() const { return worksheets_; }
+
+  /// Calculates every formula once, after those that it depends on. Cells on a circular reference
+  /// get a problem that spells it out; a method's failure makes the cell #VALUE!, with its message
+  /// as the problem. A host that breaks the calculation off (`Run_Time_Failure` 18, let through)
+  /// leaves values as they were in the cells not yet reached; calculating again mends them.
+  void recalculate(cls_Quorvex& engine, const Progress& progress = {});
+
+ private:
+  std::vector<std::unique_ptr<Worksheet>> worksheets_;
+};
+
+}  // namespace quorvex

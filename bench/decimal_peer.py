@@ -1,0 +1,55 @@
+"""The same sums, differences and comparisons through Python's decimal, as JSON."""
+
+import decimal
+import json
+import random
+import sys
+import time
+
+SIZES = [10, 30, 100, 1000, 10_000, 100_000, 1_000_000]
+
+decimal.setcontext(
+    decimal.Context(prec=decimal.MAX_PREC, Emax=decimal.MAX_EMAX, Emin=decimal.MIN_EMIN)
+)
+
+OPERATIONS = {
+    "add": lambda a, b: str(decimal.Decimal(a) + decimal.Decimal(b)),
+    "subtract": lambda a, b: str(decimal.Decimal(a) - decimal.Decimal(b)),
+    "isgreater": lambda a, b: decimal.Decimal(a) > decimal.Decimal(b),
+}
+
+
+def digits(count, seed, first):
+    source = random.Random(seed)
+    return first + "".join(source.choices("0123456789", k=count - 1))
+
+
+def nanoseconds(call, a, b, repetitions):
+    """The median of a few runs of at least a tenth of a second each."""
+    runs = []
+    for _ in range(repetitions):
+        count = 1
+        while True:
+            begin = time.perf_counter()
+            for _ in range(count):
+                call(a, b)
+            spent = time.perf_counter() - begin
+            if spent > 0.1:
+                break
+            count *= 4
+        runs.append(spent / count * 1e9)
+    return sorted(runs)[len(runs) // 2]
+
+
+def main():
+    repetitions = int(sys.argv[1]) if len(sys.argv) > 1 else 5
+    times = {}
+    for name, call in OPERATIONS.items():
+        for size in SIZES:
+            a, b = digits(size, 1, "7"), digits(size, 2, "3")
+            times[f"{name}/{size}"] = nanoseconds(call, a, b, repetitions)
+    json.dump(times, sys.stdout)
+
+
+if __name__ == "__main__":
+    main()

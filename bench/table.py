@@ -1,0 +1,37 @@
+"""Writes the measured times as a Markdown table, ratios first."""
+
+import json
+import sys
+
+
+def unit(nanoseconds):
+    for name, size in (("ns", 1), ("us", 1e3), ("ms", 1e6)):
+        if nanoseconds < 1000 * size or name == "ms":
+            return f"{nanoseconds / size:.3g} {name}"
+
+
+def main():
+    with open(sys.argv[1], encoding="utf-8") as file:
+        native = json.load(file)
+    with open(sys.argv[2], encoding="utf-8") as file:
+        peer = json.load(file)
+    times = {
+        run["run_name"]: run["real_time"]
+        for run in native["benchmarks"]
+        if run.get("aggregate_name") == "median"
+    }
+    print("| call | digits | GMP / ours | decimal / ours | ours | GMP | decimal |")
+    print("|---|---:|---:|---:|---:|---:|---:|")
+    for name, ours in times.items():
+        library, call, size = name.split("/")
+        if library != "Quorvex":
+            continue
+        gmp, dec = times[f"Gmp/{call}/{size}"], peer[f"{call}/{size}"]
+        print(
+            f"| qvx{call.upper()} | {int(size):,} | {gmp / ours:.1f} | {dec / ours:.1f} "
+            f"| {unit(ours)} | {unit(gmp)} | {unit(dec)} |"
+        )
+
+
+if __name__ == "__main__":
+    main()

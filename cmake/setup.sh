@@ -1,0 +1,44 @@
+# Shell functions that ./run and ./test share: what must be installed, and how to build.
+# Sourced from the root of the checkout.
+
+build_packages=(g++ cmake ninja-build pkg-config libcli11-dev nlohmann-json3-dev libedit-dev)
+test_packages=(libgtest-dev clang libclang-rt-14-dev clang-format clang-tidy locales)
+bench_packages=(libbenchmark-dev libgmp-dev python3)
+
+# Installs the Debian packages that are not there yet.
+need_packages() {
+  local missing=() package
+  for package in "$@"; do
+    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
+      missing+=("$package")
+  done
+  [ ${#missing[@]} -gt 0 ] || return 0
+  echo "Installing: ${missing[*]}"
+  local become=()
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || {
+      echo "These packages are needed, and neither root nor sudo is there to install them:" >&2
+      echo "  apt-get install ${missing[*]}" >&2
+      exit 2
+    }
+    become=(sudo)
+  fi
+  "${become[@]}" apt-get update -qq
+  DEBIAN_FRONTEND=noninteractive "${become[@]}" apt-get install -y -qq --no-install-recommends \
+    "${missing[@]}" >/dev/null
+}
+
+# build PRESET [TARGET ...]: quiet while all goes well.
+build() {
+  local preset=$1 log
+  shift
+  log=$(mktemp)
+  echo "Building ($preset)..."
+  if ! { cmake --preset "$preset" ${QUORVEX_OPTIONS:-} && cmake --build --preset "$preset" ${1:+--target "$@"}; } \
+      >"$log" 2>&1; then
+    cat "$log" >&2
+    rm -f "$log"
+    exit 1
+  fi
+  rm -f "$log"
+}

@@ -1,0 +1,150 @@
+// The tool as its users meet it: output, messages and exit codes.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "apps/cli/run_tool.h"
+
+namespace quorvex {
+namespace {
+
+using Words = std::vector<std::string>;
+
+struct Tool_Case {
+  Words arguments;
+  std::string input;
+  std::string output;
+  std::string errors;  // some words of it; none at all if empty
+  int exit_code;
+};
+
+void Expect(const Tool_Case& each) {
+  const Tool_Run run = Run_Tool(each.arguments, each.input);
+  std::string shown = "quorvex";
+  for (const std::string& word : each.arguments) shown += " " + word;
+  EXPECT_EQ(run.output.substr(0, 1000), each.output) << shown;
+  EXPECT_EQ(run.exit_code, each.exit_code) << shown << "\n" << run.errors;
+  if (each.errors.empty())
+    EXPECT_EQ(run.errors, "") << shown;
+  else
+    EXPECT_NE(run.errors.find(each.errors), std::string::npos) << shown << "\n" << run.errors;
+}
+
+TEST(CommandLine, CalculatesFormulas) {
+  const std::vector<Tool_Case> cases = {
+      {{"qvxADD(\"12345678901234567890.5\", 1.25)"}, "", "12345678901234567891.75\n", "", 0},
+      {{"=qvxadd(1,2)", "3", "TRUE"}, "", "3\n3\nTRUE\n", "", 0},
+      {{"12345678901234567890.123"}, "", "12345678901234567890.123\n", "", 0},
+      {{"{1,22;333,4}"}, "", "  1  22\n333   4\n", "", 0},
+      {{"-"}, "1\n\n# a note\n#\nqvxADD(1,\r\n#N/A\n-2", "1\n#N/A\n-2\n", "line 5: ", 2},
+      {{}, "qvxADD(1,1)\n", "2\n", "", 0},
+      {{"1", "-", "3"}, "2\n", "1\n2\n3\n", "", 0},
+      // What begins with a minus: a formula if it can be no option.
+      {{"-5"}, "", "-5\n", "", 0},
+      {{"-qvxADD(1,2)"}, "", "-3\n", "", 0},
+      {{"-.5", "-\"7\""}, "", "-0.5\n-7\n", "", 0},
+      {{"--digits", "3", "--", "-qvxADD(1,2.345)"}, "", "-3.345\n", "", 0},
+      {{"-q"}, "", "", "Write -- before a formula", 2},
+      // Errors as results.
+      {{"qvxADD(\"x\",1)"}, "", "#VALUE!\n", "", 1},
+      {{"#N/A"}, "", "#N/A\n", "", 1},
+      {{"\"#VALUE\""}, "", "#VALUE\n", "", 0},
+      {{"qvxSIGN({1,2})", "1"}, "", "1\n", "error: ", 1},
+      {{"qvxSIGN({1,2})", "qvxADD(", "1"}, "", "1\n", "error: ", 2},
+      {{"A1"}, "", "", "A1", 2},
+      {{"qvxADDD(1,2)"}, "", "", "did you mean qvxADD?\n  qvxADDD(1,2)\n  ^", 2},
+      {{"\xFF(1)"}, "", "", "error: ", 2},
+  };
+  for (const Tool_Case& each : cases) Expect(each);
+}
+
+TEST(CommandLine, TakesLocaleAndLimits) {
+  const std::string euros = "qvxADD(\"1.234,5\",1,,TRUE,TRUE)";
+  const std::vector<Tool_Case> cases = {
+      {{"--decimal", ",", "--thousands", ".", "--currency", " \xE2\x82\xAC", "--currency-side",
+        "after", euros},
+       "",
+       "1.235,5 \xE2\x82\xAC\n",
+       "",
+       0},
+      {{"--decimal", ",", "--thousands", ".", "0.5"}, "", "0,5\n", "", 0},
+      {{"--decimal", "--", "--thousands", "-", "1"}, "", "", "error: ", 2},
+      {{"--decimal", ",", "1"}, "", "", "error: ", 2},
+      {{"--locale", "xx_XX", "1"}, "", "", "no locale \"xx_XX\"", 2},
+      {{"--locale", "C", "--decimal", ",", "1"}, "", "", "give it, or the parts", 2},
+      {{"--currency-side", "left", "1"}, "", "", "before or after is needed, not left", 2},
+      {{"--digits", "20", "qvxDEFAULTMAXSD()"}, "", "20\n", "", 0},
+      {{"--digits", "0", "1"}, "", "", "a whole number from 1 to 2147483648", 2},
+      {{"--digits", "2.5", "1"}, "", "", "a whole number", 2},
+      {{"--timeout", "-1", "1"}, "", "", "seconds above 0", 2},
+      {{"--nonsense"}, "", "", "--nonsense", 2},
+      {{"1", "batch"}, "", "", "don't go together", 2},
+  };
+  for (const Tool_Case& each : cases) Expect(each);
+}
+
+TEST(CommandLine, EndsCalculationsThatTakeTooLong) {
+  const std::string sevens(4000000, '7');
+  const std::string formula = "qvxADD(\"" + sevens + "\",\"" + sevens + "\")\n";
+  Expect({{"--timeout", "0.00001"}, formula + "1\n", "1\n", "took longer than 1e-05 s", 1});
+}
+
+TEST(CommandLine, HelpNamesEveryCommand) {
+  const Tool_Run help = Run_Tool({"--help"});
+  EXPECT_EQ(help.exit_code, 0);
+  for (const char* word : {"sheet", "functions", "batch", "--timeout", "Examples:", "Exit code"})
+    EXPECT_NE(help.output.find(word), std::string::npos) << word;
+  for (const char* command : {"sheet", "functions", "batch"}) {
+    const Tool_Run of_command = Run_Tool({command, "--help"});
+    EXPECT_EQ(of_command.exit_code, 0);
+    EXPECT_NE(of_command.output.find(command), std::string::npos) << of_command.output;
+  }
+  EXPECT_EQ(Run_Tool({"--version"}).output.find("quorvex "), 0U);
+}
+
+TEST(CommandLine, ExplainsFunctions) {
+  const Tool_Run list = Run_Tool({"functions"});
+  EXPECT_EQ(list.exit_code, 0);
+  EXPECT_NE(list.output.find("\n  qvxSUBTRACT "), std::string::npos) << list.output;
+
+  const Tool_Run one = Run_Tool({"functions", "qvxadd"});
+  EXPECT_EQ(one.exit_code, 0);
+  for (const char* words : {"qvxADD(number1, number2, [format_negative]", "  format_currency ",
+                            "Example\n  qvxADD(\"12345678901234567890.5\", 1.25)\n"
+                            "  12345678901234567891.75\n"})
+    EXPECT_NE(one.output.find(words), std::string::npos) << one.output;
+
+  Expect({{"functions", "qvxADDD"}, "", "", "did you mean qvxADD?", 2});
+  Expect({{"functions", "zzzzzzzzzz"}, "", "", "there is no function \"zzzzzzzzzz\"\n", 2});
+}
+
+TEST(CommandLine, ReferencePageIsUpToDate) {
+  EXPECT_EQ(Run_Tool({"functions", "--markdown"}).output,
+            File_Text(std::string(QUORVEX_SOURCE) + "/docs/functions.md"))
+      << "write it anew: quorvex functions --markdown > docs/functions.md";
+}
+
+TEST(CommandLine, WritesNoColourIntoFiles) {
+  EXPECT_EQ(Run_Tool({"qvxADD("}, "", {"TERM=xterm"}).errors.find('\033'), std::string::npos);
+}
+
+TEST(CommandLine, FullDiskIsAnError) {
+  const std::string command = std::string(QUORVEX_TOOL) + " 1 > /dev/full 2> /dev/null";
+  EXPECT_EQ(std::system(command.c_str()) >> 8, 1);
+}
+
+TEST(CommandLine, ReaderThatLeavesIsNoError) {
+  const Temporary_Folder folder;
+  std::string formulas;
+  for (int i = 0; i < 50000; ++i) formulas += "qvxADD(1,1)\n";
+  const std::string input = folder.write("formulas", formulas);
+  const std::string errors = (folder.path() / "errors").string();
+  const std::string command = "bash -c 'set -o pipefail; " + std::string(QUORVEX_TOOL) + " - < " +
+                              input + " 2> " + errors + " | head -n 1 > /dev/null'";
+  EXPECT_EQ(std::system(command.c_str()), 0);
+  EXPECT_EQ(File_Text(errors), "");
+}
+
+}  // namespace
+}  // namespace quorvex

@@ -1,0 +1,41 @@
+// Runs the tool as a process of its own.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvex {
+
+struct Tool_Run {
+  std::string output;
+  std::string errors;
+  int exit_code = -1;  // less than 0: ended by that signal
+};
+
+/// Runs the tool in the C locale with this text as its standard input; `environment` adds settings
+/// of the form NAME=value.
+Tool_Run Run_Tool(const std::vector<std::string>& arguments, std::string_view input = {},
+                  const std::vector<std::string>& environment = {});
+
+/// A folder that goes away with all that is in it.
+class Temporary_Folder {
+ public:
+  Temporary_Folder();
+  ~Temporary_Folder();
+  Temporary_Folder(const Temporary_Folder&) = delete;
+  Temporary_Folder& operator=(const Temporary_Folder&) = delete;
+
+  const std::filesystem::path& path() const { return path_; }
+  /// Writes a file in it, and gives its path.
+  std::string write(const std::string& name, std::string_view text) const;
+
+ private:
+  std::filesystem::path path_;
+};
+
+/// The whole of a file; empty if there is none.
+std::string File_Text(const std::filesystem::path& file);
+
+}  // namespace quorvex

@@ -1,0 +1,103 @@
+// `quorvex sheet` as its users meet it.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "apps/cli/run_tool.h"
+
+namespace quorvex {
+namespace {
+
+constexpr const char* prices =
+    "item,price\n"
+    "tea,12345678901234567890.25\n"
+    "milk,0.5\n"
+    "total,\"=qvxADD(B2,B3)\"\n";
+
+TEST(SheetCommand, PrintsTheGrid) {
+  const Temporary_Folder folder;
+  const Tool_Run run = Run_Tool({"sheet", folder.write("prices.csv", prices)});
+  EXPECT_EQ(run.exit_code, 0) << run.errors;
+  EXPECT_NE(run.output.find("total  12345678901234567890.75"), std::string::npos) << run.output;
+  EXPECT_EQ(run.errors, "");
+}
+
+TEST(SheetCommand, CutsOnlyWhenTold) {
+  const Temporary_Folder folder;
+  const Tool_Run run = Run_Tool({"sheet", folder.write("prices.csv", prices), "--width", "8"});
+  EXPECT_NE(run.output.find("1234567\xE2\x80\xA6"), std::string::npos) << run.output;
+}
+
+TEST(SheetCommand, WritesCsv) {
+  const Temporary_Folder folder;
+  const std::string file = folder.write("prices.csv", prices);
+  const std::string calculated =
+      "item,price\ntea,12345678901234567890.25\nmilk,0.5\ntotal,12345678901234567890.75\n";
+  const std::string target = (folder.path() / "out.csv").string();
+  const Tool_Run to_file = Run_Tool({"sheet", file, "-o", target});
+  EXPECT_EQ(to_file.output, "");
+  EXPECT_EQ(File_Text(target), calculated) << to_file.errors;
+  EXPECT_EQ(Run_Tool({"sheet", "-o", "-", file}).output, calculated);
+}
+
+TEST(SheetCommand, DefinesNames) {
+  const Temporary_Folder folder;
+  const std::string file = folder.write("names.csv", "\"=qvxADD(rate,base)\"\n");
+  const Tool_Run run = Run_Tool({"sheet", "--name", "rate=0.25", "--name", "base=B7", file});
+  EXPECT_EQ(run.output, "0.25\n") << run.errors;
+}
+
+TEST(SheetCommand, TellsWhichCellsFailed) {
+  const Temporary_Folder folder;
+  const std::string file = folder.write("bad.csv",
+                                        "=A2,1\n"
+                                        "=A1,\"=qvxADD(1,\"\n"
+                                        "=qvxSIGN(A1:B2),=qvxADD(1)\n");
+  const Tool_Run run = Run_Tool({"sheet", file});
+  EXPECT_EQ(run.exit_code, 1);
+  for (const char* words :
+       {": A1: ", ": A2: ", ": B2: ", ": A3: ", ": B3: ", "A1 -> A2 -> A1", "  =qvxADD(1,\n"})
+    EXPECT_NE(run.errors.find(words), std::string::npos) << words << "\n" << run.errors;
+  EXPECT_NE(run.output.find("#CIRCULAR!"), std::string::npos) << run.output;
+}
+
+TEST(SheetCommand, ManyFailuresAreCounted) {
+  const Temporary_Folder folder;
+  std::string rows;
+  for (int row = 0; row < 70; ++row) rows += "=nowhere\n";
+  const Tool_Run run = Run_Tool({"sheet", folder.write("many.csv", rows)});
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_NE(run.errors.find("and 20 more cells"), std::string::npos) << run.errors;
+}
+
+void Expect_Refusal(const std::vector<std::string>& arguments) {
+  std::vector<std::string> words = {"sheet"};
+  for (const std::string& argument : arguments) words.push_back(argument);
+  const Tool_Run run = Run_Tool(words);
+  EXPECT_EQ(run.exit_code, 2) << words.back();
+  EXPECT_EQ(run.errors.find("error: "), 0U) << run.errors;
+  EXPECT_EQ(run.output, "") << words.back();
+}
+
+TEST(SheetCommand, RefusesWhatIsNoWorksheet) {
+  const Temporary_Folder folder;
+  Expect_Refusal({});
+  Expect_Refusal({folder.path().string()});
+  Expect_Refusal({(folder.path() / "missing.csv").string()});
+  Expect_Refusal({folder.write("binary.csv", std::string("a\0b", 3))});
+  Expect_Refusal({folder.write("quote.csv", "\"never closed\n1,2\n")});
+}
+
+TEST(SheetCommand, RefusesBadOptions) {
+  const Temporary_Folder folder;
+  const std::string good = folder.write("good.csv", "1\n");
+  Expect_Refusal({good, "--name", "no equals"});
+  Expect_Refusal({good, "--name", "x=qvxADD("});
+  Expect_Refusal({good, "--name", "A1=B2"});
+  Expect_Refusal({good, "--width", "0"});
+  Expect_Refusal({good, "-o", (folder.path() / "no" / "folder.csv").string()});
+}
+
+}  // namespace
+}  // namespace quorvex

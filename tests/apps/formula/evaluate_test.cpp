@@ -1,0 +1,107 @@
+// What formulas give without a worksheet.
+#include "formula/evaluate.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "host/run_time_failure.h"
+#include "support/locales.h"
+
+namespace quorvex {
+namespace {
+
+std::string Shown(const std::string& formula) {
+  cls_Quorvex engine;
+  return Render(std::get<HostValue>(Evaluate_Alone(engine, Parse_Formula(formula))));
+}
+
+TEST(EvaluateAlone, GivesWhatTheFunctionsGive) {
+  const Locale_Guard locale(Point_Locale());
+  struct {
+    const char* formula;
+    const char* shown;
+  } const cases[] = {
+      {"qvxADD(1,2)", "3"},
+      {"qvxadd(\"0.1\",0.2)", "0.3"},
+      {"qvxADD(12345678901234567890.123,-0.1234567890123456789)",
+       "12345678901234567889.9995432109876543211"},
+      {"qvxADD(12345678901234567E5,1)", "1234567890123456700001"},
+      {"qvxADD(1000,1,,TRUE)", "1,001"},
+      {"qvxADD(qvxADD(1,2),qvxSUBTRACT(10,4))", "9"},
+      {"qvxADD(#N/A,1)", "#VALUE!"},
+      {"qvxISNUMBER(\"abc\")", "FALSE"},
+      {"-qvxADD(1,2)", "-3"},
+      {"{1,\"a\";TRUE,#NUM!}", "{1,\"a\";TRUE,#NUM!}"},
+      {"\"as it is\"", "as it is"},
+      {"#null!", "#NULL!"},
+      {"1.50", "1.5"},
+      {"false", "FALSE"},
+  };
+  for (const auto& [formula, shown] : cases) EXPECT_EQ(Shown(formula), shown) << formula;
+}
+
+TEST(EvaluateAlone, NegatesTextWithoutTouchingItsDigits) {
+  const Locale_Guard locale(Point_Locale());
+  struct {
+    const char* formula;
+    const char* shown;
+  } const cases[] = {
+      {"-\"00123456789012345678.90\"", "-00123456789012345678.90"},
+      {"-\"-5\"", "5"},
+      {"-\"(5)\"", "5"},
+      {"--\"5\"", "5"},
+      {"-\"$5\"", "-$5"},
+      {"-\"$-5\"", "5"},
+      {"-\"'5'\"", "-5"},
+      {"-(5)", "-5"},
+      {"--0", "0"},
+      {"-\"abc\"", "#VALUE!"},
+      {"-\"\"", "#VALUE!"},
+      {"-TRUE", "#VALUE!"},
+      {"-#N/A", "#N/A"},
+      {"-{1,2}", "#VALUE!"},
+  };
+  for (const auto& [formula, shown] : cases) EXPECT_EQ(Shown(formula), shown) << formula;
+}
+
+TEST(EvaluateAlone, PassesRecordsThroughAtTheTopOnly) {
+  const Locale_Guard locale(Point_Locale());
+  cls_Quorvex engine;
+  const Call_Result record = Evaluate_Alone(engine, Parse_Formula("Restrictionator(2,TRUE,,,7)"));
+  ASSERT_TRUE(std::holds_alternative<Record>(record));
+  EXPECT_EQ(std::get<Record>(record).fields[4].second.number(), 7);
+  EXPECT_EQ(Shown("qvxADD(Restrictionator(),1)"), "#VALUE!");
+  EXPECT_EQ(Shown("-Restrictionator()"), "#VALUE!");
+}
+
+TEST(EvaluateAlone, RefusesCellsAndNamesAtTheirPlace) {
+  const Locale_Guard locale(Point_Locale());
+  cls_Quorvex engine;
+  for (const char* formula : {"qvxADD(1, Data!A1)", "qvxADD(1, A1:B2)", "qvxADD(1, rate)"}) {
+    try {
+      Evaluate_Alone(engine, Parse_Formula(formula));
+      ADD_FAILURE() << formula;
+    } catch (const Syntax_Error& error) {
+      EXPECT_EQ(error.position(), 10U) << formula;
+      EXPECT_NE(std::string(error.what()).find("no worksheet here"), std::string::npos);
+    }
+  }
+}
+
+TEST(EvaluateAlone, LetsFailuresThrough) {
+  const Locale_Guard locale(Point_Locale());
+  cls_Quorvex engine;
+  EXPECT_THROW(Evaluate_Alone(engine, Parse_Formula("qvxISEQUAL({1,2},1)")), Run_Time_Failure);
+}
+
+TEST(Render, ShowsNumbersInTheLocale) {
+  const Locale_Guard locale(Comma_Locale());
+  EXPECT_EQ(Shown("qvxADD(1.5,1)"), "2,5");
+  EXPECT_EQ(Render(1.5), "1,5");
+  EXPECT_EQ(Render(HostValue::Empty()), "");
+  EXPECT_EQ(Render(1e300 * 1e300), "#NUM!");
+}
+
+}  // namespace
+}  // namespace quorvex

@@ -1,0 +1,144 @@
+// Comma-separated values in and out.
+#include "sheet/csv.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <string>
+
+#include "support/environment.h"
+#include "support/locales.h"
+
+namespace quorvex {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string Written(const Worksheet& sheet) {
+  std::ostringstream out;
+  Write_Csv(out, sheet);
+  return out.str();
+}
+
+std::string Contents(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  std::ostringstream text;
+  text << in.rdbuf();
+  return text.str();
+}
+
+TEST(Csv, ComesOutAsItWentIn) {
+  const Locale_Guard locale(Point_Locale());
+  struct {
+    const char* in;
+    const char* out;
+  } const cases[] = {
+      {"", ""},
+      {"a,b\nc,d", "a,b\nc,d\n"},
+      {"a,b\r\nc,d\r\n", "a,b\nc,d\n"},
+      {"\xEF\xBB\xBF"
+       "a",
+       "a\n"},
+      {"a\n\n,b\n", "a,\n,\n,b\n"},
+      {"\"a,b\",\"say \"\"x\"\"\"\n\"two\nlines\"\n",
+       "\"a,b\",\"say \"\"x\"\"\"\n\"two\nlines\",\n"},
+      {"\"\",x", ",x\n"},
+      {"12345678901234567890.50,1.50,true", "12345678901234567890.50,1.5,TRUE\n"},
+      {"# a note, with \"marks\n1", "\"# a note, with \"\"marks\"\n1\n"},
+      {"\"# items\",price\n#5,#N/A", "\"# items\",price\n\"#5\",\"#N/A\"\n"},
+      {"\" a\",b ", "\" a\",\"b \"\n"},
+      {"'=x,ä€", "=x,ä€\n"},
+      {"\r\r\nx", "\n\nx\n"},
+  };
+  for (const auto& [in, out] : cases) {
+    Worksheet sheet("Sheet1");
+    Read_Csv(in, "test.csv", sheet);
+    EXPECT_EQ(Written(sheet), out) << in;
+  }
+}
+
+TEST(Csv, KeepsEveryTypedDigitAndEveryFormula) {
+  const Locale_Guard locale(Point_Locale());
+  Worksheet sheet("Sheet1");
+  Read_Csv("\"=qvxADD(A2,\"\"1\"\")\"\n3.14159265358979323846264338327950288\n", "test.csv", sheet);
+  EXPECT_EQ(sheet.typed({1, 1}), "=qvxADD(A2,\"1\")");
+  EXPECT_TRUE(sheet.value({2, 1}).is_text());
+  EXPECT_EQ(sheet.shown({2, 1}), "3.14159265358979323846264338327950288");
+}
+
+TEST(Csv, NamesThePlaceOfABrokenQuote) {
+  struct {
+    std::string text;
+    const char* message;
+  } const cases[] = {
+      {"a,b\nä,\"open", "t.csv, line 2, column 3: this quote mark is never closed"},
+      {"\"a\"b,c", "t.csv, line 1, column 4: text behind a closing quote mark"},
+      {"\"two\nlines\",=f(\"x", "t.csv, line 2, column 11: a quote mark inside a cell"},
+      {std::string("a\0b", 3), "t.csv is a binary file"},
+      {"a\n\xFF", "t.csv is not UTF-8 text: byte 3"},
+      {std::string(maximum_columns, ',') + "x", "line 1, column 16385: a worksheet has no more"},
+      {std::string(maximum_rows, '\n') + "x", "line 1048577, column 1: a worksheet has no more"},
+  };
+  for (const auto& [text, message] : cases) {
+    Worksheet sheet("Sheet1");
+    try {
+      Read_Csv(text, "t.csv", sheet);
+      ADD_FAILURE() << message;
+    } catch (const File_Error& error) {
+      EXPECT_NE(std::string(error.what()).find(message), std::string::npos) << error.what();
+    }
+  }
+}
+
+class CsvFiles : public testing::Test {
+ protected:
+  std::string complaint(const fs::path& file, bool saving = false) {
+    try {
+      saving ? Save_Csv(file, sheet) : Load_Csv(file, sheet);
+    } catch (const File_Error& error) {
+      return error.what();
+    }
+    return "";
+  }
+
+  const Temporary_Folder temporary;
+  const fs::path& folder = temporary.path();
+  Worksheet sheet{"Sheet1"};
+};
+
+TEST_F(CsvFiles, AreReplacedAsAWhole) {
+  const fs::path file = folder / "out.csv";
+  std::ofstream(file) << "much longer than what comes";
+  fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
+  fs::create_symlink("out.csv", folder / "link.csv");
+  sheet.set({1, 2}, "5");
+  Save_Csv(folder / "link.csv", sheet);
+  EXPECT_EQ(Contents(file), ",5\n");
+  EXPECT_TRUE(fs::is_symlink(folder / "link.csv"));
+  EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 2) << "nothing left lying about";
+  Worksheet again("Again");
+  Load_Csv(file, again);
+  EXPECT_EQ(again.shown({1, 2}), "5");
+}
+
+TEST_F(CsvFiles, ThatCannotBeUsedAreRefusedInOneLine) {
+  std::ofstream(folder / "binary") << std::string(
+      "\x7F"
+      "ELF\0\0",
+      6);
+  EXPECT_EQ(complaint(folder / "none.csv"),
+            (folder / "none.csv").string() + ": there is no such file.");
+  EXPECT_EQ(complaint(folder), folder.string() + " is a directory, not a file.");
+  EXPECT_EQ(complaint(folder / "binary"),
+            (folder / "binary").string() + " is a binary file, not comma-separated text.");
+  EXPECT_EQ(complaint(folder, true), folder.string() + " is a directory, not a file.");
+  EXPECT_NE(complaint(folder / "none" / "out.csv", true).find("out.csv"), std::string::npos);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 1);
+}
+
+}  // namespace
+}  // namespace quorvex

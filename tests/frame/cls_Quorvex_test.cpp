@@ -1,0 +1,90 @@
+// What the public methods do beside the values that they give.
+#include "frame/cls_Quorvex.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "frame/catalogue.h"
+#include "support/failures.h"
+#include "support/locales.h"
+#include "support/surroundings.h"
+
+namespace quorvex {
+namespace {
+
+TEST(ClsQuorvex, OnlyIsGreaterReplacesTheCallersValuesByTheirText) {
+  cls_Quorvex engine;
+  HostValue number1 = 1e15;
+  HostValue number2 = HostValue::Empty();
+  EXPECT_EQ(engine.qvxISLESS(number1, number2).text(), "#NUM!");
+  EXPECT_EQ(number1.kind(), HostValue::Kind::number);
+  EXPECT_EQ(engine.qvxISGREATER(number1, number2).text(), "#NUM!");
+  ASSERT_TRUE(number1.is_text() && number2.is_text());
+  EXPECT_EQ(number1.text(), "1E+15");
+  EXPECT_EQ(number2.text(), "");
+}
+
+// Sets the default limit until the end of the scope.
+class Default_Guard {
+ public:
+  explicit Default_Guard(double digits) { Set_Default_MaxSD(digits); }
+  ~Default_Guard() { Set_Default_MaxSD(before_); }
+  Default_Guard(const Default_Guard&) = delete;
+  Default_Guard& operator=(const Default_Guard&) = delete;
+
+ private:
+  double before_ = Default_MaxSD();
+};
+
+TEST(ClsQuorvex, TheDefaultLimitHoldsForCallsThatGiveNone) {
+  cls_Quorvex engine;
+  EXPECT_EQ(engine.qvxDEFAULTMAXSD().number(), 100);
+  const Default_Guard guard(3);
+  EXPECT_EQ(engine.qvxDEFAULTMAXSD().number(), 3);
+  EXPECT_EQ(engine.qvxADD("123456789", 0), "123460000");
+  EXPECT_EQ(engine.qvxFORMAT("123456789"), "123500000");
+  EXPECT_EQ(engine.PublicRestrictionatorCaller().maxSD, 3);
+  EXPECT_EQ(engine.qvxADD("123456789", 0, Missing, Missing, Missing, Missing, 5), "123456800");
+  EXPECT_EQ(engine.qvxISEQUAL("123456789", "123456788").text(), "False");
+}
+
+TEST(ClsQuorvex, FollowsTheLocaleAtEachCall) {
+  cls_Quorvex engine;
+  const auto sum = [&] { return engine.qvxADD(1234567.5, "0", 2, true, true); };
+  const Locale_Guard before(Narrow_Space_Locale());
+  EXPECT_EQ(sum(), "1\u202F234\u202F567,5 \u20AC");
+  const Locale_Guard after(Point_Locale());
+  EXPECT_EQ(sum(), "$1,234,567.5");
+}
+
+TEST(ClsQuorvex, ABreakLeavesTheCallAndTheNextOneIsSound) {
+  cls_Quorvex engine;
+  const std::string nines(3 * digits_between_yields, '9');
+  {
+    const Interruption_Guard impatient;
+    EXPECT_EQ(Failure_Of([&] { engine.qvxADD(nines, nines); }), Failure_Number::interrupted);
+    EXPECT_EQ(Failure_Of([&] { engine.qvxSUBTRACT("0." + nines, "-" + nines); }),
+              std::nullopt);  // nothing overlaps, so no digits are worked on
+    EXPECT_EQ(Failure_Of([&] { engine.qvxSUBTRACT("0." + nines, "0." + nines + "1"); }),
+              Failure_Number::interrupted);
+  }
+  EXPECT_EQ(engine.qvxADD(nines, 1), "1" + std::string(nines.size(), '0'));
+}
+
+TEST(ClsQuorvex, MemoryThatCantBeHadIsAFailureWhereNoTokenStandsForIt) {
+  const Memory_Guard poor(0);
+  cls_Quorvex engine;
+  HostValue greater = "1E+2000000000";
+  HostValue one = 1;
+  EXPECT_EQ(engine.qvxADD("1E+2000000000", 1), "#VALUE!");
+  EXPECT_EQ(engine.qvxFORMAT("1E-2000000000"), "#VALUE!");
+  EXPECT_EQ(engine.qvxISGREATER(greater, one).text(), "#NUM!");
+  EXPECT_EQ(Failure_Of([&] {
+              engine.qvxFORMAT("5", Missing, Missing, Missing, Missing, Missing, 2000000000);
+            }),
+            Failure_Number::out_of_memory);
+}
+
+}  // namespace
+}  // namespace quorvex

@@ -1,0 +1,46 @@
+// Any bytes are either refused at a place within them, or a formula that is written and read back
+// as the same one.
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <string_view>
+
+#include "formula/formula.h"
+#include "host/platform.h"
+
+namespace {
+
+void Require(bool condition, const char* complaint, std::string_view about) {
+  if (condition) return;
+  std::cerr << complaint << ": " << about << '\n';
+  std::abort();
+}
+
+void Check_Mark(std::string_view text, std::size_t position) {
+  const std::string marked = quorvex::Mark_Place(text, position);
+  Require(marked.ends_with('^') && marked.size() < 1000, "no short mark", marked);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  quorvex::Current_Platform().locale = quorvex::Fixed_Locale({});
+  const std::string text(data, data + size);
+  std::string written;
+  try {
+    written = quorvex::Formula_Text(quorvex::Parse_Formula(text));
+  } catch (const quorvex::Syntax_Error& error) {
+    Require(error.position() <= size, "the place lies outside", error.what());
+    Check_Mark(text, error.position());
+    return 0;
+  }
+  try {
+    const std::string again = quorvex::Formula_Text(quorvex::Parse_Formula(written));
+    Require(again == written, "another formula came back", again);
+  } catch (const quorvex::Syntax_Error& error) {
+    Require(false, "what was written can't be read", error.what());
+  }
+  return 0;
+}

@@ -1,0 +1,174 @@
+// Memory, the message box, and replacing what the platform offers.
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <fstream>
+#include <string>
+
+#include "host/platform/posix.h"
+#include "support/failures.h"
+#include "support/locales.h"
+#include "support/surroundings.h"
+
+namespace quorvex {
+namespace {
+
+constexpr double megabyte = 1048576;
+
+TEST(RequireMemory, RefusesOnlyWhatIsLargeAndNotThere) {
+  const Memory_Guard memory(100 * 1048576);
+  for (const double bytes : {0.0, -1.0, 63 * megabyte, 100 * megabyte})
+    EXPECT_EQ(Failure_Of([&] { Require_Memory(bytes); }), std::nullopt) << bytes;
+  for (const double bytes : {101 * megabyte, 1E300, HUGE_VAL, std::nan("")})
+    EXPECT_EQ(Failure_Of([&] { Require_Memory(bytes); }), Failure_Number::out_of_memory) << bytes;
+}
+
+TEST(RequireMemory, GrantsALittleUnaskedAndSaysHowMuchIsMissing) {
+  const Memory_Guard memory(0);
+  EXPECT_EQ(Failure_Of([] { Require_Memory(63 * megabyte); }), std::nullopt);
+  std::string message;
+  try {
+    Require_Memory(3 * 1024 * megabyte);
+  } catch (const Run_Time_Failure& failure) {
+    message = failure.what();
+  }
+  EXPECT_EQ(message, "There is not enough memory: this needs 3 GB, and 0 MB are free.");
+}
+
+TEST(SystemMemory, IsMoreThanATestNeedsAndLessThanThereCanBe) {
+  const std::size_t available = System_Memory()->available_bytes();
+  EXPECT_GT(available, std::size_t{16} << 20U);
+#ifdef __linux__
+  EXPECT_LT(available, std::size_t{1} << 50U);
+#endif
+}
+
+TEST(SystemMemory, KeepsWithinTheLimitOfTheProcess) {
+  const std::size_t most = std::size_t{256} << 20U;
+  const pid_t child = fork();
+  ASSERT_GE(child, 0);
+  if (child == 0) {
+    std::size_t pages = 0;
+    std::ifstream("/proc/self/statm") >> pages;
+    const rlim_t limit = pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE)) + most;
+    const rlimit limits{limit, RLIM_INFINITY};
+    const bool set = setrlimit(RLIMIT_AS, &limits) == 0;
+    const std::size_t available = System_Memory()->available_bytes();
+    _exit(set && available > most / 2 && available <= most ? 0 : 1);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  EXPECT_EQ(status, 0);
+}
+
+/// A terminal of two ends: what is typed at the one is read at the other.
+class Terminal {
+ public:
+  Terminal() : keyboard_(posix_openpt(O_RDWR | O_NOCTTY)) {
+    grantpt(keyboard_);
+    unlockpt(keyboard_);
+    screen_ = open(ptsname(keyboard_), O_RDWR | O_NOCTTY);
+  }
+  ~Terminal() {
+    close(screen_);
+    close(keyboard_);
+  }
+  Terminal(const Terminal&) = delete;
+  Terminal& operator=(const Terminal&) = delete;
+
+  int end() const { return screen_; }
+  void type(std::string_view keys) const {
+    ASSERT_EQ(write(keyboard_, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
+  }
+  /// Whether the text appears; what was typed is echoed before it.
+  bool shows(std::string_view text) const {
+    std::string screen;
+    while (screen.find(text) == std::string::npos) {
+      pollfd ready{keyboard_, POLLIN, 0};
+      char piece[4096];
+      const ssize_t got = poll(&ready, 1, 5000) == 1 ? read(keyboard_, piece, sizeof piece) : 0;
+      if (got <= 0) return false;
+      screen.append(piece, static_cast<std::size_t>(got));
+    }
+    return true;
+  }
+
+ private:
+  int keyboard_;
+  int screen_ = -1;
+};
+
+TEST(MessageBox, AsksOnATerminal) {
+  const struct {
+    const char* keys;
+    Message_Answer answer;
+  } cases[] = {{"y\n", Message_Answer::yes},
+               {"YES\n", Message_Answer::yes},
+               {"n\n", Message_Answer::no},
+               {"\n", Message_Answer::no},
+               {"perhaps\nyes\n", Message_Answer::yes},
+               {"\x04", Message_Answer::no}};
+  for (const auto& c : cases) {
+    const Terminal terminal;
+    terminal.type(c.keys);
+    const auto box = Terminal_Message_Box(terminal.end(), terminal.end());
+    EXPECT_EQ(box->show("Title", "Go on?", Message_Icon::question, Message_Buttons::yes_no),
+              c.answer)
+        << c.keys;
+    EXPECT_TRUE(terminal.shows("Title\r\nGo on?\r\n")) << c.keys;
+  }
+}
+
+TEST(MessageBox, ShowsAMessageWithoutWaiting) {
+  const Terminal terminal;
+  const auto box = Terminal_Message_Box(terminal.end(), terminal.end());
+  EXPECT_EQ(box->show("Quorvex", "Digits only.", Message_Icon::error, Message_Buttons::ok),
+            Message_Answer::ok);
+  EXPECT_TRUE(terminal.shows("Quorvex: error\r\nDigits only.\r\n"));
+}
+
+TEST(MessageBox, WithoutATerminalAnswersAsNobodyWould) {
+  int ends[2];
+  ASSERT_EQ(pipe(ends), 0);
+  ASSERT_EQ(write(ends[1], "y\n", 2), 2);
+  const auto box = Terminal_Message_Box(ends[0], ends[1]);
+  EXPECT_EQ(box->show("T", "?", Message_Icon::question, Message_Buttons::yes_no),
+            Message_Answer::no);
+  EXPECT_EQ(box->show("T", "!", Message_Icon::none, Message_Buttons::ok), Message_Answer::ok);
+  char kept[8];
+  EXPECT_EQ(read(ends[0], kept, sizeof kept), 2);
+  close(ends[0]);
+  close(ends[1]);
+}
+
+TEST(Platform, HasAWorkingDefaultOfEverything) {
+  const Platform platform = Default_Platform();
+  EXPECT_EQ(Locale_Problem(platform.locale->current()), std::nullopt);
+  EXPECT_EQ(platform.letters->capital(U'\u00E9'), U'\u00C9');
+  platform.yielder->yield();
+  bool ran = false;
+  const auto timer = platform.timers->make([&] { ran = true; });
+  timer->arm(std::chrono::milliseconds(0));
+  platform.timers->run_due();
+  EXPECT_TRUE(ran);
+}
+
+TEST(Platform, ALocaleInForceEndsWithItsScope) {
+  const std::string before = Current_Locale().decimal_separator;
+  {
+    const Locale_Guard outer(Comma_Locale());
+    EXPECT_EQ(Current_Locale().decimal_separator, ",");
+    const Locale_Guard inner(Apostrophe_Locale());
+    EXPECT_EQ(Current_Locale().thousands_separator, "\u2019");
+  }
+  EXPECT_EQ(Current_Locale().decimal_separator, before);
+}
+
+}  // namespace
+}  // namespace quorvex

@@ -1,0 +1,75 @@
+// Random number text, biased to where digit arithmetic goes wrong.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <random>
+#include <string>
+#include <string_view>
+
+namespace quorvex {
+
+class Random_Numbers {
+ public:
+  explicit Random_Numbers(unsigned seed) : random_(seed) {}
+
+  std::size_t below(std::size_t limit) { return random_() % limit; }
+  bool one_in(std::size_t count) { return below(count) == 0; }
+  char one_of(std::string_view characters) { return characters[below(characters.size())]; }
+
+  /// Lengths around those of machine words and powers of two, and small ones.
+  std::size_t length(std::size_t most) {
+    if (one_in(2)) return std::min(below(20), most);
+    const std::size_t power = std::size_t{1} << below(13);
+    return std::min(power + below(4) - std::min<std::size_t>(power, 2), most);
+  }
+
+  /// Runs of one digit, of nines and zeros, and of any digits.
+  std::string digits(std::size_t length) {
+    constexpr std::string_view sets[] = {"0", "9", "09", "0123456789", "5", "49", "1"};
+    std::string text;
+    while (text.size() < length) {
+      const std::string_view set = sets[below(std::size(sets))];
+      const std::size_t run = 1 + below(one_in(3) ? 10 : length);
+      for (std::size_t i = 0; i < run && text.size() < length; ++i) text += one_of(set);
+    }
+    return text;
+  }
+
+  /// Digits with or without a fraction and a minus: at least one digit, "." for the separator.
+  std::string number(std::size_t most) {
+    std::string text = digits(1 + length(most));
+    if (one_in(2)) text += "." + digits(1 + length(most));
+    if (one_in(2)) text.insert(0, 1, '-');
+    return text;
+  }
+
+  /// A number whose sum or difference with `other` is a corner: equal, opposite, or such that a
+  /// carry runs through all digits.
+  std::string neighbour(const std::string& other) {
+    std::string text = other;
+    for (char& character : text) {
+      if (character >= '0' && character <= '9' && complement_) {
+        character = static_cast<char>('9' - character + '0');
+      }
+    }
+    complement_ = !complement_;
+    if (one_in(2)) {
+      if (text.front() == '-') {
+        text.erase(0, 1);
+      } else {
+        text.insert(0, 1, '-');
+      }
+    }
+    char& last = text.back();
+    if (one_in(2) && last >= '0' && last < '9') ++last;
+    return text;
+  }
+
+ private:
+  std::mt19937 random_;
+  bool complement_ = false;
+};
+
+}  // namespace quorvex

@@ -1,0 +1,58 @@
+// Yielders and memory gauges for tests, in force for a scope.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <utility>
+
+#include "host/platform.h"
+#include "host/run_time_failure.h"
+
+namespace quorvex {
+
+/// Breaks a calculation off when it yields.
+class Interrupting_Yielder final : public Yielder {
+ public:
+  void yield() override {
+    throw Run_Time_Failure(Failure_Number::interrupted, "The user wants it to end.");
+  }
+};
+
+/// Says that there is so much memory, and never less.
+class Fixed_Memory final : public Memory_Gauge {
+ public:
+  explicit Fixed_Memory(std::size_t bytes) : bytes_(bytes) {}
+  std::size_t available_bytes() override { return bytes_; }
+
+ private:
+  std::size_t bytes_;
+};
+
+/// Breaks every calculation off that yields, until the end of the scope.
+class Interruption_Guard {
+ public:
+  Interruption_Guard()
+      : before_(
+            std::exchange(Current_Platform().yielder, std::make_shared<Interrupting_Yielder>())) {}
+  ~Interruption_Guard() { Current_Platform().yielder = std::move(before_); }
+  Interruption_Guard(const Interruption_Guard&) = delete;
+  Interruption_Guard& operator=(const Interruption_Guard&) = delete;
+
+ private:
+  std::shared_ptr<Yielder> before_;
+};
+
+/// Puts a limit on memory until the end of the scope.
+class Memory_Guard {
+ public:
+  explicit Memory_Guard(std::size_t bytes)
+      : before_(std::exchange(Current_Platform().memory, std::make_shared<Fixed_Memory>(bytes))) {}
+  ~Memory_Guard() { Current_Platform().memory = std::move(before_); }
+  Memory_Guard(const Memory_Guard&) = delete;
+  Memory_Guard& operator=(const Memory_Guard&) = delete;
+
+ private:
+  std::shared_ptr<Memory_Gauge> before_;
+};
+
+}  // namespace quorvex
