@@ -60,7 +60,7 @@ TEST(DoOperation, LetsABreakPassItsHandler) {
 // A range of one cell, for operands that are references.
 class Cell final : public Range {
  public:
-  explicit Cell(HostValue value, std::size_t rows = 1) : value_(std::move(value)), rows_(rows) {}
+  explicit Cell(const HostValue& value, std::size_t rows = 1) : value_(value), rows_(rows) {}
   std::size_t rows() const override { return rows_; }
   std::size_t columns() const override { return 1; }
   HostValue cell(std::size_t, std::size_t) const override { return value_; }
@@ -70,8 +70,8 @@ class Cell final : public Range {
   std::size_t rows_;
 };
 
-HostValue Reference(HostValue value, std::size_t rows = 1) {
-  return std::shared_ptr<const Range>(std::make_shared<Cell>(std::move(value), rows));
+HostValue Reference(const HostValue& value, std::size_t rows = 1) {
+  return std::shared_ptr<const Range>(std::make_shared<Cell>(value, rows));
 }
 
 TEST(DoOperation, ReadsARangeOfOneCellAsThatCell) {

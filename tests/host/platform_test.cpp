@@ -22,7 +22,7 @@ namespace {
 constexpr double megabyte = 1048576;
 
 TEST(RequireMemory, RefusesOnlyWhatIsLargeAndNotThere) {
-  const Memory_Guard memory(100 * 1048576);
+  const Memory_Guard memory(std::size_t{100} << 20U);
   for (const double bytes : {0.0, -1.0, 63 * megabyte, 100 * megabyte})
     EXPECT_EQ(Failure_Of([&] { Require_Memory(bytes); }), std::nullopt) << bytes;
   for (const double bytes : {101 * megabyte, 1E300, HUGE_VAL, std::nan("")})

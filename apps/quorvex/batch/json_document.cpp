@@ -65,7 +65,7 @@ std::string Plain_Message(std::string_view message) {
 // Builds the document from the parser's events. The names are those that the parser calls.
 class Builder {
  public:
-  explicit Builder(Json_Document& document) : document_(document) {}
+  Builder(json& root, std::string& id) : root_(root), id_(id) {}
 
   bool null() { return scalar("null", nullptr); }
   bool boolean(bool value) { return scalar(value ? "true" : "false", value); }
@@ -102,8 +102,7 @@ class Builder {
 
   bool parse_error(std::size_t position, const std::string& /*token*/,
                    const nlohmann::detail::exception& error) {
-    const std::string number_prefix = "number overflow";
-    if (std::string_view(error.what()).find(number_prefix) != std::string_view::npos)
+    if (std::string_view(error.what()).find("number overflow") != std::string_view::npos)
       throw Invalid_Request("a number is too large for a 64-bit float");
     throw Invalid_Request("not well-formed JSON at byte " + std::to_string(position) + ": " +
                           Plain_Message(error.what()));
@@ -121,13 +120,15 @@ class Builder {
   }
 
   bool start(char bracket, json&& container) {
-    if (++depth_ > maximum_json_depth)
+    if (++depth_ > maximum_json_depth) {
       throw Invalid_Request("more than " + std::to_string(maximum_json_depth) +
                             " levels of arrays and objects");
-    if (in_id_)
+    }
+    if (in_id_) {
       echo_.open(bracket);
-    else
+    } else {
       open_.push_back(put(std::move(container)));
+    }
     return true;
   }
 
@@ -144,29 +145,31 @@ class Builder {
   // Puts a value where the next one belongs, and tells where it stands now.
   template <typename Value>
   json* put(Value&& value) {
-    json* place = &document_.root;
-    if (!open_.empty() && open_.back()->is_array())
+    json* place = &root_;
+    if (!open_.empty() && open_.back()->is_array()) {
       place = &open_.back()->get_ref<json::array_t&>().emplace_back();
-    else if (!open_.empty())
+    } else if (!open_.empty()) {
       place = member_;
+    }
     *place = std::forward<Value>(value);
     return place;
   }
 
   bool start_id() {
-    if (!document_.id.empty()) throw Invalid_Request("the key \"id\" is given twice");
+    if (!id_.empty()) throw Invalid_Request("the key \"id\" is given twice");
     in_id_ = true;
     return true;
   }
 
   bool finish_id() {
     if (!echo_.done()) return true;
-    document_.id = std::move(echo_.text());
+    id_ = std::move(echo_.text());
     in_id_ = false;
     return true;
   }
 
-  Json_Document& document_;
+  json& root_;
+  std::string& id_;
   std::vector<json*> open_;
   json* member_ = nullptr;
   Echo echo_;
@@ -181,8 +184,8 @@ bool Is_Plain(char character) {
 
 }  // namespace
 
-void Parse_Json(std::string_view line, Json_Document& document) {
-  Builder builder(document);
+void Parse_Json(std::string_view line, json& root, std::string& id) {
+  Builder builder(root, id);
   json::sax_parse(line, &builder);
 }
 

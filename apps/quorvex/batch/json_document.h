@@ -18,17 +18,11 @@ class Invalid_Request : public std::runtime_error {
 /// keeps the stack safe from hostile input.
 inline constexpr std::size_t maximum_json_depth = 64;
 
-/// One parsed line. The value of the top level's "id" is not kept as a value but as JSON text, so
-/// that it goes back to the sender with every digit and in the order in which it came.
-struct Json_Document {
-  nlohmann::json root;
-  std::string id;  // empty if there is none
-};
-
-/// Parses a line. Throws `Invalid_Request` for broken JSON, invalid UTF-8, a key given twice, a
-/// number too large for a 64-bit float, and for too many levels; `document.id` is then set if the
-/// id stood before the fault.
-void Parse_Json(std::string_view line, Json_Document& document);
+/// Parses a line into `root`. The value of the top level's "id" goes to `id` instead, as JSON text,
+/// so that it returns to the sender with every digit and in the order in which it came. Throws
+/// `Invalid_Request` for broken JSON, invalid UTF-8, a key given twice, a number too large for a
+/// 64-bit float, and for too many levels; `id` is then set if it stood before the fault.
+void Parse_Json(std::string_view line, nlohmann::json& root, std::string& id);
 
 /// A text as a JSON string, quotes included. Bytes that are no UTF-8 become replacement characters.
 void Append_Json_String(std::string& out, std::string_view text);

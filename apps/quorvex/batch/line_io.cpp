@@ -44,14 +44,15 @@ void Line_Writer::flush() {
   std::string_view left = pending;
   while (!left.empty()) {
     const ssize_t written = ::write(descriptor_, left.data(), left.size());
-    if (written >= 0)
+    if (written >= 0) {
       left.remove_prefix(static_cast<std::size_t>(written));
-    else if (errno == EPIPE)
+    } else if (errno == EPIPE) {
       throw Output_Closed();
-    else if (errno == EAGAIN)
+    } else if (errno == EAGAIN) {
       Wait_For(descriptor_, POLLOUT);
-    else if (errno != EINTR)
+    } else if (errno != EINTR) {
       throw std::system_error(errno, std::generic_category(), "cannot write the output");
+    }
   }
 }
 
@@ -96,10 +97,11 @@ void Line_Reader::read_piece() {
   const int error = errno;
   buffer_.resize(held + static_cast<std::size_t>(std::max<ssize_t>(got, 0)));
   at_end_ = got == 0;
-  if (got < 0 && error == EAGAIN)
+  if (got < 0 && error == EAGAIN) {
     Wait_For(descriptor_, POLLIN);
-  else if (got < 0 && error != EINTR)
+  } else if (got < 0 && error != EINTR) {
     throw std::system_error(error, std::generic_category(), "cannot read the input");
+  }
 }
 
 void Line_Reader::drop_line() {

@@ -105,14 +105,13 @@ void Read_Document(json& root, Request& request) {
 
 Request Read_Request(std::string_view line) {
   Request request;
-  Json_Document document;
+  json root;
   try {
-    Parse_Json(line, document);
-    Read_Document(document.root, request);
+    Parse_Json(line, root, request.id);
+    Read_Document(root, request);
   } catch (const Invalid_Request& invalid) {
     request.problem = invalid.what();
   }
-  request.id = std::move(document.id);
   return request;
 }
 

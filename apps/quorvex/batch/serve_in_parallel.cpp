@@ -91,10 +91,11 @@ class Parallel_Batch {
         needs_input_ = !input_ended_;
         return;
       }
-      if (reader_.was_too_long())
+      if (reader_.was_too_long()) {
         add_invalid_line();
-      else if (!Is_Blank_Line(*line))
+      } else if (!Is_Blank_Line(*line)) {
         add_job(*line);
+      }
     }
   }
 

@@ -144,7 +144,7 @@ HostValue Value_From_Json(json&& json, std::string_view place) {
     case Type::object:
       return Object_From_Json(std::move(json), place);
     case Type::array:
-      Refuse(place, "a bare [...] is no value; write {\"list\": [...]} or {\"array\": [[...]]}");
+      Refuse(place, R"(a bare [...] is no value; write {"list": [...]} or {"array": [[...]]})");
     default:
       Refuse(place, "this is no value");
   }

@@ -94,7 +94,7 @@ void Worker::work(const Answer_Function& answer, int input, int output) {
   ::_exit(0);
 }
 
-void Worker::give(std::vector<Job*> jobs) {
+void Worker::give(const std::vector<Job*>& jobs) {
   for (Job* job : jobs) {
     outbox_ += job->line;
     outbox_ += '\n';
@@ -153,10 +153,11 @@ void Worker::take_answer(std::string_view answer) {
 }
 
 void Worker::adjust_appetite() {
-  if (Clock::now() - given_ < no_time)
+  if (Clock::now() - given_ < no_time) {
     appetite_ = std::min(2 * appetite_, greatest_appetite);
-  else
+  } else {
     appetite_ = std::max<std::size_t>(appetite_ / 2, 1);
+  }
 }
 
 Worker::Remains Worker::bury() {

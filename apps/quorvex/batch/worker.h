@@ -43,7 +43,7 @@ class Worker {
   /// How many jobs it should be given at once: many while they are done in no time, and one while
   /// each takes long, lest short ones wait behind a long one with other processes idle.
   std::size_t appetite() const { return appetite_; }
-  void give(std::vector<Job*> jobs);
+  void give(const std::vector<Job*>& jobs);
 
   pollfd answers_to_poll() const { return {from_worker_, POLLIN, 0}; }
   pollfd requests_to_poll() const;

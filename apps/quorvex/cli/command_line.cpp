@@ -156,10 +156,11 @@ Outcome Run_Batch(const std::shared_ptr<Call_Guard>& guard, const Arguments& arg
   const Answer_Function answer = [&answerer](std::string& out, std::string_view line) {
     answerer.append_answer(out, line);
   };
-  if (arguments.jobs > 1)
+  if (arguments.jobs > 1) {
     Serve_In_Parallel(STDIN_FILENO, STDOUT_FILENO, arguments.jobs, answer);
-  else
+  } else {
     Serve(STDIN_FILENO, STDOUT_FILENO, answer);
+  }
   return Outcome::success;
 }
 

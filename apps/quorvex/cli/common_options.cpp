@@ -16,18 +16,20 @@ constexpr double longest_timeout = 1e9;
 Locale Chosen_Locale(const Common_Options& options) {
   if (options.locale_name) {
     const auto locale = System_Locale(*options.locale_name);
-    if (!locale)
+    if (!locale) {
       throw Usage_Error("this system has no locale \"" + *options.locale_name +
                         "\"; `locale -a` lists those it has");
+    }
     return *locale;
   }
   Locale locale = Current_Locale();
   if (options.decimal) locale.decimal_separator = *options.decimal;
   if (options.thousands) locale.thousands_separator = *options.thousands;
   if (options.currency) locale.currency_symbol = *options.currency;
-  if (options.currency_side)
+  if (options.currency_side) {
     locale.currency_side =
         *options.currency_side == "after" ? Currency_Side::after : Currency_Side::before;
+  }
   return locale;
 }
 

@@ -50,9 +50,10 @@ Outcome Calculate(Session& session, std::string_view formula, std::string_view p
 
 Outcome Calculate_All(Session& session, const std::vector<std::string>& formulas) {
   Outcome outcome = Outcome::success;
-  for (const std::string& formula : formulas)
+  for (const std::string& formula : formulas) {
     outcome =
         Worse_Of(outcome, formula == "-" ? Calculate_Input(session) : Calculate(session, formula));
+  }
   session.output().flush();
   return outcome;
 }

@@ -153,9 +153,10 @@ std::string Reference_Entry(cls_Quorvex& engine, const Method& method) {
       text += "| `" + std::string(parameter.name) + "` | " + In_Table(parameter.help) + " |\n";
     text += '\n';
   }
-  if (!method.example.empty())
+  if (!method.example.empty()) {
     text += "```\n" + std::string(method.example) + "\n" + Example_Result(engine, method.example) +
             "```\n\n";
+  }
   return text;
 }
 
@@ -168,9 +169,10 @@ std::string Function_List() {
   for (const auto& [category, methods] : Categories()) {
     if (!text.empty()) text += '\n';
     text.append(category).append("\n");
-    for (const Method* method : methods)
+    for (const Method* method : methods) {
       text += "  " + Padded(method->name, width - 2) +
               Wrapped(First_Sentence(method->description), width) + "\n";
+    }
   }
   return text;
 }
@@ -182,9 +184,10 @@ std::optional<std::string> Function_Help(cls_Quorvex& engine, std::string_view n
       Wrapped(Signature(*method), 4) + "\n\n" + Wrapped(method->description, 0) + "\n";
   if (!method->parameters.empty())
     text += "\nArguments (in brackets above: optional)\n" + Argument_Lines(*method);
-  if (!method->example.empty())
+  if (!method->example.empty()) {
     text += "\nExample\n  " + std::string(method->example) + "\n" +
             Indented_Lines(Example_Result(engine, method->example));
+  }
   return text;
 }
 

@@ -67,10 +67,11 @@ int Read_Character(EditLine* editor, wchar_t* character) {
     const int got = Read_Byte(editor, byte);
     if (got != 1) return got;
     const std::size_t used = std::mbrtowc(character, &byte, 1, &state);
-    if (used == bad)
+    if (used == bad) {
       state = std::mbstate_t{};
-    else if (used != incomplete)
+    } else if (used != incomplete) {
       return 1;
+    }
   }
 }
 
@@ -88,7 +89,8 @@ class Line_Editor::State {
     ::el_set(editor_, EL_PROMPT, &State::Prompt);
     ::el_set(editor_, EL_EDITOR, "emacs");
     ::el_set(editor_, EL_GETCFN, &Read_Character);
-    ::el_set(editor_, EL_ADDFN, "quorvex-complete", "Completes a name", &State::Complete);
+    // The other form of this call copies the names and never frees them.
+    ::el_wset(editor_, EL_ADDFN, L"quorvex-complete", L"Completes a name", &State::Complete);
     ::el_set(editor_, EL_BIND, "^I", "quorvex-complete", nullptr);
     ::el_set(editor_, EL_BIND, "^R", "em-inc-search-prev", nullptr);
     set_up_history();

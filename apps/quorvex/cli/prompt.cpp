@@ -132,7 +132,7 @@ Completion Complete_Word(std::string_view before_cursor) {
 Outcome Run_Prompt(Session& session) {
   Catch_Interrupts();
   session.output().write_line(std::string("Quorvex ") + version +
-                              ". Type a formula, \"help\" or \"quit\".");
+                              R"(. Type a formula, "help" or "quit".)");
   session.output().flush();
   Line_Editor editor("> ", History_File(), &Complete_Word);
   std::string line;

@@ -36,10 +36,11 @@ void Define_Name(Worksheet& sheet, const std::string& definition) {
 
 void Report(Session& session, const std::string& place, const Cell& cell,
             const Cell_Problem& problem) {
-  if (problem.kind == Cell_Problem::Kind::syntax)
+  if (problem.kind == Cell_Problem::Kind::syntax) {
     session.error_at(place + problem.message, cell.typed, problem.position);
-  else
+  } else {
     session.error(place + problem.message);
+  }
 }
 
 Outcome Report_Problems(Session& session, const std::string& file, const Worksheet& sheet) {
@@ -49,9 +50,10 @@ Outcome Report_Problems(Session& session, const std::string& file, const Workshe
     if (problem == nullptr || ++count > most_problems) continue;
     Report(session, file + ": " + Address_Text(address) + ": ", cell, *problem);
   }
-  if (count > most_problems)
+  if (count > most_problems) {
     session.error(file + ": and " + std::to_string(count - most_problems) +
                   " more cells with problems");
+  }
   return count > 0 ? Outcome::failed_calculation : Outcome::success;
 }
 
@@ -62,10 +64,11 @@ void Show_Sheet(Session& session, const Worksheet& sheet, const Sheet_Options& o
     return;
   }
   std::ostringstream text;
-  if (options.output == "-")
+  if (options.output == "-") {
     Write_Csv(text, sheet);
-  else
+  } else {
     Print_Grid(text, sheet, {.width_limit = options.width});
+  }
   session.output().buffer() += text.str();
   session.output().flush();
 }

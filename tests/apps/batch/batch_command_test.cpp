@@ -48,8 +48,8 @@ TEST(BatchCommand, RecordsKeepTheOrderOfTheirFields) {
 
 TEST(BatchCommand, LongCallsAreEndedAndTheNextOneIsNot) {
   const std::string sevens(4000000, '7');
-  const std::string input = "{\"id\":1,\"call\":\"qvxADD\",\"args\":[\"" + sevens + "\",\"" +
-                            sevens + "\"]}\n{\"id\":2,\"call\":\"qvxADD\",\"args\":[1,1]}\n";
+  const std::string input = R"({"id":1,"call":"qvxADD","args":[")" + sevens + "\",\"" + sevens +
+                            "\"]}\n{\"id\":2,\"call\":\"qvxADD\",\"args\":[1,1]}\n";
   const Tool_Run run = Run_Tool({"batch", "--timeout", "0.000001"}, input);
   EXPECT_EQ(run.output.substr(0, 200),
             "{\"id\":1,\"failure\":\"The calculation took longer than 1e-06 s.\",\"number\":18}\n"
@@ -86,7 +86,7 @@ void Hold_Dialogue(const char* jobs) {
   ::close(answers[1]);
   for (int i = 0; i < 3; ++i) {
     const std::string number = std::to_string(i);
-    const std::string request = "{\"call\":\"qvxADD\",\"args\":[" + number + ",0]}\n";
+    const std::string request = R"({"call":"qvxADD","args":[)" + number + ",0]}\n";
     ASSERT_EQ(::write(requests[1], request.data(), request.size()),
               static_cast<ssize_t>(request.size()));
     std::array<char, 100> buffer{};

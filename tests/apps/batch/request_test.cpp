@@ -18,38 +18,37 @@ TEST(Request, IsRefusedWithTheReason) {
   const std::string deep(65, '[');
   const std::vector<Refused_Case> cases = {
       {"", "not well-formed JSON"},
-      {"{\"call\":\"qvxADD\"", "not well-formed JSON at byte 17"},
-      {"{\"call\":\"qvxADD\"} x", "not well-formed JSON"},
+      {R"({"call":"qvxADD")", "not well-formed JSON at byte 17"},
+      {R"({"call":"qvxADD"} x)", "not well-formed JSON"},
       {"{\"call\":\"qvx\xFF\"}", "not well-formed JSON"},
       {"{\"call\":\"qvx\xED\xA0\x80\"}", "not well-formed JSON"},
       {std::string("{\"call\":\"a\0\"}", 13), "not well-formed JSON"},
-      {"{\"call\":\"qvxADD\",\"args\":[1e999]}", "too large for a 64-bit float"},
-      {"{\"call\":\"qvxADD\",\"args\":[NaN]}", "not well-formed JSON"},
+      {R"({"call":"qvxADD","args":[1e999]})", "too large for a 64-bit float"},
+      {R"({"call":"qvxADD","args":[NaN]})", "not well-formed JSON"},
       {"[1]", "a request is an object"},
       {"3", "a request is an object"},
       {"{}", "\"call\" is missing"},
       {"{\"call\":5}", "\"call\" has to be the name"},
-      {"{\"call\":\"qvxADDD\"}", "there is no function \"qvxADDD\"; did you mean qvxADD?"},
-      {"{\"call\":\"" + std::string(1000, 'x') + "\"}", "x...\""},
-      {"{\"call\":\"qvxADD\",\"arg\":[]}", "the key \"arg\" is not known"},
-      {"{\"call\":\"qvxADD\",\"call\":\"qvxADD\"}", "\"call\" is given twice"},
-      {"{\"id\":1,\"id\":1,\"call\":\"qvxSIGN\"}", "\"id\" is given twice"},
-      {"{\"call\":\"qvxADD\",\"named\":{\"number1\":1,\"number1\":1}}", "is given twice"},
-      {"{\"call\":\"qvxADD\",\"args\":[1],\"named\":{\"number1\":1}}",
-       "\"number1\" is given twice"},
-      {"{\"call\":\"qvxADD\",\"named\":{\"number3\":1}}", "no argument \"number3\""},
-      {"{\"call\":\"qvxADD\",\"named\":[1]}", "\"named\" has to be an object"},
-      {"{\"call\":\"qvxADD\",\"args\":1}", "\"args\" has to be an array"},
-      {"{\"call\":\"qvxSIGN\",\"args\":[1,2,3]}", "at most 1 argument, and 3 are given"},
-      {"{\"call\":\"qvxADD\",\"args\":[[1]]}", "number1: a bare [...] is no value"},
-      {"{\"call\":\"qvxADD\",\"args\":[1,{}]}", "number2: an object is one of"},
-      {"{\"call\":\"qvxADD\",\"args\":[{\"missing\":false}]}", "an object is one of"},
-      {"{\"call\":\"qvxADD\",\"args\":[{\"missing\":true,\"list\":[]}]}", "an object is one of"},
-      {"{\"call\":\"qvxADD\",\"args\":[{\"error\":2041}]}", "one of the codes"},
-      {"{\"call\":\"qvxADD\",\"args\":[{\"error\":2042.0}]}", "one of the codes"},
-      {"{\"call\":\"qvxADD\",\"args\":[{\"array\":[1]}]}", "number1[0]: a row is given as"},
-      {"{\"call\":\"qvxADD\",\"args\":[{\"array\":[[1,2],[3]]}]}", "of the same length"},
-      {"{\"call\":\"qvxADD\",\"args\":[{\"list\":[1,[2]]}]}", "number1[1]: a bare [...]"},
+      {R"({"call":"qvxADDD"})", "there is no function \"qvxADDD\"; did you mean qvxADD?"},
+      {R"({"call":")" + std::string(1000, 'x') + "\"}", "x...\""},
+      {R"({"call":"qvxADD","arg":[]})", "the key \"arg\" is not known"},
+      {R"({"call":"qvxADD","call":"qvxADD"})", "\"call\" is given twice"},
+      {R"({"id":1,"id":1,"call":"qvxSIGN"})", "\"id\" is given twice"},
+      {R"({"call":"qvxADD","named":{"number1":1,"number1":1}})", "is given twice"},
+      {R"({"call":"qvxADD","args":[1],"named":{"number1":1}})", "\"number1\" is given twice"},
+      {R"({"call":"qvxADD","named":{"number3":1}})", "no argument \"number3\""},
+      {R"({"call":"qvxADD","named":[1]})", "\"named\" has to be an object"},
+      {R"({"call":"qvxADD","args":1})", "\"args\" has to be an array"},
+      {R"({"call":"qvxSIGN","args":[1,2,3]})", "at most 1 argument, and 3 are given"},
+      {R"({"call":"qvxADD","args":[[1]]})", "number1: a bare [...] is no value"},
+      {R"({"call":"qvxADD","args":[1,{}]})", "number2: an object is one of"},
+      {R"({"call":"qvxADD","args":[{"missing":false}]})", "an object is one of"},
+      {R"({"call":"qvxADD","args":[{"missing":true,"list":[]}]})", "an object is one of"},
+      {R"({"call":"qvxADD","args":[{"error":2041}]})", "one of the codes"},
+      {R"({"call":"qvxADD","args":[{"error":2042.0}]})", "one of the codes"},
+      {R"({"call":"qvxADD","args":[{"array":[1]}]})", "number1[0]: a row is given as"},
+      {R"({"call":"qvxADD","args":[{"array":[[1,2],[3]]}]})", "of the same length"},
+      {R"({"call":"qvxADD","args":[{"list":[1,[2]]}]})", "number1[1]: a bare [...]"},
       {deep, "more than 64 levels"},
       {"{\"id\":" + deep, "more than 64 levels"},
   };
@@ -63,13 +62,13 @@ TEST(Request, IsRefusedWithTheReason) {
 
 TEST(Request, IdComesBackAsItWasSent) {
   const std::vector<std::string> ids = {"1",
-                                        "\"a\\\"b\"",
+                                        R"("a\"b")",
                                         "null",
                                         "true",
                                         "-7",
                                         "1.50",
                                         "123456789012345678901234567890",
-                                        "{\"z\":[1,{}],\"a\":[[],\"x\"],\"m\":null}",
+                                        R"({"z":[1,{}],"a":[[],"x"],"m":null})",
                                         "[]"};
   for (const std::string& id : ids) {
     EXPECT_EQ(Read_Request("{\"call\":\"qvxSIGN\",\"id\":" + id + ",\"args\":[1]}").id, id);
@@ -92,10 +91,10 @@ TEST(Request, NamedArgumentsFindTheirPlace) {
 }
 
 TEST(Request, SixtyFourLevelsAreFine) {
-  std::string value = "1";
-  for (int level = 0; level < 31; ++level) value = "{\"list\":[" + value + "]}";
-  const std::string line = "{\"call\":\"qvxSIGN\",\"args\":[" + value + "]}";
-  EXPECT_EQ(Read_Request(line).problem, "");
+  std::string line = R"({"call":"qvxSIGN","args":[)";
+  for (int level = 0; level < 31; ++level) line += R"({"list":[)";
+  for (int level = 0; level < 31; ++level) line += "]}";
+  EXPECT_EQ(Read_Request(line + "]}").problem, "");
 }
 
 }  // namespace

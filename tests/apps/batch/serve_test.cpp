@@ -20,10 +20,11 @@ std::string Served(const std::string& input, unsigned processes, const Answer_Fu
   const int in = ::open(folder.write("in", input).c_str(), O_RDONLY);
   const auto target = folder.path() / "out";
   const int out = ::open(target.c_str(), O_WRONLY | O_CREAT, 0600);
-  if (processes == 1)
+  if (processes == 1) {
     Serve(in, out, answer);
-  else
+  } else {
     Serve_In_Parallel(in, out, processes, answer);
+  }
   ::close(in);
   ::close(out);
   return File_Text(target);
@@ -67,15 +68,16 @@ TEST(Serve, ADyingProcessTakesNothingAlong) {
   for (int i = 0; i < 3000; ++i) {
     const std::string id = std::to_string(i);
     const char* deed = i % 500 == 250 ? "die" : i % 500 == 400 ? "leave" : "live";
-    const std::string line = "{\"id\":" + id + ",\"call\":\"" + deed + "\"}\n";
-    const std::string death = "{\"id\":" + id + ",\"failure\":\"The process that calculated this ";
+    const std::string line = "{\"id\":" + id + R"(,"call":")" + deed + "\"}\n";
+    const std::string death = "{\"id\":" + id + R"(,"failure":"The process that calculated this )";
     input += line;
-    if (i % 500 == 250)
+    if (i % 500 == 250) {
       expected += death + "was ended by signal 9.\",\"number\":5}\n";
-    else if (i % 500 == 400)
+    } else if (i % 500 == 400) {
       expected += death + "ended with code 3.\",\"number\":5}\n";
-    else
+    } else {
       expected += line;
+    }
   }
   EXPECT_EQ(Served(input, 2, answer), expected);
 }

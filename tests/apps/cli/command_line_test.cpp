@@ -25,10 +25,11 @@ void Expect(const Tool_Case& each) {
   for (const std::string& word : each.arguments) shown += " " + word;
   EXPECT_EQ(run.output.substr(0, 1000), each.output) << shown;
   EXPECT_EQ(run.exit_code, each.exit_code) << shown << "\n" << run.errors;
-  if (each.errors.empty())
+  if (each.errors.empty()) {
     EXPECT_EQ(run.errors, "") << shown;
-  else
+  } else {
     EXPECT_NE(run.errors.find(each.errors), std::string::npos) << shown << "\n" << run.errors;
+  }
 }
 
 TEST(CommandLine, CalculatesFormulas) {

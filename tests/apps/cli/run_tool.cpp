@@ -29,6 +29,7 @@ int Open_For(const std::filesystem::path& file, int flags) {
   std::vector<std::string> words = {QUORVEX_TOOL};
   words.insert(words.end(), arguments.begin(), arguments.end());
   std::vector<char*> argv;
+  argv.reserve(words.size() + 1);
   for (std::string& word : words) argv.push_back(word.data());
   argv.push_back(nullptr);
   ::setenv("LC_ALL", "C", 1);
