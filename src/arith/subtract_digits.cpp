@@ -1,6 +1,7 @@
 #include "arith/subtract_digits.h"
 
 #include <algorithm>
+#include <compare>
 #include <cstring>
 #include <utility>
 
@@ -58,7 +59,7 @@ NumberText Subtract_Smaller(const Decimal_Parts& larger, const Decimal_Parts& sm
 }  // namespace
 
 type_Subtraction Subtract_Decimals(const Decimal_Parts& a, const Decimal_Parts& b) {
-  const bool swap = Compare_Magnitudes(a, b) < 0;
+  const bool swap = std::is_lt(Compare_Magnitudes(a, b));
   return {swap ? Subtract_Smaller(b, a) : Subtract_Smaller(a, b), swap};
 }
 

@@ -82,8 +82,8 @@ HostValue cls_Quorvex::qvxISEQUAL(const HostValue& number1, const HostValue& num
 
 HostValue cls_Quorvex::qvxISNOTEQUAL(const HostValue& number1, const HostValue& number2) {
   const HostValue answer = Compare(number1, number2, true, false);
-  if (answer.is_text() && answer.text() == num_token) return answer;
-  return Shown(!Is_True(answer));
+  const bool is_no_number = answer.is_text() && answer.text() == num_token;
+  return Shown(is_no_number ? answer : HostValue(!Is_True(answer)));
 }
 
 HostValue cls_Quorvex::qvxISGREATER(HostValue& number1, HostValue& number2) {

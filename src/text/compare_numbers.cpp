@@ -1,5 +1,6 @@
 #include "text/compare_numbers.h"
 
+#include <compare>
 #include <string>
 
 #include "host/conversions.h"
@@ -43,7 +44,7 @@ HostValue Compare_Numbers(std::string_view number1, std::string_view number2, bo
         if (!operand1.parts() || !operand2.parts()) return num_token;
         if (Has_Two_Separators(number1) || Has_Two_Separators(number2)) return num_token;
         const auto order = Compare_Values(operand1, operand2);
-        return (testEqual && order == 0) || (testGreater && order > 0);
+        return (testEqual && std::is_eq(order)) || (testGreater && std::is_gt(order));
       },
       [](const Run_Time_Failure&) { return HostValue(num_token); });
 }
@@ -51,7 +52,7 @@ HostValue Compare_Numbers(std::string_view number1, std::string_view number2, bo
 bool Compare_Digit_Strings(std::string_view text1, std::string_view text2, bool orEqual,
                            bool orGreater) {
   const auto order = text1.size() != text2.size() ? text1.size() <=> text2.size() : text1 <=> text2;
-  return (orEqual && order == 0) || (orGreater && order > 0);
+  return (orEqual && std::is_eq(order)) || (orGreater && std::is_gt(order));
 }
 
 HostValue Sign_Function(const HostValue& num) {

@@ -23,10 +23,11 @@ std::optional<Decimal_Parts> Split_Decimal(std::string_view text) {
 std::strong_ordering Compare_Magnitudes(const Decimal_Parts& a, const Decimal_Parts& b) {
   const std::string_view a_integer = a.integer.substr(Count_Leading_Zeros(a.integer));
   const std::string_view b_integer = b.integer.substr(Count_Leading_Zeros(b.integer));
-  if (const auto order = a_integer.size() <=> b_integer.size(); order != 0) return order;
-  if (const auto order = a_integer <=> b_integer; order != 0) return order;
+  if (const auto order = a_integer.size() <=> b_integer.size(); std::is_neq(order)) return order;
+  if (const auto order = a_integer <=> b_integer; std::is_neq(order)) return order;
   const std::size_t both = std::min(a.fraction.size(), b.fraction.size());
-  if (const auto order = a.fraction.substr(0, both) <=> b.fraction.substr(0, both); order != 0) {
+  if (const auto order = a.fraction.substr(0, both) <=> b.fraction.substr(0, both);
+      std::is_neq(order)) {
     return order;
   }
   const bool a_more = Count_Leading_Zeros(a.fraction.substr(both)) != a.fraction.size() - both;

@@ -53,8 +53,7 @@ TEST(SubtractDigits, TakesTheLongerForTheLarger) {
 
 TEST(DigitStrings, FailForWhatIsNoDigit) {
   for (const char* text : {"12a", "-5", "1.5", " ", "1234567890123456789:", "/123456789012345",
-                           "12345678901\xB2"
-                           "34567890"}) {
+                           "1234567890123456\xB2"}) {
     for (const char* other : {"", "5", "123456789012345678901234567890"}) {
       EXPECT_EQ(Failure_Of([&] { Add_Digits(text, other); }), Failure_Number::type_mismatch);
       EXPECT_EQ(Failure_Of([&] { Add_Digits(other, text); }), Failure_Number::type_mismatch);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <utility>
 
 #include "arith/resolve_signs.h"
 #include "support/failures.h"
@@ -60,7 +61,7 @@ TEST(DoOperation, LetsABreakPassItsHandler) {
 // A range of one cell, for operands that are references.
 class Cell final : public Range {
  public:
-  explicit Cell(const HostValue& value, std::size_t rows = 1) : value_(value), rows_(rows) {}
+  explicit Cell(HostValue value, std::size_t rows = 1) : value_(std::move(value)), rows_(rows) {}
   std::size_t rows() const override { return rows_; }
   std::size_t columns() const override { return 1; }
   HostValue cell(std::size_t, std::size_t) const override { return value_; }
@@ -98,22 +99,22 @@ TEST(ResolveSigns, ReducesSignsToOneOperationAndOneFlag) {
   constexpr bool negative = true;
   const struct {
     std::int16_t code;
+    std::int16_t reduced;
+    bool flag;
     const char* a;
     const char* b;
-    std::int16_t reduced;
     const char* first;
     const char* second;
-    bool flag;
   } cases[] = {
-      {1, "5", "3", 1, "5", "3", false},     {1, "5", "-3", 2, "5", "3", false},
-      {1, "-5", "3", 2, "3", "5", false},    {1, "-5", "-3", 1, "5", "3", negative},
-      {2, "5", "3", 2, "5", "3", false},     {2, "5", "-3", 1, "5", "3", false},
-      {2, "-5", "3", 1, "5", "3", negative}, {2, "-5", "-3", 2, "3", "5", false},
-      {3, "5", "3", 3, "5", "3", false},     {3, "5", "-3", 3, "5", "3", negative},
-      {3, "-5", "3", 3, "5", "3", negative}, {3, "-5", "-3", 3, "5", "3", false},
-      {4, "5", "3", 4, "5", "3", false},     {4, "5", "-3", 4, "5", "3", negative},
-      {4, "-5", "3", 4, "5", "3", negative}, {4, "-5", "-3", 4, "5", "3", false},
-      {5, "-5", "-3", 5, "5", "3", false},   {6, "-5", "3", 6, "5", "3", false},
+      {1, 1, false, "5", "3", "5", "3"},     {1, 2, false, "5", "-3", "5", "3"},
+      {1, 2, false, "-5", "3", "3", "5"},    {1, 1, negative, "-5", "-3", "5", "3"},
+      {2, 2, false, "5", "3", "5", "3"},     {2, 1, false, "5", "-3", "5", "3"},
+      {2, 1, negative, "-5", "3", "5", "3"}, {2, 2, false, "-5", "-3", "3", "5"},
+      {3, 3, false, "5", "3", "5", "3"},     {3, 3, negative, "5", "-3", "5", "3"},
+      {3, 3, negative, "-5", "3", "5", "3"}, {3, 3, false, "-5", "-3", "5", "3"},
+      {4, 4, false, "5", "3", "5", "3"},     {4, 4, negative, "5", "-3", "5", "3"},
+      {4, 4, negative, "-5", "3", "5", "3"}, {4, 4, false, "-5", "-3", "5", "3"},
+      {5, 5, false, "-5", "-3", "5", "3"},   {6, 6, false, "-5", "3", "5", "3"},
   };
   for (const auto& c : cases) {
     const Operand a(c.a);

@@ -6,6 +6,7 @@
 #include "arith/do_operation.h"
 #include "support/localized.h"
 #include "support/random_numbers.h"
+#include "support/surroundings.h"
 #include "text/compare_numbers.h"
 #include "text/options.h"
 #include "text/tokens.h"
@@ -49,6 +50,7 @@ TEST(Recognition, TellsWhatAdditionAccepts) {
 }
 
 TEST(Recognition, NeedsNoMemoryForTheZerosOfAnExponent) {
+  const Memory_Guard poor(0);
   EXPECT_TRUE(Is_Number_Text("1E+2147483647"));
   EXPECT_TRUE(Is_Number_Text("-1.5E-2000000000"));
 }
