@@ -35,8 +35,7 @@ NumberText Add_Decimals(const Decimal_Parts& a, const Decimal_Parts& b) {
   const auto [shorter, longer] = std::minmax(a.integer, b.integer, by_size);
   const auto [less, more] = std::minmax(a.fraction, b.fraction, by_size);
 
-  NumberText sum;
-  sum.reserve(longer.size() + more.size() + room_for_marks);
+  NumberText sum(longer.size() + more.size() + room_for_marks, '0');
   sum.resize(longer.size() + more.size());
   char* const fraction = sum.data() + longer.size();
   bool carry = !more.empty() && Add_Fractions(fraction, more, less);

@@ -39,10 +39,10 @@ std::string_view Operand_Text(const HostValue& value, std::string& scratch) {
 }
 
 const Decimal_Parts& Digits_Of(const Operand& operand) {
-  if (!operand.parts()) {
+  if (!operand.is_number()) {
     throw Run_Time_Failure(Failure_Number::type_mismatch, "An operand is no number.");
   }
-  return *operand.parts();
+  return operand.parts();
 }
 
 Raw_Result Add_Or_Subtract(const type_SignOp& reduced) {

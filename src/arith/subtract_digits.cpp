@@ -44,8 +44,7 @@ NumberText Subtract_Smaller(const Decimal_Parts& larger, const Decimal_Parts& sm
   // Digits of the smaller operand that stand farther left than the larger one reaches are zeros.
   const char* const smaller_digits = smaller.integer.data() + smaller.integer.size() - common;
 
-  NumberText difference;
-  difference.reserve(integer + fraction + room_for_marks);
+  NumberText difference(integer + fraction + room_for_marks, '0');
   difference.resize(integer + fraction);
   char* const out = difference.data();
   bool borrow = Subtract_Fractions(out + integer, larger.fraction, smaller.fraction);

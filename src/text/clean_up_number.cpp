@@ -24,13 +24,6 @@ type_CleanUp Error_Record(std::string_view token) {
   return record;
 }
 
-bool Has_Two_Separators(std::string_view num) {
-  const std::string& separator = Decimal_Separator();
-  const std::size_t first = num.find(separator);
-  return first != std::string_view::npos &&
-         num.find(separator, first + separator.size()) != std::string_view::npos;
-}
-
 double Counted_Digits(std::string_view text, double dec_pos) {
   if (dec_pos >= 2) return text.starts_with('0') ? 0 : dec_pos - 1;
   return text == "0" ? 0 : static_cast<double>(text.size());

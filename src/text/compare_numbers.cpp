@@ -15,16 +15,13 @@ namespace {
 
 // A second separator is lost where an exponent is written out (*1.2.3E+1*); such a number can be
 // added but not compared.
-bool Has_Two_Separators(std::string_view text) {
-  const std::string& separator = Decimal_Separator();
-  const std::size_t first = text.find(separator);
-  return first != std::string_view::npos &&
-         text.find(separator, first + separator.size()) != std::string_view::npos;
+bool Is_Comparable(const Operand& operand, std::string_view text) {
+  return operand.is_number() && (operand.was_plain() || !Has_Two_Separators(text));
 }
 
 std::strong_ordering Compare_Values(const Operand& number1, const Operand& number2) {
-  const Decimal_Parts& parts1 = *number1.parts();
-  const Decimal_Parts& parts2 = *number2.parts();
+  const Decimal_Parts& parts1 = number1.parts();
+  const Decimal_Parts& parts2 = number2.parts();
   const bool positive1 = number1.positive() || Is_Zero(parts1);
   const bool positive2 = number2.positive() || Is_Zero(parts2);
   if (positive1 != positive2) return positive1 <=> positive2;
@@ -41,8 +38,9 @@ HostValue Compare_Numbers(std::string_view number1, std::string_view number2, bo
       [&]() -> HostValue {
         const Operand operand1(number1);
         const Operand operand2(number2);
-        if (!operand1.parts() || !operand2.parts()) return num_token;
-        if (Has_Two_Separators(number1) || Has_Two_Separators(number2)) return num_token;
+        if (!Is_Comparable(operand1, number1) || !Is_Comparable(operand2, number2)) {
+          return num_token;
+        }
         const auto order = Compare_Values(operand1, operand2);
         return (testEqual && std::is_eq(order)) || (testGreater && std::is_gt(order));
       },

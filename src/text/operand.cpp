@@ -9,15 +9,16 @@
 
 namespace quorvex {
 
-std::optional<Decimal_Parts> Split_Decimal(std::string_view text) {
+bool Split_Decimal(std::string_view text, Decimal_Parts& parts) {
   const std::size_t integer = Count_Digits(text);
-  if (integer == text.size()) return Decimal_Parts{text, {}};
+  parts.integer = text.substr(0, integer);
+  if (integer == text.size()) return true;
   const std::string& separator = Decimal_Separator();
   std::string_view rest = text.substr(integer);
-  if (!rest.starts_with(separator)) return std::nullopt;
+  if (!rest.starts_with(separator)) return false;
   rest.remove_prefix(separator.size());
-  if (Has_Non_Digit(rest)) return std::nullopt;
-  return Decimal_Parts{text.substr(0, integer), rest};
+  parts.fraction = rest;
+  return !Has_Non_Digit(rest);
 }
 
 std::strong_ordering Compare_Magnitudes(const Decimal_Parts& a, const Decimal_Parts& b) {
@@ -41,13 +42,13 @@ bool Is_Zero(const Decimal_Parts& parts) {
 }
 
 Operand::Operand(std::string_view text, Exponent_Zeros zeros) {
-  const bool minus = text.starts_with('-');
-  parts_ = Split_Decimal(minus ? text.substr(1) : text);
-  if (parts_) {
-    positive_ = !minus;
-    magnitude_ = minus ? text.substr(1) : text;
-    return;
-  }
+  positive_ = !text.starts_with('-');
+  magnitude_ = positive_ ? text : text.substr(1);
+  was_plain_ = is_number_ = Split_Decimal(magnitude_, parts_);
+  if (!was_plain_) Clean_Up(text, zeros);
+}
+
+void Operand::Clean_Up(std::string_view text, Exponent_Zeros zeros) {
   cleaned_ = Strip_Quotes(text);
   Remove_Currency_Symbol(cleaned_);
   Remove_Thousands_Separators(cleaned_);
@@ -56,7 +57,8 @@ Operand::Operand(std::string_view text, Exponent_Zeros zeros) {
                                           : Write_Decimal(std::move(form), 1);
   positive_ = Is_Positive(cleaned_);
   magnitude_ = Strip_Sign(cleaned_);
-  parts_ = Split_Decimal(magnitude_);
+  parts_ = {};
+  is_number_ = Split_Decimal(magnitude_, parts_);
 }
 
 }  // namespace quorvex

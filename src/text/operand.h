@@ -3,7 +3,6 @@
 
 #include <compare>
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,8 +14,9 @@ struct Decimal_Parts {
   std::string_view fraction;
 };
 
-/// Cuts a text of digits with at most one decimal separator; nothing for any other text.
-std::optional<Decimal_Parts> Split_Decimal(std::string_view text);
+/// Cuts a text of digits with at most one decimal separator into its parts. False for any other
+/// text, whose parts mean nothing.
+bool Split_Decimal(std::string_view text, Decimal_Parts& parts);
 
 /// The order of two magnitudes by value, whatever zeros stand around them.
 std::strong_ordering Compare_Magnitudes(const Decimal_Parts& a, const Decimal_Parts& b);
@@ -45,14 +45,24 @@ class Operand {
   /// The text behind the sign, whatever it holds.
   std::string_view magnitude() const { return magnitude_; }
 
-  /// The magnitude, if it is made up of digits and at most one separator.
-  const std::optional<Decimal_Parts>& parts() const { return parts_; }
+  /// True if the magnitude is made up of digits and at most one separator.
+  bool is_number() const { return is_number_; }
+
+  /// The digits of a number; of other text they mean nothing.
+  const Decimal_Parts& parts() const { return parts_; }
+
+  /// True if the text needed no clean-up.
+  bool was_plain() const { return was_plain_; }
 
  private:
+  void Clean_Up(std::string_view text, Exponent_Zeros zeros);
+
   std::string cleaned_;  // where clean-up had to write
-  bool positive_ = true;
   std::string_view magnitude_;
-  std::optional<Decimal_Parts> parts_;
+  Decimal_Parts parts_;
+  bool positive_ = true;
+  bool is_number_ = false;
+  bool was_plain_ = false;
 };
 
 }  // namespace quorvex

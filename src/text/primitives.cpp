@@ -78,6 +78,13 @@ void Remove_Decimal_Separator(std::string& text) {
   if (place != std::string::npos) text.erase(place, separator.size());
 }
 
+bool Has_Two_Separators(std::string_view text) {
+  const std::string& separator = Decimal_Separator();
+  const std::size_t first = text.find(separator);
+  return first != std::string_view::npos &&
+         text.find(separator, first + separator.size()) != std::string_view::npos;
+}
+
 void Remove_Currency_Symbol(std::string& text) {
   Remove_All(text, Current_Locale().currency_symbol);
 }

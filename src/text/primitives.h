@@ -50,6 +50,9 @@ void Strip_Trailing_Zeros(std::string& text);
 /// Takes the first decimal separator out.
 void Remove_Decimal_Separator(std::string& text);
 
+/// True if a text holds the decimal separator more than once.
+bool Has_Two_Separators(std::string_view text);
+
 /// Takes the currency symbol out wherever it stands, upper and lower case being different.
 void Remove_Currency_Symbol(std::string& text);
 

@@ -14,7 +14,7 @@ bool Is_Lone_Mark(std::string_view text) {
 
 bool Is_Number_Text(std::string_view text) {
   if (Is_Lone_Mark(text)) return false;
-  return With_Handler([&] { return Operand(text, Exponent_Zeros::one).parts().has_value(); },
+  return With_Handler([&] { return Operand(text, Exponent_Zeros::one).is_number(); },
                       [](const Run_Time_Failure&) { return false; });
 }
 

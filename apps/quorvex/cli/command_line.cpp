@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <clocale>
 #include <csignal>
 #include <cstdlib>
@@ -164,8 +165,18 @@ Outcome Run_Batch(const std::shared_ptr<Call_Guard>& guard, const Arguments& arg
   return Outcome::success;
 }
 
+// A word alone was probably meant as a command.
+Outcome Calculate_Arguments(Session& session, const std::vector<std::string>& formulas) {
+  const Outcome outcome = Calculate_All(session, formulas);
+  const std::string& first = formulas.front();
+  if (outcome == Outcome::wrong_usage && !first.empty() &&
+      std::all_of(first.begin(), first.end(), Is_Letter))
+    session.hint("The commands are sheet, functions and batch; \"quorvex --help\" tells more.");
+  return outcome;
+}
+
 Outcome Run_Formulas(Session& session, const Arguments& arguments) {
-  if (!arguments.formulas.empty()) return Calculate_All(session, arguments.formulas);
+  if (!arguments.formulas.empty()) return Calculate_Arguments(session, arguments.formulas);
   const bool is_dialogue = ::isatty(STDIN_FILENO) != 0 && ::isatty(STDOUT_FILENO) != 0;
   return is_dialogue ? Run_Prompt(session) : Calculate_Input(session);
 }

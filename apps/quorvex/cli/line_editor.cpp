@@ -106,6 +106,8 @@ class Line_Editor::State {
   State& operator=(const State&) = delete;
 
   Status read(std::string& line) {
+    // A calculation that was over before it heeded Ctrl-C has nothing to do with this line.
+    Call_Guard::forget_interruption();
     int count = 0;
     const char* typed = ::el_gets(editor_, &count);
     if (Call_Guard::is_interrupted()) {

@@ -41,6 +41,11 @@ void Session::error(std::string_view message, std::string_view detail) {
   std::cerr.flush();
 }
 
+void Session::hint(std::string_view advice) {
+  output_.flush();
+  std::cerr << advice << '\n' << std::flush;
+}
+
 void Session::error_at(std::string_view message, std::string_view formula, std::size_t position) {
   error(message, Marked_Lines(formula, position));
 }

@@ -49,7 +49,9 @@ class Session {
   /// Writes "error: message" to standard error, after all output so far. `detail` holds further
   /// lines, without the last line end.
   void error(std::string_view message, std::string_view detail = {});
-  /// The same for a place in a formula, which is shown with the place marked.
+  /// Writes a line of advice to standard error.
+  void hint(std::string_view advice);
+  /// As `error`, for a place in a formula, which is shown with the place marked.
   void error_at(std::string_view message, std::string_view formula, std::size_t position);
 
  private:

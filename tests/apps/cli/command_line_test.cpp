@@ -55,6 +55,7 @@ TEST(CommandLine, CalculatesFormulas) {
       {{"qvxSIGN({1,2})", "qvxADD(", "1"}, "", "1\n", "error: ", 2},
       {{"A1"}, "", "", "A1", 2},
       {{"qvxADDD(1,2)"}, "", "", "did you mean qvxADD?\n  qvxADDD(1,2)\n  ^", 2},
+      {{"function"}, "", "", "The commands are sheet, functions and batch", 2},
       {{"\xFF(1)"}, "", "", "error: ", 2},
   };
   for (const Tool_Case& each : cases) Expect(each);
