@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <csignal>
 #include <cstdlib>
 #include <string>
 
@@ -42,6 +43,8 @@ class Terminal {
     winsize size{24, 200, 0, 0};
     process_ = ::forkpty(&terminal_, nullptr, nullptr, &size);
     if (process_ == 0) {
+      // Tests may run in the background, where Ctrl-C is ignored; on a terminal it never is.
+      ::signal(SIGINT, SIG_DFL);
       ::setenv("XDG_STATE_HOME", state_folder.c_str(), 1);
       ::setenv("HOME", state_folder.c_str(), 1);
       ::setenv("LC_ALL", "C", 1);
@@ -85,7 +88,10 @@ class Terminal {
   int end() {
     shows("(whatever comes before the end)");
     int status = 0;
-    ::waitpid(process_, &status, 0);
+    for (int tries = 0; ::waitpid(process_, &status, WNOHANG) == 0; ++tries) {
+      if (tries == 500) ::kill(process_, SIGKILL);
+      ::usleep(10'000);
+    }
     process_ = -1;
     return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
   }
@@ -131,6 +137,8 @@ TEST(Prompt, InterruptGivesUpTheLineAndCtrlDLeaves) {
   EXPECT_TRUE(terminal.shows("> ")) << terminal.shown();
   terminal.type("qvxADD(2,3)\n");
   EXPECT_TRUE(terminal.shows("\n5")) << terminal.shown();
+  // Between two lines the terminal itself takes Ctrl-D, and nobody is told.
+  EXPECT_TRUE(terminal.shows("> ")) << terminal.shown();
   terminal.type("\x04");
   EXPECT_EQ(terminal.end(), 0);
 }
