@@ -8,6 +8,8 @@
 namespace quorvex::native {
 namespace {
 
+constexpr std::size_t transform_from = 2000;
+
 std::string_view Without_Leading_Zeros(std::string_view text) {
   const std::size_t first = text.find_first_not_of('0');
   return first == std::string_view::npos ? std::string_view{} : text.substr(first);
@@ -24,16 +26,13 @@ std::size_t Write_Zero(std::string_view a, std::string_view b, char* out) {
   return 1;
 }
 
-std::size_t Multiply_Operands(const Operands& operands, char* out, Instructions /*kind*/) {
+std::size_t Multiply_Operands(const Operands& operands, char* out, Instructions kind) {
   if (operands.a.size() <= word_digits) return Multiply_Words(operands, out);
-  return Multiply_Limbs(operands, out);
+  if (operands.b.size() < transform_from) return Multiply_Limbs(operands, out);
+  return Multiply_Long(operands, out, kind);
 }
 
 }  // namespace
-
-Instructions Best_Instructions() noexcept {
-  return Instructions::portable;
-}
 
 std::size_t Multiply_Texts(std::string_view a, std::string_view b, char* out, std::size_t room,
                            Instructions kind) noexcept {
