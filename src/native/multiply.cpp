@@ -1,0 +1,53 @@
+#include "native/multiply.h"
+
+#include <utility>
+
+#include "native/digit_words.h"
+#include "native/stair.h"
+
+namespace quorvex::native {
+namespace {
+
+constexpr std::size_t transform_from = 2000;
+
+std::string_view Without_Leading_Zeros(std::string_view text) {
+  const std::size_t first = text.find_first_not_of('0');
+  return first == std::string_view::npos ? std::string_view{} : text.substr(first);
+}
+
+bool Are_Digits(std::string_view text) {
+  return text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+// One of the operands is zero; the other may be anything.
+std::size_t Write_Zero(std::string_view a, std::string_view b, char* out) {
+  if (!Are_Digits(a) || !Are_Digits(b)) return 0;
+  *out = '0';
+  return 1;
+}
+
+std::size_t Multiply_Operands(const Operands& operands, char* out, Instructions kind) {
+  if (operands.a.size() <= word_digits) return Multiply_Words(operands, out);
+  if (operands.b.size() < transform_from) return Multiply_Limbs(operands, out);
+  return Multiply_Long(operands, out, kind);
+}
+
+}  // namespace
+
+std::size_t Multiply_Texts(std::string_view a, std::string_view b, char* out, std::size_t room,
+                           Instructions kind) noexcept {
+  if (a.empty() || b.empty() || room == 0) return 0;
+  a = Without_Leading_Zeros(a);
+  b = Without_Leading_Zeros(b);
+  if (a.empty() || b.empty()) return Write_Zero(a, b, out);
+  if (a.size() + b.size() > room) return 0;
+  if (a.size() < b.size()) std::swap(a, b);
+  return Multiply_Operands({a, b, a == b}, out, kind);
+}
+
+std::size_t Multiply_Texts(std::string_view a, std::string_view b, char* out,
+                           std::size_t room) noexcept {
+  return Multiply_Texts(a, b, out, room, Best_Instructions());
+}
+
+}  // namespace quorvex::native

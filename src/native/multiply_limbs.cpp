@@ -1,0 +1,67 @@
+// Short and middling operands by the portable kernels.
+#include <cstring>
+
+#include "native/digit_words.h"
+#include "native/karatsuba.h"
+#include "native/limbs.h"
+#include "native/schoolbook_portable.h"
+#include "native/scratch.h"
+#include "native/stair.h"
+
+namespace quorvex::native {
+namespace {
+
+// Operands of up to this many limbs are worked on without asking for memory.
+constexpr std::size_t few = 40;
+
+std::size_t Multiply_Few(const Operands& operands, char* out) {
+  const std::size_t a_count = Limbs_For(operands.a.size());
+  const std::size_t b_count = Limbs_For(operands.b.size());
+  Limb limbs[4 * few];
+  Limb* const a = limbs;
+  Limb* const b = limbs + few;
+  Limb* const product = limbs + 2 * few;
+  if (!Read_Limbs(operands.a.data(), operands.a.size(), a)) return 0;
+  if (operands.is_square) {
+    Square_Schoolbook(product, a, a_count);
+    return Write_Limbs(product, 2 * a_count, out);
+  }
+  if (!Read_Limbs(operands.b.data(), operands.b.size(), b)) return 0;
+  Multiply_Schoolbook(product, a, a_count, b, b_count);
+  return Write_Limbs(product, a_count + b_count, out);
+}
+
+}  // namespace
+
+std::size_t Multiply_Words(const Operands& operands, char* out) noexcept {
+  Limb a = 0;
+  Limb b = 0;
+  if (!Read_Limbs(operands.a.data(), operands.a.size(), &a)) return 0;
+  if (!Read_Limbs(operands.b.data(), operands.b.size(), &b)) return 0;
+  const Wide product = Wide{a} * b;
+  const Limb limbs[2] = {static_cast<Limb>(product % limb_base),
+                         static_cast<Limb>(product / limb_base)};
+  return Write_Limbs(limbs, 2, out);
+}
+
+std::size_t Multiply_Limbs(const Operands& operands, char* out) noexcept {
+  const std::size_t a_count = Limbs_For(operands.a.size());
+  const std::size_t b_count = Limbs_For(operands.b.size());
+  if (a_count <= few) return Multiply_Few(operands, out);
+
+  const Scratch<Limb> memory(2 * (a_count + b_count) + Pieces_Scratch(b_count));
+  Limb* const a = memory.get();
+  if (a == nullptr) return 0;
+  Limb* const b = operands.is_square ? a : a + a_count;
+  Limb* const product = a + a_count + b_count;
+  Limb* const rest = product + a_count + b_count;
+  if (!Read_Limbs(operands.a.data(), operands.a.size(), a)) return 0;
+  if (b != a && !Read_Limbs(operands.b.data(), operands.b.size(), b)) return 0;
+  if (a_count == b_count)
+    Multiply_Karatsuba(product, a, b, a_count, rest);
+  else
+    Multiply_In_Pieces(product, a, a_count, b, b_count, rest);
+  return Write_Limbs(product, a_count + b_count, out);
+}
+
+}  // namespace quorvex::native

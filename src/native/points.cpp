@@ -1,0 +1,67 @@
+#include "native/points.h"
+
+#include <cstring>
+
+#include "native/digit_words.h"
+
+namespace quorvex::native {
+namespace {
+
+constexpr std::size_t room = 16;
+
+// Ten or twelve digits are the last eight and those before them.
+template <std::size_t digits>
+double Read_Whole(const char* text, std::uint64_t& bad) {
+  const std::uint64_t head = Load_Word(text);
+  const std::uint64_t tail = Load_Word(text + digits - 8);
+  bad |= Non_Digits(head) | Non_Digits(tail);
+  const std::uint64_t high =
+      Join_Digits((head << (128 - 8 * digits)) | 0x3030303030303030U >> (8 * (digits - 8)));
+  return static_cast<double>(high * ten_to_8 + Join_Digits(tail));
+}
+
+template <std::size_t digits>
+bool Read_All(const char* text, std::size_t count, double* points) {
+  std::uint64_t bad = 0;
+  for (; count >= digits; ++points) {
+    count -= digits;
+    *points = Read_Whole<digits>(text + count, bad);
+  }
+  if (count > 0) {
+    char whole[digits];
+    std::memset(whole, '0', digits);
+    std::memcpy(whole + digits - count, text, count);
+    *points = Read_Whole<digits>(whole, bad);
+  }
+  return bad == 0;
+}
+
+// Sixteen characters, of which the last `digits` count.
+void Write_Whole(char* out, double point) {
+  const auto number = static_cast<std::uint64_t>(point);
+  const std::uint64_t high = number / ten_to_8;
+  Store_Word(out, Part_Digits(high));
+  Store_Word(out + 8, Part_Digits(number - high * ten_to_8));
+}
+
+}  // namespace
+
+bool Read_Points(const char* text, std::size_t count, const Cut& cut, double* points) {
+  return cut.digits == 12 ? Read_All<12>(text, count, points) : Read_All<10>(text, count, points);
+}
+
+std::size_t Write_Points(const double* points, std::size_t count, const Cut& cut, char* out) {
+  while (points[count - 1] == 0) --count;
+  const std::size_t first = Count_Digits(static_cast<std::uint64_t>(points[count - 1]));
+  std::size_t written = 0;
+  for (std::size_t i = count; i-- > 0;) {
+    char whole[room];
+    Write_Whole(whole, points[i]);
+    const std::size_t digits = written == 0 ? first : cut.digits;
+    std::memcpy(out + written, whole + room - digits, digits);
+    written += digits;
+  }
+  return written;
+}
+
+}  // namespace quorvex::native

@@ -1,0 +1,66 @@
+// Four lanes of doubles in AVX2 registers with fused multiplication and addition.
+#pragma once
+
+#include <immintrin.h>
+
+#include <cstddef>
+
+namespace quorvex::native {
+namespace {
+
+struct Lanes {
+  static constexpr std::size_t count = 4;
+  __m256d lane;
+
+  static Lanes Load(const double* from) { return {_mm256_load_pd(from)}; }
+  static Lanes All(double value) { return {_mm256_set1_pd(value)}; }
+  void store(double* to) const { _mm256_store_pd(to, lane); }
+};
+
+inline Lanes operator+(Lanes a, Lanes b) {
+  return {_mm256_add_pd(a.lane, b.lane)};
+}
+inline Lanes operator-(Lanes a, Lanes b) {
+  return {_mm256_sub_pd(a.lane, b.lane)};
+}
+
+struct Modulus {
+  Lanes p;
+  Lanes reciprocal;
+};
+
+inline __m256d Nearest_Product(__m256d a, __m256d b) {
+  const __m256d magic = _mm256_set1_pd(6755399441055744.0);
+  return _mm256_sub_pd(_mm256_fmadd_pd(a, b, magic), magic);
+}
+
+inline Lanes Multiply_Mod(Lanes a, Lanes b, const Modulus& modulus) {
+  const __m256d high = _mm256_mul_pd(a.lane, b.lane);
+  const __m256d low = _mm256_fmsub_pd(a.lane, b.lane, high);
+  const __m256d quotient = Nearest_Product(high, modulus.reciprocal.lane);
+  return {_mm256_add_pd(_mm256_fnmadd_pd(quotient, modulus.p.lane, high), low)};
+}
+
+inline Lanes Reduce(Lanes a, const Modulus& modulus) {
+  const __m256d quotient = Nearest_Product(a.lane, modulus.reciprocal.lane);
+  return {_mm256_fnmadd_pd(quotient, modulus.p.lane, a.lane)};
+}
+
+inline Lanes Add_If_Negative(Lanes a, Lanes b) {
+  const __m256d negative = _mm256_cmp_pd(a.lane, _mm256_setzero_pd(), _CMP_LT_OQ);
+  return {_mm256_add_pd(a.lane, _mm256_and_pd(negative, b.lane))};
+}
+
+inline void Transpose(Lanes (&rows)[Lanes::count]) {
+  const __m256d a = _mm256_unpacklo_pd(rows[0].lane, rows[1].lane);
+  const __m256d b = _mm256_unpackhi_pd(rows[0].lane, rows[1].lane);
+  const __m256d c = _mm256_unpacklo_pd(rows[2].lane, rows[3].lane);
+  const __m256d d = _mm256_unpackhi_pd(rows[2].lane, rows[3].lane);
+  rows[0].lane = _mm256_permute2f128_pd(a, c, 0x20);
+  rows[1].lane = _mm256_permute2f128_pd(b, d, 0x20);
+  rows[2].lane = _mm256_permute2f128_pd(a, c, 0x31);
+  rows[3].lane = _mm256_permute2f128_pd(b, d, 0x31);
+}
+
+}  // namespace
+}  // namespace quorvex::native

@@ -1,0 +1,119 @@
+// Products of all sizes by all kinds of instructions, against products formed independently.
+#include "native/multiply.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "products.h"
+
+namespace quorvex::native {
+namespace {
+
+std::string Shortened(const std::string& text) {
+  return text.size() <= 120 ? text
+                            : text.substr(0, 100) + "... (" + std::to_string(text.size()) + ")";
+}
+
+// Compares without printing a million digits when it fails.
+void Expect_Product(const std::string& a, const std::string& b, const std::string& expected) {
+  for (const Instructions kind : Kinds_Here()) {
+    const std::string product = Product_Of(a, b, kind);
+    EXPECT_TRUE(product == expected) << "kind " << static_cast<int>(kind) << ": " << Shortened(a)
+                                     << " * " << Shortened(b) << " = " << Shortened(product);
+  }
+}
+
+// By hand for short operands, which proves the library that serves for long ones as well.
+TEST(Multiply_Texts, Forms_All_Short_Products) {
+  for (std::size_t n = 1; n <= 60; ++n) {
+    for (std::size_t m = 1; m <= n; ++m) {
+      const unsigned seed = static_cast<unsigned>(100 * n + m);
+      const std::string a = Hard_Digits(n, seed % 7, seed);
+      const std::string b = Hard_Digits(m, seed % 5, seed + 1);
+      const std::string expected = Product_By_Hand(a, b);
+      ASSERT_EQ(expected, Product_By_Library(a, b));
+      Expect_Product(a, b, expected);
+      Expect_Product(b, a, expected);
+    }
+  }
+}
+
+TEST(Multiply_Texts, Bears_The_Hardest_Digits_At_All_Lengths) {
+  for (std::size_t n = 1; n < 12'000; n += 1 + n / 16) {
+    for (unsigned pattern = 0; pattern < digit_patterns * digit_patterns; ++pattern) {
+      const std::size_t m = n - (pattern % 3 == 0 ? n / 5 : 0);
+      const std::string a = Hard_Digits(n, pattern, 3);
+      const std::string b = Hard_Digits(m, pattern / digit_patterns, 4);
+      Expect_Product(a, b, Product_By_Library(a, b));
+    }
+  }
+}
+
+TEST(Multiply_Texts, Squares) {
+  for (std::size_t n = 1; n < 60'000; n += 1 + n / 8) {
+    const std::string a = Hard_Digits(n, static_cast<unsigned>(n), 5);
+    const std::string expected = Product_By_Library(a, a);
+    Expect_Product(a, a, expected);
+    Expect_Product(a, std::string(a), expected);
+  }
+}
+
+TEST(Multiply_Texts, Cuts_Unbalanced_Operands) {
+  for (const std::size_t n : {700U, 5000U, 20'000U, 100'000U, 400'000U}) {
+    for (const std::size_t m : {1U, 17U, 18U, 19U, 100U, 333U, 1000U, 2500U, 9000U, 33'000U}) {
+      if (m > n) continue;
+      const std::string a = Hard_Digits(n, static_cast<unsigned>(m), 6);
+      const std::string b = Hard_Digits(m, static_cast<unsigned>(n / 100), 7);
+      Expect_Product(a, b, Product_By_Library(a, b));
+    }
+  }
+}
+
+TEST(Multiply_Texts, Forms_Long_Products) {
+  for (const std::size_t n : {50'000U, 65'536U, 200'001U, 1'000'000U}) {
+    for (const unsigned pattern : {0U, 1U, 5U}) {
+      const std::string a = Hard_Digits(n, pattern, 8);
+      const std::string b = Hard_Digits(n - n / 7 * (pattern % 2), pattern, 9);
+      Expect_Product(a, b, Product_By_Library(a, b));
+    }
+  }
+}
+
+TEST(Multiply_Texts, Drops_Leading_Zeros) {
+  const std::string zeros(500, '0');
+  const struct {
+    std::string a, b, expected;
+  } cases[] = {{"0", "0", "0"},           {"00", "5", "0"},    {"0", zeros + "7", "0"},
+               {zeros, zeros, "0"},       {"0002", "03", "6"}, {zeros + "99", "99", "9801"},
+               {zeros + "12", zeros, "0"}};
+  for (const auto& [a, b, expected] : cases) Expect_Product(a, b, expected);
+}
+
+// Every place of a long operand is looked at, whatever reads it.
+TEST(Multiply_Texts, Refuses_Anything_But_Digits) {
+  for (const std::size_t n : {1U, 5U, 18U, 19U, 60U, 130U, 1000U, 4000U, 9000U}) {
+    const std::string good = Hard_Digits(n, 0, 10);
+    for (std::size_t at = 0; at < n; at += 1 + n / 150) {
+      for (const char wrong : {'/', ':', ' ', '-', '\xB5', 'a', '\0'}) {
+        std::string bad = good;
+        bad[at] = wrong;
+        Expect_Product(good, bad, "");
+        Expect_Product(bad, "00", "");
+        Expect_Product(bad, bad, "");
+      }
+    }
+  }
+  Expect_Product("", "5", "");
+}
+
+TEST(Multiply_Texts, Keeps_Within_Its_Room) {
+  char out[] = "    ";
+  EXPECT_EQ(Multiply_Texts("99", "99", out, 3), 0U);
+  EXPECT_STREQ(out, "    ");
+  EXPECT_EQ(Multiply_Texts("99", "99", out, 4), 4U);
+  EXPECT_STREQ(out, "9801");
+}
+
+}  // namespace
+}  // namespace quorvex::native
