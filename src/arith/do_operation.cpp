@@ -5,12 +5,16 @@
 #include <utility>
 
 #include "arith/add_digits.h"
+#include "arith/multiply_digits.h"
+#include "arith/recip_divide.h"
 #include "arith/resolve_signs.h"
 #include "arith/subtract_digits.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
+#include "text/decimal_positions.h"
 #include "text/format_result.h"
 #include "text/operand.h"
+#include "text/primitives.h"
 #include "text/tokens.h"
 
 namespace quorvex {
@@ -58,13 +62,56 @@ Raw_Result Add_Or_Subtract(const type_SignOp& reduced) {
   return {std::move(difference.Difference), position, difference.NegativeSubtraction};
 }
 
-Raw_Result Operate(const type_SignOp& reduced) {
+// The digits of two operands, and the position that their separators give the result.
+type_DecPosFromEnd Without_Separators(const type_SignOp& reduced) {
+  NumberText operand1(reduced.Operand1->magnitude());
+  NumberText operand2(reduced.Operand2->magnitude());
+  Strip_Leading_Zeros(operand1);
+  Strip_Leading_Zeros(operand2);
+  type_DecPosFromEnd aligned =
+      Decimal_Positions(std::move(operand1), std::move(operand2), reduced.Operation);
+  for (NumberText* operand : {&aligned.Operand1_Trim, &aligned.Operand2_Trim}) {
+    Remove_Decimal_Separator(*operand);
+    Strip_Leading_Zeros(*operand);
+  }
+  return aligned;
+}
+
+Raw_Result Multiply(const type_SignOp& reduced) {
+  const type_DecPosFromEnd operands = Without_Separators(reduced);
+  return {Multiply_Digits(operands.Operand1_Trim, operands.Operand2_Trim), operands.Position,
+          reduced.Negative};
+}
+
+// The digits right of the separator that an operand's position tells of.
+double Decimals(double position) {
+  return position == 0 ? 0 : position - 1;
+}
+
+Raw_Result Divide(const type_SignOp& reduced, double limit) {
+  type_DecPosFromEnd operands = Without_Separators(reduced);
+  type_Division_Recip quotient =
+      Recip_Divide(operands.Operand1_Trim, operands.Operand2_Trim, To_Int32(limit));
+  if (Has_Token_Mark(quotient.digits)) return {std::move(quotient.digits), 0, false};
+  double position = -static_cast<double>(quotient.powerOfTen) + Decimals(operands.Position1) -
+                    Decimals(operands.Position2);
+  if (position < 0) {
+    Require_Memory(-position);
+    quotient.digits.append(static_cast<std::size_t>(-position), '0');
+    position = 0;
+  }
+  return {std::move(quotient.digits), position + 1, reduced.Negative};
+}
+
+Raw_Result Operate(const type_SignOp& reduced, double limit) {
   switch (reduced.Operation) {
     case operation::add:
     case operation::subtract:
       return Add_Or_Subtract(reduced);
     case operation::multiply:
+      return Multiply(reduced);
     case operation::divide:
+      return Divide(reduced, limit);
     case operation::root:
     case operation::power:
       throw Run_Time_Failure(Failure_Number::invalid_call, "The operation has no routine yet.");
@@ -86,7 +133,8 @@ NumberText Operate_On_Text(std::int16_t Operation, std::string_view number1,
     options.FormatDecimalPlace = Missing;
   }
 
-  Raw_Result raw = Operate(Resolve_Signs(Operation, operand1, operand2));
+  Raw_Result raw = Operate(Resolve_Signs(Operation, operand1, operand2), options.maxSD);
+  if (Operation >= operation::multiply && Has_Token_Mark(raw.digits)) return raw.digits;
   return Format_Result(std::move(raw.digits), raw.position, !raw.negative, options,
                        flags.intermediate);
 }

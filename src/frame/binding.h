@@ -25,6 +25,8 @@ constexpr Parameter_Kind Kind_Of() {
     return Parameter_Kind::value;
   } else if constexpr (std::is_same_v<Value, NumberText>) {
     return Parameter_Kind::text;
+  } else if constexpr (std::is_same_v<Value, std::int32_t>) {
+    return Parameter_Kind::integer;
   } else {
     static_assert(unknown<Value>, "no kind of parameter is of this type");
   }
@@ -43,11 +45,19 @@ constexpr Result_Kind Result_Of() {
   }
 }
 
+/// Makes a value its own text, and gives that text to be changed.
+NumberText& Text_In_Place(HostValue& argument);
+
 /// An argument as a parameter takes it: a value by reference, text converted.
 template <typename Type>
 decltype(auto) Take(HostValue& argument) {
   if constexpr (Kind_Of<Type>() == Parameter_Kind::value) {
     return (argument);
+  } else if constexpr (Kind_Of<Type>() == Parameter_Kind::integer) {
+    return To_Int32(argument);
+  } else if constexpr (std::is_same_v<Type, NumberText&>) {
+    // The method changes its text: the caller's value holds it.
+    return Text_In_Place(argument);
   } else {
     return To_Text(argument);
   }
@@ -63,6 +73,7 @@ inline Call_Result Give(bool boolean) {
   return HostValue(boolean);
 }
 Call_Result Give(const type_Restrictionator& options);
+Call_Result Give(const type_Division_Recip& quotient);
 
 template <auto method>
 struct Bound;

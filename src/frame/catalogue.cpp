@@ -23,6 +23,15 @@ Call_Result Give(const type_Restrictionator& options) {
                  {"PreserveTrailingZerosAfterDecimal", options.PreserveTrailingZerosAfterDecimal}}};
 }
 
+Call_Result Give(const type_Division_Recip& quotient) {
+  return Record{{{"digits", quotient.digits}, {"powerOfTen", quotient.powerOfTen}}};
+}
+
+NumberText& Text_In_Place(HostValue& argument) {
+  argument = To_Text(argument);
+  return argument.mutable_text();
+}
+
 }  // namespace binding
 
 namespace {
@@ -73,6 +82,9 @@ Parameters With_Places(Parameters parameters) {
   return parameters;
 }
 
+constexpr std::string_view first_number = "a number";
+constexpr std::string_view second_number = "another number";
+
 template <auto method>
 Method Row(std::string_view name, std::string_view family, std::string_view category,
            std::string_view description, std::string_view example, Parameters parameters) {
@@ -87,9 +99,6 @@ Method Row(std::string_view name, std::string_view family, std::string_view cate
           Bound::result, &Bound::Invoke};
 }
 
-constexpr std::string_view first_number = "a number";
-constexpr std::string_view second_number = "another number";
-
 std::vector<Method> Call_Frame_Rows() {
   return {
       Row<&cls_Quorvex::PublicRestrictionatorCaller>(
@@ -99,6 +108,41 @@ std::vector<Method> Call_Frame_Rows() {
       Row<&cls_Quorvex::Restrictionator>("Restrictionator", "Call frame", not_offered,
                                          "Resolves the formatting options, as every function does.",
                                          "Restrictionator(2, TRUE, , , 50, 2)", With_Places({})),
+  };
+}
+
+std::vector<Method> Division_Rows() {
+  const Parameters two_numbers = {Operand_Parameter("num1", first_number),
+                                  Operand_Parameter("num2", second_number)};
+  return {
+      Row<&cls_Quorvex::DivisionDecimalPosition>(
+          "DivisionDecimalPosition", "Division", not_offered,
+          "Returns the place of a quotient's decimal separator by the lengths of two digit "
+          "strings.",
+          "DivisionDecimalPosition(\"1\", \"30\")",
+          {Operand_Parameter("divisor", "the digits of the number that is divided"),
+           Operand_Parameter("dividend", "the digits of the number divided by")}),
+      Row<&cls_Quorvex::Recip_Divide>(
+          "Recip_Divide", "Division", not_offered,
+          "Returns the quotient of two whole numbers as digits and a power of ten.",
+          "Recip_Divide(\"1\", \"3\", 8)",
+          {Operand_Parameter("iBig", "the number to divide"),
+           Operand_Parameter("kBig", "the number to divide by"),
+           Operand_Parameter("Precision", "the significant digits wanted")}),
+      Row<&cls_Quorvex::myInverse5>(
+          "myInverse5", "Division", not_offered,
+          "Returns digits of the reciprocal of a whole number, approached from below.",
+          "myInverse5(\"7\", 20)",
+          {Operand_Parameter("kBig", "a whole number as digits"),
+           Operand_Parameter("p", "the digits wanted")}),
+      Row<&cls_Quorvex::Min>("Min", "Division", not_offered, "Returns the lesser of two numbers.",
+                             "Min(2, 10)", two_numbers),
+      Row<&cls_Quorvex::Max>("Max", "Division", not_offered, "Returns the greater of two numbers.",
+                             "Max(2, 10)", two_numbers),
+      Row<&cls_Quorvex::GetHalfofLong>("GetHalfofLong", "Division", not_offered,
+                                       "Returns the half of a 32-bit whole number, rounded down.",
+                                       "GetHalfofLong(7)",
+                                       {Operand_Parameter("num_as_long", "a whole number")}),
   };
 }
 
@@ -128,6 +172,24 @@ std::vector<Method> Number_Rows() {
           "qvxSUBTRACT(1, \"0.00000000000000000001\")",
           With_Places({Operand_Parameter("number1", "the number to subtract from"),
                        Operand_Parameter("number2", "the number to subtract")})),
+  };
+}
+
+std::vector<Method> Product_Rows() {
+  return {
+      Row<&cls_Quorvex::qvxMULTIPLY>(
+          "qvxMULTIPLY", "Arithmetic", operators,
+          "Multiplies two numbers, with up to 32,767 significant digits of precision.",
+          "qvxMULTIPLY(\"12345678901234567890\", \"-0.5\")",
+          With_Places({Operand_Parameter("number1", first_number),
+                       Operand_Parameter("number2", second_number)})),
+      Row<&cls_Quorvex::qvxDIVIDE>(
+          "qvxDIVIDE", "Arithmetic", operators,
+          "Divides one number by another, with up to 32,767 significant digits of precision. "
+          "Number1 is divided by number2.",
+          "qvxDIVIDE(1, 7, , , , , 30)",
+          With_Places({Operand_Parameter("number1", "the number to divide"),
+                       Operand_Parameter("number2", "the number to divide by")})),
   };
 }
 
@@ -192,7 +254,8 @@ std::vector<Method> Last_Rows() {
 
 std::vector<Method> Make_Catalogue() {
   std::vector<Method> methods;
-  for (auto rows : {Call_Frame_Rows(), Number_Rows(), Comparison_Rows(), Last_Rows()}) {
+  for (auto rows : {Call_Frame_Rows(), Division_Rows(), Number_Rows(), Product_Rows(),
+                    Comparison_Rows(), Last_Rows()}) {
     std::ranges::move(rows, std::back_inserter(methods));
   }
   return methods;

@@ -1,6 +1,7 @@
 #include "frame/cls_Quorvex.h"
 
 #include "arith/do_operation.h"
+#include "arith/recip_divide.h"
 #include "host/conversions.h"
 #include "text/compare_numbers.h"
 #include "text/format_result.h"
@@ -45,6 +46,32 @@ type_Restrictionator cls_Quorvex::Restrictionator(const HostValue& format_negati
                                    format_decimal_place, preserve_decimal_place});
 }
 
+HostValue cls_Quorvex::DivisionDecimalPosition(const NumberText& divisor,
+                                               const NumberText& dividend) {
+  return quorvex::DivisionDecimalPosition(divisor, dividend);
+}
+
+type_Division_Recip cls_Quorvex::Recip_Divide(NumberText& iBig, NumberText& kBig,
+                                              std::int32_t Precision) {
+  return quorvex::Recip_Divide(iBig, kBig, Precision);
+}
+
+type_Division_Recip cls_Quorvex::myInverse5(const NumberText& kBig, std::int32_t p) {
+  return quorvex::myInverse5(kBig, p);
+}
+
+HostValue cls_Quorvex::Min(const HostValue& num1, const HostValue& num2) {
+  return quorvex::Min(num1, num2);
+}
+
+HostValue cls_Quorvex::Max(const HostValue& num1, const HostValue& num2) {
+  return quorvex::Max(num1, num2);
+}
+
+HostValue cls_Quorvex::GetHalfofLong(std::int32_t num_as_long) {
+  return quorvex::GetHalfofLong(num_as_long);
+}
+
 bool cls_Quorvex::qvxISNUMBER(const HostValue& num) {
   std::string scratch;
   return Is_Number_Text(Text_Of(num, scratch));
@@ -72,6 +99,26 @@ NumberText cls_Quorvex::qvxSUBTRACT(
     const HostValue& exponential_notation, const HostValue& maximum_significant_digits,
     const HostValue& format_decimal_place, const HostValue& preserve_decimal_place) {
   return Do_Operation(operation::subtract, number1, number2,
+                      {format_negative, format_thousands, format_currency, exponential_notation,
+                       maximum_significant_digits, format_decimal_place, preserve_decimal_place});
+}
+
+NumberText cls_Quorvex::qvxMULTIPLY(
+    const HostValue& number1, const HostValue& number2, const HostValue& format_negative,
+    const HostValue& format_thousands, const HostValue& format_currency,
+    const HostValue& exponential_notation, const HostValue& maximum_significant_digits,
+    const HostValue& format_decimal_place, const HostValue& preserve_decimal_place) {
+  return Do_Operation(operation::multiply, number1, number2,
+                      {format_negative, format_thousands, format_currency, exponential_notation,
+                       maximum_significant_digits, format_decimal_place, preserve_decimal_place});
+}
+
+NumberText cls_Quorvex::qvxDIVIDE(
+    const HostValue& number1, const HostValue& number2, const HostValue& format_negative,
+    const HostValue& format_thousands, const HostValue& format_currency,
+    const HostValue& exponential_notation, const HostValue& maximum_significant_digits,
+    const HostValue& format_decimal_place, const HostValue& preserve_decimal_place) {
+  return Do_Operation(operation::divide, number1, number2,
                       {format_negative, format_thousands, format_currency, exponential_notation,
                        maximum_significant_digits, format_decimal_place, preserve_decimal_place});
 }

@@ -1,6 +1,9 @@
 // The public class: every worksheet function as a method, in an order that stays fixed.
 #pragma once
 
+#include <cstdint>
+
+#include "arith/reciprocal.h"
 #include "host/export.h"
 #include "host/host_value.h"
 #include "text/options.h"
@@ -40,6 +43,24 @@ class QUORVEX_API cls_Quorvex {
                                        const HostValue& format_decimal_place = Missing,
                                        const HostValue& preserve_decimal_place = Missing);
 
+  /// The place of a quotient's separator by the lengths of two digit strings. Despite their names
+  /// the first is the number that is divided, and the second the one divided by.
+  HostValue DivisionDecimalPosition(const NumberText& divisor, const NumberText& dividend);
+
+  /// The quotient of two whole numbers to `Precision` significant digits. Tokens, as `digits`: that
+  /// of an operand that is no number, "#DIV/0!", "#VALUE!" where products can't be formed.
+  type_Division_Recip Recip_Divide(NumberText& iBig, NumberText& kBig, std::int32_t Precision);
+
+  /// `p` digits of the reciprocal of a whole number, from below: that of 2 is a 4 and nines.
+  type_Division_Recip myInverse5(const NumberText& kBig, std::int32_t p);
+
+  /// The lesser, or the greater, of two values as numbers; the second one where they are equal.
+  HostValue Min(const HostValue& num1, const HostValue& num2);
+  HostValue Max(const HostValue& num1, const HostValue& num2);
+
+  /// The half of a 32-bit number, rounded down.
+  HostValue GetHalfofLong(std::int32_t num_as_long);
+
   /// Whether addition would accept the value as a number. Throws `Run_Time_Failure` 13 for a
   /// missing value and for an array, which have no text.
   bool qvxISNUMBER(const HostValue& num);
@@ -67,6 +88,27 @@ class QUORVEX_API cls_Quorvex {
                          const HostValue& maximum_significant_digits = Missing,
                          const HostValue& format_decimal_place = Missing,
                          const HostValue& preserve_decimal_place = Missing);
+
+  /// The product, in full before the limit cuts it, and the quotient `number1` by `number2`, to the
+  /// limit and one digit more. "#DIV/0!" for a divisor of 0; "#NUM!" where an operand of a quotient
+  /// is no number, "#VALUE!" where one of a product is none; "#VALUE!" also where the library of
+  /// products can't be found.
+  NumberText qvxMULTIPLY(const HostValue& number1, const HostValue& number2,
+                         const HostValue& format_negative = Missing,
+                         const HostValue& format_thousands = Missing,
+                         const HostValue& format_currency = Missing,
+                         const HostValue& exponential_notation = Missing,
+                         const HostValue& maximum_significant_digits = Missing,
+                         const HostValue& format_decimal_place = Missing,
+                         const HostValue& preserve_decimal_place = Missing);
+  NumberText qvxDIVIDE(const HostValue& number1, const HostValue& number2,
+                       const HostValue& format_negative = Missing,
+                       const HostValue& format_thousands = Missing,
+                       const HostValue& format_currency = Missing,
+                       const HostValue& exponential_notation = Missing,
+                       const HostValue& maximum_significant_digits = Missing,
+                       const HostValue& format_decimal_place = Missing,
+                       const HostValue& preserve_decimal_place = Missing);
 
   /// Comparisons, at any length: the text "True" or "False". "#NUM!" for what is no number, and an
   /// error token for itself; but `qvxISNOTEQUAL` answers "True" to "#VALUE!" and "#DIV/0!".

@@ -92,8 +92,8 @@ class QUORVEX_API HostValue {
   const List& list() const { return *std::get<std::shared_ptr<const List>>(data_); }
   const Range& range() const { return *std::get<std::shared_ptr<const Range>>(data_); }
 
-  /// The text itself, moved out; for values of kind text only.
-  std::string take_text() && { return std::move(std::get<std::string>(data_)); }
+  /// The text itself, to be changed; for values of kind text only.
+  std::string& mutable_text() { return std::get<std::string>(data_); }
 
  private:
   struct Blank {};

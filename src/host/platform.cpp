@@ -17,6 +17,7 @@ Message_Box::~Message_Box() = default;
 Yielder::~Yielder() = default;
 Letter_Case::~Letter_Case() = default;
 Memory_Gauge::~Memory_Gauge() = default;
+Library_Loader::~Library_Loader() = default;
 
 namespace {
 

@@ -98,6 +98,14 @@ class QUORVEX_API Memory_Gauge {
   virtual std::size_t available_bytes() = 0;
 };
 
+/// Loads libraries that stand beside this one.
+class QUORVEX_API Library_Loader {
+ public:
+  virtual ~Library_Loader();
+  /// The address of a symbol in the library of that plain file name; null if there is none such.
+  virtual void* symbol(const char* library, const char* name) = 0;
+};
+
 struct Platform {
   std::shared_ptr<Locale_Source> locale;
   std::shared_ptr<Settings_Store> settings;
@@ -106,6 +114,7 @@ struct Platform {
   std::shared_ptr<Yielder> yielder;
   std::shared_ptr<Memory_Gauge> memory;
   std::shared_ptr<Letter_Case> letters;
+  std::shared_ptr<Library_Loader> libraries;
 };
 
 /// Makes the platform of the process when it is first called. For `Current_Platform` only.

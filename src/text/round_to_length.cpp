@@ -7,7 +7,7 @@
 
 #include "host/run_time_failure.h"
 #include "text/digit_runs.h"
-#include "text/primitives.h"
+#include "text/single_byte_separator.h"
 #include "text/tokens.h"
 
 namespace quorvex {
@@ -88,25 +88,14 @@ Count Whole(double n) {
   return static_cast<Count>(std::nearbyint(std::fmax(-far, std::fmin(far, n))));
 }
 
-std::string Replace_First(std::string text, const std::string& part, const std::string& by) {
-  const std::size_t place = text.find(part);
-  if (place != std::string::npos) text.replace(place, part.size(), by);
-  return text;
-}
-
 }  // namespace
 
 NumberText Round_To_Length(NumberText num, double n) {
   return With_Handler(
       [&] {
-        const std::string& separator = Decimal_Separator();
-        if (separator.size() == 1) return Round(std::move(num), Whole(n), separator.front());
-        // A separator of several bytes is one character all the same: a stand-in of one byte, which
-        // number text never holds, takes its place while characters are counted.
-        const std::string stand_in(1, '\x1f');
-        num = Replace_First(std::move(num), separator, stand_in);
-        num = Round(std::move(num), Whole(n), stand_in.front());
-        return Replace_First(std::move(num), stand_in, separator);
+        return With_Single_Byte_Separator(std::move(num), [&](std::string text, char separator) {
+          return Round(std::move(text), Whole(n), separator);
+        });
       },
       [](const Run_Time_Failure&) { return NumberText(value_token); });
 }

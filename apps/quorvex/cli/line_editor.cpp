@@ -2,6 +2,7 @@
 #include "cli/line_editor.h"
 
 #include <histedit.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -44,16 +45,35 @@ void Follow_Terminal(EditLine* editor) {
   }
 }
 
+// Waits for a key or a signal. Signals are held back from before `Call_Guard` is asked until the
+// wait begins, lest one that comes in between be slept through.
+void Wait_For_Key() {
+  sigset_t signals;
+  sigset_t before;
+  ::sigemptyset(&signals);
+  for (const int signal : {SIGINT, SIGWINCH, SIGCONT}) ::sigaddset(&signals, signal);
+  ::pthread_sigmask(SIG_BLOCK, &signals, &before);
+  if (!Call_Guard::is_interrupted() && resized == 0 && continued == 0) {
+    pollfd input{STDIN_FILENO, POLLIN, 0};
+    ::ppoll(&input, 1, nullptr, &before);
+  }
+  ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+}
+
 // One byte of what is typed: 1, 0 at the end, -1 when Ctrl-C was typed or nothing can be read.
 int Read_Byte(EditLine* editor, char& byte) {
   for (;;) {
+    Wait_For_Key();
     if (Call_Guard::is_interrupted()) {
       errno = EINTR;
       return -1;
     }
+    if (resized != 0 || continued != 0) {
+      Follow_Terminal(editor);
+      continue;
+    }
     const ssize_t got = ::read(STDIN_FILENO, &byte, 1);
     if (got >= 0 || errno != EINTR) return static_cast<int>(got);
-    Follow_Terminal(editor);
   }
 }
 
@@ -108,6 +128,9 @@ class Line_Editor::State {
   Status read(std::string& line) {
     // A calculation that was over before it heeded Ctrl-C has nothing to do with this line.
     Call_Guard::forget_interruption();
+    // The library shows the prompt first and then takes the terminal over, too late for a key that
+    // was typed as soon as the prompt was seen.
+    ::el_set(editor_, EL_PREP_TERM, 1);
     int count = 0;
     const char* typed = ::el_gets(editor_, &count);
     if (Call_Guard::is_interrupted()) {

@@ -24,7 +24,8 @@ Platform Default_Platform() {
           .message_box = Terminal_Message_Box(STDIN_FILENO, STDERR_FILENO),
           .yielder = std::make_shared<Silent_Yielder>(),
           .memory = System_Memory(),
-          .letters = System_Letters()};
+          .letters = System_Letters(),
+          .libraries = System_Libraries()};
 }
 
 }  // namespace quorvex

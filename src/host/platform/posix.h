@@ -28,4 +28,7 @@ std::shared_ptr<Memory_Gauge> System_Memory();
 
 std::shared_ptr<Letter_Case> System_Letters();
 
+/// Loads shared libraries from the folder of this one, or from where the system looks.
+std::shared_ptr<Library_Loader> System_Libraries();
+
 }  // namespace quorvex

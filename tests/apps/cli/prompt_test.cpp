@@ -63,6 +63,12 @@ class Terminal {
   Terminal(const Terminal&) = delete;
   Terminal& operator=(const Terminal&) = delete;
 
+  // Keys typed before the prompt is there would meet a terminal in another mode.
+  void type_at_prompt(std::string_view keys) {
+    EXPECT_TRUE(shows("> ")) << shown_;
+    type(keys);
+  }
+
   void type(std::string_view keys) {
     EXPECT_EQ(::write(terminal_, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
   }
@@ -107,39 +113,35 @@ class Terminal {
 TEST(Prompt, CalculatesExplainsAndLeaves) {
   const Temporary_Folder folder;
   Terminal terminal(folder.path());
-  ASSERT_TRUE(terminal.shows("> ")) << terminal.shown();
-  terminal.type("qvxADD(\"12345678901234567890\",1)\n");
+  terminal.type_at_prompt("qvxADD(\"12345678901234567890\",1)\n");
   EXPECT_TRUE(terminal.shows("\n12345678901234567891")) << terminal.shown();
-  terminal.type("qvxADDD(1)\n");
+  terminal.type_at_prompt("qvxADDD(1)\n");
   EXPECT_TRUE(terminal.shows("did you mean qvxADD?")) << terminal.shown();
-  terminal.type("help qvxSIGN\n");
+  terminal.type_at_prompt("help qvxSIGN\n");
   EXPECT_TRUE(terminal.shows("qvxSIGN(-273.15)")) << terminal.shown();
-  terminal.type("HELP nothing\n");
+  terminal.type_at_prompt("HELP nothing\n");
   EXPECT_TRUE(terminal.shows("there is no function \"nothing\"")) << terminal.shown();
-  terminal.type("functions\n");
+  terminal.type_at_prompt("functions\n");
   EXPECT_TRUE(terminal.shows("qvxFORMAT")) << terminal.shown();
-  terminal.type("qvxsu\t7,\"0.5\")\n");
+  terminal.type_at_prompt("qvxsu\t7,\"0.5\")\n");
   EXPECT_TRUE(terminal.shows("\n6.5")) << terminal.shown();
-  terminal.type("\"\xE2\x82\xAC\"\n");
+  terminal.type_at_prompt("\"\xE2\x82\xAC\"\n");
   EXPECT_TRUE(terminal.shows("\n\xE2\x82\xAC")) << terminal.shown();
-  terminal.type("quit\n");
+  terminal.type_at_prompt("quit\n");
   EXPECT_EQ(terminal.end(), 0);
 }
 
 TEST(Prompt, InterruptGivesUpTheLineAndCtrlDLeaves) {
   const Temporary_Folder folder;
   Terminal terminal(folder.path());
-  ASSERT_TRUE(terminal.shows("> "));
-  terminal.type("qvxADD(1,");
+  terminal.type_at_prompt("qvxADD(1,");
   EXPECT_TRUE(terminal.shows("qvxADD(1,"));
   terminal.type("\x03");
   EXPECT_TRUE(terminal.shows("^C")) << terminal.shown();
-  EXPECT_TRUE(terminal.shows("> ")) << terminal.shown();
-  terminal.type("qvxADD(2,3)\n");
+  terminal.type_at_prompt("qvxADD(2,3)\n");
   EXPECT_TRUE(terminal.shows("\n5")) << terminal.shown();
   // Between two lines the terminal itself takes Ctrl-D, and nobody is told.
-  EXPECT_TRUE(terminal.shows("> ")) << terminal.shown();
-  terminal.type("\x04");
+  terminal.type_at_prompt("\x04");
   EXPECT_EQ(terminal.end(), 0);
 }
 
@@ -147,17 +149,15 @@ TEST(Prompt, KeepsItsHistory) {
   const Temporary_Folder folder;
   {
     Terminal first(folder.path());
-    ASSERT_TRUE(first.shows("> "));
-    first.type("qvxADD(40,2)\n");
+    first.type_at_prompt("qvxADD(40,2)\n");
     EXPECT_TRUE(first.shows("\n42")) << first.shown();
-    first.type("exit\n");
+    first.type_at_prompt("exit\n");
     EXPECT_EQ(first.end(), 0);
   }
   EXPECT_NE(File_Text(folder.path() / "quorvex" / "history").find("qvxADD(40,2)"),
             std::string::npos);
   Terminal second(folder.path());
-  ASSERT_TRUE(second.shows("> "));
-  second.type("\x10\x10\n");  // back two lines, beyond "exit"
+  second.type_at_prompt("\x10\x10\n");  // back two lines, beyond "exit"
   EXPECT_TRUE(second.shows("\n42")) << second.shown();
 }
 

@@ -1,0 +1,19 @@
+// The digits that the iteration for a reciprocal arrives at, without the iteration.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "host/host_value.h"
+
+namespace quorvex {
+
+/// The `p` digits that `Iterated_Reciprocal` gives for a digit string `k` above 1 without leading
+/// zeros, or nothing where that can't be told beforehand. The decimal point of the digits stands
+/// as many places to their left as `k` has digits but one.
+///
+/// Let N be the length of k. The digits are floor((10^(p+N-1) - 1) / k): those of 1/k, and where
+/// 1/k ends, those of a number just below it. The proof and its conditions stand with the code.
+std::optional<NumberText> Quick_Reciprocal(const NumberText& k, std::int32_t p);
+
+}  // namespace quorvex

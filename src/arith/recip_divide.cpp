@@ -1,0 +1,109 @@
+#include "arith/recip_divide.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <string>
+#include <utility>
+
+#include "arith/multiply_digits.h"
+#include "arith/round_to_sd.h"
+#include "host/conversions.h"
+#include "host/run_time_failure.h"
+#include "text/clean_up_number.h"
+#include "text/compare_numbers.h"
+#include "text/tokens.h"
+
+namespace quorvex {
+namespace {
+
+constexpr std::int32_t guard_digits = 3;
+
+std::int32_t In_32_Bits(std::int64_t number) {
+  if (number > std::numeric_limits<std::int32_t>::max() ||
+      number < std::numeric_limits<std::int32_t>::min()) {
+    throw Run_Time_Failure(Failure_Number::overflow, "A precision or a power of ten is too large.");
+  }
+  return static_cast<std::int32_t>(number);
+}
+
+// What is done when no digits need to be worked out: true if `quotient` is final.
+bool Is_Answered_At_Once(const NumberText& X, const NumberText& Y, type_Division_Recip& quotient) {
+  if (Is_True(Compare_Numbers(Y, "0", true, false))) {
+    quotient.digits = div0_token;
+  } else if (X.starts_with('0')) {
+    quotient.digits = "0";
+  } else if (Y == "1") {
+    quotient.digits = X;
+  } else if (Y == X) {
+    quotient.digits = "1";
+  } else {
+    return false;
+  }
+  return true;
+}
+
+// Works in `quotient`, which is the result also where a failure ends it early.
+void Divide(const NumberText& X, const NumberText& Y, std::int32_t sd,
+            type_Division_Recip& quotient) {
+  const type_Division_Recip inverse = myInverse5(Y, In_32_Bits(std::int64_t{sd} + guard_digits));
+  quotient.digits = Multiply_Digits(X, inverse.digits);
+  const auto length = static_cast<std::int64_t>(quotient.digits.size());
+  quotient.powerOfTen =
+      In_32_Bits(inverse.powerOfTen - std::min<std::int64_t>(sd, length) + length);
+  const std::int64_t kept = std::int64_t{sd} + guard_digits;
+  if (length > kept)
+    quotient.digits.resize(static_cast<std::size_t>(std::max<std::int64_t>(kept, 0)));
+  const std::size_t before = quotient.digits.size();
+  quotient.digits = To_Text(Round_To_SD(std::move(quotient.digits), sd));
+  if (quotient.digits.size() == before + 1) {
+    quotient.powerOfTen = In_32_Bits(std::int64_t{quotient.powerOfTen} + 1);
+  }
+  if (sd < 0) {
+    throw Run_Time_Failure(Failure_Number::invalid_call, "There are no digits to keep.");
+  }
+  if (quotient.digits.size() > static_cast<std::size_t>(sd)) {
+    quotient.digits.resize(static_cast<std::size_t>(sd));
+  }
+}
+
+}  // namespace
+
+type_Division_Recip Recip_Divide(NumberText& X, NumberText& Y, std::int32_t sd) {
+  type_CleanUp dividend = Clean_Up_Number(X, true, true);
+  if (dividend.IsError) return {std::move(dividend.NumClean), 0};
+  type_CleanUp divisor = Clean_Up_Number(Y, true, true);
+  if (divisor.IsError) return {std::move(divisor.NumClean), 0};
+  X = std::move(dividend.NumClean);
+  Y = std::move(divisor.NumClean);
+
+  type_Division_Recip quotient;
+  if (Is_Answered_At_Once(X, Y, quotient)) return quotient;
+  With_Handler([&] { Divide(X, Y, sd, quotient); }, [](const Run_Time_Failure&) {});
+  return quotient;
+}
+
+double DivisionDecimalPosition(const NumberText& divisor, const NumberText& dividend) {
+  const auto divided = static_cast<double>(divisor.size());
+  const auto by = static_cast<double>(dividend.size());
+  if (Compare_Digit_Strings(dividend, divisor, false, true)) {
+    const NumberText leading = dividend.substr(0, divisor.size());
+    return Compare_Digit_Strings(leading, divisor, true, true) ? 1 - divided + by : by - divided;
+  }
+  if (by > divided) return 0;
+  return Compare_Digit_Strings(dividend, divisor, true, true) ? 1 : 0;
+}
+
+HostValue Min(const HostValue& num1, const HostValue& num2) {
+  return To_Number(num1) < To_Number(num2) ? num1 : num2;
+}
+
+HostValue Max(const HostValue& num1, const HostValue& num2) {
+  return To_Number(num1) > To_Number(num2) ? num1 : num2;
+}
+
+HostValue GetHalfofLong(std::int32_t num_as_long) {
+  return std::floor(static_cast<double>(num_as_long) / 2.0);
+}
+
+}  // namespace quorvex
