@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "host/platform.h"
 #include "text/digit_words.h"
 
 namespace quorvex {
@@ -23,9 +24,8 @@ bool Is_Block_Of_Digits(const char* text) {
           words::Non_Digit_Bits(words::Load(text + 3 * words::size))) == 0;
 }
 
-}  // namespace
-
-std::size_t Count_Digits(std::string_view text) {
+// The run of digits at the start of a text that is short enough to be looked at without a yield.
+std::size_t Count_Digits_In_Piece(std::string_view text) {
   const char* const data = text.data();
   const std::size_t length = text.size();
   std::size_t count = 0;
@@ -40,6 +40,19 @@ std::size_t Count_Digits(std::string_view text) {
   }
   while (count < length && Is_Digit(data[count])) ++count;
   return count;
+}
+
+}  // namespace
+
+std::size_t Count_Digits(std::string_view text) {
+  std::size_t count = 0;
+  for (;;) {
+    const auto piece = text.substr(count, digits_between_yields);
+    const std::size_t digits = Count_Digits_In_Piece(piece);
+    count += digits;
+    if (digits < piece.size() || count == text.size()) return count;
+    Yield();
+  }
 }
 
 std::size_t Count_Leading_Zeros(std::string_view text) {

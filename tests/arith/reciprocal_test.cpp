@@ -1,0 +1,188 @@
+// The reciprocal against its iteration, and quotients against exact remainders.
+#include "arith/reciprocal.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+#include "arith/quick_reciprocal.h"
+#include "arith/recip_divide.h"
+#include "support/locales.h"
+
+namespace quorvex {
+namespace {
+
+TEST(Reciprocal, GivesTheKnownDigits) {
+  struct Case {
+    const char* k;
+    std::int32_t p;
+    const char* digits;
+    std::int32_t power;
+  };
+  const std::vector<Case> cases = {
+      {"3", 20, "33333333333333333333", -20},
+      {"7", 20, "14285714285714285714", -20},
+      {"2", 20, "49999999999999999999", -20},
+      {"10", 20, "99999999999999999999", -21},
+      {"123456789", 20, "81000000737100006707", -28},
+      {"8", 30, "124999999999999999999999999999", -30},
+      {"1000", 25, "9999999999999999999999999", -28},
+      {"2", 2, "49", -2},
+      {"11", 2, "#EXPR!", 0},  // the rounds come back to where they were
+      {"7", 1, "", -1},
+      {"7", 0, "", 0},
+      {"1", 5, "1", 0},
+      {"0", 5, "99999", 2147483647},
+      {"0", 0, "9", 2147483647},
+      {"abc", 5, "", 0},
+      {"", 5, "", 0},
+  };
+  for (const auto& [k, p, digits, power] : cases) {
+    const type_Division_Recip reciprocal = myInverse5(k, p);
+    EXPECT_EQ(reciprocal.digits, digits) << k << " to " << p;
+    EXPECT_EQ(reciprocal.powerOfTen, power) << k << " to " << p;
+  }
+}
+
+// Where digits are found without the iteration, they are those of the iteration.
+class Quick_Reciprocals {
+ public:
+  void check(const NumberText& k, std::int32_t p) {
+    if (k == "1" || k == "0") return;
+    ++asked_;
+    const auto quick = Quick_Reciprocal(k, p);
+    if (!quick) return;
+    ++found_;
+    const type_Division_Recip iterated = Iterated_Reciprocal(k, p);
+    ASSERT_EQ(*quick, iterated.digits) << k << " to " << p;
+    ASSERT_EQ(-(p + static_cast<std::int32_t>(k.size()) - 1), iterated.powerOfTen) << k;
+  }
+  // Else the test would look at nothing.
+  void expect_most_found() const {
+    EXPECT_GT(found_ * 10, asked_ * 8) << found_ << " of " << asked_;
+  }
+
+ private:
+  int asked_ = 0;
+  int found_ = 0;
+};
+
+NumberText Times(NumberText number, int factor) {
+  int carry = 0;
+  for (std::size_t place = number.size(); place-- > 0;) {
+    const int product = (number[place] - '0') * factor + carry;
+    number[place] = static_cast<char>('0' + product % 10);
+    carry = product / 10;
+  }
+  return carry == 0 ? number : std::to_string(carry) + number;
+}
+
+// Digits of many kinds: random, sparse, nearly all nines, zeros and nines, fives.
+NumberText Odd_Digits(std::mt19937& random, std::size_t length) {
+  const auto any = [&] { return static_cast<char>('0' + random() % 10); };
+  const auto kind = random() % 5;
+  NumberText digits(length, kind == 2 ? '9' : '0');
+  for (char& digit : digits) {
+    if (kind == 0 || (kind < 3 && random() % 8 == 0)) digit = any();
+    if (kind == 3) digit = random() % 2 == 0 ? '0' : '9';
+    if (kind == 4) digit = random() % 2 == 0 ? '0' : '5';
+  }
+  if (digits.front() == '0') digits.front() = static_cast<char>('1' + random() % 9);
+  return digits;
+}
+
+TEST(Reciprocal, AgreesWithItsIteration) {
+  Quick_Reciprocals reciprocals;
+  for (int k = 2; k < 1200; ++k) {
+    for (const int p : {24, 25, 26, 31, 104}) reciprocals.check(std::to_string(k), p);
+  }
+  std::mt19937 random(20);
+  for (int round = 0; round < 3000; ++round) {
+    const NumberText k = Odd_Digits(random, 1 + random() % 60);
+    reciprocals.check(k, static_cast<std::int32_t>(24 + random() % 100));
+  }
+  for (int round = 0; round < 15; ++round) {
+    const NumberText k = Odd_Digits(random, 1 + random() % 3000);
+    reciprocals.check(k, static_cast<std::int32_t>(24 + random() % 3000));
+  }
+  reciprocals.expect_most_found();
+}
+
+TEST(Reciprocal, EndsInNinesWhereTheFractionEnds) {
+  Quick_Reciprocals reciprocals;
+  NumberText by_two = "2";
+  for (int twos = 1; twos < 60; ++twos, by_two = Times(by_two, 2)) {
+    NumberText k = by_two;
+    for (int fives = 0; fives < 30; fives += 3) {
+      reciprocals.check(k, 24 + (twos * 7 + fives) % 60);
+      k = Times(Times(Times(k, 5), 5), 5);
+    }
+  }
+  reciprocals.expect_most_found();
+}
+
+TEST(RecipDivide, AnswersAsToldByItsCases) {
+  struct Case {
+    const char* X;
+    const char* Y;
+    std::int32_t sd;
+    const char* digits;
+    std::int32_t power;
+  };
+  const std::vector<Case> cases = {
+      {"1", "3", 8, "33333333", -8},
+      {"1", "8", 10, "1250000000", -10},
+      {"125", "5", 10, "2500000000", -8},
+      {"2", "7", 2, "28", -2},  // cut, not rounded: a zero at the end moves the rounding place
+      {"12345", "1", 2, "12345", 0},
+      {"77", "77", 2, "1", 0},
+      {"0", "3", 8, "0", 0},
+      {"1", "0", 8, "#DIV/0!", 0},
+      {"0", "0", 8, "#DIV/0!", 0},
+      {"abc", "2", 8, "#NUM!", 0},
+      {"2", "1E5", 8, "#VALUE!", 0},
+      {"#NUM!", "2", 8, "#NUM!", 0},
+      {"1", "3", 2147483646, "", 0},  // three digits more pass 32 bits
+  };
+  for (const auto& [X, Y, sd, digits, power] : cases) {
+    NumberText dividend = X;
+    NumberText divisor = Y;
+    const type_Division_Recip quotient = Recip_Divide(dividend, divisor, sd);
+    EXPECT_EQ(quotient.digits, digits) << X << " by " << Y;
+    EXPECT_EQ(quotient.powerOfTen, power) << X << " by " << Y;
+  }
+}
+
+TEST(RecipDivide, CleansItsOperandsInPlace) {
+  NumberText dividend = "$1,000";
+  NumberText divisor = "(8)";
+  Recip_Divide(dividend, divisor, 8);
+  EXPECT_EQ(dividend, "1000");
+  EXPECT_EQ(divisor, "-8");
+}
+
+TEST(Division, PlacesItsPointByLengths) {
+  const std::vector<std::tuple<const char*, const char*, double>> cases = {
+      {"1", "3", 1}, {"1", "30", 2}, {"5", "30", 1}, {"30", "5", 0}, {"7", "7", 1}, {"8", "7", 0}};
+  for (const auto& [divided, by, place] : cases) {
+    EXPECT_EQ(DivisionDecimalPosition(divided, by), place) << divided << " by " << by;
+  }
+}
+
+TEST(Division, HalvesRoundDown) {
+  const std::vector<std::pair<std::int32_t, double>> cases = {
+      {7, 3}, {-7, -4}, {0, 0}, {2147483647, 1073741823}};
+  for (const auto& [number, half] : cases) EXPECT_EQ(GetHalfofLong(number).number(), half);
+}
+
+TEST(Division, LeastAndGreatestGiveTheSecondOfEquals) {
+  EXPECT_EQ(Min("2", 10).text(), "2");
+  EXPECT_EQ(Max("2", 10).number(), 10);
+  EXPECT_EQ(Min("2", 2).number(), 2);
+  EXPECT_EQ(Max(2, "2").text(), "2");
+}
+
+}  // namespace
+}  // namespace quorvex
