@@ -33,9 +33,11 @@ struct Operands {
   std::string second;
 };
 
-using Arithmetic = quorvex::NumberText (cls_Quorvex::*)(
-    const HostValue&, const HostValue&, const HostValue&, const HostValue&, const HostValue&,
-    const HostValue&, const HostValue&, const HostValue&, const HostValue&);
+using Arithmetic = quorvex::NumberText (cls_Quorvex::*)(const HostValue&, const HostValue&,
+                                                        const HostValue&, const HostValue&,
+                                                        const HostValue&, const HostValue&,
+                                                        const HostValue&, const HostValue&,
+                                                        const HostValue&);
 
 // The whole call: options resolved, operands recognised, result formatted, nothing cut.
 void Quorvex(benchmark::State& state, Arithmetic method) {
@@ -45,8 +47,8 @@ void Quorvex(benchmark::State& state, Arithmetic method) {
   const HostValue limit(2147483648.0);
   cls_Quorvex engine;
   for (auto step : state) {
-    benchmark::DoNotOptimize(
-        (engine.*method)(first, second, Missing, Missing, Missing, Missing, limit, Missing, Missing));
+    benchmark::DoNotOptimize((engine.*method)(first, second, Missing, Missing, Missing, Missing,
+                                              limit, Missing, Missing));
   }
 }
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "native/digit_words.h"
+#include "native/kernels.h"
 #include "native/stair.h"
 
 namespace quorvex::native {
@@ -28,8 +28,10 @@ std::size_t Write_Zero(std::string_view a, std::string_view b, char* out) {
 
 std::size_t Multiply_Operands(const Operands& operands, char* out, Instructions kind) {
   if (operands.a.size() <= word_digits) return Multiply_Words(operands, out);
-  if (operands.b.size() < transform_from) return Multiply_Limbs(operands, out);
-  return Multiply_Long(operands, out, kind);
+  const Kernels& kernels = Kernels_Of(kind);
+  if (operands.b.size() >= transform_from) return Multiply_Long(operands, out, kernels);
+  if (kernels.multiply_short != nullptr) return Multiply_Short(operands, out, kernels);
+  return Multiply_Limbs(operands, out);
 }
 
 }  // namespace

@@ -133,8 +133,7 @@ std::size_t Multiply_Cut(const Operands& operands, char* out, const Kernels& ker
 
 }  // namespace
 
-std::size_t Multiply_Long(const Operands& operands, char* out, Instructions kind) noexcept {
-  const Kernels& kernels = Kernels_Of(kind);
+std::size_t Multiply_Long(const Operands& operands, char* out, const Kernels& kernels) noexcept {
   if (operands.a.size() / most_unbalanced > operands.b.size())
     return Multiply_Cut(operands, out, kernels);
   const Cut& cut = Cut_For(operands.b.size());
