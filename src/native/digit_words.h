@@ -28,6 +28,19 @@ static inline void Store_Word(char* text, std::uint64_t word) {
   std::memcpy(text, &word, sizeof word);
 }
 
+/// Four characters, the first in the lowest byte.
+static inline std::uint32_t Load_Half(const char* text) {
+  std::uint32_t half = 0;
+  std::memcpy(&half, text, sizeof half);
+  if constexpr (std::endian::native == std::endian::big) half = __builtin_bswap32(half);
+  return half;
+}
+
+static inline void Store_Half(char* text, std::uint32_t half) {
+  if constexpr (std::endian::native == std::endian::big) half = __builtin_bswap32(half);
+  std::memcpy(text, &half, sizeof half);
+}
+
 /// Nonzero exactly if a byte of the word is no digit. 0x76 takes every value of 10 and more to the
 /// high bit; a byte runs over only in a word that is bad already.
 static inline std::uint64_t Non_Digits(std::uint64_t word) {
@@ -54,11 +67,49 @@ static inline std::uint64_t Part_Digits(std::uint64_t number) {
   return (tens | ((pairs - tens * 10) << 8U)) | 0x3030303030303030U;
 }
 
-/// The count of decimal digits, 1 for zero.
-static inline std::size_t Count_Digits(std::uint64_t number) {
-  std::size_t count = 1;
-  for (; number >= 10'000; number /= 10'000) count += 4;
-  return count + (number >= 10) + (number >= 100) + (number >= 1000);
+/// The last `count` (1 to 8) of eight digits as a word, from a text that has no more; zeros before.
+static inline std::uint64_t Load_Short(const char* text, std::size_t count) {
+  constexpr std::uint64_t zeros = 0x3030303030303030U;
+  if (count == 8) return Load_Word(text);
+  const std::size_t shift = 8 * (8 - count);
+  const std::uint64_t before = zeros >> (8 * count);
+  const auto at = [text](std::size_t i) {
+    return std::uint64_t{static_cast<unsigned char>(text[i])};
+  };
+  if (count < 4) {
+    return before | at(0) << shift | at(count / 2) << (shift + 8 * (count / 2)) |
+           at(count - 1) << 56U;
+  }
+  return before | std::uint64_t{Load_Half(text)} << shift |
+         std::uint64_t{Load_Half(text + count - 4)} << 32U;
+}
+
+/// Writes the first `count` (1 to 8) characters of a word.
+static inline void Store_Short(char* text, std::uint64_t word, std::size_t count) {
+  if (count == 8) return Store_Word(text, word);
+  if (count >= 4) {
+    Store_Half(text, static_cast<std::uint32_t>(word));
+    Store_Half(text + count - 4, static_cast<std::uint32_t>(word >> (8 * (count - 4))));
+    return;
+  }
+  text[0] = static_cast<char>(word);
+  text[count / 2] = static_cast<char>(word >> (8 * (count / 2)));
+  text[count - 1] = static_cast<char>(word >> (8 * (count - 1)));
+}
+
+/// Writes a number above 0 without leading zeros and returns the count of its digits.
+static inline std::size_t Write_Number(char* out, std::uint64_t number) {
+  if (number >= ten_to_8) {
+    const std::uint64_t high = number / ten_to_8;
+    const std::size_t count = Write_Number(out, high);
+    Store_Word(out + count, Part_Digits(number - high * ten_to_8));
+    return count + 8;
+  }
+  const std::uint64_t digits = Part_Digits(number);
+  const auto zero_bits = static_cast<std::size_t>(std::countr_zero(digits & 0x0F0F0F0F0F0F0F0FU));
+  const std::size_t leading = zero_bits / 8;
+  Store_Short(out, digits >> (8 * leading), 8 - leading);
+  return 8 - leading;
 }
 
 }  // namespace quorvex::native

@@ -44,7 +44,8 @@ std::size_t Multiply_Texts(std::string_view a, std::string_view b, char* out, st
   if (a.empty() || b.empty()) return Write_Zero(a, b, out);
   if (a.size() + b.size() > room) return 0;
   if (a.size() < b.size()) std::swap(a, b);
-  return Multiply_Operands({a, b, a == b}, out, kind);
+  const bool is_square = a.front() == b.front() && a == b;
+  return Multiply_Operands({a, b, is_square}, out, kind);
 }
 
 std::size_t Multiply_Texts(std::string_view a, std::string_view b, char* out,
