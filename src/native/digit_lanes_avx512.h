@@ -16,11 +16,11 @@ namespace {
 template <std::size_t D>
 struct Windows {
   static constexpr std::size_t digits = 4 * D;
-  alignas(64) std::uint8_t to_lanes[64];    ///< the character for each byte of four numbers
-  alignas(64) std::uint8_t from_lanes[64];  ///< the byte for each character of the window
-  std::uint64_t used;                       ///< the bytes that have a character
+  alignas(64) std::uint8_t to_lanes[64] = {};    ///< the character for each byte of four numbers
+  alignas(64) std::uint8_t from_lanes[64] = {};  ///< the byte for each character of the window
+  std::uint64_t used = 0;                        ///< the bytes that have a character
 
-  constexpr Windows() : to_lanes(), from_lanes(), used(0) {
+  constexpr Windows() {
     for (std::size_t number = 0; number < 4; ++number) {
       for (std::size_t k = 0; k < D; ++k) {
         const std::size_t character = digits - D * (number + 1) + k;

@@ -9,9 +9,9 @@
 namespace quorvex::native {
 
 const Kernels& Avx512_Kernels() {
-  static constexpr Kernels kernels = {Multiply_Short, Short_Scratch,    Lanes::count,
-                                      Read_Eights,    Forward,          Multiply_Points,
-                                      Inverse,        Recombine_Eights, Write_Eights};
+  static constexpr Kernels kernels = {Multiply_In_Lanes, Short_Scratch,    Lanes::count,
+                                      Read_Eights,       Forward,          Multiply_Points,
+                                      Inverse,           Recombine_Eights, Write_Eights};
   return kernels;
 }
 

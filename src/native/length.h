@@ -41,9 +41,10 @@ static constexpr Length Length_For(std::size_t points, std::size_t block) {
   std::size_t size = block;
   while (size < points) size *= 2;
   const std::size_t unit = size / 8;
-  if (unit >= block)
+  if (unit >= block) {
     for (std::size_t units = 5; units < 8; ++units)
       if (unit * units >= points) return {unit, units};
+  }
   if (size >= 4 * block && size / 4 * 3 >= points) return {size / 8, 6};
   return {size / 4, 4};
 }

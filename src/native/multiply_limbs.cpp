@@ -57,10 +57,11 @@ std::size_t Multiply_Limbs(const Operands& operands, char* out) noexcept {
   Limb* const rest = product + a_count + b_count;
   if (!Read_Limbs(operands.a.data(), operands.a.size(), a)) return 0;
   if (b != a && !Read_Limbs(operands.b.data(), operands.b.size(), b)) return 0;
-  if (a_count == b_count)
+  if (a_count == b_count) {
     Multiply_Karatsuba(product, a, b, a_count, rest);
-  else
+  } else {
     Multiply_In_Pieces(product, a, a_count, b, b_count, rest);
+  }
   return Write_Limbs(product, a_count + b_count, out);
 }
 

@@ -26,7 +26,7 @@ bool Read_Points_Of(const char* text, std::size_t size, double* points) {
   return bad == 0;
 }
 
-bool Read_Eights(const char* text, std::size_t count, const Cut& cut, double* points) {
+inline bool Read_Eights(const char* text, std::size_t count, const Cut& cut, double* points) {
   return cut.digits == 12 ? Read_Points_Of<12>(text, count, points)
                           : Read_Points_Of<10>(text, count, points);
 }
@@ -35,7 +35,8 @@ template <std::size_t D>
 std::size_t Write_Points_Of(const double* points, std::size_t count, char* out) {
   while (points[count - 1] == 0) --count;
   std::size_t size = D * (count - 1) + 1;
-  for (double bound = 10; points[count - 1] >= bound; bound *= 10) ++size;
+  const auto top = static_cast<std::int64_t>(points[count - 1]);
+  for (std::int64_t bound = 10; top >= bound; bound *= 10) ++size;
   for (std::size_t end = size; end > 0; points += 8) {
     const std::size_t part = end < 8 * D ? end : 8 * D;
     end -= part;
@@ -44,7 +45,8 @@ std::size_t Write_Points_Of(const double* points, std::size_t count, char* out) 
   return size;
 }
 
-std::size_t Write_Eights(const double* points, std::size_t count, const Cut& cut, char* out) {
+inline std::size_t Write_Eights(const double* points, std::size_t count, const Cut& cut,
+                                char* out) {
   return cut.digits == 12 ? Write_Points_Of<12>(points, count, out)
                           : Write_Points_Of<10>(points, count, out);
 }
@@ -72,11 +74,12 @@ void Recombine_Of(double* c1, const double* c2, std::size_t count) {
   if (!carry.is_settled()) Settle(c1, count, static_cast<double>(Power_Of_Ten(D)));
 }
 
-void Recombine_Eights(double* c1, double* c2, std::size_t count, const Cut& cut) {
-  if (cut.digits == 12)
+inline void Recombine_Eights(double* c1, double* c2, std::size_t count, const Cut& cut) {
+  if (cut.digits == 12) {
     Recombine_Of<12>(c1, c2, count);
-  else
+  } else {
     Recombine_Of<10>(c1, c2, count);
+  }
 }
 
 }  // namespace

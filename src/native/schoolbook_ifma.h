@@ -17,11 +17,11 @@
 namespace quorvex::native {
 namespace {
 
-constexpr std::size_t lane_digits = 15;
-constexpr std::size_t lane_count = 8;
+inline constexpr std::size_t lane_digits = 15;
+inline constexpr std::size_t lane_count = 8;
 
 // Columns in one go: sixteen give four sums that don't wait for each other.
-constexpr std::size_t columns_at_once = 2 * lane_count;
+inline constexpr std::size_t columns_at_once = 2 * lane_count;
 
 constexpr std::size_t Limbs_Of(std::size_t digits) {
   return (digits + lane_digits - 1) / lane_digits;
@@ -92,8 +92,8 @@ constexpr std::size_t Short_Scratch(std::size_t a_size, std::size_t b_size) {
 }
 
 // A square has no second text.
-std::size_t Multiply_Short(const char* a_text, std::size_t a_size, const char* b_text,
-                           std::size_t b_size, char* out, std::uint64_t* scratch) {
+inline std::size_t Multiply_In_Lanes(const char* a_text, std::size_t a_size, const char* b_text,
+                                     std::size_t b_size, char* out, std::uint64_t* scratch) {
   const std::size_t a_count = Limbs_Of(a_size);
   const std::size_t b_count = Limbs_Of(b_size);
   const __m512i zero = _mm512_setzero_si512();
