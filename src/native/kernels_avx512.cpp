@@ -2,6 +2,7 @@
 #include "native/kernels.h"
 #include "native/points_avx512.h"
 #include "native/schoolbook_ifma.h"
+#include "native/tiny_avx512.h"
 #include "native/vector_avx512.h"
 // The vectors come first.
 #include "native/transform_pieces.h"
@@ -9,9 +10,10 @@
 namespace quorvex::native {
 
 const Kernels& Avx512_Kernels() {
-  static constexpr Kernels kernels = {Multiply_In_Lanes, Short_Scratch,    Lanes::count,
-                                      Read_Eights,       Forward,          Multiply_Points,
-                                      Inverse,           Recombine_Eights, Write_Eights};
+  static constexpr Kernels kernels = {
+      Multiply_Tiny, Multiply_In_Lanes, Short_Scratch, 5500,
+      Lanes::count,  Read_Eights,       Forward,       Multiply_Points,
+      Inverse,       Recombine_Eights,  Write_Eights};
   return kernels;
 }
 

@@ -9,8 +9,9 @@
 namespace quorvex::native {
 
 const Kernels& Portable_Kernels() {
-  static constexpr Kernels kernels = {nullptr,         nullptr, Lanes::count, Read_Points, Forward,
-                                      Multiply_Points, Inverse, Recombine,    Write_Points};
+  static constexpr Kernels kernels = {nullptr,      nullptr,     nullptr,     15'000,
+                                      Lanes::count, Read_Points, Forward,     Multiply_Points,
+                                      Inverse,      Recombine,   Write_Points};
   return kernels;
 }
 
