@@ -1,4 +1,4 @@
-"""The same sums, differences and comparisons through Python's decimal, as JSON."""
+"""The same sums, differences, comparisons and products through Python's decimal, as JSON."""
 
 import decimal
 import json
@@ -7,6 +7,7 @@ import sys
 import time
 
 SIZES = [10, 30, 100, 1000, 10_000, 100_000, 1_000_000]
+PRODUCT_SIZES = [10, 30, 100, 300, 1000, 3000, 10_000, 32_767, 100_000, 1_000_000]
 
 decimal.setcontext(
     decimal.Context(prec=decimal.MAX_PREC, Emax=decimal.MAX_EMAX, Emin=decimal.MIN_EMIN)
@@ -16,6 +17,12 @@ OPERATIONS = {
     "add": lambda a, b: str(decimal.Decimal(a) + decimal.Decimal(b)),
     "subtract": lambda a, b: str(decimal.Decimal(a) - decimal.Decimal(b)),
     "isgreater": lambda a, b: decimal.Decimal(a) > decimal.Decimal(b),
+}
+
+PRODUCTS = {
+    "product": lambda a, b: str(decimal.Decimal(a) * decimal.Decimal(b)),
+    "by a tenth": lambda a, b: str(decimal.Decimal(a) * decimal.Decimal(b)),
+    "square": lambda a, b: str((x := decimal.Decimal(a)) * x),
 }
 
 
@@ -47,6 +54,11 @@ def main():
     for name, call in OPERATIONS.items():
         for size in SIZES:
             a, b = digits(size, 1, "7"), digits(size, 2, "3")
+            times[f"{name}/{size}"] = nanoseconds(call, a, b, repetitions)
+    for name, call in PRODUCTS.items():
+        for size in PRODUCT_SIZES:
+            second = size // 10 if name == "by a tenth" else size
+            a, b = digits(size, 1, "7"), digits(second, 2, "3")
             times[f"{name}/{size}"] = nanoseconds(call, a, b, repetitions)
     json.dump(times, sys.stdout)
 

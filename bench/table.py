@@ -10,16 +10,7 @@ def unit(nanoseconds):
             return f"{nanoseconds / size:.3g} {name}"
 
 
-def main():
-    with open(sys.argv[1], encoding="utf-8") as file:
-        native = json.load(file)
-    with open(sys.argv[2], encoding="utf-8") as file:
-        peer = json.load(file)
-    times = {
-        run["run_name"]: run["real_time"]
-        for run in native["benchmarks"]
-        if run.get("aggregate_name") == "median"
-    }
+def print_calls(times, peer):
     print("| call | digits | GMP / ours | decimal / ours | ours | GMP | decimal |")
     print("|---|---:|---:|---:|---:|---:|---:|")
     for name, ours in times.items():
@@ -31,6 +22,37 @@ def main():
             f"| qvx{call.upper()} | {int(size):,} | {gmp / ours:.1f} | {dec / ours:.1f} "
             f"| {unit(ours)} | {unit(gmp)} | {unit(dec)} |"
         )
+
+
+def print_products(times, peer):
+    """Products by the library's one routine, against the best of the peers."""
+    print("| `Multiply` | digits | best peer / ours | ours | GMP | FLINT | decimal |")
+    print("|---|---:|---:|---:|---:|---:|---:|")
+    for name, ours in times.items():
+        library, shape, size = name.split("/")
+        if library != "Multiply":
+            continue
+        peers = [times[f"Gmp/{shape}/{size}"], times[f"Flint/{shape}/{size}"]]
+        peers.append(peer[f"{shape}/{size}"])
+        print(
+            f"| {shape} | {int(size):,} | {min(peers) / ours:.1f} | {unit(ours)} "
+            f"| {' | '.join(unit(time) for time in peers)} |"
+        )
+
+
+def main():
+    with open(sys.argv[1], encoding="utf-8") as file:
+        native = json.load(file)
+    with open(sys.argv[2], encoding="utf-8") as file:
+        peer = json.load(file)
+    times = {
+        run["run_name"]: run["real_time"]
+        for run in native["benchmarks"]
+        if run.get("aggregate_name") == "median"
+    }
+    print_calls(times, peer)
+    print()
+    print_products(times, peer)
 
 
 if __name__ == "__main__":

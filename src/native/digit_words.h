@@ -16,27 +16,40 @@ __extension__ using Wide = unsigned __int128;
 inline constexpr std::uint64_t ten_to_8 = 100'000'000;
 
 /// Eight characters, the first in the lowest byte.
-inline std::uint64_t Load_Word(const char* text) {
+static inline std::uint64_t Load_Word(const char* text) {
   std::uint64_t word = 0;
   std::memcpy(&word, text, sizeof word);
   if constexpr (std::endian::native == std::endian::big) word = __builtin_bswap64(word);
   return word;
 }
 
-inline void Store_Word(char* text, std::uint64_t word) {
+static inline void Store_Word(char* text, std::uint64_t word) {
   if constexpr (std::endian::native == std::endian::big) word = __builtin_bswap64(word);
   std::memcpy(text, &word, sizeof word);
 }
 
+/// Four characters, the first in the lowest byte.
+static inline std::uint32_t Load_Half(const char* text) {
+  std::uint32_t half = 0;
+  std::memcpy(&half, text, sizeof half);
+  if constexpr (std::endian::native == std::endian::big) half = __builtin_bswap32(half);
+  return half;
+}
+
+static inline void Store_Half(char* text, std::uint32_t half) {
+  if constexpr (std::endian::native == std::endian::big) half = __builtin_bswap32(half);
+  std::memcpy(text, &half, sizeof half);
+}
+
 /// Nonzero exactly if a byte of the word is no digit. 0x76 takes every value of 10 and more to the
 /// high bit; a byte runs over only in a word that is bad already.
-inline std::uint64_t Non_Digits(std::uint64_t word) {
+static inline std::uint64_t Non_Digits(std::uint64_t word) {
   const std::uint64_t values = word ^ 0x3030303030303030U;
   return ((values + 0x7676767676767676U) | values) & 0x8080808080808080U;
 }
 
 /// The number that eight digits write.
-inline std::uint64_t Join_Digits(std::uint64_t word) {
+static inline std::uint64_t Join_Digits(std::uint64_t word) {
   word &= 0x0F0F0F0F0F0F0F0FU;
   word = (word * 10 + (word >> 8U)) & 0x00FF00FF00FF00FFU;
   word = (word * 100 + (word >> 16U)) & 0x0000FFFF0000FFFFU;
@@ -45,7 +58,7 @@ inline std::uint64_t Join_Digits(std::uint64_t word) {
 
 /// The eight digits of a number below 10^8. 10,486 / 2^20 and 103 / 2^10 are the reciprocals of
 /// 100 and 10, exact for all numbers below 10^4 and 100.
-inline std::uint64_t Part_Digits(std::uint64_t number) {
+static inline std::uint64_t Part_Digits(std::uint64_t number) {
   const std::uint64_t high = number / 10'000;
   const std::uint64_t fours = high | ((number - high * 10'000) << 32U);
   const std::uint64_t hundreds = ((fours * 10'486) >> 20U) & 0x0000007F0000007FU;
@@ -54,11 +67,49 @@ inline std::uint64_t Part_Digits(std::uint64_t number) {
   return (tens | ((pairs - tens * 10) << 8U)) | 0x3030303030303030U;
 }
 
-/// The count of decimal digits, 1 for zero.
-inline std::size_t Count_Digits(std::uint64_t number) {
-  std::size_t count = 1;
-  for (; number >= 10'000; number /= 10'000) count += 4;
-  return count + (number >= 10) + (number >= 100) + (number >= 1000);
+/// The last `count` (1 to 8) of eight digits as a word, from a text that has no more; zeros before.
+static inline std::uint64_t Load_Short(const char* text, std::size_t count) {
+  constexpr std::uint64_t zeros = 0x3030303030303030U;
+  if (count == 8) return Load_Word(text);
+  const std::size_t shift = 8 * (8 - count);
+  const std::uint64_t before = zeros >> (8 * count);
+  const auto at = [text](std::size_t i) {
+    return std::uint64_t{static_cast<unsigned char>(text[i])};
+  };
+  if (count < 4) {
+    return before | at(0) << shift | at(count / 2) << (shift + 8 * (count / 2)) |
+           at(count - 1) << 56U;
+  }
+  return before | std::uint64_t{Load_Half(text)} << shift |
+         std::uint64_t{Load_Half(text + count - 4)} << 32U;
+}
+
+/// Writes the first `count` (1 to 8) characters of a word.
+static inline void Store_Short(char* text, std::uint64_t word, std::size_t count) {
+  if (count == 8) return Store_Word(text, word);
+  if (count >= 4) {
+    Store_Half(text, static_cast<std::uint32_t>(word));
+    Store_Half(text + count - 4, static_cast<std::uint32_t>(word >> (8 * (count - 4))));
+    return;
+  }
+  text[0] = static_cast<char>(word);
+  text[count / 2] = static_cast<char>(word >> (8 * (count / 2)));
+  text[count - 1] = static_cast<char>(word >> (8 * (count - 1)));
+}
+
+/// Writes a number above 0 without leading zeros and returns the count of its digits.
+static inline std::size_t Write_Number(char* out, std::uint64_t number) {
+  if (number >= ten_to_8) {
+    const std::uint64_t high = number / ten_to_8;
+    const std::size_t count = Write_Number(out, high);
+    Store_Word(out + count, Part_Digits(number - high * ten_to_8));
+    return count + 8;
+  }
+  const std::uint64_t digits = Part_Digits(number);
+  const auto zero_bits = static_cast<std::size_t>(std::countr_zero(digits & 0x0F0F0F0F0F0F0F0FU));
+  const std::size_t leading = zero_bits / 8;
+  Store_Short(out, digits >> (8 * leading), 8 - leading);
+  return 8 - leading;
 }
 
 }  // namespace quorvex::native

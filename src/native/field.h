@@ -21,11 +21,12 @@ inline constexpr std::size_t prime_count = 2;
 inline constexpr Prime primes[prime_count] = {{1'124'753'150'574'593, 488'094'175'907'409},
                                               {1'124'658'661'294'081, 506'231'708'237'329}};
 
-constexpr std::uint64_t Multiply_Mod(std::uint64_t a, std::uint64_t b, std::uint64_t p) {
+static constexpr std::uint64_t Multiply_Mod(std::uint64_t a, std::uint64_t b, std::uint64_t p) {
   return static_cast<std::uint64_t>(Wide{a} * b % p);
 }
 
-constexpr std::uint64_t Power_Mod(std::uint64_t base, std::uint64_t exponent, std::uint64_t p) {
+static constexpr std::uint64_t Power_Mod(std::uint64_t base, std::uint64_t exponent,
+                                         std::uint64_t p) {
   std::uint64_t power = 1;
   for (; exponent > 0; exponent >>= 1U) {
     if ((exponent & 1U) != 0) power = Multiply_Mod(power, base, p);
@@ -34,12 +35,12 @@ constexpr std::uint64_t Power_Mod(std::uint64_t base, std::uint64_t exponent, st
   return power;
 }
 
-constexpr std::uint64_t Inverse_Mod(std::uint64_t a, std::uint64_t p) {
+static constexpr std::uint64_t Inverse_Mod(std::uint64_t a, std::uint64_t p) {
   return Power_Mod(a, p - 2, p);
 }
 
 /// The remainder of least absolute value, from -p/2 to p/2.
-constexpr double Balanced(std::uint64_t remainder, std::uint64_t p) {
+static constexpr double Balanced(std::uint64_t remainder, std::uint64_t p) {
   return remainder > p / 2 ? -static_cast<double>(p - remainder) : static_cast<double>(remainder);
 }
 
@@ -61,7 +62,7 @@ struct Cut {
 inline constexpr Cut cuts[] = {{12, 1'000'000'000'000, 1'264'000},
                                {10, 10'000'000'000, 500'000'000}};
 
-constexpr bool Is_Exact(const Cut& cut) {
+static constexpr bool Is_Exact(const Cut& cut) {
   const Wide square = Wide{cut.base - 1} * (cut.base - 1);
   return square <= (Wide{primes[0].value} * primes[1].value - 1) / cut.most_points;
 }

@@ -77,10 +77,11 @@ void Multiply_Karatsuba(Limb* out, const Limb* a, const Limb* b, std::size_t cou
   std::copy(out, out + 2 * half, middle);
   middle[2 * half] = 0;
   Add_To(middle, 2 * half + 1, out + 2 * half, top);
-  if (a_negative == b_negative)
+  if (a_negative == b_negative) {
     Subtract_From(middle, 2 * half + 1, scratch, 2 * half);
-  else
+  } else {
     Add_To(middle, 2 * half + 1, scratch, 2 * half);
+  }
   const std::size_t room = 2 * count - half;
   Add_To(out + half, room, middle, std::min(room, 2 * half + 1));
 }
@@ -92,12 +93,13 @@ void Multiply_In_Pieces(Limb* out, const Limb* a, std::size_t a_count, const Lim
   Limb* const rest = scratch + 2 * b_count;
   for (std::size_t at = 0; at < a_count; at += b_count) {
     const std::size_t piece = std::min(b_count, a_count - at);
-    if (piece == b_count)
+    if (piece == b_count) {
       Multiply_Karatsuba(product, a + at, b, b_count, rest);
-    else if (piece < threshold)
+    } else if (piece < threshold) {
       Multiply_Schoolbook(product, a + at, piece, b, b_count);
-    else
+    } else {
       Multiply_In_Pieces(product, b, b_count, a + at, piece, rest);
+    }
     Add_To(out + at, a_count + b_count - at, product, piece + b_count);
   }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 #include "native/field.h"
 #include "native/length.h"
@@ -10,7 +11,21 @@
 
 namespace quorvex::native {
 
+inline constexpr std::size_t tiny_digits = 16;
+
 struct Kernels {
+  /// A product of operands of up to `tiny_digits` digits, or null.
+  std::size_t (*multiply_tiny)(const char* a_text, std::size_t a_size, const char* b_text,
+                               std::size_t b_size, char* out);
+
+  /// A product of short operands, the shorter of at most 60,000 digits, or null. A square has no
+  /// second text. `scratch` has as many words as short_scratch tells.
+  std::size_t (*multiply_short)(const char* a_text, std::size_t a_size, const char* b_text,
+                                std::size_t b_size, char* out, std::uint64_t* scratch);
+  std::size_t (*short_scratch)(std::size_t a_size, std::size_t b_size);
+
+  /// From this harmonic mean of the lengths on the transform is faster, as measured.
+  std::size_t transform_from;
   std::size_t lanes;
   bool (*read_points)(const char* text, std::size_t count, const Cut& cut, double* points);
   void (*forward)(double* x, const Length& length, const Twiddles& tables);

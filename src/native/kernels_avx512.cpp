@@ -1,16 +1,19 @@
-// Long products in avx512 instructions.
+// Products in AVX-512 instructions.
 #include "native/kernels.h"
-#include "native/points.h"
+#include "native/points_avx512.h"
+#include "native/schoolbook_ifma.h"
+#include "native/tiny_avx512.h"
 #include "native/vector_avx512.h"
 // The vectors come first.
-#include "native/recombine.h"
 #include "native/transform_pieces.h"
 
 namespace quorvex::native {
 
 const Kernels& Avx512_Kernels() {
-  static constexpr Kernels kernels = {Lanes::count, Read_Points, Forward,     Multiply_Points,
-                                      Inverse,      Recombine,   Write_Points};
+  static constexpr Kernels kernels = {
+      Multiply_Tiny, Multiply_In_Lanes, Short_Scratch, 5500,
+      Lanes::count,  Read_Eights,       Forward,       Multiply_Points,
+      Inverse,       Recombine_Eights,  Write_Eights};
   return kernels;
 }
 

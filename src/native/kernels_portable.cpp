@@ -9,7 +9,8 @@
 namespace quorvex::native {
 
 const Kernels& Portable_Kernels() {
-  static constexpr Kernels kernels = {Lanes::count, Read_Points, Forward,     Multiply_Points,
+  static constexpr Kernels kernels = {nullptr,      nullptr,     nullptr,     15'000,
+                                      Lanes::count, Read_Points, Forward,     Multiply_Points,
                                       Inverse,      Recombine,   Write_Points};
   return kernels;
 }

@@ -27,7 +27,7 @@ struct Pieces {
   std::size_t divisor;  ///< what putting the pieces together multiplies the result by
 };
 
-constexpr Pieces Pieces_Of(const Length& length) {
+static constexpr Pieces Pieces_Of(const Length& length) {
   const std::size_t unit = length.unit;
   const Piece first = {0, 4 * unit, 0};
   if (length.units == 5) return {2, {first, {4 * unit, unit, 4}, {}}, 2};
@@ -37,13 +37,14 @@ constexpr Pieces Pieces_Of(const Length& length) {
 }
 
 /// The least length that holds `points`, of pieces not smaller than `block`, a power of two.
-constexpr Length Length_For(std::size_t points, std::size_t block) {
+static constexpr Length Length_For(std::size_t points, std::size_t block) {
   std::size_t size = block;
   while (size < points) size *= 2;
   const std::size_t unit = size / 8;
-  if (unit >= block)
+  if (unit >= block) {
     for (std::size_t units = 5; units < 8; ++units)
       if (unit * units >= points) return {unit, units};
+  }
   if (size >= 4 * block && size / 4 * 3 >= points) return {size / 8, 6};
   return {size / 4, 4};
 }

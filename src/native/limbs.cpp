@@ -1,7 +1,5 @@
 #include "native/limbs.h"
 
-#include <cstring>
-
 #include "native/digit_words.h"
 
 namespace quorvex::native {
@@ -20,12 +18,17 @@ Limb Read_Whole(const char* text, std::uint64_t& bad) {
          ((last >> 8U) & 0x0FU);
 }
 
-// The first characters of a text, too few for a whole limb.
+// The first characters of a text, too few for a whole limb: seventeen at most.
 Limb Read_Partial(const char* text, std::size_t count, std::uint64_t& bad) {
-  char whole[limb_digits];
-  std::memset(whole, '0', limb_digits);
-  std::memcpy(whole + limb_digits - count, text, count);
-  return Read_Whole(whole, bad);
+  Limb limb = 0;
+  for (std::size_t part = (count - 1) % 8 + 1; count > 0; part = 8) {
+    const std::uint64_t word = Load_Short(text, part);
+    bad |= Non_Digits(word);
+    limb = limb * ten_to_8 + Join_Digits(word);
+    count -= part;
+    text += part;
+  }
+  return limb;
 }
 
 void Write_Whole(char* out, Limb limb) {
@@ -52,11 +55,7 @@ bool Read_Limbs(const char* text, std::size_t count, Limb* limbs) {
 
 std::size_t Write_Limbs(const Limb* limbs, std::size_t count, char* out) {
   while (limbs[count - 1] == 0) --count;
-  char whole[limb_digits];
-  Write_Whole(whole, limbs[count - 1]);
-  const std::size_t first = Count_Digits(limbs[count - 1]);
-  std::memcpy(out, whole + limb_digits - first, first);
-  std::size_t written = first;
+  std::size_t written = Write_Number(out, limbs[count - 1]);
   for (std::size_t i = count - 1; i-- > 0; written += limb_digits)
     Write_Whole(out + written, limbs[i]);
   return written;

@@ -2,13 +2,11 @@
 
 #include <utility>
 
-#include "native/digit_words.h"
+#include "native/kernels.h"
 #include "native/stair.h"
 
 namespace quorvex::native {
 namespace {
-
-constexpr std::size_t transform_from = 2000;
 
 std::string_view Without_Leading_Zeros(std::string_view text) {
   const std::size_t first = text.find_first_not_of('0');
@@ -26,10 +24,23 @@ std::size_t Write_Zero(std::string_view a, std::string_view b, char* out) {
   return 1;
 }
 
+// Short products cost a * b, transforms about a + b: they meet where a * b / (a + b) is the same as
+// for equal lengths.
+bool Is_Long(std::size_t a, std::size_t b, const Kernels& kernels) {
+  const double mean = 2 / (1 / static_cast<double>(a) + 1 / static_cast<double>(b));
+  return mean >= static_cast<double>(kernels.transform_from);
+}
+
 std::size_t Multiply_Operands(const Operands& operands, char* out, Instructions kind) {
-  if (operands.a.size() <= word_digits) return Multiply_Words(operands, out);
-  if (operands.b.size() < transform_from) return Multiply_Limbs(operands, out);
-  return Multiply_Long(operands, out, kind);
+  const Kernels& kernels = Kernels_Of(kind);
+  const std::string_view a = operands.a;
+  const std::string_view b = operands.b;
+  if (a.size() <= tiny_digits && kernels.multiply_tiny != nullptr)
+    return kernels.multiply_tiny(a.data(), a.size(), b.data(), b.size(), out);
+  if (a.size() <= word_digits) return Multiply_Words(operands, out);
+  if (Is_Long(a.size(), b.size(), kernels)) return Multiply_Long(operands, out, kernels);
+  if (kernels.multiply_short != nullptr) return Multiply_Short(operands, out, kernels);
+  return Multiply_Limbs(operands, out);
 }
 
 }  // namespace
@@ -42,7 +53,8 @@ std::size_t Multiply_Texts(std::string_view a, std::string_view b, char* out, st
   if (a.empty() || b.empty()) return Write_Zero(a, b, out);
   if (a.size() + b.size() > room) return 0;
   if (a.size() < b.size()) std::swap(a, b);
-  return Multiply_Operands({a, b, a == b}, out, kind);
+  const bool is_square = a.front() == b.front() && a == b;
+  return Multiply_Operands({a, b, is_square}, out, kind);
 }
 
 std::size_t Multiply_Texts(std::string_view a, std::string_view b, char* out,

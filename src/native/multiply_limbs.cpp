@@ -1,8 +1,8 @@
 // Short and middling operands by the portable kernels.
 #include <cstring>
 
-#include "native/digit_words.h"
 #include "native/karatsuba.h"
+#include "native/limb_division.h"
 #include "native/limbs.h"
 #include "native/schoolbook_portable.h"
 #include "native/scratch.h"
@@ -38,9 +38,9 @@ std::size_t Multiply_Words(const Operands& operands, char* out) noexcept {
   Limb b = 0;
   if (!Read_Limbs(operands.a.data(), operands.a.size(), &a)) return 0;
   if (!Read_Limbs(operands.b.data(), operands.b.size(), &b)) return 0;
-  const Wide product = Wide{a} * b;
-  const Limb limbs[2] = {static_cast<Limb>(product % limb_base),
-                         static_cast<Limb>(product / limb_base)};
+  Wide product = Wide{a} * b;
+  const Limb low = Take_Limb(product);
+  const Limb limbs[2] = {low, static_cast<Limb>(product)};
   return Write_Limbs(limbs, 2, out);
 }
 
@@ -57,10 +57,11 @@ std::size_t Multiply_Limbs(const Operands& operands, char* out) noexcept {
   Limb* const rest = product + a_count + b_count;
   if (!Read_Limbs(operands.a.data(), operands.a.size(), a)) return 0;
   if (b != a && !Read_Limbs(operands.b.data(), operands.b.size(), b)) return 0;
-  if (a_count == b_count)
+  if (a_count == b_count) {
     Multiply_Karatsuba(product, a, b, a_count, rest);
-  else
+  } else {
     Multiply_In_Pieces(product, a, a_count, b, b_count, rest);
+  }
   return Write_Limbs(product, a_count + b_count, out);
 }
 

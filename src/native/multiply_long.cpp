@@ -22,16 +22,18 @@ class Convolution {
         cut_(cut),
         length_(Length_For(points, kernels.lanes * kernels.lanes)),
         memory_(4 * length_.points()) {
-    for (std::size_t prime = 0; prime < prime_count; ++prime)
+    for (std::size_t prime = 0; prime < prime_count; ++prime) {
       for (std::size_t way = 0; way < directions; ++way)
         tables_[prime][way] = Find_Twiddles(prime, kernels.lanes, way == 1, length_.points());
+    }
   }
 
   bool has_memory() const {
     if (memory_.get() == nullptr) return false;
-    for (const auto& ways : tables_)
+    for (const auto& ways : tables_) {
       for (const Twiddles* table : ways)
         if (table == nullptr) return false;
+    }
     return true;
   }
 
@@ -133,8 +135,7 @@ std::size_t Multiply_Cut(const Operands& operands, char* out, const Kernels& ker
 
 }  // namespace
 
-std::size_t Multiply_Long(const Operands& operands, char* out, Instructions kind) noexcept {
-  const Kernels& kernels = Kernels_Of(kind);
+std::size_t Multiply_Long(const Operands& operands, char* out, const Kernels& kernels) noexcept {
   if (operands.a.size() / most_unbalanced > operands.b.size())
     return Multiply_Cut(operands, out, kernels);
   const Cut& cut = Cut_For(operands.b.size());
@@ -143,10 +144,11 @@ std::size_t Multiply_Long(const Operands& operands, char* out, Instructions kind
   Convolution convolution(kernels, cut, points);
   if (!convolution.has_memory()) return 0;
   double* product = nullptr;
-  if (operands.is_square)
+  if (operands.is_square) {
     product = convolution.square(operands.a, points);
-  else if (convolution.set_second(operands.b))
+  } else if (convolution.set_second(operands.b)) {
     product = convolution.multiply(operands.a, points);
+  }
   return product == nullptr ? 0 : kernels.write_points(product, points, cut, out);
 }
 

@@ -7,8 +7,6 @@
 namespace quorvex::native {
 namespace {
 
-constexpr std::size_t room = 16;
-
 // Ten or twelve digits are the last eight and those before them.
 template <std::size_t digits>
 double Read_Whole(const char* text, std::uint64_t& bad) {
@@ -36,12 +34,13 @@ bool Read_All(const char* text, std::size_t count, double* points) {
   return bad == 0;
 }
 
-// Sixteen characters, of which the last `digits` count.
-void Write_Whole(char* out, double point) {
+// The last eight digits overwrite what the others leave behind them.
+void Write_Whole(char* out, double point, std::size_t digits) {
   const auto number = static_cast<std::uint64_t>(point);
   const std::uint64_t high = number / ten_to_8;
-  Store_Word(out, Part_Digits(high));
-  Store_Word(out + 8, Part_Digits(number - high * ten_to_8));
+  const std::uint64_t head = Part_Digits(high);
+  Store_Word(out, head >> (8 * (16 - digits)));
+  Store_Word(out + digits - 8, Part_Digits(number - high * ten_to_8));
 }
 
 }  // namespace
@@ -52,15 +51,9 @@ bool Read_Points(const char* text, std::size_t count, const Cut& cut, double* po
 
 std::size_t Write_Points(const double* points, std::size_t count, const Cut& cut, char* out) {
   while (points[count - 1] == 0) --count;
-  const std::size_t first = Count_Digits(static_cast<std::uint64_t>(points[count - 1]));
-  std::size_t written = 0;
-  for (std::size_t i = count; i-- > 0;) {
-    char whole[room];
-    Write_Whole(whole, points[i]);
-    const std::size_t digits = written == 0 ? first : cut.digits;
-    std::memcpy(out + written, whole + room - digits, digits);
-    written += digits;
-  }
+  std::size_t written = Write_Number(out, static_cast<std::uint64_t>(points[count - 1]));
+  for (std::size_t i = count - 1; i-- > 0; written += cut.digits)
+    Write_Whole(out + written, points[i], cut.digits);
   return written;
 }
 

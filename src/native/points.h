@@ -8,7 +8,7 @@
 
 namespace quorvex::native {
 
-constexpr std::size_t Points_For(std::size_t digits, const Cut& cut) {
+static constexpr std::size_t Points_For(std::size_t digits, const Cut& cut) {
   return (digits + cut.digits - 1) / cut.digits;
 }
 

@@ -58,13 +58,14 @@ inline void Carry_Points(double* c1, const double* c2, std::size_t count) {
 }
 
 // Remainders in both arrays become points in the first.
-void Recombine(double* c1, double* c2, std::size_t count, const Cut& cut) {
+inline void Recombine(double* c1, double* c2, std::size_t count, const Cut& cut) {
   const std::size_t whole = (count + Lanes::count - 1) / Lanes::count * Lanes::count;
   Join_Remainders(c1, c2, whole);
-  if (cut.digits == cuts[0].digits)
+  if (cut.digits == cuts[0].digits) {
     Carry_Points<cuts[0].base, 38>(c1, c2, count);
-  else
+  } else {
     Carry_Points<cuts[1].base, 33>(c1, c2, count);
+  }
 }
 
 }  // namespace

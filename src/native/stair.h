@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "native/multiply.h"
+#include "native/kernels.h"
 
 namespace quorvex::native {
 
@@ -20,7 +20,8 @@ struct Operands {
 /// anything if a character is no digit or memory runs out. `out` has room for the digits of both.
 std::size_t Multiply_Words(const Operands& operands, char* out) noexcept;
 std::size_t Multiply_Limbs(const Operands& operands, char* out) noexcept;
-std::size_t Multiply_Long(const Operands& operands, char* out, Instructions kind) noexcept;
+std::size_t Multiply_Short(const Operands& operands, char* out, const Kernels& kernels) noexcept;
+std::size_t Multiply_Long(const Operands& operands, char* out, const Kernels& kernels) noexcept;
 
 /// The longest operand that Multiply_Words takes.
 inline constexpr std::size_t word_digits = 18;

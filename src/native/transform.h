@@ -19,13 +19,13 @@
 namespace quorvex::native {
 namespace {
 
-constexpr std::size_t block_size = Lanes::count * Lanes::count;
+inline constexpr std::size_t block_size = Lanes::count * Lanes::count;
 
 // Transforms of up to this many points (32 KiB) are gone through level by level, longer ones part
 // by part.
-constexpr std::size_t near_points = 4096;
+inline constexpr std::size_t near_points = 4096;
 
-Modulus Modulus_Of(const Twiddles& tables) {
+inline Modulus Modulus_Of(const Twiddles& tables) {
   return {Lanes::All(tables.prime), Lanes::All(tables.reciprocal)};
 }
 
@@ -69,9 +69,10 @@ class Powers {
       for (std::size_t s = 0; (std::size_t{1} << s) < Lanes::count; ++s)
         factors_[s] = single((Lanes::count * block) << s);
     }
-    for (std::size_t s = 0, k = 0; k < Lanes::count - 1; ++s)
+    for (std::size_t s = 0, k = 0; k < Lanes::count - 1; ++s) {
       for (std::size_t m = 0; m < std::size_t{1} << s; ++m, ++k)
         w[k] = Multiply_Mod(w[k], factors_[s], modulus);
+    }
   }
 
   const Twiddles& tables_;
@@ -244,9 +245,10 @@ inline void Join_Four(double* x, std::size_t size, std::size_t index, const Powe
 inline void Split_Near(double* x, std::size_t size, std::size_t index, Powers& powers) {
   std::size_t part = size;
   std::size_t parts = 1;
-  for (; part >= 4 * block_size; part /= 4, parts *= 4)
+  for (; part >= 4 * block_size; part /= 4, parts *= 4) {
     for (std::size_t k = 0; k < parts; ++k)
       Split_In_Four(x + k * part, part, index * parts + k, powers);
+  }
   if (part > block_size) {
     for (std::size_t k = 0; k < parts; ++k)
       Split_In_Two(x + k * part, part, index * parts + k, powers);
@@ -275,17 +277,18 @@ inline void Join_Near(double* x, std::size_t size, std::size_t index, Powers& po
   }
 }
 
-void Split_All(double* x, std::size_t size, std::size_t index, Powers& powers) {
+inline void Split_All(double* x, std::size_t size, std::size_t index, Powers& powers) {
   if (size <= near_points) return Split_Near(x, size, index, powers);
-  if (index == 0)
+  if (index == 0) {
     Split_First_In_Four(x, size, powers);
-  else
+  } else {
     Split_In_Four(x, size, index, powers);
+  }
   for (std::size_t k = 0; k < 4; ++k)
     Split_All(x + k * (size / 4), size / 4, 4 * index + k, powers);
 }
 
-void Join_All(double* x, std::size_t size, std::size_t index, Powers& powers) {
+inline void Join_All(double* x, std::size_t size, std::size_t index, Powers& powers) {
   if (size <= near_points) return Join_Near(x, size, index, powers);
   for (std::size_t k = 0; k < 4; ++k) Join_All(x + k * (size / 4), size / 4, 4 * index + k, powers);
   Join_Four(x, size, index, powers);

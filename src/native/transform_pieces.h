@@ -103,7 +103,7 @@ inline void Fill_Powers(Lanes (&w)[3], const Length& length, const Powers& power
   }
 }
 
-void Part(double* x, const Length& length, const Powers& powers) {
+inline void Part(double* x, const Length& length, const Powers& powers) {
   if (length.units == 4) return;
   Lanes w[3];
   Fill_Powers(w, length, powers);
@@ -117,7 +117,7 @@ void Part(double* x, const Length& length, const Powers& powers) {
 }
 
 // The powers are those of the forward transform here too.
-void Unite(double* x, const Length& length, const Powers& powers) {
+inline void Unite(double* x, const Length& length, const Powers& powers) {
   if (length.units == 4) return;
   Lanes w[3];
   Fill_Powers(w, length, powers);
@@ -131,7 +131,7 @@ void Unite(double* x, const Length& length, const Powers& powers) {
   }
 }
 
-void Forward(double* x, const Length& length, const Twiddles& tables) {
+inline void Forward(double* x, const Length& length, const Twiddles& tables) {
   Powers powers(tables);
   Part(x, length, powers);
   const Pieces pieces = Pieces_Of(length);
@@ -140,7 +140,8 @@ void Forward(double* x, const Length& length, const Twiddles& tables) {
 }
 
 // a = a b, divided by what the way back multiplies with.
-void Multiply_Points(double* a, const double* b, const Length& length, const Twiddles& tables) {
+inline void Multiply_Points(double* a, const double* b, const Length& length,
+                            const Twiddles& tables) {
   const Modulus modulus = Modulus_Of(tables);
   const auto p = static_cast<std::uint64_t>(tables.prime);
   const Pieces pieces = Pieces_Of(length);
@@ -155,7 +156,8 @@ void Multiply_Points(double* a, const double* b, const Length& length, const Twi
   }
 }
 
-void Inverse(double* x, const Length& length, const Twiddles& tables, const Twiddles& forward) {
+inline void Inverse(double* x, const Length& length, const Twiddles& tables,
+                    const Twiddles& forward) {
   Powers powers(tables);
   const Pieces pieces = Pieces_Of(length);
   for (std::size_t k = 0; k < pieces.count; ++k)

@@ -57,11 +57,14 @@ class Table {
 
   void fill_vectors(std::size_t blocks) {
     double* to = vectors_.get() + blocks_filled_ * lanes_ * (lanes_ - 1);
-    for (; blocks_filled_ < blocks; ++blocks_filled_)
-      for (std::size_t step = 1; step < lanes_; step *= 2)
-        for (std::size_t m = 0; m < step; ++m)
+    for (; blocks_filled_ < blocks; ++blocks_filled_) {
+      for (std::size_t step = 1; step < lanes_; step *= 2) {
+        for (std::size_t m = 0; m < step; ++m) {
           for (std::size_t lane = 0; lane < lanes_; ++lane)
             *to++ = single(step * (lanes_ * blocks_filled_ + lane) + m);
+        }
+      }
+    }
   }
 
   std::uint64_t p_;

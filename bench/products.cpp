@@ -1,0 +1,104 @@
+// Products from text to text by the library's one routine, beside GMP and FLINT.
+#include <benchmark/benchmark.h>
+#include <flint/fmpz.h>
+#include <gmp.h>
+
+#include <algorithm>
+#include <random>
+#include <string>
+
+extern "C" int Multiply(const char* op1, const char* op2, char* product, const char* accessCode);
+
+namespace {
+
+// Random digits without a leading zero; the same at every run.
+std::string Digits(std::size_t count, unsigned seed) {
+  std::mt19937 random(seed);
+  std::uniform_int_distribution<int> digit('0', '9');
+  std::string text(count, '0');
+  for (char& character : text) character = static_cast<char>(digit(random));
+  text.front() = seed == 1 ? '7' : '3';
+  return text;
+}
+
+enum class Shape { balanced, unbalanced, square };
+
+// The first operand has as many digits as the benchmark names, an unbalanced second one a tenth.
+struct Operands {
+  Operands(const benchmark::State& state, Shape shape)
+      : first(Digits(static_cast<std::size_t>(state.range(0)), 1)),
+        second(shape == Shape::square
+                   ? first
+                   : Digits(first.size() / (shape == Shape::unbalanced ? 10 : 1), 2)),
+        product(2 * first.size() + 3, ' ') {}
+  std::string first;
+  std::string second;
+  std::string product;
+};
+
+void Ours(benchmark::State& state, Shape shape) {
+  Operands operands(state, shape);
+  for (auto step : state) {
+    Multiply(operands.first.c_str(), operands.second.c_str(), operands.product.data(),
+             "7305918264");
+    benchmark::ClobberMemory();
+  }
+}
+
+// The fastest way through the peers: numbers and the text of the product are allocated once, and a
+// square is read once.
+void Gmp(benchmark::State& state, Shape shape) {
+  Operands operands(state, shape);
+  mpz_t first;
+  mpz_t second;
+  mpz_t product;
+  mpz_inits(first, second, product, nullptr);
+  for (auto step : state) {
+    mpz_set_str(first, operands.first.c_str(), 10);
+    if (shape == Shape::square) {
+      mpz_mul(product, first, first);
+    } else {
+      mpz_set_str(second, operands.second.c_str(), 10);
+      mpz_mul(product, first, second);
+    }
+    benchmark::DoNotOptimize(mpz_get_str(operands.product.data(), 10, product));
+  }
+  mpz_clears(first, second, product, nullptr);
+}
+
+void Flint(benchmark::State& state, Shape shape) {
+  Operands operands(state, shape);
+  fmpz first[1] = {0};
+  fmpz second[1] = {0};
+  fmpz product[1] = {0};
+  for (auto step : state) {
+    fmpz_set_str(first, operands.first.c_str(), 10);
+    if (shape == Shape::square) {
+      fmpz_mul(product, first, first);
+    } else {
+      fmpz_set_str(second, operands.second.c_str(), 10);
+      fmpz_mul(product, first, second);
+    }
+    benchmark::DoNotOptimize(fmpz_get_str(operands.product.data(), 10, product));
+  }
+  fmpz_clear(first);
+  fmpz_clear(second);
+  fmpz_clear(product);
+}
+
+void Sizes(benchmark::internal::Benchmark* bench) {
+  for (const int digits : {10, 30, 100, 300, 1000, 3000, 10'000, 32'767, 100'000, 1'000'000})
+    bench->Arg(digits);
+}
+
+BENCHMARK_CAPTURE(Ours, balanced, Shape::balanced)->Name("Multiply/product")->Apply(Sizes);
+BENCHMARK_CAPTURE(Gmp, balanced, Shape::balanced)->Name("Gmp/product")->Apply(Sizes);
+BENCHMARK_CAPTURE(Flint, balanced, Shape::balanced)->Name("Flint/product")->Apply(Sizes);
+BENCHMARK_CAPTURE(Ours, unbalanced, Shape::unbalanced)->Name("Multiply/by a tenth")->Apply(Sizes);
+BENCHMARK_CAPTURE(Gmp, unbalanced, Shape::unbalanced)->Name("Gmp/by a tenth")->Apply(Sizes);
+BENCHMARK_CAPTURE(Flint, unbalanced, Shape::unbalanced)->Name("Flint/by a tenth")->Apply(Sizes);
+BENCHMARK_CAPTURE(Ours, square, Shape::square)->Name("Multiply/square")->Apply(Sizes);
+BENCHMARK_CAPTURE(Gmp, square, Shape::square)->Name("Gmp/square")->Apply(Sizes);
+BENCHMARK_CAPTURE(Flint, square, Shape::square)->Name("Flint/square")->Apply(Sizes);
+
+}  // namespace
