@@ -60,6 +60,14 @@ def main():
             second = size // 10 if name == "by a tenth" else size
             a, b = digits(size, 1, "7"), digits(second, 2, "3")
             times[f"{name}/{size}"] = nanoseconds(call, a, b, repetitions)
+    for size in PRODUCT_SIZES:
+        context = decimal.Context(prec=size, Emax=decimal.MAX_EMAX, Emin=decimal.MIN_EMIN)
+        times[f"divide/{size}"] = nanoseconds(
+            lambda a, b: str(context.divide(decimal.Decimal(a), decimal.Decimal(b))),
+            digits(size, 1, "7"),
+            digits(size, 2, "3"),
+            repetitions,
+        )
     json.dump(times, sys.stdout)
 
 

@@ -4,32 +4,23 @@
 #include <gmp.h>
 
 #include <algorithm>
-#include <random>
 #include <string>
+
+#include "bench_digits.h"
 
 extern "C" int Multiply(const char* op1, const char* op2, char* product, const char* accessCode);
 
 namespace {
-
-// Random digits without a leading zero; the same at every run.
-std::string Digits(std::size_t count, unsigned seed) {
-  std::mt19937 random(seed);
-  std::uniform_int_distribution<int> digit('0', '9');
-  std::string text(count, '0');
-  for (char& character : text) character = static_cast<char>(digit(random));
-  text.front() = seed == 1 ? '7' : '3';
-  return text;
-}
 
 enum class Shape { balanced, unbalanced, square };
 
 // The first operand has as many digits as the benchmark names, an unbalanced second one a tenth.
 struct Operands {
   Operands(const benchmark::State& state, Shape shape)
-      : first(Digits(static_cast<std::size_t>(state.range(0)), 1)),
+      : first(bench::Digits(static_cast<std::size_t>(state.range(0)), 1)),
         second(shape == Shape::square
                    ? first
-                   : Digits(first.size() / (shape == Shape::unbalanced ? 10 : 1), 2)),
+                   : bench::Digits(first.size() / (shape == Shape::unbalanced ? 10 : 1), 2)),
         product(2 * first.size() + 3, ' ') {}
   std::string first;
   std::string second;

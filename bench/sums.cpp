@@ -2,9 +2,9 @@
 #include <benchmark/benchmark.h>
 #include <gmp.h>
 
-#include <random>
 #include <string>
 
+#include "bench_digits.h"
 #include "quorvex.h"
 
 namespace {
@@ -13,22 +13,10 @@ using quorvex::cls_Quorvex;
 using quorvex::HostValue;
 using quorvex::Missing;
 
-// Random digits without a leading zero; the same at every run.
-std::string Digits(std::size_t count, unsigned seed) {
-  std::mt19937 random(seed);
-  std::uniform_int_distribution<int> digit('0', '9');
-  std::string text(count, '0');
-  for (char& character : text) character = static_cast<char>(digit(random));
-  text.front() = '7';
-  return text;
-}
-
 struct Operands {
   explicit Operands(const benchmark::State& state)
-      : first(Digits(static_cast<std::size_t>(state.range(0)), 1)),
-        second(Digits(static_cast<std::size_t>(state.range(0)), 2)) {
-    second.front() = '3';
-  }
+      : first(bench::Digits(static_cast<std::size_t>(state.range(0)), 1)),
+        second(bench::Digits(static_cast<std::size_t>(state.range(0)), 2)) {}
   std::string first;
   std::string second;
 };

@@ -10,10 +10,15 @@ def unit(nanoseconds):
             return f"{nanoseconds / size:.3g} {name}"
 
 
+def order(run):
+    call, size = run[0].rsplit("/", 1)
+    return call, int(size)
+
+
 def print_calls(times, peer):
     print("| call | digits | GMP / ours | decimal / ours | ours | GMP | decimal |")
     print("|---|---:|---:|---:|---:|---:|---:|")
-    for name, ours in times.items():
+    for name, ours in sorted(times.items(), key=order):
         library, call, size = name.split("/")
         if library != "Quorvex":
             continue
@@ -28,7 +33,7 @@ def print_products(times, peer):
     """Products by the library's one routine, against the best of the peers."""
     print("| `Multiply` | digits | best peer / ours | ours | GMP | FLINT | decimal |")
     print("|---|---:|---:|---:|---:|---:|---:|")
-    for name, ours in times.items():
+    for name, ours in sorted(times.items(), key=order):
         library, shape, size = name.split("/")
         if library != "Multiply":
             continue
@@ -38,6 +43,34 @@ def print_products(times, peer):
             f"| {shape} | {int(size):,} | {min(peers) / ours:.1f} | {unit(ours)} "
             f"| {' | '.join(unit(time) for time in peers)} |"
         )
+
+
+def print_quotients(times, peer):
+    """Whole calls, to as many digits as the operands have, against the best of the peers."""
+    print("| call | digits | best peer / ours | ours | GMP | MPFR | decimal |")
+    print("|---|---:|---:|---:|---:|---:|---:|")
+    for size in sizes(times, "Call/divide"):
+        ours = times[f"Call/divide/{size}"]
+        peers = [times[f"Gmp/divide/{size}"], times[f"Mpfr/divide/{size}"], peer[f"divide/{size}"]]
+        print(
+            f"| qvxDIVIDE | {int(size):,} | {min(peers) / ours:.1f} | {unit(ours)} "
+            f"| {' | '.join(unit(time) for time in peers)} |"
+        )
+
+
+def print_overhead(times):
+    """What the whole call costs beside the bare product."""
+    print("| digits | qvxMULTIPLY / `Multiply` | qvxDIVIDE / `Multiply` |")
+    print("|---:|---:|---:|")
+    for size in sizes(times, "Multiply/product"):
+        bare = times[f"Multiply/product/{size}"]
+        multiply, divide = times[f"Call/multiply/{size}"], times[f"Call/divide/{size}"]
+        print(f"| {int(size):,} | {multiply / bare:.2f} | {divide / bare:.2f} |")
+
+
+def sizes(times, name):
+    found = (run.rsplit("/", 1) for run in times)
+    return sorted((size for call, size in found if call == name), key=int)
 
 
 def main():
@@ -53,6 +86,10 @@ def main():
     print_calls(times, peer)
     print()
     print_products(times, peer)
+    print()
+    print_quotients(times, peer)
+    print()
+    print_overhead(times)
 
 
 if __name__ == "__main__":

@@ -28,8 +28,9 @@ NumberText Product(const NumberText& op1, const NumberText& op2) {
   Require_Memory(2.0 * static_cast<double>(longest));
   NumberText product(2 * longest, ' ');
   Find_Multiply()(op1.c_str(), op2.c_str(), product.data(), access_code);
-  const std::size_t end = product.find_first_of(std::string_view(" \0", 2));
-  if (end != std::string::npos) product.resize(end);
+  // Behind the digits stand spaces, or a zero byte and more of these.
+  product.resize(std::min(product.find(' '), product.size()));
+  product.resize(std::min(product.find('\0'), product.size()));
   if (product.empty()) {
     throw Run_Time_Failure(Failure_Number::type_mismatch, "A factor is no number.");
   }

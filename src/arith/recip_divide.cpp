@@ -12,6 +12,7 @@
 #include "host/run_time_failure.h"
 #include "text/clean_up_number.h"
 #include "text/compare_numbers.h"
+#include "text/digit_runs.h"
 #include "text/tokens.h"
 
 namespace quorvex {
@@ -27,9 +28,15 @@ std::int32_t In_32_Bits(std::int64_t number) {
   return static_cast<std::int32_t>(number);
 }
 
+// Digits without leading zeros are clean as they are, which is what arithmetic passes.
+bool Is_Clean(const NumberText& text) {
+  return !text.empty() && text.front() != '0' && !Has_Non_Digit(text);
+}
+
 // What is done when no digits need to be worked out: true if `quotient` is final.
 bool Is_Answered_At_Once(const NumberText& X, const NumberText& Y, type_Division_Recip& quotient) {
-  if (Is_True(Compare_Numbers(Y, "0", true, false))) {
+  // Clean text is 0 only as "0".
+  if (Y == "0") {
     quotient.digits = div0_token;
   } else if (X.starts_with('0')) {
     quotient.digits = "0";
@@ -70,12 +77,14 @@ void Divide(const NumberText& X, const NumberText& Y, std::int32_t sd,
 }  // namespace
 
 type_Division_Recip Recip_Divide(NumberText& X, NumberText& Y, std::int32_t sd) {
-  type_CleanUp dividend = Clean_Up_Number(X, true, true);
-  if (dividend.IsError) return {std::move(dividend.NumClean), 0};
-  type_CleanUp divisor = Clean_Up_Number(Y, true, true);
-  if (divisor.IsError) return {std::move(divisor.NumClean), 0};
-  X = std::move(dividend.NumClean);
-  Y = std::move(divisor.NumClean);
+  if (!Is_Clean(X) || !Is_Clean(Y)) {
+    type_CleanUp dividend = Clean_Up_Number(X, true, true);
+    if (dividend.IsError) return {std::move(dividend.NumClean), 0};
+    type_CleanUp divisor = Clean_Up_Number(Y, true, true);
+    if (divisor.IsError) return {std::move(divisor.NumClean), 0};
+    X = std::move(dividend.NumClean);
+    Y = std::move(divisor.NumClean);
+  }
 
   type_Division_Recip quotient;
   if (Is_Answered_At_Once(X, Y, quotient)) return quotient;

@@ -49,8 +49,7 @@ TEST(DoOperation, LetsABreakPassItsHandler) {
   const std::string nines(3 * digits_between_yields, '9');
   const Interruption_Guard impatient;
   for (const std::int16_t code : {operation::add, operation::subtract}) {
-    EXPECT_EQ(Failure_Of([&] { Do_Operation(code, nines, "1", {}); }),
-              Failure_Number::interrupted);
+    EXPECT_EQ(Failure_Of([&] { Do_Operation(code, nines, "1", {}); }), Failure_Number::interrupted);
     EXPECT_EQ(Failure_Of([&] { Do_Operation(code, nines, nines, {}); }),
               Failure_Number::interrupted);
   }

@@ -11,27 +11,24 @@ namespace {
 
 class Loaded_Libraries final : public Library_Loader {
  public:
+  // A library that was found stays loaded; one that was not is looked for again.
   void* symbol(const char* library, const char* name) override {
-    void* const handle = open(library);
-    return handle == nullptr ? nullptr : ::dlsym(handle, name);
+    for (const Found& found : found_) {
+      if (found.name == name && found.library == library) return found.symbol;
+    }
+    void* const handle = ::dlopen(library, RTLD_NOW | RTLD_LOCAL);
+    void* const symbol = handle == nullptr ? nullptr : ::dlsym(handle, name);
+    if (symbol != nullptr) found_.push_back({library, name, symbol});
+    return symbol;
   }
 
  private:
-  // A library that was found stays loaded; one that was not is looked for again.
-  void* open(const char* library) {
-    for (const Loaded& loaded : loaded_) {
-      if (loaded.name == library) return loaded.handle;
-    }
-    void* const handle = ::dlopen(library, RTLD_NOW | RTLD_LOCAL);
-    if (handle != nullptr) loaded_.push_back({library, handle});
-    return handle;
-  }
-
-  struct Loaded {
+  struct Found {
+    std::string library;
     std::string name;
-    void* handle;
+    void* symbol;
   };
-  std::vector<Loaded> loaded_;
+  std::vector<Found> found_;
 };
 
 }  // namespace
