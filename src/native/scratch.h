@@ -12,6 +12,7 @@ namespace quorvex::native {
 template <typename Number>
 class Scratch {
  public:
+  Scratch() noexcept = default;
   explicit Scratch(std::size_t count) noexcept : memory_(Allocate(count)) {}
   Number* get() const noexcept { return static_cast<Number*>(memory_.get()); }
 

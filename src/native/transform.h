@@ -46,12 +46,36 @@ class Powers {
         Single_Product(tables_.singles[j % tabled_singles], high(j / tabled_singles), modulus));
   }
 
-  // The vectors of one block.
-  void vectors(Lanes (&w)[Lanes::count - 1], std::size_t block) {
+  // Whether both tables have all that one block needs.
+  static bool are_tabled(std::size_t block) {
+    return block < tabled_points / block_size && Lanes::count * block < tabled_singles;
+  }
+
+  const double* singles() const { return tables_.singles; }
+  const double* vectors(std::size_t block) const {
     constexpr std::size_t blocks = tabled_points / block_size;
-    const double* from = tables_.vectors + (block % blocks) * Lanes::count * (Lanes::count - 1);
-    for (std::size_t k = 0; k < Lanes::count - 1; ++k) w[k] = Lanes::Load(from + k * Lanes::count);
-    if (block >= blocks) apply_factors(w, block - block % blocks);
+    return tables_.vectors + (block % blocks) * Lanes::count * (Lanes::count - 1);
+  }
+
+  // One w for each part of each level of a block that is beyond the tables.
+  void find_singles(Lanes (&w)[Lanes::count - 1], std::size_t block) const {
+    for (std::size_t step = 1, k = 0; step < Lanes::count; step *= 2)
+      for (std::size_t m = 0; m < step; ++m) w[k++] = single(step * block + m);
+  }
+
+  // The vectors of such a block: each level's are multiplied with the root of the block's high
+  // bits, which neighbours share.
+  void find_vectors(Lanes (&w)[Lanes::count - 1], std::size_t block) {
+    const double* from = vectors(block);
+    const std::size_t above = block - block % (tabled_points / block_size);
+    if (above != factors_of_) {
+      factors_of_ = above;
+      for (std::size_t s = 0; (std::size_t{1} << s) < Lanes::count; ++s)
+        factors_[s] = single((Lanes::count * above) << s);
+    }
+    for (std::size_t s = 0, k = 0; k < Lanes::count - 1; ++s)
+      for (std::size_t m = 0; m < std::size_t{1} << s; ++m, ++k)
+        w[k] = Multiply_Mod(Lanes::Load(from + k * Lanes::count), factors_[s], modulus);
   }
 
  private:
@@ -62,19 +86,6 @@ class Powers {
     return product;
   }
 
-  // Multiplies each level's vectors with the root of the block's high bits, which neighbours share.
-  void apply_factors(Lanes (&w)[Lanes::count - 1], std::size_t block) {
-    if (block != factors_of_) {
-      factors_of_ = block;
-      for (std::size_t s = 0; (std::size_t{1} << s) < Lanes::count; ++s)
-        factors_[s] = single((Lanes::count * block) << s);
-    }
-    for (std::size_t s = 0, k = 0; k < Lanes::count - 1; ++s) {
-      for (std::size_t m = 0; m < std::size_t{1} << s; ++m, ++k)
-        w[k] = Multiply_Mod(w[k], factors_[s], modulus);
-    }
-  }
-
   const Twiddles& tables_;
   std::size_t factors_of_ = 0;
   Lanes factors_[3] = {};
@@ -83,17 +94,36 @@ class Powers {
   const Modulus modulus;
 };
 
+// Where the rows of a block take part m of the level of `parts` parts from: one w of the table, a
+// vector of the table, or what was found beyond the tables.
+struct Tabled_Singles {
+  const double* table;
+  std::size_t block;
+  Lanes get(std::size_t parts, std::size_t m) const { return Lanes::All(table[parts * block + m]); }
+};
+
+struct Tabled_Vectors {
+  const double* table;
+  Lanes get(std::size_t parts, std::size_t m) const {
+    return Lanes::Load(table + (parts - 1 + m) * Lanes::count);
+  }
+};
+
+struct Found_Lanes {
+  Lanes w[Lanes::count - 1];
+  Lanes get(std::size_t parts, std::size_t m) const { return w[parts - 1 + m]; }
+};
+
 // Splits parts of 2 * half rows down to single ones: with inputs of up to 3p the first level is at
 // most 1.4p, the second 2.1p, the third 2.9p.
-template <std::size_t half = Lanes::count / 2>
-inline void Split_Rows(Lanes (&x)[Lanes::count], const Lanes (&w)[Lanes::count - 1],
-                       const Modulus& modulus) {
+template <std::size_t half = Lanes::count / 2, typename Source>
+inline void Split_Rows(Lanes (&x)[Lanes::count], const Source& w, const Modulus& modulus) {
   constexpr std::size_t parts = Lanes::count / (2 * half);
 #pragma GCC unroll 4
   for (std::size_t i = 0; i < Lanes::count / 2; ++i) {
     const std::size_t at = i / half * (2 * half) + i % half;
     const Lanes left = parts == 1 ? Reduce(x[at], modulus) : x[at];
-    const Lanes right = Multiply_Mod(x[at + half], w[parts - 1 + i / half], modulus);
+    const Lanes right = Multiply_Mod(x[at + half], w.get(parts, i / half), modulus);
     x[at] = left + right;
     x[at + half] = left - right;
   }
@@ -102,16 +132,15 @@ inline void Split_Rows(Lanes (&x)[Lanes::count], const Lanes (&w)[Lanes::count -
 
 // Joins single rows: inputs of up to p, sums reduced at every level, so that no difference passes
 // 2p.
-template <std::size_t half = 1>
-inline void Join_Rows(Lanes (&x)[Lanes::count], const Lanes (&w)[Lanes::count - 1],
-                      const Modulus& modulus) {
+template <std::size_t half = 1, typename Source>
+inline void Join_Rows(Lanes (&x)[Lanes::count], const Source& w, const Modulus& modulus) {
   constexpr std::size_t parts = Lanes::count / (2 * half);
 #pragma GCC unroll 4
   for (std::size_t i = 0; i < Lanes::count / 2; ++i) {
     const std::size_t at = i / half * (2 * half) + i % half;
     const Lanes difference = x[at] - x[at + half];
     x[at] = Reduce(x[at] + x[at + half], modulus);
-    x[at + half] = Multiply_Mod(difference, w[parts - 1 + i / half], modulus);
+    x[at + half] = Multiply_Mod(difference, w.get(parts, i / half), modulus);
   }
   if constexpr (half < Lanes::count / 2) Join_Rows<2 * half>(x, w, modulus);
 }
@@ -124,35 +153,51 @@ inline void Store_Rows(const Lanes (&rows)[Lanes::count], double* x) {
   for (std::size_t i = 0; i < Lanes::count; ++i) rows[i].store(x + i * Lanes::count);
 }
 
-// One w for each part of each level of block `index`.
-inline void Row_Powers(Lanes (&w)[Lanes::count - 1], std::size_t index, const Powers& powers) {
-  for (std::size_t step = 1, k = 0; step < Lanes::count; step *= 2)
-    for (std::size_t m = 0; m < step; ++m) w[k++] = powers.single(step * index + m);
+// A block of lanes * lanes points: between rows, then turned, between rows again. It stays turned.
+template <typename Singles, typename Vectors>
+inline void Split_Block(double* x, const Singles& singles, const Vectors& vectors,
+                        const Modulus& modulus) {
+  Lanes rows[Lanes::count];
+  Load_Rows(rows, x);
+  Split_Rows(rows, singles, modulus);
+  Transpose(rows);
+  Split_Rows(rows, vectors, modulus);
+  Store_Rows(rows, x);
 }
 
-// A block of lanes * lanes points: between rows, then turned, between rows again. It stays turned.
-inline void Split_Block(double* x, std::size_t index, Powers& powers) {
+template <typename Singles, typename Vectors>
+inline void Join_Block(double* x, const Singles& singles, const Vectors& vectors,
+                       const Modulus& modulus) {
   Lanes rows[Lanes::count];
-  Lanes w[Lanes::count - 1];
   Load_Rows(rows, x);
-  Row_Powers(w, index, powers);
-  Split_Rows(rows, w, powers.modulus);
+  Join_Rows(rows, vectors, modulus);
   Transpose(rows);
-  powers.vectors(w, index);
-  Split_Rows(rows, w, powers.modulus);
+  Join_Rows(rows, singles, modulus);
   Store_Rows(rows, x);
+}
+
+inline void Split_Block(double* x, std::size_t index, Powers& powers) {
+  if (Powers::are_tabled(index)) {
+    return Split_Block(x, Tabled_Singles{powers.singles(), index},
+                       Tabled_Vectors{powers.vectors(index)}, powers.modulus);
+  }
+  Found_Lanes singles;
+  Found_Lanes vectors;
+  powers.find_singles(singles.w, index);
+  powers.find_vectors(vectors.w, index);
+  Split_Block(x, singles, vectors, powers.modulus);
 }
 
 inline void Join_Block(double* x, std::size_t index, Powers& powers) {
-  Lanes rows[Lanes::count];
-  Lanes w[Lanes::count - 1];
-  Load_Rows(rows, x);
-  powers.vectors(w, index);
-  Join_Rows(rows, w, powers.modulus);
-  Transpose(rows);
-  Row_Powers(w, index, powers);
-  Join_Rows(rows, w, powers.modulus);
-  Store_Rows(rows, x);
+  if (Powers::are_tabled(index)) {
+    return Join_Block(x, Tabled_Singles{powers.singles(), index},
+                      Tabled_Vectors{powers.vectors(index)}, powers.modulus);
+  }
+  Found_Lanes singles;
+  Found_Lanes vectors;
+  powers.find_singles(singles.w, index);
+  powers.find_vectors(vectors.w, index);
+  Join_Block(x, singles, vectors, powers.modulus);
 }
 
 // Inputs of up to 3p, outputs of up to 1.4p.

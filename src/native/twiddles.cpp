@@ -13,10 +13,7 @@ namespace {
 class Table {
  public:
   Table(std::size_t prime, std::size_t lanes, bool inverse)
-      : p_(primes[prime].value),
-        lanes_(lanes),
-        singles_(tabled_singles),
-        vectors_(tabled_points / lanes * (lanes - 1)) {
+      : p_(primes[prime].value), lanes_(lanes) {
     std::uint64_t root = primes[prime].root;
     if (inverse) root = Inverse_Mod(root, p_);
     twiddles_.prime = static_cast<double>(p_);
@@ -25,13 +22,15 @@ class Table {
       roots_[t] = root;
       twiddles_.roots[t] = Balanced(root, p_);
     }
-    twiddles_.singles = singles_.get();
-    twiddles_.vectors = vectors_.get();
   }
 
   // Fills what a transform of so many points reads.
   const Twiddles* fill(std::size_t points) {
+    if (singles_.get() == nullptr) singles_ = Scratch<double>(tabled_singles);
+    if (vectors_.get() == nullptr) vectors_ = Scratch<double>(vector_count());
     if (singles_.get() == nullptr || vectors_.get() == nullptr) return nullptr;
+    twiddles_.singles = singles_.get();
+    twiddles_.vectors = vectors_.get();
     const std::size_t singles = std::min(tabled_singles, std::max<std::size_t>(points / 2, 8));
     fill_singles(singles);
     fill_vectors(std::min(tabled_points, points) / (lanes_ * lanes_));
@@ -39,6 +38,8 @@ class Table {
   }
 
  private:
+  std::size_t vector_count() const { return tabled_points / lanes_ * (lanes_ - 1); }
+
   // Past the table only while it is being filled with vectors, whose roots are on it.
   std::uint64_t power(std::size_t j) const {
     std::uint64_t product = 1;

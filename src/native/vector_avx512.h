@@ -51,22 +51,31 @@ inline Lanes Add_If_Negative(Lanes a, Lanes b) {
   return {_mm512_mask_add_pd(a.lane, negative, a.lane, b.lane)};
 }
 
+// Turns the pairs that stand in eight half rows, every other of the eight rows.
+inline void Transpose_Pairs(__m512d a, __m512d b, __m512d c, __m512d d, Lanes (&rows)[Lanes::count],
+                            std::size_t first) {
+  const __m512d low_even = _mm512_shuffle_f64x2(a, b, 0x88);
+  const __m512d low_odd = _mm512_shuffle_f64x2(a, b, 0xDD);
+  const __m512d high_even = _mm512_shuffle_f64x2(c, d, 0x88);
+  const __m512d high_odd = _mm512_shuffle_f64x2(c, d, 0xDD);
+  rows[first].lane = _mm512_shuffle_f64x2(low_even, high_even, 0x88);
+  rows[first + 2].lane = _mm512_shuffle_f64x2(low_odd, high_odd, 0x88);
+  rows[first + 4].lane = _mm512_shuffle_f64x2(low_even, high_even, 0xDD);
+  rows[first + 6].lane = _mm512_shuffle_f64x2(low_odd, high_odd, 0xDD);
+}
+
+// Without loops, for the rows to stay in registers.
 inline void Transpose(Lanes (&rows)[Lanes::count]) {
-  __m512d pairs[8];
-  for (int i = 0; i < 8; i += 2) {
-    pairs[i] = _mm512_unpacklo_pd(rows[i].lane, rows[i + 1].lane);
-    pairs[i + 1] = _mm512_unpackhi_pd(rows[i].lane, rows[i + 1].lane);
-  }
-  for (int i = 0; i < 2; ++i) {
-    const __m512d a = _mm512_shuffle_f64x2(pairs[i], pairs[i + 2], 0x88);
-    const __m512d b = _mm512_shuffle_f64x2(pairs[i], pairs[i + 2], 0xDD);
-    const __m512d c = _mm512_shuffle_f64x2(pairs[i + 4], pairs[i + 6], 0x88);
-    const __m512d d = _mm512_shuffle_f64x2(pairs[i + 4], pairs[i + 6], 0xDD);
-    rows[i].lane = _mm512_shuffle_f64x2(a, c, 0x88);
-    rows[i + 2].lane = _mm512_shuffle_f64x2(b, d, 0x88);
-    rows[i + 4].lane = _mm512_shuffle_f64x2(a, c, 0xDD);
-    rows[i + 6].lane = _mm512_shuffle_f64x2(b, d, 0xDD);
-  }
+  const __m512d a = _mm512_unpacklo_pd(rows[0].lane, rows[1].lane);
+  const __m512d b = _mm512_unpacklo_pd(rows[2].lane, rows[3].lane);
+  const __m512d c = _mm512_unpacklo_pd(rows[4].lane, rows[5].lane);
+  const __m512d d = _mm512_unpacklo_pd(rows[6].lane, rows[7].lane);
+  const __m512d e = _mm512_unpackhi_pd(rows[0].lane, rows[1].lane);
+  const __m512d f = _mm512_unpackhi_pd(rows[2].lane, rows[3].lane);
+  const __m512d g = _mm512_unpackhi_pd(rows[4].lane, rows[5].lane);
+  const __m512d h = _mm512_unpackhi_pd(rows[6].lane, rows[7].lane);
+  Transpose_Pairs(a, b, c, d, rows, 0);
+  Transpose_Pairs(e, f, g, h, rows, 1);
 }
 
 }  // namespace

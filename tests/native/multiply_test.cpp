@@ -2,6 +2,8 @@
 #include "native/multiply.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
 #include <string>
 
@@ -79,6 +81,41 @@ TEST(Multiply_Texts, Forms_Long_Products) {
     }
   }
 }
+
+// (10^n - 1)(10^m - 1), n not below m: the largest coefficients that so many digits can give.
+std::string Product_Of_Nines(std::size_t n, std::size_t m) {
+  return std::string(m - 1, '9') + '8' + std::string(n - m, '9') + std::string(m - 1, '0') + '1';
+}
+
+// Past the tables of roots, and past what points of twelve digits can hold.
+TEST(Multiply_Texts, Forms_The_Longest_Products) {
+  const std::size_t lengths[][2] = {{1'700'000, 1'700'001}, {3'100'000, 3'000'000}};
+  for (const auto& [n, m] : lengths) {
+    const std::string a = Hard_Digits(n, 0, 11);
+    const std::string b = Hard_Digits(m, 5, 12);
+    Expect_Product(a, b, Product_By_Library(a, b));
+  }
+  const std::size_t n = 15'300'000;
+  const std::size_t m = 15'200'000;
+  const std::string product =
+      Product_Of(std::string(n, '9'), std::string(m, '9'), Best_Instructions());
+  EXPECT_TRUE(product == Product_Of_Nines(n, m)) << Shortened(product);
+}
+
+#if !defined(QUORVEX_SANITIZED)  // whose shadow needs more than any limit
+// In a process of its own, which may have no more memory than it has.
+TEST(Multiply_Texts, Leaves_The_Buffer_When_Memory_Runs_Out) {
+  const auto multiply = [] {
+    const std::string a(40'000'000, '7');
+    std::string out(2 * a.size(), ' ');
+    const rlimit limit{1U << 28U, 1U << 28U};
+    setrlimit(RLIMIT_AS, &limit);
+    const bool is_refused = Multiply_Texts(a, a, out.data(), out.size()) == 0;
+    _exit(is_refused && out.find_first_not_of(' ') == std::string::npos ? 0 : 1);
+  };
+  EXPECT_EXIT(multiply(), testing::ExitedWithCode(0), "");
+}
+#endif
 
 TEST(Multiply_Texts, Drops_Leading_Zeros) {
   const std::string zeros(500, '0');
