@@ -13,7 +13,7 @@ need_packages() {
       missing+=("$package")
   done
   [ ${#missing[@]} -gt 0 ] || return 0
-  echo "Installing: ${missing[*]}"
+  echo "Installing: ${missing[*]}" >&2
   local become=()
   if [ "$(id -u)" -ne 0 ]; then
     command -v sudo >/dev/null || {
@@ -33,7 +33,7 @@ build() {
   local preset=$1 log
   shift
   log=$(mktemp)
-  echo "Building ($preset)..."
+  echo "Building ($preset)..." >&2
   if ! { cmake --preset "$preset" ${QUORVEX_OPTIONS:-} && cmake --build --preset "$preset" ${1:+--target "$@"}; } \
       >"$log" 2>&1; then
     cat "$log" >&2
