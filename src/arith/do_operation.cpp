@@ -34,10 +34,9 @@ std::string_view Operand_Text(const HostValue& value, std::string& scratch) {
     throw Run_Time_Failure(Failure_Number::type_mismatch, "An operand is an error value.");
   }
   if (Is_Single_Cell(value)) {
-    // The cell's value ends here, so its text must not be looked at in place.
-    std::string inner;
-    scratch = std::string(Operand_Text(value.range().cell(1, 1), inner));
-    return scratch;
+    HostValue cell = Cell_Of(value);
+    if (cell.kind() == HostValue::Kind::error) return Operand_Text(cell, scratch);
+    return scratch = cell.is_text() ? std::move(cell.mutable_text()) : To_Text(cell);
   }
   return Text_Of(value, scratch);
 }

@@ -48,11 +48,11 @@ Approximation Power_Of_Half(double n2) {
   const double exponent = n2 * log10_5;
   const double whole = std::floor(exponent);
   double digits = std::pow(10.0, exponent - whole);
-  const auto more = std::lrint(std::fmin(16.0, whole) / 2.0);  // halves to even
+  const double more = Nearest(std::fmin(16.0, whole) / 2.0);
 
   Approximation start;
   start.scale = n2 - (whole + 1);
-  for (long place = 0; place <= more; ++place) {
+  for (int place = 0; place <= more; ++place) {
     const double digit = std::floor(digits);
     start.digits += static_cast<char>('0' + static_cast<int>(digit));
     digits = (digits - digit) * 10.0;
@@ -83,7 +83,7 @@ NumberText Two_Less(const NumberText& product) {
 // One step of the iteration: x (2 - k x), whose scale falls by one when it passes a power of ten.
 NumberText Step(const NumberText& k, const Approximation& x, double& scale) {
   Yield();
-  const NumberText product = Multiply_Digits(k, x.digits);
+  NumberText product = Multiply_Digits(k, x.digits);
   if (Has_Token_Mark(product)) return product;
   NumberText next = Multiply_Digits(x.digits, Two_Less(product));
   if (next.front() < x.digits.front()) scale -= 1;
@@ -142,8 +142,8 @@ type_Division_Recip Iterate(const NumberText& k, std::int32_t p) {
   Approximation x = Start(k, n2);
   Require_Memory(4.0 * static_cast<double>(length + k.size()));
   if (x.digits.size() < length) x.digits.resize(length, '0');
-  const auto rounds = std::lrint(std::log(p) / ln_2 + std::log(n2));
-  for (long round = 0; round < rounds; ++round) {
+  const double rounds = Nearest(std::log(p) / ln_2 + std::log(n2));
+  for (int round = 0; round < rounds; ++round) {
     x.digits = Step(k, x, x.scale);
     x.digits.resize(std::min(x.digits.size(), length + 2));
   }

@@ -107,7 +107,7 @@ class Rounding {
 
 Place Whole_Limit(double digits) {
   constexpr double far = 1e15;  // beyond the length of any text
-  return static_cast<Place>(std::nearbyint(std::fmin(digits, far))) + 1;
+  return static_cast<Place>(Nearest(std::fmin(digits, far))) + 1;
 }
 
 std::string Normalise(std::string num) {

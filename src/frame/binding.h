@@ -59,7 +59,7 @@ decltype(auto) Take(HostValue& argument) {
     // The method changes its text: the caller's value holds it.
     return Text_In_Place(argument);
   } else {
-    return To_Text(argument);
+    return std::move(Text_In_Place(argument));
   }
 }
 

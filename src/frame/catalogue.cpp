@@ -28,7 +28,7 @@ Call_Result Give(const type_Division_Recip& quotient) {
 }
 
 NumberText& Text_In_Place(HostValue& argument) {
-  argument = To_Text(argument);
+  if (!argument.is_text()) argument = To_Text(argument);
   return argument.mutable_text();
 }
 
@@ -288,13 +288,7 @@ Call_Result Invoke(cls_Quorvex& engine, const Method& method, std::vector<HostVa
     throw std::invalid_argument(std::string(method.name) + " takes fewer arguments.");
   }
   arguments.resize(method.parameters.size());
-  try {
-    return method.invoke(engine, arguments);
-  } catch (const std::bad_alloc&) {
-    throw Run_Time_Failure(Failure_Number::out_of_memory, "There is not enough memory.");
-  } catch (const std::length_error&) {
-    throw Run_Time_Failure(Failure_Number::out_of_memory, "A text would grow too long.");
-  }
+  return With_Memory_Failures([&] { return method.invoke(engine, arguments); });
 }
 
 }  // namespace quorvex

@@ -3,6 +3,7 @@
 #include "arith/do_operation.h"
 #include "arith/recip_divide.h"
 #include "host/conversions.h"
+#include "host/run_time_failure.h"
 #include "text/compare_numbers.h"
 #include "text/format_result.h"
 #include "text/recognition.h"
@@ -18,10 +19,12 @@ HostValue Shown(const HostValue& answer) {
 
 HostValue Compare(const HostValue& number1, const HostValue& number2, bool testEqual,
                   bool testGreater) {
-  std::string scratch1;
-  std::string scratch2;
-  return Compare_Numbers(Text_Of(number1, scratch1), Text_Of(number2, scratch2), testEqual,
-                         testGreater);
+  return With_Memory_Failures([&] {
+    std::string scratch1;
+    std::string scratch2;
+    return Compare_Numbers(Text_Of(number1, scratch1), Text_Of(number2, scratch2), testEqual,
+                           testGreater);
+  });
 }
 
 }  // namespace
@@ -73,12 +76,14 @@ HostValue cls_Quorvex::GetHalfofLong(std::int32_t num_as_long) {
 }
 
 bool cls_Quorvex::qvxISNUMBER(const HostValue& num) {
-  std::string scratch;
-  return Is_Number_Text(Text_Of(num, scratch));
+  return With_Memory_Failures([&] {
+    std::string scratch;
+    return Is_Number_Text(Text_Of(num, scratch));
+  });
 }
 
 HostValue cls_Quorvex::qvxSIGN(const HostValue& num) {
-  return Sign_Function(num);
+  return With_Memory_Failures([&] { return Sign_Function(num); });
 }
 
 NumberText cls_Quorvex::qvxADD(const HostValue& number1, const HostValue& number2,
@@ -162,9 +167,11 @@ NumberText cls_Quorvex::qvxFORMAT(const NumberText& number, const HostValue& for
                                   const HostValue& maximum_significant_digits,
                                   const HostValue& format_decimal_place,
                                   const HostValue& preserve_decimal_place) {
-  return Format_Number(number,
-                       {format_negative, format_thousands, format_currency, exponential_notation,
-                        maximum_significant_digits, format_decimal_place, preserve_decimal_place});
+  return With_Memory_Failures([&] {
+    return Format_Number(
+        number, {format_negative, format_thousands, format_currency, exponential_notation,
+                 maximum_significant_digits, format_decimal_place, preserve_decimal_place});
+  });
 }
 
 }  // namespace quorvex

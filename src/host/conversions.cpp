@@ -94,14 +94,6 @@ bool Truth_Of(const HostValue& value, Judge is_true) {
   return is_true(Text_To_Number(value.text()));
 }
 
-/// To the nearest whole number, halves to the even one, whatever way the processor rounds.
-double Nearest(double number) {
-  const double below = std::floor(number);
-  const double part = number - below;
-  const bool up = part > 0.5 || (part == 0.5 && std::fmod(below, 2) != 0);
-  return up ? below + 1 : below;
-}
-
 template <typename Integer>
 Integer To_Integer(const HostValue& value) {
   const double number = Nearest(To_Number(value));
@@ -114,6 +106,17 @@ Integer To_Integer(const HostValue& value) {
 }
 
 }  // namespace
+
+HostValue Cell_Of(const HostValue& range) {
+  return Single_Cell(range, "is no single value.");
+}
+
+double Nearest(double number) {
+  const double below = std::floor(number);
+  const double part = number - below;
+  const bool up = part > 0.5 || (part == 0.5 && std::fmod(below, 2) != 0);
+  return up ? below + 1 : below;
+}
 
 std::string To_Text(const HostValue& value) {
   switch (value.kind()) {

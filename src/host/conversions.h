@@ -38,6 +38,13 @@ QUORVEX_API double Text_To_Number(std::string_view text);
 /// Any value as a 64-bit float: true is -1, false and blank are 0.
 QUORVEX_API double To_Number(const HostValue& value);
 
+/// The value of the cell that a range of one cell reads as. A cell that is a range in turn has
+/// none.
+QUORVEX_API HostValue Cell_Of(const HostValue& range);
+
+/// To the nearest whole number, halves to the even one, whatever way the processor rounds.
+QUORVEX_API double Nearest(double number);
+
 /// To the nearest whole number, halves to the even one.
 QUORVEX_API std::int16_t To_Int16(const HostValue& value);
 QUORVEX_API std::int32_t To_Int32(const HostValue& value);

@@ -152,4 +152,7 @@ inline constexpr std::size_t digits_between_yields = std::size_t{1} << 20;
 /// characters of input decide is asked for here first.
 QUORVEX_API void Require_Memory(double bytes);
 
+/// How many texts of the length of an operand or a result a call may hold at the same time.
+inline constexpr double texts_at_once = 4;
+
 }  // namespace quorvex

@@ -40,20 +40,29 @@ class QUORVEX_API Run_Time_Failure : public std::runtime_error {
   Failure_Number number_;
 };
 
+/// Runs `body` and gives what it gives. Memory that can't be had and texts longer than the machine
+/// can hold leave it as `out_of_memory`.
+template <typename Body>
+auto With_Memory_Failures(Body&& body) -> decltype(body()) {
+  try {
+    return body();
+  } catch (const std::bad_alloc&) {
+    throw Run_Time_Failure(Failure_Number::out_of_memory, "There is not enough memory.");
+  } catch (const std::length_error&) {
+    throw Run_Time_Failure(Failure_Number::out_of_memory, "A text would grow too long.");
+  }
+}
+
 /// Runs `body` and gives what it gives. A failure in it goes, as a `Run_Time_Failure`, to
 /// `handler`, whose result is then given; `interrupted` is thrown on. Memory that can't be had and
 /// texts longer than the machine can hold arrive as `out_of_memory`.
 template <typename Body, typename Handler>
 auto With_Handler(Body&& body, Handler&& handler) -> decltype(body()) {
   try {
-    return body();
+    return With_Memory_Failures(body);
   } catch (const Run_Time_Failure& failure) {
     if (failure.number() == Failure_Number::interrupted) throw;
     return handler(failure);
-  } catch (const std::bad_alloc&) {
-    return handler(Run_Time_Failure(Failure_Number::out_of_memory, "There is not enough memory."));
-  } catch (const std::length_error&) {
-    return handler(Run_Time_Failure(Failure_Number::out_of_memory, "A text would grow too long."));
   }
 }
 

@@ -58,7 +58,9 @@ HostValue Sign_Function(const HostValue& num) {
   const std::string_view text = Text_Of(num, scratch);
   if (text.empty()) return "0";
   if (!Is_Number_Text(text)) return value_token;
-  if (Is_True(Compare_Numbers(text, "0", true, false))) return 0;
+  // Whether it is zero doesn't depend on how many zeros an exponent stands for.
+  const Operand operand(text, Exponent_Zeros::one);
+  if (Is_Comparable(operand, text) && Is_Zero(operand.parts())) return 0;
   return Is_Positive(num) ? 1 : -1;
 }
 

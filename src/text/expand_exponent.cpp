@@ -68,14 +68,14 @@ void Shift_Left(std::string& mantissa, std::int64_t exponent, std::int64_t zeros
     return;
   }
   const std::int64_t added = std::min(shift, zeros);
-  Require_Memory(static_cast<double>(added));
+  Require_Memory(texts_at_once * static_cast<double>(added));
   mantissa.append(static_cast<std::size_t>(added), '0');
 }
 
 // A mantissa of d.ddd times ten to a power below 0.
 void Shift_Right(std::string& mantissa, std::int64_t exponent, std::int64_t zeros) {
   const std::int64_t added = std::min(exponent - 1, zeros);
-  Require_Memory(static_cast<double>(added));
+  Require_Memory(texts_at_once * static_cast<double>(added));
   const std::string& separator = Decimal_Separator();
   std::string value;
   value.reserve(1 + separator.size() + static_cast<std::size_t>(added) + mantissa.size());

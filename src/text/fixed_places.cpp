@@ -1,7 +1,7 @@
 #include "text/fixed_places.h"
 
+#include <algorithm>
 #include <string>
-#include <utility>
 
 #include "host/conversions.h"
 #include "host/platform.h"
@@ -33,7 +33,7 @@ bool Carry_Up(std::string& text, std::size_t begin, std::size_t end) {
 }
 
 void Fill(std::string& text, std::size_t count) {
-  Require_Memory(static_cast<double>(count));
+  Require_Memory(texts_at_once * static_cast<double>(text.size() + count));
   text.append(count, '0');
 }
 
@@ -51,9 +51,10 @@ void Round_Fraction(std::string& text, std::size_t separator, std::size_t fracti
 std::optional<std::int32_t> Fixed_Places(const HostValue& format_decimal_place) {
   const HostValue& value = format_decimal_place;
   if (value.is_missing()) return std::nullopt;
-  if (Is_Single_Cell(value)) return Fixed_Places(value.range().cell(1, 1));
+  if (Is_Single_Cell(value)) return Fixed_Places(Cell_Of(value));
   if (value.is_empty() || (value.is_text() && value.text().empty())) return std::nullopt;
-  return Is_Positive(value) ? To_Int32(value) : 0;
+  // Blanks or a currency symbol can stand before a minus, so the number is looked at as well.
+  return Is_Positive(value) ? std::max(0, To_Int32(value)) : 0;
 }
 
 void Set_Fixed_Places(NumberText& text, std::int32_t places) {

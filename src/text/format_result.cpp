@@ -40,9 +40,11 @@ void Cut_To_Significant_Digits(std::string& digits, double count) {
 
 void Set_Separator(std::string& digits, double position) {
   if (position <= 1) return;
-  Require_Memory(position);
   const auto places = static_cast<std::size_t>(position) - 1;
-  if (digits.size() <= places) digits.insert(0, places + 1 - digits.size(), '0');
+  if (digits.size() <= places) {
+    Require_Memory(texts_at_once * position);
+    digits.insert(0, places + 1 - digits.size(), '0');
+  }
   digits.insert(digits.size() - places, Decimal_Separator());
 }
 

@@ -12,15 +12,17 @@ namespace {
 // Takes every occurrence of `part` out, in one pass.
 void Remove_All(std::string& text, std::string_view part) {
   if (part.empty()) return;
-  std::size_t found = text.find(part);
-  if (found == std::string::npos) return;
-  std::size_t kept = found;
-  while (found != std::string::npos) {
-    const std::size_t from = found + part.size();
-    found = text.find(part, from);
-    const std::size_t to = found == std::string::npos ? text.size() : found;
-    text.replace(kept, to - from, text, from, to - from);
-    kept += to - from;
+  if (part.size() == 1) {
+    std::erase(text, part.front());
+    return;
+  }
+  std::size_t kept = 0;
+  for (std::size_t place = 0; place < text.size();) {
+    if (text[place] == part.front() && text.compare(place, part.size(), part) == 0) {
+      place += part.size();
+    } else {
+      text[kept++] = text[place++];
+    }
   }
   text.resize(kept);
 }
@@ -37,7 +39,7 @@ bool Is_Positive(std::string_view text) {
 }
 
 bool Is_Positive(const HostValue& value) {
-  if (Is_Single_Cell(value)) return Is_Positive(value.range().cell(1, 1));
+  if (Is_Single_Cell(value)) return Is_Positive(Cell_Of(value));
   return value.is_text() ? Is_Positive(value.text()) : To_Number(value) >= 0;
 }
 

@@ -5,6 +5,7 @@
 #include <limits>
 #include <string>
 
+#include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "text/digit_runs.h"
 #include "text/single_byte_separator.h"
@@ -85,7 +86,7 @@ Count Whole(double n) {
   // Beyond any length that a text can have, and safe to convert and to add to.
   constexpr double far = 1e15;
   if (std::isnan(n)) throw Run_Time_Failure(Failure_Number::overflow, "The count is no number.");
-  return static_cast<Count>(std::nearbyint(std::fmax(-far, std::fmin(far, n))));
+  return static_cast<Count>(Nearest(std::fmax(-far, std::fmin(far, n))));
 }
 
 }  // namespace

@@ -77,6 +77,7 @@ TEST(ClsQuorvex, MemoryThatCantBeHadIsAFailureWhereNoTokenStandsForIt) {
   HostValue greater = "1E+2000000000";
   HostValue one = 1;
   EXPECT_EQ(engine.qvxADD("1E+2000000000", 1), "#VALUE!");
+  EXPECT_EQ(engine.qvxSIGN("0E+2000000000").number(), 0);  // which needs no zeros written
   EXPECT_EQ(engine.qvxFORMAT("1E-2000000000"), "#VALUE!");
   EXPECT_EQ(engine.qvxISGREATER(greater, one).text(), "#NUM!");
   EXPECT_EQ(Failure_Of([&] {
