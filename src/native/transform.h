@@ -73,9 +73,10 @@ class Powers {
       for (std::size_t s = 0; (std::size_t{1} << s) < Lanes::count; ++s)
         factors_[s] = single((Lanes::count * above) << s);
     }
-    for (std::size_t s = 0, k = 0; k < Lanes::count - 1; ++s)
+    for (std::size_t s = 0, k = 0; k < Lanes::count - 1; ++s) {
       for (std::size_t m = 0; m < std::size_t{1} << s; ++m, ++k)
         w[k] = Multiply_Mod(Lanes::Load(from + k * Lanes::count), factors_[s], modulus);
+    }
   }
 
  private:
