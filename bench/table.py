@@ -28,10 +28,10 @@ def print_products(times, peer):
     """Products by the library's one routine, against the best of the peers."""
     print("| `Multiply` | digits | best peer / ours | ours | GMP | FLINT | decimal |")
     print("|---|---:|---:|---:|---:|---:|---:|")
-    for name, ours in times.items():
-        library, shape, size = name.split("/")
-        if library != "Multiply":
-            continue
+    shapes = ["product", "by a tenth", "square"]
+    ours_only = [name.split("/")[1:] for name in times if name.startswith("Multiply/")]
+    for shape, size in sorted(ours_only, key=lambda row: (shapes.index(row[0]), int(row[1]))):
+        ours = times[f"Multiply/{shape}/{size}"]
         peers = [times[f"Gmp/{shape}/{size}"], times[f"Flint/{shape}/{size}"]]
         peers.append(peer[f"{shape}/{size}"])
         print(
