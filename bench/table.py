@@ -33,16 +33,19 @@ def print_products(times, peer):
     """Products by the library's one routine, against the best of the peers."""
     print("| `Multiply` | digits | best peer / ours | ours | GMP | FLINT | decimal |")
     print("|---|---:|---:|---:|---:|---:|---:|")
-    for name, ours in sorted(times.items(), key=order):
-        library, shape, size = name.split("/")
-        if library != "Multiply":
-            continue
-        peers = [times[f"Gmp/{shape}/{size}"], times[f"Flint/{shape}/{size}"]]
-        peers.append(peer[f"{shape}/{size}"])
-        print(
-            f"| {shape} | {int(size):,} | {min(peers) / ours:.1f} | {unit(ours)} "
-            f"| {' | '.join(unit(time) for time in peers)} |"
-        )
+    for shape in ("product", "by a tenth", "square"):
+        for size in sizes(times, f"Multiply/{shape}"):
+            print_product(times, peer, shape, size)
+
+
+def print_product(times, peer, shape, size):
+    ours = times[f"Multiply/{shape}/{size}"]
+    peers = [times[f"Gmp/{shape}/{size}"], times[f"Flint/{shape}/{size}"]]
+    peers.append(peer[f"{shape}/{size}"])
+    print(
+        f"| {shape} | {int(size):,} | {min(peers) / ours:.1f} | {unit(ours)} "
+        f"| {' | '.join(unit(time) for time in peers)} |"
+    )
 
 
 def print_quotients(times, peer):

@@ -70,12 +70,15 @@ class Powers {
     const std::size_t above = block - block % (tabled_points / block_size);
     if (above != factors_of_) {
       factors_of_ = above;
-      for (std::size_t s = 0; (std::size_t{1} << s) < Lanes::count; ++s)
+      for (std::size_t s = 0; (std::size_t{1} << s) < Lanes::count; ++s) {
         factors_[s] = single((Lanes::count * above) << s);
+      }
     }
-    for (std::size_t s = 0, k = 0; k < Lanes::count - 1; ++s)
-      for (std::size_t m = 0; m < std::size_t{1} << s; ++m, ++k)
+    for (std::size_t s = 0, k = 0; k < Lanes::count - 1; ++s) {
+      for (std::size_t m = 0; m < std::size_t{1} << s; ++m, ++k) {
         w[k] = Multiply_Mod(Lanes::Load(from + k * Lanes::count), factors_[s], modulus);
+      }
+    }
   }
 
  private:
@@ -114,15 +117,16 @@ struct Found_Lanes {
   Lanes get(std::size_t parts, std::size_t m) const { return w[parts - 1 + m]; }
 };
 
-// Splits parts of 2 * half rows down to single ones: with inputs of up to 3p the first level is at
-// most 1.4p, the second 2.1p, the third 2.9p.
+// Splits parts of 2 * half rows down to single ones. Rows that the second level multiplies need no
+// reduction before. Inputs of up to 2.4p: they reach 3.3p, the others 1.4p, then 2.3p; the outputs
+// are at most 3p. Inputs of up to 3p: 3.9p, 1.4p, 2.4p; the outputs are at most 3.2p.
 template <std::size_t half = Lanes::count / 2, typename Source>
 inline void Split_Rows(Lanes (&x)[Lanes::count], const Source& w, const Modulus& modulus) {
   constexpr std::size_t parts = Lanes::count / (2 * half);
 #pragma GCC unroll 4
   for (std::size_t i = 0; i < Lanes::count / 2; ++i) {
     const std::size_t at = i / half * (2 * half) + i % half;
-    const Lanes left = parts == 1 ? Reduce(x[at], modulus) : x[at];
+    const Lanes left = parts == 1 && at < Lanes::count / 4 ? Reduce(x[at], modulus) : x[at];
     const Lanes right = Multiply_Mod(x[at + half], w.get(parts, i / half), modulus);
     x[at] = left + right;
     x[at + half] = left - right;
@@ -130,8 +134,8 @@ inline void Split_Rows(Lanes (&x)[Lanes::count], const Source& w, const Modulus&
   if constexpr (half > 1) Split_Rows<half / 2>(x, w, modulus);
 }
 
-// Joins single rows: inputs of up to p, sums reduced at every level, so that no difference passes
-// 2p.
+// Joins single rows: inputs of up to p, outputs too. Sums are reduced from the second level on, so
+// that no difference passes 4p.
 template <std::size_t half = 1, typename Source>
 inline void Join_Rows(Lanes (&x)[Lanes::count], const Source& w, const Modulus& modulus) {
   constexpr std::size_t parts = Lanes::count / (2 * half);
@@ -139,7 +143,8 @@ inline void Join_Rows(Lanes (&x)[Lanes::count], const Source& w, const Modulus& 
   for (std::size_t i = 0; i < Lanes::count / 2; ++i) {
     const std::size_t at = i / half * (2 * half) + i % half;
     const Lanes difference = x[at] - x[at + half];
-    x[at] = Reduce(x[at] + x[at + half], modulus);
+    const Lanes sum = x[at] + x[at + half];
+    x[at] = half == 1 ? sum : Reduce(sum, modulus);
     x[at + half] = Multiply_Mod(difference, w.get(parts, i / half), modulus);
   }
   if constexpr (half < Lanes::count / 2) Join_Rows<2 * half>(x, w, modulus);

@@ -30,7 +30,7 @@ void Expect_Product(const std::string& a, const std::string& b, const std::strin
 TEST(Multiply_Texts, Forms_All_Short_Products) {
   for (std::size_t n = 1; n <= 60; ++n) {
     for (std::size_t m = 1; m <= n; ++m) {
-      const unsigned seed = static_cast<unsigned>(100 * n + m);
+      const auto seed = static_cast<unsigned>(100 * n + m);
       const std::string a = Hard_Digits(n, seed % 7, seed);
       const std::string b = Hard_Digits(m, seed % 5, seed + 1);
       const std::string expected = Product_By_Hand(a, b);

@@ -46,9 +46,10 @@ std::string Hard_Digits(std::size_t count, unsigned pattern, unsigned seed) {
 
 std::string Product_By_Hand(std::string_view a, std::string_view b) {
   std::vector<unsigned> columns(a.size() + b.size(), 0);
-  for (std::size_t i = 0; i < a.size(); ++i)
+  for (std::size_t i = 0; i < a.size(); ++i) {
     for (std::size_t j = 0; j < b.size(); ++j)
       columns[i + j + 1] += static_cast<unsigned>((a[i] - '0') * (b[j] - '0'));
+  }
   std::string product(columns.size(), '0');
   unsigned carry = 0;
   for (std::size_t k = columns.size(); k-- > 0;) {
@@ -79,7 +80,7 @@ std::string Product_Of(std::string_view a, std::string_view b, Instructions kind
   std::string text(guard + room + guard, ' ');
   const std::size_t count = Multiply_Texts(a, b, text.data() + guard, room, kind);
   if (count > room) return "too long a count";
-  const std::string product = text.substr(guard, count);
+  std::string product = text.substr(guard, count);
   text.replace(guard, count, count, ' ');
   if (text.find_first_not_of(' ') != std::string::npos) return "bytes changed beside the product";
   return product;
