@@ -15,6 +15,7 @@ namespace {
 constexpr std::size_t room_for_marks = 8;
 
 void Drop_Leading_Zeros(NumberText& digits) {
+  if (!digits.empty() && digits.front() != '0') return;
   const std::size_t zeros = Count_Leading_Zeros(digits);
   if (zeros == digits.size()) {
     digits = "0";
@@ -47,10 +48,11 @@ NumberText Subtract_Smaller(const Decimal_Parts& larger, const Decimal_Parts& sm
   NumberText difference(integer + fraction + room_for_marks, '0');
   difference.resize(integer + fraction);
   char* const out = difference.data();
-  bool borrow = Subtract_Fractions(out + integer, larger.fraction, smaller.fraction);
+  bool borrow =
+      fraction > 0 && Subtract_Fractions(out + integer, larger.fraction, smaller.fraction);
   borrow = digit_spans::Subtract(out + head, larger.integer.data() + head, smaller_digits, common,
                                  borrow);
-  digit_spans::Subtract_Borrow(out, larger.integer.data(), head, borrow);
+  if (head > 0) digit_spans::Subtract_Borrow(out, larger.integer.data(), head, borrow);
   Drop_Leading_Zeros(difference);
   return difference;
 }

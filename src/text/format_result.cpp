@@ -82,11 +82,13 @@ void Show_Sign(NumberText& text, bool positive, std::int16_t style) {
   if (style == in_parentheses) text += ')';
 }
 
-// True for digits that all the steps of formatting would leave as they are, but for the sign.
+// True for a whole number that all the steps of formatting would leave as they are, but for the
+// sign.
 bool Is_Plain_Whole_Number(const NumberText& digits, const type_Restrictionator& options) {
-  return digits.front() != '0' && static_cast<double>(digits.size()) <= options.maxSD &&
-         digits.size() < short_enough && !options.FormatThousands && !options.FormatCurrency &&
-         !options.ExponentialNotation && options.FormatDecimalPlace.is_missing();
+  return !digits.empty() && digits.front() != '0' &&
+         static_cast<double>(digits.size()) <= options.maxSD && digits.size() < short_enough &&
+         !options.FormatThousands && !options.FormatCurrency && !options.ExponentialNotation &&
+         options.FormatDecimalPlace.is_missing() && !Has_Non_Digit(digits);
 }
 
 void Apply_Sign(NumberText& text, bool positive, std::int16_t style, bool noLengthChecks) {
@@ -101,14 +103,13 @@ void Apply_Sign(NumberText& text, bool positive, std::int16_t style, bool noLeng
 
 NumberText Format_Result(NumberText result, double position, bool positive,
                          const type_Restrictionator& options, bool noLengthChecks) {
-  const std::optional<std::int32_t> places = Fixed_Places(options.FormatDecimalPlace);
-  if (position < 0) return NumberText(value_token);
-  const bool all_digits = !Has_Non_Digit(result);
-  if (result.empty() || (!all_digits && Has_Token_Mark(result))) return result;
-  if (all_digits && position <= 1 && Is_Plain_Whole_Number(result, options)) {
+  if (position >= 0 && position <= 1 && Is_Plain_Whole_Number(result, options)) {
     Show_Sign(result, positive, options.FormatNegative);
     return result;
   }
+  const std::optional<std::int32_t> places = Fixed_Places(options.FormatDecimalPlace);
+  if (position < 0) return NumberText(value_token);
+  if (result.empty() || Has_Token_Mark(result)) return result;
 
   Cut_To_Significant_Digits(result, options.maxSD + 1);
   if (result.starts_with(token_mark)) return result;

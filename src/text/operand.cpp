@@ -8,6 +8,25 @@
 #include "text/quotes.h"
 
 namespace quorvex {
+namespace {
+
+std::string_view Without_Leading_Zeros(std::string_view digits) {
+  if (!digits.starts_with('0')) return digits;
+  return digits.substr(Count_Leading_Zeros(digits));
+}
+
+std::strong_ordering Compare_Fractions(const Decimal_Parts& a, const Decimal_Parts& b) {
+  const std::size_t both = std::min(a.fraction.size(), b.fraction.size());
+  if (const auto order = a.fraction.substr(0, both) <=> b.fraction.substr(0, both);
+      std::is_neq(order)) {
+    return order;
+  }
+  const bool a_more = Count_Leading_Zeros(a.fraction.substr(both)) != a.fraction.size() - both;
+  const bool b_more = Count_Leading_Zeros(b.fraction.substr(both)) != b.fraction.size() - both;
+  return a_more <=> b_more;
+}
+
+}  // namespace
 
 bool Split_Decimal(std::string_view text, Decimal_Parts& parts) {
   const std::size_t integer = Count_Digits(text);
@@ -22,18 +41,11 @@ bool Split_Decimal(std::string_view text, Decimal_Parts& parts) {
 }
 
 std::strong_ordering Compare_Magnitudes(const Decimal_Parts& a, const Decimal_Parts& b) {
-  const std::string_view a_integer = a.integer.substr(Count_Leading_Zeros(a.integer));
-  const std::string_view b_integer = b.integer.substr(Count_Leading_Zeros(b.integer));
+  const std::string_view a_integer = Without_Leading_Zeros(a.integer);
+  const std::string_view b_integer = Without_Leading_Zeros(b.integer);
   if (const auto order = a_integer.size() <=> b_integer.size(); std::is_neq(order)) return order;
   if (const auto order = a_integer <=> b_integer; std::is_neq(order)) return order;
-  const std::size_t both = std::min(a.fraction.size(), b.fraction.size());
-  if (const auto order = a.fraction.substr(0, both) <=> b.fraction.substr(0, both);
-      std::is_neq(order)) {
-    return order;
-  }
-  const bool a_more = Count_Leading_Zeros(a.fraction.substr(both)) != a.fraction.size() - both;
-  const bool b_more = Count_Leading_Zeros(b.fraction.substr(both)) != b.fraction.size() - both;
-  return a_more <=> b_more;
+  return Compare_Fractions(a, b);
 }
 
 bool Is_Zero(const Decimal_Parts& parts) {

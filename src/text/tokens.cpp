@@ -2,9 +2,8 @@
 
 namespace quorvex {
 
-std::optional<std::string_view> Token_Of_Operands(std::string_view operand1,
-                                                  std::string_view operand2) {
-  if (!operand1.starts_with(token_mark) && !operand2.starts_with(token_mark)) return std::nullopt;
+std::optional<std::string_view> Token_Of_Marked(std::string_view operand1,
+                                                std::string_view operand2) {
   for (const std::string_view token : {value_token, num_token, div0_token}) {
     if (operand1 == token || operand2 == token) return token;
   }

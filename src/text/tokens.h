@@ -19,8 +19,13 @@ inline bool Has_Token_Mark(std::string_view text) {
 
 /// The token that two operands give as their result, if one of them is a token: "#VALUE!" before
 /// "#NUM!" before "#DIV/0!". Other text that begins with the mark gives nothing.
-std::optional<std::string_view> Token_Of_Operands(std::string_view operand1,
-                                                  std::string_view operand2);
+std::optional<std::string_view> Token_Of_Marked(std::string_view operand1,
+                                                std::string_view operand2);
+inline std::optional<std::string_view> Token_Of_Operands(std::string_view operand1,
+                                                         std::string_view operand2) {
+  if (!operand1.starts_with(token_mark) && !operand2.starts_with(token_mark)) return std::nullopt;
+  return Token_Of_Marked(operand1, operand2);
+}
 
 /// The token that a text is, exactly, if it is one.
 inline std::optional<std::string_view> Token_Of(std::string_view text) {
