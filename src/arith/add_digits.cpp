@@ -28,6 +28,13 @@ bool Add_Integers(char* out, std::string_view longer, std::string_view shorter, 
   return head == 0 ? carry : digit_spans::Add_Carry(out, longer.data(), head, carry);
 }
 
+// Whether the first digits can bring a sum to one digit more, for which a place is kept.
+bool May_Run_Over(std::string_view longer, std::string_view shorter) {
+  if (longer.empty()) return false;
+  if (longer.size() > shorter.size()) return longer.front() == '9';
+  return longer.front() + shorter.front() >= '0' + '9';
+}
+
 }  // namespace
 
 NumberText Add_Decimals(const Decimal_Parts& a, const Decimal_Parts& b) {
@@ -35,12 +42,15 @@ NumberText Add_Decimals(const Decimal_Parts& a, const Decimal_Parts& b) {
   const auto [shorter, longer] = std::minmax(a.integer, b.integer, by_size);
   const auto [less, more] = std::minmax(a.fraction, b.fraction, by_size);
 
-  NumberText sum(longer.size() + more.size() + room_for_marks, '0');
-  sum.resize(longer.size() + more.size());
-  char* const fraction = sum.data() + longer.size();
-  bool carry = !more.empty() && Add_Fractions(fraction, more, less);
-  carry = Add_Integers(sum.data(), longer, shorter, carry);
-  if (carry) sum.insert(0, 1, '1');
+  const std::size_t front = May_Run_Over(longer, shorter) ? 1 : 0;
+  NumberText sum(front + longer.size() + more.size() + room_for_marks, '0');
+  sum.resize(sum.size() - room_for_marks);
+  char* const integer = sum.data() + front;
+  bool carry = !more.empty() && Add_Fractions(integer + longer.size(), more, less);
+  carry = Add_Integers(integer, longer, shorter, carry);
+  if (carry && front == 0) sum.insert(0, 1, '1');
+  if (carry && front == 1) sum.front() = '1';
+  if (!carry && front == 1) sum.erase(0, 1);
   return sum;
 }
 
