@@ -10,9 +10,6 @@
 namespace quorvex {
 namespace {
 
-// Room for what formatting puts beside the digits, so that the sum is the one text allocated.
-constexpr std::size_t room_for_marks = 8;
-
 // The sum of two fractions; beyond the shorter one it is the longer one's digits. The carry that
 // runs over.
 bool Add_Fractions(char* out, std::string_view longer, std::string_view shorter) {

@@ -6,6 +6,14 @@
 
 #include <cstddef>
 
+namespace quorvex {
+
+/// Room that a result keeps for what formatting puts beside its digits, so that it is the one text
+/// that a call allocates.
+inline constexpr std::size_t room_for_marks = 8;
+
+}  // namespace quorvex
+
 namespace quorvex::digit_spans {
 
 /// out = a + b + carry. Returns the carry that runs over.

@@ -12,8 +12,6 @@
 namespace quorvex {
 namespace {
 
-constexpr std::size_t room_for_marks = 8;
-
 void Drop_Leading_Zeros(NumberText& digits) {
   if (!digits.empty() && digits.front() != '0') return;
   const std::size_t zeros = Count_Leading_Zeros(digits);

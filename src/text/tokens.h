@@ -17,10 +17,12 @@ inline bool Has_Token_Mark(std::string_view text) {
   return text.find(token_mark) != std::string_view::npos;
 }
 
-/// The token that two operands give as their result, if one of them is a token: "#VALUE!" before
-/// "#NUM!" before "#DIV/0!". Other text that begins with the mark gives nothing.
+/// `Token_Of_Operands` where one of them begins with the mark, which is rare.
 std::optional<std::string_view> Token_Of_Marked(std::string_view operand1,
                                                 std::string_view operand2);
+
+/// The token that two operands give as their result, if one of them is a token: "#VALUE!" before
+/// "#NUM!" before "#DIV/0!". Other text that begins with the mark gives nothing.
 inline std::optional<std::string_view> Token_Of_Operands(std::string_view operand1,
                                                          std::string_view operand2) {
   if (!operand1.starts_with(token_mark) && !operand2.starts_with(token_mark)) return std::nullopt;
