@@ -61,25 +61,32 @@ Raw_Result Add_Or_Subtract(const type_SignOp& reduced) {
   return {std::move(difference.Difference), position, difference.NegativeSubtraction};
 }
 
-// The digits of two operands, and the position that their separators give the result.
-type_DecPosFromEnd Without_Separators(const type_SignOp& reduced) {
+// The digits of two operands, and the positions of their separators and of the result's.
+struct Bare_Operands {
+  double Position;
+  double Position1;
+  double Position2;
+  type_RemoveDecimals digits;
+};
+
+Bare_Operands Without_Separators(const type_SignOp& reduced) {
   NumberText operand1(reduced.Operand1->magnitude());
   NumberText operand2(reduced.Operand2->magnitude());
   Strip_Leading_Zeros(operand1);
   Strip_Leading_Zeros(operand2);
   type_DecPosFromEnd aligned =
       Decimal_Positions(std::move(operand1), std::move(operand2), reduced.Operation);
-  for (NumberText* operand : {&aligned.Operand1_Trim, &aligned.Operand2_Trim}) {
-    Remove_Decimal_Separator(*operand);
-    Strip_Leading_Zeros(*operand);
-  }
-  return aligned;
+  Bare_Operands bare{aligned.Position, aligned.Position1, aligned.Position2, {}};
+  bare.digits = Remove_Decimals(std::move(aligned));
+  Strip_Leading_Zeros(bare.digits.Operand1_Trim);
+  Strip_Leading_Zeros(bare.digits.Operand2_Trim);
+  return bare;
 }
 
 Raw_Result Multiply(const type_SignOp& reduced) {
-  const type_DecPosFromEnd operands = Without_Separators(reduced);
-  return {Multiply_Digits(operands.Operand1_Trim, operands.Operand2_Trim), operands.Position,
-          reduced.Negative};
+  const Bare_Operands operands = Without_Separators(reduced);
+  return {Multiply_Digits(operands.digits.Operand1_Trim, operands.digits.Operand2_Trim),
+          operands.Position, reduced.Negative};
 }
 
 // The digits right of the separator that an operand's position tells of.
@@ -88,9 +95,9 @@ double Decimals(double position) {
 }
 
 Raw_Result Divide(const type_SignOp& reduced, double limit) {
-  type_DecPosFromEnd operands = Without_Separators(reduced);
+  Bare_Operands operands = Without_Separators(reduced);
   type_Division_Recip quotient =
-      Recip_Divide(operands.Operand1_Trim, operands.Operand2_Trim, To_Int32(limit));
+      Recip_Divide(operands.digits.Operand1_Trim, operands.digits.Operand2_Trim, To_Int32(limit));
   if (Has_Token_Mark(quotient.digits)) return {std::move(quotient.digits), 0, false};
   double position = -static_cast<double>(quotient.powerOfTen) + Decimals(operands.Position1) -
                     Decimals(operands.Position2);
