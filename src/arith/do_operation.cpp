@@ -12,6 +12,7 @@
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "text/decimal_positions.h"
+#include "text/digit_runs.h"
 #include "text/format_result.h"
 #include "text/operand.h"
 #include "text/primitives.h"
@@ -61,32 +62,84 @@ Raw_Result Add_Or_Subtract(const type_SignOp& reduced) {
   return {std::move(difference.Difference), position, difference.NegativeSubtraction};
 }
 
-// The digits of two operands, and the positions of their separators and of the result's.
-struct Bare_Operands {
+// The digits of a number without separator and leading zeros.
+class Bare_Number {
+ public:
+  explicit Bare_Number(const Decimal_Parts& parts)
+      : decimals_(static_cast<double>(parts.fraction.size())) {
+    std::string_view integer = Without_Zeros(parts.integer);
+    std::string_view fraction = integer.empty() ? Without_Zeros(parts.fraction) : parts.fraction;
+    digits_ = integer.empty() ? fraction : integer;
+    if (digits_.empty()) digits_ = "0";
+    if (integer.empty() || fraction.empty()) return;
+    joined_.reserve(integer.size() + fraction.size());
+    joined_.append(integer).append(fraction);
+    digits_ = joined_;
+  }
+  Bare_Number(const Bare_Number&) = delete;
+  Bare_Number& operator=(const Bare_Number&) = delete;
+
+  std::string_view digits() const { return digits_; }
+  double decimals() const { return decimals_; }
+
+ private:
+  static std::string_view Without_Zeros(std::string_view digits) {
+    return digits.starts_with('0') ? digits.substr(Count_Leading_Zeros(digits)) : digits;
+  }
+
+  std::string joined_;
+  std::string_view digits_;
+  double decimals_;
+};
+
+// Operands of which one is no number reach the digit routines as texts, which tell what that gives.
+struct Bare_Texts {
   double Position;
   double Position1;
   double Position2;
   type_RemoveDecimals digits;
 };
 
-Bare_Operands Without_Separators(const type_SignOp& reduced) {
+Bare_Texts Without_Separators(const type_SignOp& reduced) {
   NumberText operand1(reduced.Operand1->magnitude());
   NumberText operand2(reduced.Operand2->magnitude());
   Strip_Leading_Zeros(operand1);
   Strip_Leading_Zeros(operand2);
   type_DecPosFromEnd aligned =
       Decimal_Positions(std::move(operand1), std::move(operand2), reduced.Operation);
-  Bare_Operands bare{aligned.Position, aligned.Position1, aligned.Position2, {}};
+  Bare_Texts bare{aligned.Position, aligned.Position1, aligned.Position2, {}};
   bare.digits = Remove_Decimals(std::move(aligned));
   Strip_Leading_Zeros(bare.digits.Operand1_Trim);
   Strip_Leading_Zeros(bare.digits.Operand2_Trim);
   return bare;
 }
 
+bool Are_Numbers(const type_SignOp& reduced) {
+  return reduced.Operand1->is_number() && reduced.Operand2->is_number();
+}
+
 Raw_Result Multiply(const type_SignOp& reduced) {
-  const Bare_Operands operands = Without_Separators(reduced);
-  return {Multiply_Digits(operands.digits.Operand1_Trim, operands.digits.Operand2_Trim),
-          operands.Position, reduced.Negative};
+  if (!Are_Numbers(reduced)) {
+    const Bare_Texts operands = Without_Separators(reduced);
+    return {Multiply_Digits(operands.digits.Operand1_Trim, operands.digits.Operand2_Trim),
+            operands.Position, reduced.Negative};
+  }
+  const Bare_Number operand1(reduced.Operand1->parts());
+  const Bare_Number operand2(reduced.Operand2->parts());
+  return {Multiply_Digits(operand1.digits(), operand2.digits()),
+          operand1.decimals() + operand2.decimals() + 1, reduced.Negative};
+}
+
+// Puts the point of a quotient: `decimals` is how many more the dividend has than the divisor.
+Raw_Result Place_Point(type_Division_Recip quotient, double decimals, bool negative) {
+  if (Has_Token_Mark(quotient.digits)) return {std::move(quotient.digits), 0, false};
+  double position = -static_cast<double>(quotient.powerOfTen) + decimals;
+  if (position < 0) {
+    Require_Memory(-position);
+    quotient.digits.append(static_cast<std::size_t>(-position), '0');
+    position = 0;
+  }
+  return {std::move(quotient.digits), position + 1, negative};
 }
 
 // The digits right of the separator that an operand's position tells of.
@@ -95,18 +148,17 @@ double Decimals(double position) {
 }
 
 Raw_Result Divide(const type_SignOp& reduced, double limit) {
-  Bare_Operands operands = Without_Separators(reduced);
-  type_Division_Recip quotient =
-      Recip_Divide(operands.digits.Operand1_Trim, operands.digits.Operand2_Trim, To_Int32(limit));
-  if (Has_Token_Mark(quotient.digits)) return {std::move(quotient.digits), 0, false};
-  double position = -static_cast<double>(quotient.powerOfTen) + Decimals(operands.Position1) -
-                    Decimals(operands.Position2);
-  if (position < 0) {
-    Require_Memory(-position);
-    quotient.digits.append(static_cast<std::size_t>(-position), '0');
-    position = 0;
+  const std::int32_t digits = To_Int32(limit);
+  if (!Are_Numbers(reduced)) {
+    Bare_Texts operands = Without_Separators(reduced);
+    return Place_Point(
+        Recip_Divide(operands.digits.Operand1_Trim, operands.digits.Operand2_Trim, digits),
+        Decimals(operands.Position1) - Decimals(operands.Position2), reduced.Negative);
   }
-  return {std::move(quotient.digits), position + 1, reduced.Negative};
+  const Bare_Number operand1(reduced.Operand1->parts());
+  const Bare_Number operand2(reduced.Operand2->parts());
+  return Place_Point(Divide_Digits(operand1.digits(), operand2.digits(), digits),
+                     operand1.decimals() - operand2.decimals(), reduced.Negative);
 }
 
 Raw_Result Operate(const type_SignOp& reduced, double limit) {

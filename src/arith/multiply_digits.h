@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "host/host_value.h"
 
@@ -11,5 +12,12 @@ namespace quorvex {
 /// no leading zero. "#VALUE!" for any failure: the library can't be found, an operand holds a
 /// character that is no digit, there is not enough memory.
 NumberText Multiply_Digits(const NumberText& op1, const NumberText& op2);
+
+/// The same for parts of texts.
+NumberText Multiply_Digits(std::string_view op1, std::string_view op2);
+
+/// Whether the library of products can be found. What needs no product of it goes without it too,
+/// but must fail where products do.
+bool Can_Multiply();
 
 }  // namespace quorvex

@@ -2,10 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <string_view>
+#include <cmath>
 
+#include "arith/digit_spans.h"
+#include "arith/limb_reciprocal.h"
 #include "arith/multiply_digits.h"
-#include "arith/subtract_digits.h"
 #include "host/platform.h"
 #include "text/digit_runs.h"
 #include "text/tokens.h"
@@ -16,154 +17,203 @@ namespace {
 // Why the iteration ends with floor((10^s - 1) / k), s = p + N - 1.
 //
 // It takes x to x (2 - k x) = (1/k)(1 - e^2), where e = 1 - k x, cut to p + 2 digits, and ends when
-// p + 1 digits of two rounds agree. Let L = 10^(s+2) / k be the limit in units of digit p + 2.
+// p digits of two rounds agree. Let L = 10^(s+2) / k be the limit in units of digit p + 2, and g
+// what floor(L) leaves of it, times k: L = floor(L) + g/k.
 //
-// 1. At the end e < 10^-p or so, so that e^2 is far below a unit of any digit kept, and the last
-//    round gives floor(L - t), or floor(L - c - t) in rounds whose product k x ends in a zero:
-//    there the complement is short by one unit of the product, which has p + N + 1 digits, so that
-//    c is below 10^(1-N) units. t is below 10^(2-p), and above 0.
-// 2. If L is whole, both are L - 1, since c < 1. If not, the fraction of L is at least 1/k > 10^-N,
-//    and where it is not below c + t, both are floor(L). Either way that is the floor above, with
-//    two digits more.
-// 3. If the fraction is below c + t, rounds can differ by one in the last digit, and the digits
-//    before it differ only if that digit is a zero. So a zero there is let through only with a
-//    fraction of at least 10^(1-N). If k itself ends in j zeros, each round is cut by the same c,
-//    which is below the least fraction, 10^j/k.
+// 1. At the end e is below 10^(1-p), and the last round gives floor(L - t) or floor(L - t - c): t
+//    is L e^2, above 0 and below 10^(4-p). c comes from rounds whose product k x ends in a zero,
+//    where the complement is short by one unit of the product's last place; that has p + N + 1
+//    places, so that c is x 10^(s+2) 10^-(p+N+1), at most 1/k.
+// 2. If L is whole, all this is L - 1, as c + t < 1: the floor above, with two digits more.
+// 3. If not, it is floor(L), or one less where g/k < c + t. One less shows in the first p digits
+//    only if digits p + 1 and p + 2 of floor(L) are zeros. Then k floor(L) ends in two zeros and g,
+//    which is 10^(s+2) less that, is a multiple of 100. So g/k is at least 100/k, and that is
+//    enough if t is below 99/k: always if N <= p - 2.
 // 4. The fixed rounds before the digits are compared leave e below 10^(-p/4): they begin with e at
-//    most 0.6 (k = 2) or 0.52, and there are log2 p + ln n2 of them, rounded. With p of 24 or more
-//    that is 10^-6, and the first digit, which is never corrected afterwards, is right if the next
-//    five are not all zeros. Digits once found to agree can't change in a later round by less than
-//    their last one, and e^2 is too small for that: the end is not called too early.
-constexpr std::int32_t least_precision = 24;
-constexpr std::size_t digits_behind_first = 5;
-constexpr std::size_t extra_digits = 2;  // that the iteration keeps beyond p
+//    most 0.6 (k = 2) or 0.52, and there are log2 p + ln n2 of them, rounded, n2 being 2 or more.
+//    The first digit, which is never corrected afterwards, is right if of the digits behind it the
+//    first p/4 - 1 are not all zeros.
+// 5. Digits found to agree differ from those of the next round by at most x e^2, and e is below the
+//    unit of the last one that agrees, times ten, and below 10^-2: less than that unit. So digits
+//    once found to agree can't all move on by a unit unseen, and the end is not called too early.
+constexpr std::size_t guard_digits = 10;  // that are looked at behind p
 
-constexpr std::size_t word_digits = 18;
-constexpr std::uint64_t word_base = 1'000'000'000'000'000'000U;
-__extension__ using Wide = unsigned __int128;
+// A reciprocal of so many digits at most begins with long division, and a longer one from there.
+constexpr std::size_t long_division_digits = 270;
 
 bool All(std::string_view digits, char digit) {
   return digits.find_first_not_of(digit) == std::string_view::npos;
 }
 
-std::uint64_t To_Word(std::string_view digits) {
-  std::uint64_t word = 0;
-  for (const char digit : digits) word = word * 10 + static_cast<std::uint64_t>(digit - '0');
-  return word;
+bool First_Digit_May_Waver(std::string_view digits, std::size_t p) {
+  return digits.front() == '0' || All(digits.substr(1, Digits_Behind_First(p)), '0');
 }
 
-void Write_Word(char* out, std::uint64_t word) {
-  for (std::size_t place = word_digits; place > 0; word /= 10) {
-    out[--place] = static_cast<char>('0' + word % 10);
-  }
-}
+// Divides a row of nines by one limb, limb by limb.
+class Nines_Division {
+ public:
+  Nines_Division(const limbs::Divisor& k, std::size_t nines)
+      : k_(k), next_(limbs::Ten_To((nines - 1) % limbs::digits + 1) - 1) {}
 
-// `count` digits of 99...9 / k, for a k of one word at most; what is left over goes to `rest`. The
-// nines that give no digit yet, one less than k has digits, come first.
-NumberText Divide_Nines(std::uint64_t k, std::size_t k_digits, std::size_t count,
-                        std::uint64_t& rest) {
-  rest = To_Word(NumberText(k_digits - 1, '9'));
-  const std::size_t words = (count + word_digits - 1) / word_digits;
-  NumberText digits(words * word_digits, '0');
-  // Zeros in front of the nines fill the first word.
-  const std::size_t filled = words * word_digits - count;
-  for (std::size_t word = 0; word < words; ++word) {
-    std::uint64_t scale = word_base;
-    for (std::size_t place = 0; word == 0 && place < filled; ++place) scale /= 10;
-    const Wide dividend = Wide{rest} * scale + (scale - 1);
-    rest = static_cast<std::uint64_t>(dividend % k);
-    Write_Word(digits.data() + word * word_digits, static_cast<std::uint64_t>(dividend / k));
-    if (word % (digits_between_yields / word_digits) == 0) Yield();
+  limbs::Limb next() {
+    const limbs::Limb quotient = k_.divide(rest_, next_);
+    next_ = limbs::base - 1;
+    if (++done_ % limbs::between_yields == 0) Yield();
+    return quotient;
   }
-  digits.erase(0, filled);
+
+  limbs::Limb rest() const { return rest_; }
+
+ private:
+  const limbs::Divisor& k_;
+  limbs::Limb next_;
+  limbs::Limb rest_ = 0;
+  std::size_t done_ = 0;
+};
+
+// `count` digits of 99...9 / k, the first of them not 0.
+NumberText Divide_Nines(const limbs::Divisor& k, std::size_t length, std::size_t count) {
+  const std::size_t nines = count + length - 1;
+  NumberText digits(limbs::Count_For(nines) * limbs::digits, '0');
+  Nines_Division division(k, nines);
+  for (std::size_t place = 0; place < digits.size(); place += limbs::digits) {
+    limbs::Write(digits.data() + place, division.next());
+  }
+  digits.erase(0, digits.size() - count);
   return digits;
 }
 
-std::optional<NumberText> Short_Reciprocal(std::string_view k, bool ends_in_zeros,
-                                           std::size_t count) {
-  std::uint64_t rest = 0;
-  NumberText digits = Divide_Nines(To_Word(k), k.size(), count, rest);
-  // With a nine in the place of the last digit's ten, `rest` is one less than that of 10^(s+2).
-  const bool may_waver = digits.back() == '0' && rest < 9 && !ends_in_zeros;
-  if (may_waver) return std::nullopt;
+// Lowers a number above 0, of digits, by one.
+void Decrement(NumberText& digits) {
+  std::size_t place = digits.size() - 1;
+  for (; digits[place] == '0'; --place) digits[place] = '9';
+  --digits[place];
+}
+
+// The first digits of a reciprocal, at most three units of the last one too low and not too high,
+// from as many leading digits of k. That of a row of nines begins with a 0.
+NumberText Divide_Into_One(std::string_view k, std::size_t count) {
+  // Three digits more keep what is cut off k below a hundredth of a unit.
+  constexpr std::size_t more = 3;
+  constexpr std::size_t most = limbs::Count_For(long_division_digits + more);
+  const std::size_t n = std::max<std::size_t>(limbs::Count_For(count + more), 2);
+  std::array<limbs::Limb, most> divisor;
+  std::array<limbs::Limb, most> rest;
+  std::array<limbs::Limb, most + 1> quotient;
+  const bool is_near_power = k.front() == '1' && All(k.substr(1, n * limbs::digits - 1), '0');
+  if (is_near_power) return NumberText(count, '9');
+  limbs::Read_Fraction(k.substr(0, n * limbs::digits), n, divisor.data());
+  const std::size_t behind = limbs::Count_For(count - 1);
+  limbs::Divide_Into_One(divisor.data(), n, quotient.data(), behind + 1, rest.data());
+  NumberText digits(1 + behind * limbs::digits, static_cast<char>('0' + quotient[0]));
+  for (std::size_t place = 0; place < behind; ++place) {
+    limbs::Write(digits.data() + 1 + place * limbs::digits, quotient[place + 1]);
+  }
+  digits.resize(count);
+  Decrement(digits);
   return digits;
 }
 
-// 2 - k x as a 1 and decimals, a little below it: the nines complement of the decimals of k x.
-NumberText Two_Less(std::string_view product, std::size_t length) {
-  NumberText complement(length, '9');
-  complement.front() = '1';
-  const std::size_t count = std::min(product.size(), length - 1);
-  for (std::size_t place = 0; place < count; ++place) {
-    complement[place + 1] = static_cast<char>('0' + '9' - product[place]);
-  }
-  return complement;
-}
-
-// Digits of a fraction, to a count of places: a product has no zeros in front.
-void Pad_Left(NumberText& digits, std::size_t places) {
-  if (digits.size() < places) digits.insert(0, places - digits.size(), '0');
-}
-
-// At least `count` digits of 1/k, at most three units of the last one too low, for a k of more than
-// one word; empty where a product can't be formed.
+// One step of Newton's iteration, from m to `next` digits, 2 m - 4 at most. The numbers are read
+// with their point behind the first digit of x, and before that of k.
 //
-// Newton's iteration with a precision that doubles. Each step cuts k and the complement to four
-// digits more than it keeps, so that the result is off by less than a thousandth of a unit besides
-// the cut itself, and takes one unit off to stay below 1/k. With m digits and an error of 3 units,
-// e^2 comes to less than a hundredth of a unit of 2m - 4 digits.
-NumberText Approach(std::string_view k, std::size_t count) {
-  constexpr std::size_t more = 4;
-  constexpr std::size_t first = word_digits - 2;
-  std::uint64_t rest = 0;
-  // One more in the last digit of a shortened k makes the quotient too low, and not too high.
-  NumberText x = Divide_Nines(To_Word(k.substr(0, word_digits)) + 1, word_digits, first, rest);
-  while (x.size() < count) {
-    Yield();
-    const std::size_t next = std::min(count, 2 * x.size() - more);
-    const NumberText leading(k.substr(0, next + more));
-    NumberText product = Multiply_Digits(leading, x);
-    if (Has_Token_Mark(product)) return {};
-    Pad_Left(product, leading.size() + x.size() - 1);
-    NumberText better = Multiply_Digits(x, Two_Less(product, next + more));
-    if (Has_Token_Mark(better)) return {};
-    Pad_Left(better, x.size() + next + more - 1);
-    better.resize(next);
-    x = Subtract_Digits(better, "1", false).Difference;
-    Pad_Left(x, next);
+// k is cut to four digits more than are kept, and e = 1 - k x to three more, by its nines
+// complement. With x at most three units too low, e is below 3.1 * 10^(1-m), so that its first
+// m - 2 digits are zeros and x e^2 is below a tenth of a unit. Cutting k adds a thousandth of a
+// unit, cutting e takes off a hundredth, cutting the product one; one more is taken off so that x
+// stays below 1/k.
+NumberText Step(std::string_view k, NumberText x, std::size_t next) {
+  const std::size_t m = x.size();
+  const NumberText leading(k.substr(0, next + 4));
+  NumberText e = Multiply_Digits(leading, x);
+  if (e.size() != leading.size() + m - 1) return {};  // no product could be formed
+  e.erase(0, m - 2);
+  e.resize(next + 4 - m, '0');
+  for (char& digit : e) digit = static_cast<char>('0' + '9' - digit);
+  const NumberText product = Multiply_Digits(x, e);
+  if (Has_Token_Mark(product)) return {};
+  x.append(next - m, '0');
+  if (product.size() > m + 2) {
+    const std::size_t length = product.size() - (m + 2);
+    char* const place = x.data() + next - length;
+    const bool carry = digit_spans::Add(place, place, product.data(), length, false);
+    digit_spans::Add_Carry(x.data(), x.data(), next - length, carry);
   }
+  Decrement(x);
   return x;
 }
 
-std::optional<NumberText> Long_Reciprocal(std::string_view k, std::size_t count) {
-  constexpr std::size_t guard = 8;
-  NumberText digits = Approach(k, count + guard + extra_digits);
+// `count` digits of 1/k, at most three units of the last one too low and not too high; empty where
+// a product can't be formed.
+NumberText Approach(std::string_view k, std::size_t count) {
+  if (count <= long_division_digits) return Divide_Into_One(k, count);
+  NumberText x = Approach(k, (count + 5) / 2);
+  Yield();
+  return x.empty() ? x : Step(k, std::move(x), count);
+}
+
+// Raises digits of 1/k, which are followed by nines, if they are one too low; true if they were.
+// Those that are all nines are not: k would be a power of ten.
+bool Raise_If_Too_Low(const NumberText& k, NumberText& digits) {
+  if (All(digits, '9')) return false;
+  NumberText higher = digits;
+  std::size_t place = higher.size() - 1;
+  for (; higher[place] == '9'; --place) higher[place] = '0';
+  ++higher[place];
+  if (Multiply_Digits(k, higher).size() >= k.size() + digits.size()) return false;
+  digits = std::move(higher);
+  return true;
+}
+
+std::optional<NumberText> Long_Reciprocal(const NumberText& k, std::size_t p) {
+  NumberText digits = Approach(k, p + guard_digits);
   if (digits.empty()) return std::nullopt;
-  // The error can reach no further left than the guard digits, and the fraction is above 10^-8.
-  const auto guards = std::string_view(digits).substr(count, guard);
-  if (All(guards, '0') || All(guards, '9')) return std::nullopt;
-  digits.resize(count);
+  const NumberText guards = digits.substr(p);
+  digits.resize(p);
+  // What is dropped is then next to nothing.
+  bool in_doubt = All(std::string_view(guards).substr(0, std::min(guard_digits, p - 2)), '0');
+  if (All(std::string_view(guards).substr(0, guard_digits - 1), '9')) {
+    in_doubt = Raise_If_Too_Low(k, digits);
+  }
+  if (in_doubt && !Ends_Beyond_Doubt(k.size(), p)) return std::nullopt;
+  if (First_Digit_May_Waver(digits, p)) return std::nullopt;
   return digits;
+}
+
+std::optional<NumberText> Short_Reciprocal(std::string_view significant, std::size_t p) {
+  const limbs::Divisor k(limbs::Read(significant));
+  if (!Missing_From_Power(k, significant.size(), p)) return std::nullopt;
+  return Divide_Nines(k, significant.size(), p);
 }
 
 }  // namespace
 
-std::optional<NumberText> Quick_Reciprocal(const NumberText& k, std::int32_t p) {
-  if (p < least_precision) return std::nullopt;
-  const auto length = static_cast<std::size_t>(p);
-  const std::size_t zeros = Count_Trailing_Zeros(k);
-  const auto significant = std::string_view(k).substr(0, k.size() - zeros);
-  if (significant == "1") return NumberText(length, '9');
+std::optional<limbs::Limb> Missing_From_Power(const limbs::Divisor& k, std::size_t length,
+                                              std::size_t p) {
+  const limbs::Limb number = k.number();
+  if (number == 1) return number;  // nines all along
+  const limbs::Limb behind_first = (limbs::Ten_To(length) - 1) % number + 1;
+  const std::size_t behind = std::min(Digits_Behind_First(p), limbs::digits);
+  if (limbs::Wide{behind_first} * limbs::Ten_To(behind) <= number) return std::nullopt;
 
-  const std::size_t count = length + extra_digits;
-  std::optional<NumberText> digits = significant.size() <= word_digits
-                                         ? Short_Reciprocal(significant, zeros > 0, count)
-                                         : Long_Reciprocal(significant, count);
-  if (!digits || All(std::string_view(*digits).substr(1, digits_behind_first), '0')) {
-    return std::nullopt;
+  const std::size_t nines = p + length - 1;
+  Nines_Division division(k, nines);
+  for (std::size_t place = 0; place < limbs::Count_For(nines); ++place) division.next();
+  const limbs::Limb missing = division.rest() + 1;
+  if (!Ends_Beyond_Doubt(length, p)) {
+    const double dropped =
+        2 * static_cast<double>(number) * std::pow(10, 3 - static_cast<double>(p));
+    if (100 * static_cast<double>(missing) < 1 + dropped) return std::nullopt;
   }
-  digits->resize(length);
-  return digits;
+  return missing;
+}
+
+std::optional<NumberText> Quick_Reciprocal(const NumberText& k, std::int32_t p) {
+  if (p < least_quick_precision) return std::nullopt;
+  const auto length = static_cast<std::size_t>(p);
+  const auto significant = std::string_view(k).substr(0, k.size() - Count_Trailing_Zeros(k));
+  if (significant.size() <= short_divisor_digits) return Short_Reciprocal(significant, length);
+  return Long_Reciprocal(NumberText(significant), length);
 }
 
 }  // namespace quorvex

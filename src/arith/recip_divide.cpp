@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <string>
 #include <utility>
 
 #include "arith/multiply_digits.h"
+#include "arith/quick_quotient.h"
 #include "arith/round_to_sd.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
@@ -34,7 +36,7 @@ bool Is_Clean(const NumberText& text) {
 }
 
 // What is done when no digits need to be worked out: true if `quotient` is final.
-bool Is_Answered_At_Once(const NumberText& X, const NumberText& Y, type_Division_Recip& quotient) {
+bool Is_Answered_At_Once(std::string_view X, std::string_view Y, type_Division_Recip& quotient) {
   // Clean text is 0 only as "0".
   if (Y == "0") {
     quotient.digits = div0_token;
@@ -50,19 +52,45 @@ bool Is_Answered_At_Once(const NumberText& X, const NumberText& Y, type_Division
   return true;
 }
 
+// The dividend times `p` digits of the divisor's reciprocal: the first `p` digits of it.
+struct Product {
+  Leading_Digits leading;
+  std::int32_t power_of_inverse = 0;
+};
+
+// What is no digits gives what the digit routines make of it.
+enum class Operands { digits, texts };
+
+Product Multiply_By_Reciprocal(std::string_view X, std::string_view Y, Operands operands,
+                               std::int32_t p) {
+  if (operands == Operands::digits && Can_Multiply()) {
+    auto quick =
+        With_Handler([&] { return Quick_Quotient(X, Y, p); },
+                     [](const Run_Time_Failure&) { return std::optional<Leading_Digits>(); });
+    if (quick) return {std::move(*quick), Power_Of_Reciprocal(Y.size(), p)};
+  }
+  const type_Division_Recip inverse = myInverse5(NumberText(Y), p);
+  NumberText product = Multiply_Digits(NumberText(X), inverse.digits);
+  const std::size_t length = product.size();
+  product.resize(std::min(length, static_cast<std::size_t>(std::max(p, 0))));
+  return {{std::move(product), length}, inverse.powerOfTen};
+}
+
 // Works in `quotient`, which is the result also where a failure ends it early.
-void Divide(const NumberText& X, const NumberText& Y, std::int32_t sd,
+void Divide(std::string_view X, std::string_view Y, Operands operands, std::int32_t sd,
             type_Division_Recip& quotient) {
-  const type_Division_Recip inverse = myInverse5(Y, In_32_Bits(std::int64_t{sd} + guard_digits));
-  quotient.digits = Multiply_Digits(X, inverse.digits);
-  const auto length = static_cast<std::int64_t>(quotient.digits.size());
+  const std::int32_t p = In_32_Bits(std::int64_t{sd} + guard_digits);
+  Product product = Multiply_By_Reciprocal(X, Y, operands, p);
+  const auto length = static_cast<std::int64_t>(product.leading.length);
+  quotient.digits = std::move(product.leading.digits);
   quotient.powerOfTen =
-      In_32_Bits(inverse.powerOfTen - std::min<std::int64_t>(sd, length) + length);
-  const std::int64_t kept = std::int64_t{sd} + guard_digits;
-  if (length > kept)
-    quotient.digits.resize(static_cast<std::size_t>(std::max<std::int64_t>(kept, 0)));
+      In_32_Bits(product.power_of_inverse - std::min<std::int64_t>(sd, length) + length);
   const std::size_t before = quotient.digits.size();
-  quotient.digits = To_Text(Round_To_SD(std::move(quotient.digits), sd));
+  if (sd < 1 || Has_Token_Mark(quotient.digits)) {
+    quotient.digits = To_Text(Round_To_SD(std::move(quotient.digits), sd));
+  } else {
+    Round_Digits(quotient.digits, sd);
+  }
   if (quotient.digits.size() == before + 1) {
     quotient.powerOfTen = In_32_Bits(std::int64_t{quotient.powerOfTen} + 1);
   }
@@ -72,6 +100,14 @@ void Divide(const NumberText& X, const NumberText& Y, std::int32_t sd,
   if (quotient.digits.size() > static_cast<std::size_t>(sd)) {
     quotient.digits.resize(static_cast<std::size_t>(sd));
   }
+}
+
+type_Division_Recip Quotient(std::string_view X, std::string_view Y, Operands operands,
+                             std::int32_t sd) {
+  type_Division_Recip quotient;
+  if (Is_Answered_At_Once(X, Y, quotient)) return quotient;
+  With_Handler([&] { Divide(X, Y, operands, sd, quotient); }, [](const Run_Time_Failure&) {});
+  return quotient;
 }
 
 }  // namespace
@@ -85,11 +121,12 @@ type_Division_Recip Recip_Divide(NumberText& X, NumberText& Y, std::int32_t sd) 
     X = std::move(dividend.NumClean);
     Y = std::move(divisor.NumClean);
   }
+  return Quotient(X, Y, Has_Non_Digit(X) || Has_Non_Digit(Y) ? Operands::texts : Operands::digits,
+                  sd);
+}
 
-  type_Division_Recip quotient;
-  if (Is_Answered_At_Once(X, Y, quotient)) return quotient;
-  With_Handler([&] { Divide(X, Y, sd, quotient); }, [](const Run_Time_Failure&) {});
-  return quotient;
+type_Division_Recip Divide_Digits(std::string_view X, std::string_view Y, std::int32_t sd) {
+  return Quotient(X, Y, Operands::digits, sd);
 }
 
 double DivisionDecimalPosition(const NumberText& divisor, const NumberText& dividend) {

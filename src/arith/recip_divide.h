@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "arith/reciprocal.h"
 #include "host/host_value.h"
@@ -16,6 +17,9 @@ namespace quorvex {
 /// divisor of 0, "#VALUE!" where products can't be formed. Any other failure ends the routine with
 /// what it has.
 type_Division_Recip Recip_Divide(NumberText& X, NumberText& Y, std::int32_t sd);
+
+/// The same for digits without leading zeros.
+type_Division_Recip Divide_Digits(std::string_view X, std::string_view Y, std::int32_t sd);
 
 /// The place of a quotient's separator by the lengths of two digit strings. Despite their names the
 /// first is the number that is divided, and the second the one divided by.

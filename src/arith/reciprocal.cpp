@@ -168,12 +168,15 @@ type_Division_Recip myInverse5(const NumberText& k, std::int32_t p) {
             std::numeric_limits<std::int32_t>::max()};
   }
   if (Is_Plain_Divisor(k)) {
-    const auto places = static_cast<double>(p) + static_cast<double>(k.size() - 1);
     auto quick = With_Handler([&] { return Quick_Reciprocal(k, p); },
                               [](const Run_Time_Failure&) { return std::optional<NumberText>(); });
-    if (quick) return {std::move(*quick), To_Int32(-places)};
+    if (quick) return {std::move(*quick), Power_Of_Reciprocal(k.size(), p)};
   }
   return Iterated_Reciprocal(k, p);
+}
+
+std::int32_t Power_Of_Reciprocal(std::size_t length, std::int32_t p) {
+  return To_Int32(-(static_cast<double>(p) + static_cast<double>(length) - 1));
 }
 
 }  // namespace quorvex

@@ -1,6 +1,7 @@
 // The reciprocal of a whole number, by Newton's iteration on digit strings.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "host/host_value.h"
@@ -26,5 +27,9 @@ type_Division_Recip Iterated_Reciprocal(const NumberText& k, std::int32_t p);
 /// The same digits, most often without the iteration; "1" gives itself, "0" gives nines and the
 /// largest power. A power of ten beyond 32 bits fails with overflow.
 type_Division_Recip myInverse5(const NumberText& k, std::int32_t p);
+
+/// The power of ten of `p` digits of the reciprocal of a divisor of so many digits. Fails with
+/// overflow beyond 32 bits.
+std::int32_t Power_Of_Reciprocal(std::size_t length, std::int32_t p);
 
 }  // namespace quorvex

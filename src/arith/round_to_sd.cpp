@@ -129,4 +129,9 @@ HostValue Round_To_SD(NumberText num, const HostValue& maxSD) {
   });
 }
 
+void Round_Digits(NumberText& digits, std::int32_t maxSD) {
+  constexpr char no_separator = '.';  // digits hold none
+  digits = Rounding(std::move(digits), no_separator).round(Place{maxSD} + 1);
+}
+
 }  // namespace quorvex

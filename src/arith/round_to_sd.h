@@ -1,6 +1,8 @@
 // Rounding of number text to a count of significant digits.
 #pragma once
 
+#include <cstdint>
+
 #include "host/host_value.h"
 
 namespace quorvex {
@@ -14,5 +16,8 @@ namespace quorvex {
 /// trailing zeros in a fraction; what reduces to a lone zero on the way can become empty. Fails
 /// with type_mismatch for a character that is no digit where one has to be read.
 HostValue Round_To_SD(NumberText num, const HostValue& maxSD);
+
+/// The same for text that is known to be digits, and a `maxSD` of 1 or more.
+void Round_Digits(NumberText& digits, std::int32_t maxSD);
 
 }  // namespace quorvex

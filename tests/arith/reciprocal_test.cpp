@@ -3,10 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <string>
 #include <vector>
 
+#include "arith/multiply_digits.h"
+#include "arith/quick_quotient.h"
 #include "arith/quick_reciprocal.h"
 #include "arith/recip_divide.h"
 #include "support/locales.h"
@@ -79,16 +82,17 @@ NumberText Times(NumberText number, int factor) {
   return carry == 0 ? number : std::to_string(carry) + number;
 }
 
-// Digits of many kinds: random, sparse, nearly all nines, zeros and nines, fives.
+// Digits of many kinds: random, sparse, nearly all nines, zeros and nines, fives, two far apart.
 NumberText Odd_Digits(std::mt19937& random, std::size_t length) {
   const auto any = [&] { return static_cast<char>('0' + random() % 10); };
-  const auto kind = random() % 5;
+  const auto kind = random() % 6;
   NumberText digits(length, kind == 2 ? '9' : '0');
   for (char& digit : digits) {
     if (kind == 0 || (kind < 3 && random() % 8 == 0)) digit = any();
     if (kind == 3) digit = random() % 2 == 0 ? '0' : '9';
     if (kind == 4) digit = random() % 2 == 0 ? '0' : '5';
   }
+  if (kind == 5) digits.back() = any();
   if (digits.front() == '0') digits.front() = static_cast<char>('1' + random() % 9);
   return digits;
 }
@@ -96,12 +100,18 @@ NumberText Odd_Digits(std::mt19937& random, std::size_t length) {
 TEST(Reciprocal, AgreesWithItsIteration) {
   Quick_Reciprocals reciprocals;
   for (int k = 2; k < 1200; ++k) {
-    for (const int p : {24, 25, 26, 31, 104}) reciprocals.check(std::to_string(k), p);
+    for (const int p : {8, 9, 10, 11, 12, 14, 17, 20, 24, 25, 31, 104}) {
+      reciprocals.check(std::to_string(k), p);
+    }
   }
   std::mt19937 random(20);
-  for (int round = 0; round < 3000; ++round) {
+  for (int round = 0; round < 6000; ++round) {
     const NumberText k = Odd_Digits(random, 1 + random() % 60);
-    reciprocals.check(k, static_cast<std::int32_t>(24 + random() % 100));
+    reciprocals.check(k, static_cast<std::int32_t>(8 + random() % 100));
+  }
+  for (int round = 0; round < 300; ++round) {
+    const NumberText k = Odd_Digits(random, 1 + random() % 300);
+    reciprocals.check(k, static_cast<std::int32_t>(200 + random() % 400));
   }
   for (int round = 0; round < 15; ++round) {
     const NumberText k = Odd_Digits(random, 1 + random() % 3000);
@@ -116,11 +126,39 @@ TEST(Reciprocal, EndsInNinesWhereTheFractionEnds) {
   for (int twos = 1; twos < 60; ++twos, by_two = Times(by_two, 2)) {
     NumberText k = by_two;
     for (int fives = 0; fives < 30; fives += 3) {
-      reciprocals.check(k, 24 + (twos * 7 + fives) % 60);
+      reciprocals.check(k, 8 + (twos * 7 + fives) % 76);
       k = Times(Times(Times(k, 5), 5), 5);
     }
   }
   reciprocals.expect_most_found();
+}
+
+// Where the first digits of a dividend times a reciprocal are found without the product, they are
+// its first digits.
+TEST(Reciprocal, QuickQuotientsAreProductsWithTheIteration) {
+  std::mt19937 random(21);
+  int found = 0;
+  const auto check = [&](const NumberText& X, const NumberText& k, std::int32_t p) {
+    const auto quick = Quick_Quotient(X, k, p);
+    if (!quick) return;
+    ++found;
+    NumberText product = Multiply_Digits(X, Iterated_Reciprocal(k, p).digits);
+    ASSERT_EQ(quick->length, product.size()) << X << " by " << k << " to " << p;
+    product.resize(std::min(product.size(), static_cast<std::size_t>(p)));
+    ASSERT_EQ(quick->digits, product) << X << " by " << k << " to " << p;
+  };
+  for (int round = 0; round < 8000; ++round) {
+    const std::size_t longest_divisor = round % 2 == 0 ? 18 : 130;
+    NumberText k = Odd_Digits(random, 1 + random() % longest_divisor);
+    if (round % 5 == 0) k.append(random() % 4, '0');
+    if (k == "1") continue;
+    check(Odd_Digits(random, 1 + random() % 130), k, static_cast<std::int32_t>(8 + random() % 122));
+  }
+  for (int round = 0; round < 40; ++round) {
+    check(Odd_Digits(random, 1 + random() % 2000), Odd_Digits(random, 2 + random() % 17),
+          static_cast<std::int32_t>(8 + random() % 1000));
+  }
+  EXPECT_GT(found, 5000);
 }
 
 TEST(RecipDivide, AnswersAsToldByItsCases) {
