@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 #include "arith/limbs.h"
 
@@ -12,6 +13,6 @@ namespace quorvex::limbs {
 /// 1 to 9, is the whole part. Each further one stands for eighteen digits behind the point. `rest`
 /// has room for n limbs. True if the division leaves no rest.
 bool Divide_Into_One(const Limb* divisor, std::size_t n, Limb* quotient, std::size_t count,
-                     Limb* rest);
+                     std::int64_t* rest);
 
 }  // namespace quorvex::limbs

@@ -1,20 +1,12 @@
 #include "arith/limbs.h"
 
 #include <algorithm>
-#include <bit>
 
+#include "arith/limb_division.h"
 #include "native/digit_words.h"
 
 namespace quorvex::limbs {
 namespace {
-
-constexpr auto powers_of_ten = [] {
-  std::array<Limb, digits + 1> powers{1};
-  for (std::size_t place = 1; place < powers.size(); ++place) {
-    powers[place] = powers[place - 1] * 10;
-  }
-  return powers;
-}();
 
 constexpr std::size_t word_digits = 8;
 
@@ -24,34 +16,7 @@ Limb Read_Full(const char* text) {
   return pair * 100 + static_cast<Limb>(text[16] - '0') * 10 + static_cast<Limb>(text[17] - '0');
 }
 
-// N. Moeller, T. Granlund, Improved division by invariant integers, IEEE Trans. Computers 60
-// (2011): the reciprocal of section 2 and algorithm 4. The divisor has its high bit set.
-constexpr Limb Reciprocal_Of(Limb divisor) {
-  return static_cast<Limb>(((Wide{~divisor} << 64U) | ~Limb{0}) / divisor);
-}
-
-inline Limb Divide(Wide dividend, Limb divisor, Limb reciprocal, Limb& rest) {
-  const auto high = static_cast<Limb>(dividend >> 64U);
-  const auto low = static_cast<Limb>(dividend);
-  const Wide guess = Wide{reciprocal} * high + (Wide{high + 1} << 64U) + low;
-  auto quotient = static_cast<Limb>(guess >> 64U);
-  rest = low - quotient * divisor;
-  if (rest > static_cast<Limb>(guess)) {
-    --quotient;
-    rest += divisor;
-  }
-  if (rest >= divisor) {
-    ++quotient;
-    rest -= divisor;
-  }
-  return quotient;
-}
-
 }  // namespace
-
-Limb Ten_To(std::size_t exponent) {
-  return powers_of_ten[exponent];
-}
 
 Limb Read(std::string_view text) {
   if (text.size() == digits) return Read_Full(text.data());
@@ -79,12 +44,6 @@ void Write(char* out, Limb limb) {
   out[17] = static_cast<char>('0' + last % 10);
 }
 
-std::size_t Count_Digits(Limb limb) {
-  // 1233 / 4096 is a little above log10 of 2, and finds the count or one less.
-  const auto guess = static_cast<std::size_t>(std::bit_width(limb)) * 1233U >> 12U;
-  return guess + static_cast<std::size_t>(limb >= powers_of_ten[guess]);
-}
-
 void Read_Number(std::string_view text, Limb* out) {
   for (std::size_t place = 0; !text.empty(); ++place) {
     const std::size_t count = std::min(text.size(), digits);
@@ -103,43 +62,31 @@ void Read_Fraction(std::string_view text, std::size_t count, Limb* out) {
 }
 
 void Multiply(Limb* out, const Limb* a, std::size_t a_count, const Limb* b, std::size_t b_count) {
-  // A product of limbs is below 10^36, and 340 of these fit a column.
-  Wide column = 0;
+  // A column is below 9 * 10^36, and what it passes on below 9 bases. It is parted before what it
+  // gets is added, so that no column waits for those below it.
+  Limb from_first_below = 0;
+  Limb from_second_below = 0;
+  Limb bases_of_first_below = 0;
+  Limb carry = 0;
+  const auto add = [&](Limb limb) {
+    const Limb sum = limb + from_first_below + from_second_below + carry;
+    carry = static_cast<Limb>(sum >= base) + static_cast<Limb>(sum >= 2 * base);
+    from_second_below = bases_of_first_below;
+    return sum - carry * base;
+  };
   for (std::size_t place = 0; place + 1 < a_count + b_count; ++place) {
     const std::size_t end = std::min(place + 1, a_count);
+    Wide column = 0;
     for (std::size_t i = place < b_count ? 0 : place - b_count + 1; i < end; ++i) {
       column += Wide{a[i]} * b[place - i];
     }
-    out[place] = Take_Limb(column);
+    const Limb limb = Take_Limb(column);
+    out[place] = add(limb);
+    const auto passed_on = static_cast<Limb>(column);
+    bases_of_first_below = passed_on / base;
+    from_first_below = passed_on - bases_of_first_below * base;
   }
-  out[a_count + b_count - 1] = static_cast<Limb>(column);
-}
-
-Limb Take_Limb(Wide& column) {
-  constexpr unsigned shift = 4;
-  constexpr Limb divisor = base << shift;
-  constexpr Limb reciprocal = Reciprocal_Of(divisor);
-  const auto high = static_cast<Limb>(column >> 64U);
-  const Limb above = high / base;
-  const Wide dividend = ((Wide{high - above * base} << 64U) | static_cast<Limb>(column)) << shift;
-  Limb rest = 0;
-  const Limb quotient = Divide(dividend, divisor, reciprocal, rest);
-  column = (Wide{above} << 64U) + quotient;
-  return rest >> shift;
-}
-
-Divisor::Divisor(Limb number)
-    : number_(number),
-      shift_(static_cast<unsigned>(std::countl_zero(number))),
-      shifted_(number << shift_),
-      reciprocal_(Reciprocal_Of(shifted_)) {}
-
-Limb Divisor::divide(Limb& rest, Limb limb) const {
-  Limb shifted_rest = 0;
-  const Limb quotient =
-      Divide((Wide{rest} * base + limb) << shift_, shifted_, reciprocal_, shifted_rest);
-  rest = shifted_rest >> shift_;
-  return quotient;
+  out[a_count + b_count - 1] = add(0);
 }
 
 }  // namespace quorvex::limbs

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -23,8 +24,18 @@ inline constexpr std::size_t Count_For(std::size_t digit_count) {
   return (digit_count + digits - 1) / digits;
 }
 
+inline constexpr auto powers_of_ten = [] {
+  std::array<Limb, digits + 1> powers{1};
+  for (std::size_t place = 1; place < powers.size(); ++place) {
+    powers[place] = powers[place - 1] * 10;
+  }
+  return powers;
+}();
+
 /// 10 to the `exponent`, of at most 18.
-Limb Ten_To(std::size_t exponent);
+constexpr Limb Ten_To(std::size_t exponent) {
+  return powers_of_ten[exponent];
+}
 
 /// The number that at most eighteen digits write.
 Limb Read(std::string_view text);
@@ -33,7 +44,11 @@ Limb Read(std::string_view text);
 void Write(char* out, Limb limb);
 
 /// How many digits a number above 0 has.
-std::size_t Count_Digits(Limb limb);
+inline std::size_t Count_Digits(Limb limb) {
+  // 1233 / 4096 is a little above log10 of 2, and finds the count or one less.
+  const auto guess = static_cast<std::size_t>(std::bit_width(limb)) * 1233U >> 12U;
+  return guess + static_cast<std::size_t>(limb >= powers_of_ten[guess]);
+}
 
 /// A whole number into `Count_For` its digits limbs.
 void Read_Number(std::string_view text, Limb* out);
@@ -41,29 +56,8 @@ void Read_Number(std::string_view text, Limb* out);
 /// The first digits of a text into `count` limbs; zeros behind a text that is shorter.
 void Read_Fraction(std::string_view text, std::size_t count, Limb* out);
 
-/// out = a b, in the sum of their counts of limbs. One of them has at most 256 limbs.
+/// out = a b, in the sum of their counts of limbs, for one of at most 9.
 void Multiply(Limb* out, const Limb* a, std::size_t a_count, const Limb* b, std::size_t b_count);
-
-/// Takes the lowest limb off a column of products; what is left is the carry into the next.
-Limb Take_Limb(Wide& column);
-
-/// Division by a number of one limb.
-class Divisor {
- public:
-  /// `number` is above 0 and below the base.
-  explicit Divisor(Limb number);
-
-  Limb number() const { return number_; }
-
-  /// Divides rest * base + limb; `rest`, which is below the number, becomes the new rest.
-  Limb divide(Limb& rest, Limb limb) const;
-
- private:
-  Limb number_;
-  unsigned shift_;
-  Limb shifted_;
-  Limb reciprocal_;
-};
 
 /// Room for limbs: on the stack if they are few.
 class Scratch {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "arith/limb_division.h"
 #include "arith/limb_reciprocal.h"
 #include "arith/limbs.h"
 #include "arith/quick_reciprocal.h"
@@ -126,7 +127,7 @@ struct Short_Inverse {
 bool Find_Inverse(std::string_view k, std::size_t p, Short_Inverse& inverse) {
   const std::size_t n = limbs::Count_For(k.size());
   std::array<Limb, few> divisor;
-  std::array<Limb, few> rest;
+  std::array<std::int64_t, few> rest;
   limbs::Read_Fraction(k, n, divisor.data());
   const std::size_t behind = limbs::Count_For(p - 1);
   inverse.count = behind + 1;

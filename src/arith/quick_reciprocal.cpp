@@ -98,7 +98,7 @@ NumberText Divide_Into_One(std::string_view k, std::size_t count) {
   constexpr std::size_t most = limbs::Count_For(long_division_digits + more);
   const std::size_t n = std::max<std::size_t>(limbs::Count_For(count + more), 2);
   std::array<limbs::Limb, most> divisor;
-  std::array<limbs::Limb, most> rest;
+  std::array<std::int64_t, most> rest;
   std::array<limbs::Limb, most + 1> quotient;
   const bool is_near_power = k.front() == '1' && All(k.substr(1, n * limbs::digits - 1), '0');
   if (is_near_power) return NumberText(count, '9');

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string_view>
 
-#include "arith/limbs.h"
+#include "arith/limb_division.h"
 #include "host/host_value.h"
 
 namespace quorvex {

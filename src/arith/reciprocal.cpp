@@ -176,7 +176,11 @@ type_Division_Recip myInverse5(const NumberText& k, std::int32_t p) {
 }
 
 std::int32_t Power_Of_Reciprocal(std::size_t length, std::int32_t p) {
-  return To_Int32(-(static_cast<double>(p) + static_cast<double>(length) - 1));
+  const std::int64_t power = -(std::int64_t{p} + static_cast<std::int64_t>(length) - 1);
+  if (power < std::numeric_limits<std::int32_t>::min()) {
+    throw Run_Time_Failure(Failure_Number::overflow, "A power of ten is too large.");
+  }
+  return static_cast<std::int32_t>(power);
 }
 
 }  // namespace quorvex

@@ -130,8 +130,19 @@ HostValue Round_To_SD(NumberText num, const HostValue& maxSD) {
 }
 
 void Round_Digits(NumberText& digits, std::int32_t maxSD) {
-  constexpr char no_separator = '.';  // digits hold none
-  digits = Rounding(std::move(digits), no_separator).round(Place{maxSD} + 1);
+  const std::size_t limit = static_cast<std::size_t>(maxSD) + 1 + Count_Trailing_Zeros(digits);
+  if (digits.size() < limit) return;
+  std::size_t kept = limit - 1;
+  if (digits[kept] >= '5') {
+    while (kept > 0 && digits[kept - 1] == '9') --kept;
+    if (kept == 0) {
+      std::replace(digits.begin(), digits.end(), '9', '0');
+      digits.insert(0, 1, '1');
+      return;
+    }
+    ++digits[kept - 1];
+  }
+  std::fill(digits.begin() + static_cast<std::ptrdiff_t>(kept), digits.end(), '0');
 }
 
 }  // namespace quorvex

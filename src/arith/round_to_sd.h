@@ -17,7 +17,7 @@ namespace quorvex {
 /// with type_mismatch for a character that is no digit where one has to be read.
 HostValue Round_To_SD(NumberText num, const HostValue& maxSD);
 
-/// The same for text that is known to be digits, and a `maxSD` of 1 or more.
+/// The same for digits that begin with none that is 0, and a `maxSD` of 1 or more.
 void Round_Digits(NumberText& digits, std::int32_t maxSD);
 
 }  // namespace quorvex

@@ -112,6 +112,11 @@ HostValue Cell_Of(const HostValue& range) {
 }
 
 double Nearest(double number) {
+  constexpr double exact = 4503599627370496.0;  // numbers below 2^52 fit an integer
+  if (number > -exact && number < exact &&
+      static_cast<double>(static_cast<std::int64_t>(number)) == number) {
+    return number;
+  }
   const double below = std::floor(number);
   const double part = number - below;
   const bool up = part > 0.5 || (part == 0.5 && std::fmod(below, 2) != 0);

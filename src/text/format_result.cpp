@@ -1,5 +1,6 @@
 #include "text/format_result.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -82,13 +83,31 @@ void Show_Sign(NumberText& text, bool positive, std::int16_t style) {
   if (style == in_parentheses) text += ')';
 }
 
-// True for a whole number that all the steps of formatting would leave as they are, but for the
-// sign.
-bool Is_Plain_Whole_Number(const NumberText& digits, const type_Restrictionator& options) {
-  return !digits.empty() && digits.front() != '0' &&
-         static_cast<double>(digits.size()) <= options.maxSD && digits.size() < short_enough &&
-         !options.FormatThousands && !options.FormatCurrency && !options.ExponentialNotation &&
+// True for digits that formatting leaves as they are, but for their separator, zeros and sign.
+bool Is_Plain(const NumberText& digits, double position, const type_Restrictionator& options) {
+  return !digits.empty() && static_cast<double>(digits.size()) <= options.maxSD + 1 &&
+         static_cast<double>(digits.size()) + position < short_enough && !options.FormatThousands &&
+         !options.FormatCurrency && !options.ExponentialNotation &&
          options.FormatDecimalPlace.is_missing() && !Has_Non_Digit(digits);
+}
+
+// Takes off the zeros that mean nothing, and sets the separator.
+void Write_Plain(NumberText& digits, std::size_t places) {
+  const std::size_t behind = std::min(Count_Trailing_Zeros(digits), places);
+  digits.resize(digits.size() - behind);
+  places -= behind;
+  if (digits.size() > places && digits.front() == '0') {
+    digits.erase(0, std::min(Count_Leading_Zeros(digits), digits.size() - places));
+  }
+  if (digits.empty()) {
+    digits = "0";
+  } else if (digits.size() <= places) {
+    NumberText front("0");
+    front.append(Decimal_Separator()).append(places - digits.size(), '0');
+    digits.insert(0, front);
+  } else if (places > 0) {
+    digits.insert(digits.size() - places, Decimal_Separator());
+  }
 }
 
 void Apply_Sign(NumberText& text, bool positive, std::int16_t style, bool noLengthChecks) {
@@ -103,8 +122,9 @@ void Apply_Sign(NumberText& text, bool positive, std::int16_t style, bool noLeng
 
 NumberText Format_Result(NumberText result, double position, bool positive,
                          const type_Restrictionator& options, bool noLengthChecks) {
-  if (position >= 0 && position <= 1 && Is_Plain_Whole_Number(result, options)) {
-    Show_Sign(result, positive, options.FormatNegative);
+  if (position >= 0 && Is_Plain(result, position, options)) {
+    Write_Plain(result, position < 1 ? 0 : static_cast<std::size_t>(position) - 1);
+    Show_Sign(result, positive || result == "0", options.FormatNegative);
     return result;
   }
   const std::optional<std::int32_t> places = Fixed_Places(options.FormatDecimalPlace);

@@ -1,6 +1,7 @@
 // Libraries that stand beside this one, on POSIX systems.
 #include <dlfcn.h>
 
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,10 @@ class Loaded_Libraries final : public Library_Loader {
   // A library that was found stays loaded; one that was not is looked for again.
   void* symbol(const char* library, const char* name) override {
     for (const Found& found : found_) {
-      if (found.name == name && found.library == library) return found.symbol;
+      if (std::strcmp(found.name.c_str(), name) == 0 &&
+          std::strcmp(found.library.c_str(), library) == 0) {
+        return found.symbol;
+      }
     }
     void* const handle = ::dlopen(library, RTLD_NOW | RTLD_LOCAL);
     void* const symbol = handle == nullptr ? nullptr : ::dlsym(handle, name);
