@@ -20,10 +20,11 @@ namespace {
 // p digits of two rounds agree. Let L = 10^(s+2) / k be the limit in units of digit p + 2, and g
 // what floor(L) leaves of it, times k: L = floor(L) + g/k.
 //
-// 1. At the end e is below 10^(1-p), and the last round gives floor(L - t) or floor(L - t - c): t
-//    is L e^2, above 0 and below 10^(4-p). c comes from rounds whose product k x ends in a zero,
-//    where the complement is short by one unit of the product's last place; that has p + N + 1
-//    places, so that c is x 10^(s+2) 10^-(p+N+1), at most 1/k.
+// 1. The last round gives floor(L - t) or floor(L - t - c), t = L e^2. It moves x by x e, less than
+//    a unit of digit p and a trifle, so that t is above 0 and below 2 * 10^(3-p). c comes from
+//    rounds whose product k x ends in a zero, where the complement is short by one unit of the
+//    product's last place; that has p + N + 1 places, so that c is x 10^(s+2) 10^-(p+N+1), at most
+//    1/k.
 // 2. If L is whole, all this is L - 1, as c + t < 1: the floor above, with two digits more.
 // 3. If not, it is floor(L), or one less where g/k < c + t. One less shows in the first p digits
 //    only if digits p + 1 and p + 2 of floor(L) are zeros. Then k floor(L) ends in two zeros and g,
@@ -101,7 +102,10 @@ NumberText Divide_Into_One(std::string_view k, std::size_t count) {
   std::array<std::int64_t, most> rest;
   std::array<limbs::Limb, most + 1> quotient;
   const bool is_near_power = k.front() == '1' && All(k.substr(1, n * limbs::digits - 1), '0');
-  if (is_near_power) return NumberText(count, '9');
+  if (is_near_power) {
+    NumberText nines(count, '9');
+    return nines;
+  }
   limbs::Read_Fraction(k.substr(0, n * limbs::digits), n, divisor.data());
   const std::size_t behind = limbs::Count_For(count - 1);
   limbs::Divide_Into_One(divisor.data(), n, quotient.data(), behind + 1, rest.data());
