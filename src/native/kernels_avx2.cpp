@@ -1,17 +1,20 @@
 // Long products in avx2 instructions.
+#include "native/grains.h"
 #include "native/kernels.h"
 #include "native/points.h"
 #include "native/vector_avx2.h"
 // The vectors come first.
 #include "native/recombine.h"
 #include "native/transform_pieces.h"
+#include "native/wave_fold.h"
 
 namespace quorvex::native {
 
 const Kernels& Avx2_Kernels() {
-  static constexpr Kernels kernels = {nullptr,      nullptr,     nullptr,     1300,
-                                      Lanes::count, Read_Points, Forward,     Multiply_Points,
-                                      Inverse,      Recombine,   Write_Points};
+  static constexpr Kernels kernels = {
+      nullptr,    nullptr,         nullptr,        1300,         Lanes::count, Read_Points,
+      Forward,    Multiply_Points, Inverse,        Recombine,    Write_Points, Read_Grains,
+      Fold_Waves, Split_Waves,     Multiply_Waves, Unfold_Waves, Carry_Grains};
   return kernels;
 }
 

@@ -130,7 +130,7 @@ std::size_t Multiply_Cut(const Operands& operands, char* out, const Kernels& ker
                static_cast<double>(cut.base));
     left.remove_suffix(digits);
   }
-  return kernels.write_points(product.get(), a_points + b_points, cut, out);
+  return kernels.write_points(product.get(), a_points + b_points, cut.digits, out);
 }
 
 }  // namespace
@@ -149,7 +149,7 @@ std::size_t Multiply_Long(const Operands& operands, char* out, const Kernels& ke
   } else if (convolution.set_second(operands.b)) {
     product = convolution.multiply(operands.a, points);
   }
-  return product == nullptr ? 0 : kernels.write_points(product, points, cut, out);
+  return product == nullptr ? 0 : kernels.write_points(product, points, cut.digits, out);
 }
 
 }  // namespace quorvex::native

@@ -45,10 +45,11 @@ std::size_t Write_Points_Of(const double* points, std::size_t count, char* out) 
   return size;
 }
 
-inline std::size_t Write_Eights(const double* points, std::size_t count, const Cut& cut,
+inline std::size_t Write_Eights(const double* points, std::size_t count, std::size_t digits,
                                 char* out) {
-  return cut.digits == 12 ? Write_Points_Of<12>(points, count, out)
-                          : Write_Points_Of<10>(points, count, out);
+  if (digits == 8) return Write_Points_Of<8>(points, count, out);
+  return digits == 12 ? Write_Points_Of<12>(points, count, out)
+                      : Write_Points_Of<10>(points, count, out);
 }
 
 // c1 + p1 t, where t = (c2 - c1) / p1 by the second prime, is the coefficient: its low 52 bits and

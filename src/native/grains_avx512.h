@@ -1,0 +1,92 @@
+// Text to balanced points for waves, and from the coefficients of a product to groups of digits,
+// eight groups at a time. For the inclusion of the AVX-512 kernels alone.
+#pragma once
+
+#include <immintrin.h>
+
+#include <cstddef>
+#include <cstdint>
+
+#include "native/carry_avx512.h"
+#include "native/digit_lanes_avx512.h"
+#include "native/grain.h"
+
+namespace quorvex::native {
+namespace {
+
+// What is above half of the base is taken from the next point: returns the lanes that carry.
+inline __mmask8 Balance(__m512i& point, __m512i base) {
+  const __mmask8 above = _mm512_cmpgt_epi64_mask(point, _mm512_srli_epi64(base, 1));
+  point = _mm512_mask_sub_epi64(point, above, point, base);
+  return above;
+}
+
+// Fills all of Grains_For, rounded up to a multiple of sixteen, with zeros behind the last.
+template <std::size_t D>
+bool Read_Grains_Of(const char* text, std::size_t size, double* points) {
+  constexpr std::int64_t base_value = Power_Of_Ten(D / 2);
+  const __m512i base = _mm512_set1_epi64(base_value);
+  // 2^52 / base, rounded up, is exact for groups below base^2.
+  const __m512i reciprocal = _mm512_set1_epi64((std::int64_t{1} << 52U) / base_value + 1);
+  const __m512i one = _mm512_set1_epi64(1);
+  const __m512i first = _mm512_set_epi64(11, 3, 10, 2, 9, 1, 8, 0);
+  const __m512i second = _mm512_set_epi64(15, 7, 14, 6, 13, 5, 12, 4);
+  __mmask64 bad = 0;
+  unsigned carry = 0;
+  std::size_t end = size;
+  do {
+    const __m512i groups = Read_Eight<D>(text, end, bad);
+    __m512i high = _mm512_madd52hi_epu64(_mm512_setzero_si512(), groups, reciprocal);
+    __m512i low = _mm512_sub_epi64(groups, _mm512_mul_epu32(high, base));
+    const __mmask8 to_high = Balance(low, base);
+    high = _mm512_mask_add_epi64(high, to_high, high, one);
+    const unsigned next = Balance(high, base);
+    low = _mm512_mask_add_epi64(low, static_cast<__mmask8>(next << 1U | carry), low, one);
+    carry = next >> 7U;
+    _mm512_store_pd(points, _mm512_cvtepi64_pd(_mm512_permutex2var_epi64(low, first, high)));
+    _mm512_store_pd(points + 8, _mm512_cvtepi64_pd(_mm512_permutex2var_epi64(low, second, high)));
+    points += 16;
+    end -= end < 8 * D ? end : 8 * D;
+  } while (end > 0);
+  if ((size + D - 1) / D % 8 == 0) {
+    _mm512_store_pd(points, _mm512_setr_pd(carry, 0, 0, 0, 0, 0, 0, 0));
+    _mm512_store_pd(points + 8, _mm512_setzero_pd());
+  }
+  return bad == 0;
+}
+
+inline bool Read_Grain_Eights(const char* text, std::size_t count, const Grain& grain,
+                              double* points) {
+  return grain.digits == coarse_grain.digits ? Read_Grains_Of<10>(text, count, points)
+                                             : Read_Grains_Of<8>(text, count, points);
+}
+
+// Two coefficients, each below 2^45 in size, make a column below 2^62; the groups stand at the
+// front afterwards.
+template <std::size_t D>
+void Carry_Grains_Of(double* points, std::size_t groups) {
+  const __m512i base = _mm512_set1_epi64(Power_Of_Ten(D / 2));
+  const __m512i even = _mm512_set_epi64(14, 12, 10, 8, 6, 4, 2, 0);
+  const __m512i odd = _mm512_set_epi64(15, 13, 11, 9, 7, 5, 3, 1);
+  Carry<D> carry;
+  for (std::size_t i = 0; i < groups; i += 8) {
+    const __m512d left = _mm512_load_pd(points + 2 * i);
+    const __m512d right = _mm512_load_pd(points + 2 * i + 8);
+    const __m512i low = _mm512_cvtpd_epi64(_mm512_permutex2var_pd(left, even, right));
+    const __m512i high = _mm512_cvtpd_epi64(_mm512_permutex2var_pd(left, odd, right));
+    const __m512i column = _mm512_add_epi64(low, _mm512_mullo_epi64(high, base));
+    _mm512_store_pd(points + i, _mm512_cvtepi64_pd(carry.take(column)));
+  }
+  if (!carry.is_settled()) Settle(points, groups, static_cast<double>(Power_Of_Ten(D)));
+}
+
+inline void Carry_Grain_Eights(double* points, std::size_t groups, const Grain& grain) {
+  if (grain.digits == coarse_grain.digits) {
+    Carry_Grains_Of<10>(points, groups);
+  } else {
+    Carry_Grains_Of<8>(points, groups);
+  }
+}
+
+}  // namespace
+}  // namespace quorvex::native
