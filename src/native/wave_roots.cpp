@@ -91,7 +91,7 @@ std::uint32_t Angle_Of(std::size_t node) {
 class Tables {
  public:
   bool find(std::size_t lanes, std::size_t points, Wave_Roots& roots) {
-    if (nodes_.get() == nullptr) nodes_ = Scratch<double>(6 * most_nodes);
+    if (nodes_.get() == nullptr) nodes_ = Scratch<double>(10 * most_nodes);
     if (nodes_.get() == nullptr) return false;
     auto& blocks = blocks_[lanes / 8][static_cast<unsigned>(std::countr_zero(points))];
     const std::size_t count = points / (lanes * lanes);
@@ -130,8 +130,8 @@ class Tables {
 
   void fill_nodes(std::size_t count) {
     for (; nodes_filled_ < count; ++nodes_filled_) {
-      for (std::size_t which = 0; which < 3; ++which)
-        put(nodes_.get() + 6 * nodes_filled_ + 2 * which, nodes_filled_, which, 1);
+      for (std::size_t which = 0; which < 5; ++which)
+        put(nodes_.get() + 10 * nodes_filled_ + 2 * which, nodes_filled_, which, 1);
     }
   }
 

@@ -15,7 +15,7 @@ namespace quorvex::native {
 /// Tables for vectors of some count of lanes. A complex number takes two doubles, a vector of them
 /// the real parts before the imaginary ones.
 struct Wave_Roots {
-  /// For node j, at 6 j: v^2, v, v^3.
+  /// For node j, at 10 j: v^2, v, v^3, u(4j), u(4j + 2).
   const double* nodes;
 
   /// For each block of lanes * lanes points in order, the factors of the node above its rows, and

@@ -90,15 +90,27 @@ inline void Join_Four(Complex& a, Complex& b, Complex& c, Complex& d, const Node
   d = Multiply_Back(Add_Turned(odd_sum, odd_turned), w.cube);
 }
 
-// Splits or joins the rows of a block, with factors that are the same for all lanes of a row or
-// differ. Eight rows are four parts of two, of which the second and the fourth have i times the
-// factor of the one before them.
+inline void Split_Two(Complex& a, Complex& b, const Complex& w) {
+  const Complex right = b * w;
+  b = a - right;
+  a = a + right;
+}
+
+inline void Join_Two(Complex& a, Complex& b, const Complex& w) {
+  const Complex difference = a - b;
+  a = a + b;
+  b = Multiply_Back(difference, w);
+}
+
+// What splits rows down to single ones: eight rows are four parts of two, of which the second and
+// the fourth have i times the factor of the one before them.
 struct Row_Factors {
   Node_Factors node;
   Complex left;
   Complex right;
 };
 
+// With factors that are the same for all lanes of a row, step 1, or differ.
 template <std::size_t step>
 Row_Factors Load_Factors(const double* from) {
   const auto get = [from](std::size_t k) {
@@ -161,6 +173,17 @@ inline void Transpose(Complex (&x)[Lanes::count]) {
   for (std::size_t i = 0; i < Lanes::count; ++i) x[i].im = part[i];
 }
 
+// Vectors of as many parts of `size` points in all; a point takes two doubles.
+template <std::size_t count>
+void Load_Parts(Complex (&parts)[count], const double* x, std::size_t size) {
+  for (std::size_t k = 0; k < count; ++k) parts[k] = Complex::Load(x + 2 * k * (size / count));
+}
+
+template <std::size_t count>
+void Store_Parts(const Complex (&parts)[count], double* x, std::size_t size) {
+  for (std::size_t k = 0; k < count; ++k) parts[k].store(x + 2 * k * (size / count));
+}
+
 struct Block_Roots {
   const double* rows;
   const double* columns;
@@ -168,7 +191,7 @@ struct Block_Roots {
 
 // A block of lanes * lanes points: between rows, then turned, between rows again. It stays turned.
 inline void Split_Block(Complex (&rows)[Lanes::count], const double* x, const Block_Roots& roots) {
-  for (std::size_t i = 0; i < Lanes::count; ++i) rows[i] = Complex::Load(x + 2 * i * Lanes::count);
+  Load_Parts(rows, x, wave_block);
   Split_Rows(rows, Load_Factors<1>(roots.rows));
   Transpose(rows);
   Split_Rows(rows, Load_Factors<Lanes::count>(roots.columns));
@@ -178,59 +201,63 @@ inline void Join_Block(Complex (&rows)[Lanes::count], double* x, const Block_Roo
   Join_Rows(rows, Load_Factors<Lanes::count>(roots.columns));
   Transpose(rows);
   Join_Rows(rows, Load_Factors<1>(roots.rows));
-  for (std::size_t i = 0; i < Lanes::count; ++i) rows[i].store(x + 2 * i * Lanes::count);
+  Store_Parts(rows, x, wave_block);
 }
 
-// The passes over the parts of a node, of `size` points each; a point takes two doubles.
-inline void Split_In_Four(double* x, std::size_t size, const double* factors) {
-  const Node_Factors w = Node_Factors::All(factors);
-  const std::size_t quarter = size / 2;
-  for (std::size_t i = 0; i < quarter; i += 2 * Lanes::count) {
-    Complex a = Complex::Load(x + i);
-    Complex b = Complex::Load(x + quarter + i);
-    Complex c = Complex::Load(x + 2 * quarter + i);
-    Complex d = Complex::Load(x + 3 * quarter + i);
-    Split_Four(a, b, c, d, w);
-    a.store(x + i);
-    b.store(x + quarter + i);
-    c.store(x + 2 * quarter + i);
-    d.store(x + 3 * quarter + i);
+// The passes over the parts of a node, of `size` points in all.
+template <std::size_t count>
+void Split_Parts(double* x, std::size_t size, const double* factors) {
+  const Row_Factors w = Load_Factors<1>(factors);
+  for (std::size_t i = 0; i < 2 * size / count; i += 2 * Lanes::count) {
+    Complex parts[count];
+    Load_Parts(parts, x + i, size);
+    if constexpr (count == 2) Split_Two(parts[0], parts[1], w.node.square);
+    if constexpr (count == 4) Split_Four(parts[0], parts[1], parts[2], parts[3], w.node);
+    if constexpr (count == 8) Split_Rows(parts, w);
+    Store_Parts(parts, x + i, size);
   }
 }
 
-inline void Join_In_Four(double* x, std::size_t size, const double* factors) {
-  const Node_Factors w = Node_Factors::All(factors);
-  const std::size_t quarter = size / 2;
-  for (std::size_t i = 0; i < quarter; i += 2 * Lanes::count) {
-    Complex a = Complex::Load(x + i);
-    Complex b = Complex::Load(x + quarter + i);
-    Complex c = Complex::Load(x + 2 * quarter + i);
-    Complex d = Complex::Load(x + 3 * quarter + i);
-    Join_Four(a, b, c, d, w);
-    a.store(x + i);
-    b.store(x + quarter + i);
-    c.store(x + 2 * quarter + i);
-    d.store(x + 3 * quarter + i);
+template <std::size_t count>
+void Join_Parts(double* x, std::size_t size, const double* factors) {
+  const Row_Factors w = Load_Factors<1>(factors);
+  for (std::size_t i = 0; i < 2 * size / count; i += 2 * Lanes::count) {
+    Complex parts[count];
+    Load_Parts(parts, x + i, size);
+    if constexpr (count == 2) Join_Two(parts[0], parts[1], w.node.square);
+    if constexpr (count == 4) Join_Four(parts[0], parts[1], parts[2], parts[3], w.node);
+    if constexpr (count == 8) Join_Rows(parts, w);
+    Store_Parts(parts, x + i, size);
   }
 }
 
-inline void Split_In_Two(double* x, std::size_t size, const double* factors) {
-  const Complex w = Complex::All(factors);
-  for (std::size_t i = 0; i < size; i += 2 * Lanes::count) {
-    const Complex a = Complex::Load(x + i);
-    const Complex b = Complex::Load(x + size + i) * w;
-    (a + b).store(x + i);
-    (a - b).store(x + size + i);
+// Into how many parts a node is split at once, until only blocks are left: as many as there are
+// lanes where that leaves no single level.
+inline std::size_t Parts_Of(std::size_t size) {
+  const std::size_t blocks = size / wave_block;
+  if (blocks == 2) return 2;
+  return blocks == 4 || blocks == 16 ? 4 : Lanes::count;
+}
+
+inline void Split_Node(double* x, std::size_t size, const double* factors) {
+  switch (Parts_Of(size)) {
+    case 2:
+      return Split_Parts<2>(x, size, factors);
+    case 4:
+      return Split_Parts<4>(x, size, factors);
+    default:
+      return Split_Parts<Lanes::count>(x, size, factors);
   }
 }
 
-inline void Join_In_Two(double* x, std::size_t size, const double* factors) {
-  const Complex w = Complex::All(factors);
-  for (std::size_t i = 0; i < size; i += 2 * Lanes::count) {
-    const Complex a = Complex::Load(x + i);
-    const Complex b = Complex::Load(x + size + i);
-    (a + b).store(x + i);
-    Multiply_Back(a - b, w).store(x + size + i);
+inline void Join_Node(double* x, std::size_t size, const double* factors) {
+  switch (Parts_Of(size)) {
+    case 2:
+      return Join_Parts<2>(x, size, factors);
+    case 4:
+      return Join_Parts<4>(x, size, factors);
+    default:
+      return Join_Parts<Lanes::count>(x, size, factors);
   }
 }
 
@@ -241,28 +268,30 @@ class Wave {
 
   void split(double* x, std::size_t size, std::size_t node) const {
     if (size > near_wave_points) {
-      Split_In_Four(x, size, factors(node));
-      for (std::size_t k = 0; k < 4; ++k) split(x + k * (size / 2), size / 4, 4 * node + k);
+      const std::size_t parts = Parts_Of(size);
+      Split_Node(x, size, factors(node));
+      for (std::size_t k = 0; k < parts; ++k)
+        split(x + 2 * k * (size / parts), size / parts, parts * node + k);
       return;
     }
     split_levels(x, size, node);
     for (std::size_t at = 0; at < size; at += wave_block) {
       Complex rows[Lanes::count];
-      double* const block = x + 2 * at;
-      Split_Block(rows, block, block_roots(size, node, at));
-      for (std::size_t i = 0; i < Lanes::count; ++i) rows[i].store(block + 2 * i * Lanes::count);
+      Split_Block(rows, x + 2 * at, block_roots(size, node, at));
+      Store_Parts(rows, x + 2 * at, wave_block);
     }
   }
 
   // x = x y, with y split before; null for the square of x.
   void multiply(double* x, const double* y, std::size_t size, std::size_t node) const {
     if (size > near_wave_points) {
-      Split_In_Four(x, size, factors(node));
-      for (std::size_t k = 0; k < 4; ++k) {
-        const std::size_t at = k * (size / 2);
-        multiply(x + at, y == nullptr ? nullptr : y + at, size / 4, 4 * node + k);
+      const std::size_t parts = Parts_Of(size);
+      Split_Node(x, size, factors(node));
+      for (std::size_t k = 0; k < parts; ++k) {
+        const std::size_t at = 2 * k * (size / parts);
+        multiply(x + at, y == nullptr ? nullptr : y + at, size / parts, parts * node + k);
       }
-      return Join_In_Four(x, size, factors(node));
+      return Join_Node(x, size, factors(node));
     }
     split_levels(x, size, node);
     for (std::size_t at = 0; at < size; at += wave_block) {
@@ -279,7 +308,7 @@ class Wave {
   }
 
  private:
-  const double* factors(std::size_t node) const { return roots_.nodes + 6 * node; }
+  const double* factors(std::size_t node) const { return roots_.nodes + 10 * node; }
 
   Block_Roots block_roots(std::size_t size, std::size_t node, std::size_t at) const {
     const std::size_t block = node * (size / wave_block) - blocks_ + at / wave_block;
@@ -288,30 +317,20 @@ class Wave {
   }
 
   void split_levels(double* x, std::size_t size, std::size_t node) const {
-    std::size_t part = size;
-    std::size_t parts = 1;
-    for (; part >= 4 * wave_block; part /= 4, parts *= 4) {
-      for (std::size_t k = 0; k < parts; ++k)
-        Split_In_Four(x + 2 * k * part, part, factors(node * parts + k));
+    for (std::size_t part = size; part > wave_block; part /= Parts_Of(part)) {
+      for (std::size_t at = 0; at < size; at += part)
+        Split_Node(x + 2 * at, part, factors((node * size + at) / part));
     }
-    if (part == wave_block) return;
-    for (std::size_t k = 0; k < parts; ++k)
-      Split_In_Two(x + 2 * k * part, part, factors(node * parts + k));
   }
 
+  // From the least parts on: one further than those that have been joined.
   void join_levels(double* x, std::size_t size, std::size_t node) const {
-    std::size_t part = size;
-    std::size_t parts = 1;
-    for (; part >= 4 * wave_block; part /= 4) parts *= 4;
-    if (part > wave_block) {
-      for (std::size_t k = 0; k < parts; ++k)
-        Join_In_Two(x + 2 * k * part, part, factors(node * parts + k));
-    }
-    while (parts > 1) {
-      part *= 4;
-      parts /= 4;
-      for (std::size_t k = 0; k < parts; ++k)
-        Join_In_Four(x + 2 * k * part, part, factors(node * parts + k));
+    for (std::size_t joined = wave_block; joined < size;) {
+      std::size_t part = size;
+      while (part / Parts_Of(part) > joined) part /= Parts_Of(part);
+      for (std::size_t at = 0; at < size; at += part)
+        Join_Node(x + 2 * at, part, factors((node * size + at) / part));
+      joined = part;
     }
   }
 
