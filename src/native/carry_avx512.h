@@ -28,19 +28,8 @@ class Carry {
   __m512i take(__m512i low, __m512i high) {
     const __m512d value =
         _mm512_fmadd_pd(_mm512_cvtepu64_pd(high), _mm512_set1_pd(0x1p52), _mm512_cvtepu64_pd(low));
-    return take(value, _mm512_add_epi64(low, _mm512_slli_epi64(high, 52)));
-  }
-
-  /// Columns of either sign, below 2^62 in size.
-  __m512i take(__m512i column) { return take(_mm512_cvtepi64_pd(column), column); }
-
-  /// False if a digit is left at -1 or at the base or above.
-  bool is_settled() const { return settled_ == 0xFF; }
-
- private:
-  // The column is exact up to multiples of 2^64, its value to 53 bits.
-  __m512i take(__m512d value, __m512i column) {
     const __m512i first = _mm512_cvtpd_epi64(_mm512_mul_pd(value, reciprocal()));
+    const __m512i column = _mm512_add_epi64(low, _mm512_slli_epi64(high, 52));
     const __m512i sum = _mm512_add_epi64(without(column, first), shifted(first, first_));
 
     const __m512i second = _mm512_cvtpd_epi64(
@@ -54,6 +43,10 @@ class Carry {
     return digits;
   }
 
+  /// False if a digit is left at -1 or at the base or above.
+  bool is_settled() const { return settled_ == 0xFF; }
+
+ private:
   static __m512i base() { return _mm512_set1_epi64(Power_Of_Ten(D)); }
   static __m512d reciprocal() { return _mm512_set1_pd(1.0 / static_cast<double>(Power_Of_Ten(D))); }
 

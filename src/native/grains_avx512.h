@@ -61,14 +61,63 @@ inline bool Read_Grain_Eights(const char* text, std::size_t count, const Grain& 
                                              : Read_Grains_Of<8>(text, count, points);
 }
 
-// Two coefficients, each below 2^45 in size, make a column below 2^62; the groups stand at the
-// front afterwards.
+/// Takes columns of either sign, least first, below 2^63 in size and so that their quotients by the
+/// base 10^D are below 2^32. Digits are left from -1 to the base, and hardly ever at either end;
+/// whether one is, is told by `is_settled`.
+///
+/// The quotients come from doubles and miss by less than 1 before they are rounded down, so that
+/// rests are from -base to twice the base at the utmost, hence digits before the last step.
+template <std::size_t D>
+class Signed_Carry {
+ public:
+  __m512i take(__m512i column) {
+    __m512i sum = part(column, first_);
+    // Up to 2^32 may have been added, forty times the smaller base.
+    if constexpr (D == 8) sum = part(sum, second_);
+    const unsigned above = _mm512_cmpge_epi64_mask(sum, base());
+    const unsigned below = _mm512_cmplt_epi64_mask(sum, _mm512_setzero_si512());
+    sum = _mm512_mask_sub_epi64(sum, static_cast<__mmask8>(above), sum, base());
+    sum = _mm512_mask_add_epi64(sum, static_cast<__mmask8>(below), sum, base());
+    const __m512i one = _mm512_set1_epi64(1);
+    above_ = above << 1U | above_ >> 8U;
+    below_ = below << 1U | below_ >> 8U;
+    sum = _mm512_mask_add_epi64(sum, static_cast<__mmask8>(above_), sum, one);
+    sum = _mm512_mask_sub_epi64(sum, static_cast<__mmask8>(below_), sum, one);
+    settled_ = static_cast<__mmask8>(settled_ & _mm512_cmplt_epu64_mask(sum, base()));
+    return sum;
+  }
+
+  bool is_settled() const { return settled_ == 0xFF; }
+
+ private:
+  static __m512i base() { return _mm512_set1_epi64(Power_Of_Ten(D)); }
+
+  // The rests of columns by the base, with what is carried from those below.
+  static __m512i part(__m512i column, __m512i& before) {
+    const __m512d reciprocal = _mm512_set1_pd(1.0 / static_cast<double>(Power_Of_Ten(D)));
+    const __m512i quotient =
+        _mm512_cvt_roundpd_epi64(_mm512_mul_pd(_mm512_cvtepi64_pd(column), reciprocal),
+                                 _MM_FROUND_TO_NEG_INF | _MM_FROUND_NO_EXC);
+    const __m512i rest = _mm512_sub_epi64(column, _mm512_mullo_epi64(quotient, base()));
+    const __m512i moved = _mm512_alignr_epi64(quotient, before, 7);
+    before = quotient;
+    return _mm512_add_epi64(rest, moved);
+  }
+
+  __m512i first_ = _mm512_setzero_si512();
+  __m512i second_ = _mm512_setzero_si512();
+  unsigned above_ = 0;
+  unsigned below_ = 0;
+  __mmask8 settled_ = 0xFF;
+};
+
+// Two coefficients make a column; the groups stand at the front afterwards.
 template <std::size_t D>
 void Carry_Grains_Of(double* points, std::size_t groups) {
   const __m512i base = _mm512_set1_epi64(Power_Of_Ten(D / 2));
   const __m512i even = _mm512_set_epi64(14, 12, 10, 8, 6, 4, 2, 0);
   const __m512i odd = _mm512_set_epi64(15, 13, 11, 9, 7, 5, 3, 1);
-  Carry<D> carry;
+  Signed_Carry<D> carry;
   for (std::size_t i = 0; i < groups; i += 8) {
     const __m512d left = _mm512_load_pd(points + 2 * i);
     const __m512d right = _mm512_load_pd(points + 2 * i + 8);
