@@ -40,8 +40,8 @@ struct Kernels {
 
   /// Products by waves; where points are complex, they are two doubles.
   bool (*read_grains)(const char* text, std::size_t count, const Grain& grain, double* points);
-  void (*fold)(const double* from, std::size_t count, const Wave_Length& length, double* x,
-               double* squares);
+  void (*fold)(const double* from, std::size_t count, const Wave_Length& length,
+               const Wave_Roots* roots, double* x, double* squares);
   void (*split)(double* x, const Wave_Length& length, const Wave_Roots* roots);
   void (*multiply_waves)(double* x, const double* y, const Wave_Length& length,
                          const Wave_Roots* roots);

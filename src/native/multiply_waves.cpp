@@ -89,7 +89,7 @@ class Wave_Product {
   bool read(std::string_view digits, double* x, double* squares) const {
     if (!kernels_.read_grains(digits.data(), digits.size(), grain_, row())) return false;
     const std::size_t count = (Grains_For(digits.size(), grain_) + 15) / 16 * 16;
-    kernels_.fold(row(), count, length_, x, squares);
+    kernels_.fold(row(), count, length_, roots_, x, squares);
     return true;
   }
 

@@ -33,23 +33,44 @@ inline double Sum_Of(Lanes value) {
   return sum;
 }
 
-// Takes `count` coefficients, a multiple of the lanes; `squares` gets the sum of their squares in
-// each piece.
-inline void Fold_Waves(const double* from, std::size_t count, const Wave_Length& length, double* x,
-                       double* squares) {
-  const Wave_Pieces pieces = Pieces_Of(length);
-  for (std::size_t piece = 0; piece < pieces.count; ++piece) {
-    const std::size_t size = pieces.piece[piece].size;
-    double* to = x + 2 * pieces.piece[piece].start;
-    Lanes sum = Lanes::All(0);
-    for (std::size_t k = 0; k < size; k += Lanes::count, to += 2 * Lanes::count) {
-      const Complex point = {Folded(from, count, k, 2 * size),
-                             Folded(from, count, k + size, 2 * size)};
-      point.store(to);
-      sum = Add_Product(point.re, point.re, sum);
-      sum = Add_Product(point.im, point.im, sum);
+// One piece of `count` coefficients, its first node split into so many parts at once, or with one
+// part as it is. Returns the sum of the squares.
+template <std::size_t parts>
+double Fold_Piece(const double* from, std::size_t count, double* x, std::size_t size,
+                  const double* factors) {
+  Lanes sum = Lanes::All(0);
+  Row_Factors w = {};
+  if constexpr (parts > 1) w = Load_Factors<1>(factors);
+  for (std::size_t i = 0; i < size / parts; i += Lanes::count) {
+    Complex part[parts];
+    for (std::size_t k = 0; k < parts; ++k) {
+      const std::size_t at = i + k * (size / parts);
+      part[k] = {Folded(from, count, at, 2 * size), Folded(from, count, at + size, 2 * size)};
+      sum = Add_Product(part[k].re, part[k].re, sum);
+      sum = Add_Product(part[k].im, part[k].im, sum);
     }
-    squares[piece] = Sum_Of(sum);
+    Split_At_Once(part, w);
+    Store_Parts(part, x + 2 * i, size);
+  }
+  return Sum_Of(sum);
+}
+
+// Takes `count` coefficients, a multiple of the lanes; `squares` gets the sum of their squares in
+// each piece. Pieces that are not near have been split once afterwards.
+inline void Fold_Waves(const double* from, std::size_t count, const Wave_Length& length,
+                       const Wave_Roots* roots, double* x, double* squares) {
+  const Wave_Pieces pieces = Pieces_Of(length);
+  for (std::size_t k = 0; k < pieces.count; ++k) {
+    const std::size_t size = pieces.piece[k].size;
+    double* const to = x + 2 * pieces.piece[k].start;
+    const double* const factors = Factors_Of(roots[k], 1);
+    if (size <= near_wave_points) {
+      squares[k] = Fold_Piece<1>(from, count, to, size, factors);
+    } else if (Parts_Of(size) == 4) {
+      squares[k] = Fold_Piece<4>(from, count, to, size, factors);
+    } else {
+      squares[k] = Fold_Piece<Lanes::count>(from, count, to, size, factors);
+    }
   }
 }
 

@@ -206,14 +206,26 @@ inline void Join_Block(Complex (&rows)[Lanes::count], double* x, const Block_Roo
 
 // The passes over the parts of a node, of `size` points in all.
 template <std::size_t count>
+void Split_At_Once(Complex (&parts)[count], const Row_Factors& w) {
+  if constexpr (count == 2) Split_Two(parts[0], parts[1], w.node.square);
+  if constexpr (count == 4) Split_Four(parts[0], parts[1], parts[2], parts[3], w.node);
+  if constexpr (count == 8) Split_Rows(parts, w);
+}
+
+template <std::size_t count>
+void Join_At_Once(Complex (&parts)[count], const Row_Factors& w) {
+  if constexpr (count == 2) Join_Two(parts[0], parts[1], w.node.square);
+  if constexpr (count == 4) Join_Four(parts[0], parts[1], parts[2], parts[3], w.node);
+  if constexpr (count == 8) Join_Rows(parts, w);
+}
+
+template <std::size_t count>
 void Split_Parts(double* x, std::size_t size, const double* factors) {
   const Row_Factors w = Load_Factors<1>(factors);
   for (std::size_t i = 0; i < 2 * size / count; i += 2 * Lanes::count) {
     Complex parts[count];
     Load_Parts(parts, x + i, size);
-    if constexpr (count == 2) Split_Two(parts[0], parts[1], w.node.square);
-    if constexpr (count == 4) Split_Four(parts[0], parts[1], parts[2], parts[3], w.node);
-    if constexpr (count == 8) Split_Rows(parts, w);
+    Split_At_Once(parts, w);
     Store_Parts(parts, x + i, size);
   }
 }
@@ -224,9 +236,7 @@ void Join_Parts(double* x, std::size_t size, const double* factors) {
   for (std::size_t i = 0; i < 2 * size / count; i += 2 * Lanes::count) {
     Complex parts[count];
     Load_Parts(parts, x + i, size);
-    if constexpr (count == 2) Join_Two(parts[0], parts[1], w.node.square);
-    if constexpr (count == 4) Join_Four(parts[0], parts[1], parts[2], parts[3], w.node);
-    if constexpr (count == 8) Join_Rows(parts, w);
+    Join_At_Once(parts, w);
     Store_Parts(parts, x + i, size);
   }
 }
@@ -261,19 +271,50 @@ inline void Join_Node(double* x, std::size_t size, const double* factors) {
   }
 }
 
+inline const double* Factors_Of(const Wave_Roots& roots, std::size_t node) {
+  return roots.nodes + 10 * node;
+}
+
 // One piece: where its blocks stand among the tables.
 class Wave {
  public:
   Wave(const Wave_Roots& roots, std::size_t points) : roots_(roots), blocks_(points / wave_block) {}
 
+  // A node that is not near has been split once before.
   void split(double* x, std::size_t size, std::size_t node) const {
-    if (size > near_wave_points) {
-      const std::size_t parts = Parts_Of(size);
-      Split_Node(x, size, factors(node));
-      for (std::size_t k = 0; k < parts; ++k)
-        split(x + 2 * k * (size / parts), size / parts, parts * node + k);
-      return;
+    if (size <= near_wave_points) return split_near(x, size, node);
+    const std::size_t parts = Parts_Of(size);
+    const std::size_t part = size / parts;
+    for (std::size_t k = 0; k < parts; ++k) {
+      double* const at = x + 2 * k * part;
+      if (part > near_wave_points) Split_Node(at, part, factors(parts * node + k));
+      split(at, part, parts * node + k);
     }
+  }
+
+  // x = x y, with y split before; null for the square of x.
+  void multiply(double* x, const double* y, std::size_t size, std::size_t node) const {
+    if (size <= near_wave_points) return multiply_near(x, y, size, node);
+    const std::size_t parts = Parts_Of(size);
+    const std::size_t part = size / parts;
+    for (std::size_t k = 0; k < parts; ++k) {
+      const std::size_t at = 2 * k * part;
+      if (part > near_wave_points) Split_Node(x + at, part, factors(parts * node + k));
+      multiply(x + at, y == nullptr ? nullptr : y + at, part, parts * node + k);
+    }
+    Join_Node(x, size, factors(node));
+  }
+
+ private:
+  const double* factors(std::size_t node) const { return Factors_Of(roots_, node); }
+
+  Block_Roots block_roots(std::size_t size, std::size_t node, std::size_t at) const {
+    const std::size_t block = node * (size / wave_block) - blocks_ + at / wave_block;
+    constexpr std::size_t doubles = 2 * Block_Factors(Lanes::count);
+    return {roots_.rows + block * doubles, roots_.columns + block * doubles * Lanes::count};
+  }
+
+  void split_near(double* x, std::size_t size, std::size_t node) const {
     split_levels(x, size, node);
     for (std::size_t at = 0; at < size; at += wave_block) {
       Complex rows[Lanes::count];
@@ -282,17 +323,7 @@ class Wave {
     }
   }
 
-  // x = x y, with y split before; null for the square of x.
-  void multiply(double* x, const double* y, std::size_t size, std::size_t node) const {
-    if (size > near_wave_points) {
-      const std::size_t parts = Parts_Of(size);
-      Split_Node(x, size, factors(node));
-      for (std::size_t k = 0; k < parts; ++k) {
-        const std::size_t at = 2 * k * (size / parts);
-        multiply(x + at, y == nullptr ? nullptr : y + at, size / parts, parts * node + k);
-      }
-      return Join_Node(x, size, factors(node));
-    }
+  void multiply_near(double* x, const double* y, std::size_t size, std::size_t node) const {
     split_levels(x, size, node);
     for (std::size_t at = 0; at < size; at += wave_block) {
       const Block_Roots roots = block_roots(size, node, at);
@@ -305,15 +336,6 @@ class Wave {
       Join_Block(rows, x + 2 * at, roots);
     }
     join_levels(x, size, node);
-  }
-
- private:
-  const double* factors(std::size_t node) const { return roots_.nodes + 10 * node; }
-
-  Block_Roots block_roots(std::size_t size, std::size_t node, std::size_t at) const {
-    const std::size_t block = node * (size / wave_block) - blocks_ + at / wave_block;
-    constexpr std::size_t doubles = 2 * Block_Factors(Lanes::count);
-    return {roots_.rows + block * doubles, roots_.columns + block * doubles * Lanes::count};
   }
 
   void split_levels(double* x, std::size_t size, std::size_t node) const {
