@@ -10,6 +10,9 @@
 #include "native/carry_avx512.h"
 #include "native/digit_lanes_avx512.h"
 #include "native/grain.h"
+#include "native/vector_avx512.h"
+// The vectors come first.
+#include "native/wave_fold.h"
 
 namespace quorvex::native {
 namespace {
@@ -111,29 +114,40 @@ class Signed_Carry {
   __mmask8 settled_ = 0xFF;
 };
 
-// Two coefficients make a column; the groups stand at the front afterwards.
-template <std::size_t D>
-void Carry_Grains_Of(double* points, std::size_t groups) {
+// Two coefficients, which `get` tells eight at a time, make a column of a group.
+template <std::size_t D, typename Get>
+void Carry_Grains_Of(const Get& get, std::size_t count, double* groups) {
   const __m512i base = _mm512_set1_epi64(Power_Of_Ten(D / 2));
   const __m512i even = _mm512_set_epi64(14, 12, 10, 8, 6, 4, 2, 0);
   const __m512i odd = _mm512_set_epi64(15, 13, 11, 9, 7, 5, 3, 1);
   Signed_Carry<D> carry;
-  for (std::size_t i = 0; i < groups; i += 8) {
-    const __m512d left = _mm512_load_pd(points + 2 * i);
-    const __m512d right = _mm512_load_pd(points + 2 * i + 8);
+  for (std::size_t i = 0; i < count; i += 8) {
+    const __m512d left = get(2 * i).lane;
+    const __m512d right = get(2 * i + 8).lane;
     const __m512i low = _mm512_cvtpd_epi64(_mm512_permutex2var_pd(left, even, right));
     const __m512i high = _mm512_cvtpd_epi64(_mm512_permutex2var_pd(left, odd, right));
     const __m512i column = _mm512_add_epi64(low, _mm512_mullo_epi64(high, base));
-    _mm512_store_pd(points + i, _mm512_cvtepi64_pd(carry.take(column)));
+    _mm512_store_pd(groups + i, _mm512_cvtepi64_pd(carry.take(column)));
   }
-  if (!carry.is_settled()) Settle(points, groups, static_cast<double>(Power_Of_Ten(D)));
+  if (!carry.is_settled()) Settle(groups, count, static_cast<double>(Power_Of_Ten(D)));
 }
 
-inline void Carry_Grain_Eights(double* points, std::size_t groups, const Grain& grain) {
-  if (grain.digits == coarse_grain.digits) {
-    Carry_Grains_Of<10>(points, groups);
+// Coefficients of one piece are taken where they stand.
+inline void Carry_Wave_Eights(const double* x, const Wave_Length& length, const Grain& grain,
+                              std::size_t count, double* groups) {
+  const auto carry = [&grain, count, groups](const auto& get) {
+    if (grain.digits == coarse_grain.digits) {
+      Carry_Grains_Of<coarse_grain.digits>(get, count, groups);
+    } else {
+      Carry_Grains_Of<fine_grain.digits>(get, count, groups);
+    }
+  };
+  if (length.units == 4) {
+    const Rounded_Piece piece(x, Pieces_Of(length).piece[0]);
+    carry([&piece](std::size_t k) { return piece.get(k); });
   } else {
-    Carry_Grains_Of<8>(points, groups);
+    Unfold_Waves(x, length, groups);
+    carry([groups](std::size_t k) { return Lanes::Load(groups + k); });
   }
 }
 

@@ -45,8 +45,9 @@ struct Kernels {
   void (*split)(double* x, const Wave_Length& length, const Wave_Roots* roots);
   void (*multiply_waves)(double* x, const double* y, const Wave_Length& length,
                          const Wave_Roots* roots);
-  void (*unfold)(const double* x, const Wave_Length& length, double* to);
-  void (*carry_grains)(double* points, std::size_t groups, const Grain& grain);
+  /// The groups of a product of points; there is room for all coefficients of the length.
+  void (*carry_wave)(const double* x, const Wave_Length& length, const Grain& grain,
+                     std::size_t count, double* groups);
 };
 
 const Kernels& Portable_Kernels();

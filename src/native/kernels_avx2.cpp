@@ -9,12 +9,21 @@
 #include "native/wave_fold.h"
 
 namespace quorvex::native {
+namespace {
+
+void Carry_Wave(const double* x, const Wave_Length& length, const Grain& grain, std::size_t count,
+                double* groups) {
+  Unfold_Waves(x, length, groups);
+  Carry_Grains(groups, count, grain);
+}
+
+}  // namespace
 
 const Kernels& Avx2_Kernels() {
-  static constexpr Kernels kernels = {
-      nullptr,    nullptr,         nullptr,        1300,         Lanes::count, Read_Points,
-      Forward,    Multiply_Points, Inverse,        Recombine,    Write_Points, Read_Grains,
-      Fold_Waves, Split_Waves,     Multiply_Waves, Unfold_Waves, Carry_Grains};
+  static constexpr Kernels kernels = {nullptr,      nullptr,     nullptr,        1300,
+                                      Lanes::count, Read_Points, Forward,        Multiply_Points,
+                                      Inverse,      Recombine,   Write_Points,   Read_Grains,
+                                      Fold_Waves,   Split_Waves, Multiply_Waves, Carry_Wave};
   return kernels;
 }
 

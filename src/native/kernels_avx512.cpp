@@ -13,10 +13,10 @@ namespace quorvex::native {
 
 const Kernels& Avx512_Kernels() {
   static constexpr Kernels kernels = {
-      Multiply_Tiny, Multiply_In_Lanes, Short_Scratch,   5500,        Lanes::count,
-      Read_Eights,   Forward,           Multiply_Points, Inverse,     Recombine_Eights,
-      Write_Eights,  Read_Grain_Eights, Fold_Waves,      Split_Waves, Multiply_Waves,
-      Unfold_Waves,  Carry_Grain_Eights};
+      Multiply_Tiny, Multiply_In_Lanes, Short_Scratch,  5500,
+      Lanes::count,  Read_Eights,       Forward,        Multiply_Points,
+      Inverse,       Recombine_Eights,  Write_Eights,   Read_Grain_Eights,
+      Fold_Waves,    Split_Waves,       Multiply_Waves, Carry_Wave_Eights};
   return kernels;
 }
 

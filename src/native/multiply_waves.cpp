@@ -74,10 +74,9 @@ class Wave_Product {
     if (!is_certain()) return std::nullopt;
     if (!operands_.is_square) kernels_.split(second(), length_, roots_);
     kernels_.multiply_waves(first(), operands_.is_square ? nullptr : second(), length_, roots_);
-    kernels_.unfold(first(), length_, row());
     const std::size_t groups =
         Groups_For(operands_.a.size(), grain_) + Groups_For(operands_.b.size(), grain_) + 1;
-    kernels_.carry_grains(row(), groups, grain_);
+    kernels_.carry_wave(first(), length_, grain_, groups, row());
     return kernels_.write_points(row(), groups, grain_.digits, out);
   }
 
