@@ -12,8 +12,8 @@ namespace quorvex::native {
 /// if a character is no digit.
 bool Read_Grains(const char* text, std::size_t count, const Grain& grain, double* points);
 
-/// Coefficients below 2^46 in size, two for each group, become groups at the front. There are as
-/// many as fill up the last sixteen.
+/// Coefficients below 2^45 in size, two for each of `groups` groups, become the groups at the
+/// front.
 void Carry_Grains(double* points, std::size_t groups, const Grain& grain);
 
 }  // namespace quorvex::native

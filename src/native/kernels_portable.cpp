@@ -20,7 +20,7 @@ void Carry_Wave(const double* x, const Wave_Length& length, const Grain& grain, 
 }  // namespace
 
 const Kernels& Portable_Kernels() {
-  static constexpr Kernels kernels = {nullptr,      nullptr,     nullptr,        15'000,
+  static constexpr Kernels kernels = {nullptr,      nullptr,     nullptr,        11'000,
                                       Lanes::count, Read_Points, Forward,        Multiply_Points,
                                       Inverse,      Recombine,   Write_Points,   Read_Grains,
                                       Fold_Waves,   Split_Waves, Multiply_Waves, Carry_Wave};

@@ -4,16 +4,20 @@
 // 2^-53 and N complex points of a piece, of Euclidean lengths |x| and |y| before the transform,
 // every coefficient of the product is off by less than
 //
-//   (8 log2 N + 18) e |x| |y|.
+//   (10 log2 N + 6) e |x| |y|.
 //
-// For a product of complex numbers is off by sqrt(5) e of its size even without fused sums, by
-// 3.3 e with a factor from the tables, which is off by 1.06 e; a sum is by e. A step that forms
-// four parts at once multiplies and adds twice, 5.3 e in two levels, a step that forms two 4.3 e in
-// one, of which there are three at most: 2.65 log2 N + 5 times e in all. Forward this is in
-// proportion to the Euclidean length, which each level makes sqrt(2) times longer. The products of
-// two transforms are then off, in sum, by (5.3 log2 N + 12.3) e N |x| |y|, with what their own
-// forming loses. Backward a step loses so much of the sum of the sizes of what it joins, which is
-// at most N |x| |y| over all levels, before the division by N.
+// A product of two complex numbers is off by sqrt(5) e of its size at most, even without fused
+// sums; with a factor from the tables, itself off by 1.06 e, by 3.3 e. A sum is off by e. Each step
+// multiplies and adds once for two parts, 4.3 e, once and twice for four, 5.3 e, and for eight as
+// for two and four together, 9.6 e. A step for two alone occurs once at most, so a transform makes
+// no more than (3.2 log2 N + 1.1) e.
+//
+// Forward that is in proportion to the Euclidean length, which each level makes sqrt(2) times
+// longer. So the sizes of what the products of two transforms are off by have a sum of at most
+// (6.4 log2 N + 4.5) e N |x| |y|, with what is lost in forming them. Backward a step loses in
+// proportion to the sum of the sizes of all that it joins, which is at most N |x| |y| on each
+// level, and the division by N is exact. The terms of higher order are far below what was rounded
+// up.
 #include <algorithm>
 #include <bit>
 #include <optional>
@@ -35,7 +39,7 @@ std::size_t Coefficients_For(const Operands& operands, const Grain& grain) {
 // The greatest |x|^2 |y|^2 that leaves coefficients off by less than a half, with room for the
 // rounding of the squares' sums. Below 2^45 coefficients also are what carrying takes.
 double Most_Squares(std::size_t points) {
-  const double steps = 8 * std::countr_zero(points) + 18;
+  const double steps = 10 * std::countr_zero(points) + 6;
   const double most = std::min(0.49 * 0x1p53 / steps, 0x1p45);
   return most * most;
 }
@@ -125,7 +129,7 @@ std::size_t Multiply_By_Waves(const Operands& operands, char* out,
     if (!product.is_ready()) return 0;
     if (const auto count = product.write(out)) return *count;
   }
-  return Multiply_Long(operands, out, kernels);
+  return Multiply_By_Primes(operands, out, kernels);
 }
 
 }  // namespace quorvex::native

@@ -1,4 +1,4 @@
-// Long operands by transforms over two primes.
+// The longest operands by transforms over two primes.
 #include <algorithm>
 
 #include "native/kernels.h"
@@ -135,7 +135,8 @@ std::size_t Multiply_Cut(const Operands& operands, char* out, const Kernels& ker
 
 }  // namespace
 
-std::size_t Multiply_Long(const Operands& operands, char* out, const Kernels& kernels) noexcept {
+std::size_t Multiply_By_Primes(const Operands& operands, char* out,
+                               const Kernels& kernels) noexcept {
   if (operands.a.size() / most_unbalanced > operands.b.size())
     return Multiply_Cut(operands, out, kernels);
   const Cut& cut = Cut_For(operands.b.size());
