@@ -1,5 +1,5 @@
 // Text to balanced points for waves, and from the coefficients of a product to groups of digits, in
-// general registers.
+// general registers: of the coarse grain alone, which is all that kinds without a fine one meet.
 #pragma once
 
 #include <cstddef>
@@ -14,6 +14,6 @@ bool Read_Grains(const char* text, std::size_t count, const Grain& grain, double
 
 /// Coefficients below 2^45 in size, two for each of `groups` groups, become the groups at the
 /// front.
-void Carry_Grains(double* points, std::size_t groups, const Grain& grain);
+void Carry_Grains(double* points, std::size_t groups);
 
 }  // namespace quorvex::native

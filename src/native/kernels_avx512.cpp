@@ -13,10 +13,11 @@ namespace quorvex::native {
 
 const Kernels& Avx512_Kernels() {
   static constexpr Kernels kernels = {
-      Multiply_Tiny, Multiply_In_Lanes, Short_Scratch,  3200,
-      Lanes::count,  Read_Eights,       Forward,        Multiply_Points,
-      Inverse,       Recombine_Eights,  Write_Eights,   Read_Grain_Eights,
-      Fold_Waves,    Split_Waves,       Multiply_Waves, Carry_Wave_Eights};
+      Multiply_Tiny,     Multiply_In_Lanes, Short_Scratch, 3200,
+      Lanes::count,      Read_Eights,       Forward,       Multiply_Points,
+      Inverse,           Recombine_Eights,  Write_Eights,  true,
+      Read_Grain_Eights, Fold_Waves,        Split_Waves,   Multiply_Waves,
+      Carry_Wave_Eights};
   return kernels;
 }
 

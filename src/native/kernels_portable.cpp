@@ -11,19 +11,19 @@
 namespace quorvex::native {
 namespace {
 
-void Carry_Wave(const double* x, const Wave_Length& length, const Grain& grain, std::size_t count,
-                double* groups) {
+void Carry_Wave(const double* x, const Wave_Length& length, const Grain& /*grain*/,
+                std::size_t count, double* groups) {
   Unfold_Waves(x, length, groups);
-  Carry_Grains(groups, count, grain);
+  Carry_Grains(groups, count);
 }
 
 }  // namespace
 
 const Kernels& Portable_Kernels() {
-  static constexpr Kernels kernels = {nullptr,      nullptr,     nullptr,        11'000,
-                                      Lanes::count, Read_Points, Forward,        Multiply_Points,
-                                      Inverse,      Recombine,   Write_Points,   Read_Grains,
-                                      Fold_Waves,   Split_Waves, Multiply_Waves, Carry_Wave};
+  static constexpr Kernels kernels = {
+      nullptr,     nullptr,         nullptr,     11'000,         Lanes::count, Read_Points,
+      Forward,     Multiply_Points, Inverse,     Recombine,      Write_Points, false,
+      Read_Grains, Fold_Waves,      Split_Waves, Multiply_Waves, Carry_Wave};
   return kernels;
 }
 

@@ -37,7 +37,6 @@ bool Read_All(const char* text, std::size_t count, double* points) {
 // The last eight digits overwrite what the others leave behind them.
 void Write_Whole(char* out, double point, std::size_t digits) {
   const auto number = static_cast<std::uint64_t>(point);
-  if (digits == 8) return Store_Word(out, Part_Digits(number));
   const std::uint64_t high = number / ten_to_8;
   const std::uint64_t head = Part_Digits(high);
   Store_Word(out, head >> (8 * (16 - digits)));
