@@ -122,10 +122,26 @@ inline void Write_Window(char* out, std::size_t count, __m512i even, __m512i odd
   _mm512_mask_storeu_epi8(out, First_Bytes(count), _mm512_permutex2var_epi8(even, places, odd));
 }
 
-// Writes the last `count` digits of eight numbers, the first number last, to `out`.
+// The eight digits of numbers below 100 as bytes.
+inline __m512i Part_Pairs(__m512i pairs) {
+  const __m512i tens = _mm512_mulhi_epu16(pairs, _mm512_set1_epi16(6554));
+  const __m512i ones = _mm512_sub_epi16(pairs, _mm512_mullo_epi16(tens, _mm512_set1_epi16(10)));
+  return _mm512_or_si512(_mm512_slli_epi64(tens, 48), _mm512_slli_epi64(ones, 56));
+}
+
+// Characters of eight numbers, sixteen bytes each: numbers 0, 2, 4, 6 and 1, 3, 5, 7.
+struct Eight_Texts {
+  __m512i even;
+  __m512i odd;
+};
+
 template <std::size_t D>
-inline void Write_Eight(char* out, std::size_t count, __m512i numbers) {
-  constexpr std::size_t size = Windows<D>::digits;
+inline Eight_Texts Characters_Of(__m512i numbers) {
+  const __m512i zeros = _mm512_set1_epi8('0');
+  if constexpr (D == 8) {
+    const __m512i digits = _mm512_or_si512(Part_Eights(numbers), zeros);
+    return {_mm512_unpacklo_epi64(zeros, digits), _mm512_unpackhi_epi64(zeros, digits)};
+  }
   // 2^78 / 10^8, rounded up, is exact for numbers below 2^51.
   const __m512i high =
       _mm512_srli_epi64(_mm512_madd52hi_epu64(_mm512_setzero_si512(), numbers,
@@ -133,12 +149,16 @@ inline void Write_Eight(char* out, std::size_t count, __m512i numbers) {
                         26);
   const __m512i low =
       _mm512_sub_epi64(numbers, _mm512_mul_epu32(high, _mm512_set1_epi64(100'000'000)));
-  const __m512i zeros = _mm512_set1_epi8('0');
-  const __m512i first = _mm512_or_si512(Part_Eights(high), zeros);
+  const __m512i first = _mm512_or_si512(D == 10 ? Part_Pairs(high) : Part_Eights(high), zeros);
   const __m512i second = _mm512_or_si512(Part_Eights(low), zeros);
-  // Sixteen bytes each: numbers 0, 2, 4, 6 and 1, 3, 5, 7.
-  const __m512i even = _mm512_unpacklo_epi64(first, second);
-  const __m512i odd = _mm512_unpackhi_epi64(first, second);
+  return {_mm512_unpacklo_epi64(first, second), _mm512_unpackhi_epi64(first, second)};
+}
+
+// Writes the last `count` digits of eight numbers, the first number last, to `out`.
+template <std::size_t D>
+inline void Write_Eight(char* out, std::size_t count, __m512i numbers) {
+  constexpr std::size_t size = Windows<D>::digits;
+  const auto [even, odd] = Characters_Of<D>(numbers);
   if (count > size) {
     const __m512i even_high = _mm512_shuffle_i64x2(even, even, 0x0E);
     const __m512i odd_high = _mm512_shuffle_i64x2(odd, odd, 0x0E);
@@ -147,6 +167,17 @@ inline void Write_Eight(char* out, std::size_t count, __m512i numbers) {
     count = size;
   }
   Write_Window<D>(out, count, even, odd);
+}
+
+// Writes all digits of eight numbers to `out`, and beyond them up to a line of anything.
+template <std::size_t D>
+inline void Write_Eight_And_More(char* out, __m512i numbers) {
+  const auto [even, odd] = Characters_Of<D>(numbers);
+  const __m512i even_high = _mm512_shuffle_i64x2(even, even, 0x0E);
+  const __m512i odd_high = _mm512_shuffle_i64x2(odd, odd, 0x0E);
+  const __m512i places = _mm512_load_si512(windows<D>.from_lanes);
+  _mm512_storeu_si512(out, _mm512_permutex2var_epi8(even_high, places, odd_high));
+  _mm512_storeu_si512(out + Windows<D>::digits, _mm512_permutex2var_epi8(even, places, odd));
 }
 
 }  // namespace

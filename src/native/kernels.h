@@ -5,9 +5,12 @@
 #include <cstdint>
 
 #include "native/field.h"
+#include "native/grain.h"
 #include "native/length.h"
 #include "native/multiply.h"
 #include "native/twiddles.h"
+#include "native/wave_length.h"
+#include "native/wave_roots.h"
 
 namespace quorvex::native {
 
@@ -32,7 +35,21 @@ struct Kernels {
   void (*multiply_points)(double* a, const double* b, const Length& length, const Twiddles& tables);
   void (*inverse)(double* x, const Length& length, const Twiddles& tables, const Twiddles& forward);
   void (*recombine)(double* c1, double* c2, std::size_t count, const Cut& cut);
-  std::size_t (*write_points)(const double* points, std::size_t count, const Cut& cut, char* out);
+  std::size_t (*write_points)(const double* points, std::size_t count, std::size_t digits,
+                              char* out);
+
+  /// Products by waves; where points are complex, they are two doubles.
+  /// Points of four digits are for kinds that are faster with them than by primes, as measured.
+  bool has_fine_grain;
+  bool (*read_grains)(const char* text, std::size_t count, const Grain& grain, double* points);
+  void (*fold)(const double* from, std::size_t count, const Wave_Length& length,
+               const Wave_Roots* roots, double* x, double* squares);
+  void (*split)(double* x, const Wave_Length& length, const Wave_Roots* roots);
+  void (*multiply_waves)(double* x, const double* y, const Wave_Length& length,
+                         const Wave_Roots* roots);
+  /// The groups of a product of points; there is room for all coefficients of the length.
+  void (*carry_wave)(const double* x, const Wave_Length& length, const Grain& grain,
+                     std::size_t count, double* groups);
 };
 
 const Kernels& Portable_Kernels();

@@ -38,7 +38,10 @@ std::size_t Multiply_Operands(const Operands& operands, char* out, Instructions 
   if (a.size() <= tiny_digits && kernels.multiply_tiny != nullptr)
     return kernels.multiply_tiny(a.data(), a.size(), b.data(), b.size(), out);
   if (a.size() <= word_digits) return Multiply_Words(operands, out);
-  if (Is_Long(a.size(), b.size(), kernels)) return Multiply_Long(operands, out, kernels);
+  if (Is_Long(a.size(), b.size(), kernels)) {
+    return Are_Wave_Lengths(a.size(), b.size()) ? Multiply_By_Waves(operands, out, kernels)
+                                                : Multiply_By_Primes(operands, out, kernels);
+  }
   if (kernels.multiply_short != nullptr) return Multiply_Short(operands, out, kernels);
   return Multiply_Limbs(operands, out);
 }

@@ -49,11 +49,11 @@ bool Read_Points(const char* text, std::size_t count, const Cut& cut, double* po
   return cut.digits == 12 ? Read_All<12>(text, count, points) : Read_All<10>(text, count, points);
 }
 
-std::size_t Write_Points(const double* points, std::size_t count, const Cut& cut, char* out) {
+std::size_t Write_Points(const double* points, std::size_t count, std::size_t digits, char* out) {
   while (points[count - 1] == 0) --count;
   std::size_t written = Write_Number(out, static_cast<std::uint64_t>(points[count - 1]));
-  for (std::size_t i = count - 1; i-- > 0; written += cut.digits)
-    Write_Whole(out + written, points[i], cut.digits);
+  for (std::size_t i = count - 1; i-- > 0; written += digits)
+    Write_Whole(out + written, points[i], digits);
   return written;
 }
 

@@ -37,18 +37,27 @@ std::size_t Write_Points_Of(const double* points, std::size_t count, char* out) 
   std::size_t size = D * (count - 1) + 1;
   const auto top = static_cast<std::int64_t>(points[count - 1]);
   for (std::int64_t bound = 10; top >= bound; bound *= 10) ++size;
-  for (std::size_t end = size; end > 0; points += 8) {
-    const std::size_t part = end < 8 * D ? end : 8 * D;
-    end -= part;
-    Write_Eight<D>(out + end, part, _mm512_cvtpd_epi64(_mm512_load_pd(points)));
-  }
+  // From the highest on, so that what is written beyond some numbers is overwritten by the next.
+  constexpr std::size_t whole = 8 * D;
+  constexpr std::size_t line = 64;
+  const auto eight = [points](std::size_t at) {
+    return _mm512_cvtpd_epi64(_mm512_load_pd(points + at / D));
+  };
+  const std::size_t first = size % whole;
+  if (first > 0) Write_Eight<D>(out, first, eight(size - first));
+  std::size_t written = first;
+  for (; written + whole + line <= size; written += whole)
+    Write_Eight_And_More<D>(out + written, eight(size - written - whole));
+  for (; written < size; written += whole)
+    Write_Eight<D>(out + written, whole, eight(size - written - whole));
   return size;
 }
 
-inline std::size_t Write_Eights(const double* points, std::size_t count, const Cut& cut,
+inline std::size_t Write_Eights(const double* points, std::size_t count, std::size_t digits,
                                 char* out) {
-  return cut.digits == 12 ? Write_Points_Of<12>(points, count, out)
-                          : Write_Points_Of<10>(points, count, out);
+  if (digits == 8) return Write_Points_Of<8>(points, count, out);
+  return digits == 12 ? Write_Points_Of<12>(points, count, out)
+                      : Write_Points_Of<10>(points, count, out);
 }
 
 // c1 + p1 t, where t = (c2 - c1) / p1 by the second prime, is the coefficient: its low 52 bits and

@@ -2,10 +2,14 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdlib>
 #include <memory>
 
 namespace quorvex::native {
+
+/// So many bytes on the boundary of a cache line, or null. One block is kept between calls, see
+/// scratch.cpp.
+void* Take_Memory(std::size_t bytes) noexcept;
+void Give_Memory_Back(void* memory) noexcept;
 
 /// Room for `count` numbers, on the boundary of a cache line and not initialised. `get` is null if
 /// there isn't as much memory.
@@ -18,13 +22,12 @@ class Scratch {
 
  private:
   struct Release {
-    void operator()(void* memory) const noexcept { std::free(memory); }
+    void operator()(void* memory) const noexcept { Give_Memory_Back(memory); }
   };
 
   static void* Allocate(std::size_t count) noexcept {
-    constexpr std::size_t line = 64;
     if (count > (~std::size_t{0} >> 1U) / sizeof(Number)) return nullptr;
-    return std::aligned_alloc(line, (count * sizeof(Number) / line + 1) * line);
+    return Take_Memory(count * sizeof(Number));
   }
 
   std::unique_ptr<void, Release> memory_;

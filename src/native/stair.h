@@ -21,7 +21,12 @@ struct Operands {
 std::size_t Multiply_Words(const Operands& operands, char* out) noexcept;
 std::size_t Multiply_Limbs(const Operands& operands, char* out) noexcept;
 std::size_t Multiply_Short(const Operands& operands, char* out, const Kernels& kernels) noexcept;
-std::size_t Multiply_Long(const Operands& operands, char* out, const Kernels& kernels) noexcept;
+std::size_t Multiply_By_Waves(const Operands& operands, char* out, const Kernels& kernels) noexcept;
+std::size_t Multiply_By_Primes(const Operands& operands, char* out,
+                               const Kernels& kernels) noexcept;
+
+/// Whether Multiply_By_Waves takes operands of these lengths.
+bool Are_Wave_Lengths(std::size_t a_size, std::size_t b_size) noexcept;
 
 /// The longest operand that Multiply_Words takes.
 inline constexpr std::size_t word_digits = 18;

@@ -24,6 +24,18 @@ inline Lanes operator-(Lanes a, Lanes b) {
   return {_mm256_sub_pd(a.lane, b.lane)};
 }
 
+inline Lanes operator*(Lanes a, Lanes b) {
+  return {_mm256_mul_pd(a.lane, b.lane)};
+}
+
+// a b + c and c - a b, rounded once.
+inline Lanes Add_Product(Lanes a, Lanes b, Lanes c) {
+  return {_mm256_fmadd_pd(a.lane, b.lane, c.lane)};
+}
+inline Lanes Take_Product(Lanes a, Lanes b, Lanes c) {
+  return {_mm256_fnmadd_pd(a.lane, b.lane, c.lane)};
+}
+
 struct Modulus {
   Lanes p;
   Lanes reciprocal;

@@ -29,6 +29,19 @@ inline Lanes operator-(Lanes a, Lanes b) {
   return a;
 }
 
+inline Lanes operator*(Lanes a, Lanes b) {
+  for (std::size_t i = 0; i < Lanes::count; ++i) a.lane[i] *= b.lane[i];
+  return a;
+}
+
+// a b + c and c - a b, here rounded twice.
+inline Lanes Add_Product(Lanes a, Lanes b, Lanes c) {
+  return c + a * b;
+}
+inline Lanes Take_Product(Lanes a, Lanes b, Lanes c) {
+  return c - a * b;
+}
+
 struct Modulus {
   Lanes p;
   Lanes reciprocal;

@@ -1,4 +1,4 @@
-// Long operands by transforms over two primes.
+// The longest operands by transforms over two primes.
 #include <algorithm>
 
 #include "native/kernels.h"
@@ -130,12 +130,13 @@ std::size_t Multiply_Cut(const Operands& operands, char* out, const Kernels& ker
                static_cast<double>(cut.base));
     left.remove_suffix(digits);
   }
-  return kernels.write_points(product.get(), a_points + b_points, cut, out);
+  return kernels.write_points(product.get(), a_points + b_points, cut.digits, out);
 }
 
 }  // namespace
 
-std::size_t Multiply_Long(const Operands& operands, char* out, const Kernels& kernels) noexcept {
+std::size_t Multiply_By_Primes(const Operands& operands, char* out,
+                               const Kernels& kernels) noexcept {
   if (operands.a.size() / most_unbalanced > operands.b.size())
     return Multiply_Cut(operands, out, kernels);
   const Cut& cut = Cut_For(operands.b.size());
@@ -149,7 +150,7 @@ std::size_t Multiply_Long(const Operands& operands, char* out, const Kernels& ke
   } else if (convolution.set_second(operands.b)) {
     product = convolution.multiply(operands.a, points);
   }
-  return product == nullptr ? 0 : kernels.write_points(product, points, cut, out);
+  return product == nullptr ? 0 : kernels.write_points(product, points, cut.digits, out);
 }
 
 }  // namespace quorvex::native
