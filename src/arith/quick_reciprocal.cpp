@@ -141,7 +141,7 @@ NumberText Step(std::string_view k, NumberText x, std::size_t next) {
     const std::size_t length = product.size() - (m + 2);
     char* const place = x.data() + next - length;
     const bool carry = digit_spans::Add(place, place, product.data(), length, false);
-    digit_spans::Add_Carry(x.data(), x.data(), next - length, carry);
+    if (carry) digit_spans::Add_Carry(x.data(), x.data(), next - length, carry);
   }
   Decrement(x);
   return x;
