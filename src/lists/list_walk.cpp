@@ -1,6 +1,8 @@
 #include "lists/list_walk.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <string>
 
 #include "host/conversions.h"
@@ -20,7 +22,8 @@ void Yield_At(std::size_t element) {
   if (element % elements_between_yields == 0) Yield();
 }
 
-Walk Walk_Array(const Array& array, const std::function<Walk(const HostValue&)>& visit) {
+template <typename Visit>
+Walk Walk_Array(const Array& array, const Visit& visit) {
   for (std::size_t i = 0; i < array.values.size(); ++i) {
     Yield_At(i + 1);
     if (visit(array.values[i]) == Walk::end) return Walk::end;
@@ -28,7 +31,8 @@ Walk Walk_Array(const Array& array, const std::function<Walk(const HostValue&)>&
   return Walk::on;
 }
 
-Walk Walk_Range(const Range& range, const std::function<Walk(const HostValue&)>& visit) {
+template <typename Visit>
+Walk Walk_Range(const Range& range, const Visit& visit) {
   const std::size_t rows = range.rows();
   const std::size_t columns = range.columns();
   std::size_t cells = 0;
@@ -41,9 +45,26 @@ Walk Walk_Range(const Range& range, const std::function<Walk(const HostValue&)>&
   return Walk::on;
 }
 
-Walk Walk_Block(const HostValue& block, const std::function<Walk(const HostValue&)>& visit) {
+template <typename Visit>
+Walk Walk_Block(const HostValue& block, const Visit& visit) {
   return block.kind() == Kind::array ? Walk_Array(block.array(), visit)
                                      : Walk_Range(block.range(), visit);
+}
+
+// True if any byte is a small letter or stands above them. Digits, capitals and the usual marks of
+// numbers stand below.
+bool May_Fold(std::string_view text) {
+  constexpr std::uint64_t ones = 0x0101010101010101U;
+  constexpr std::uint64_t to_high_bit = ones * (0x80 - 'a');
+  std::uint64_t found = 0;
+  std::size_t place = 0;
+  for (std::uint64_t word = 0; place + sizeof word <= text.size(); place += sizeof word) {
+    std::memcpy(&word, text.data() + place, sizeof word);
+    found |= word | (word + to_high_bit);
+  }
+  const auto rest = text.substr(place);
+  return (found & (ones * 0x80)) != 0 ||
+         std::ranges::any_of(rest, [](char c) { return static_cast<unsigned char>(c) >= 'a'; });
 }
 
 class Text_Walk {
@@ -104,13 +125,7 @@ void Walk_List(const List& list, List_Options& options,
 }
 
 std::string_view Capitals_Of(std::string_view text, std::string& scratch) {
-  // Digits, capitals and the usual marks of numbers stand below the small letters. Looking for the
-  // highest byte takes no branch, so that many are looked at together.
-  unsigned char highest = 0;
-  for (const char character : text) {
-    highest = std::max(highest, static_cast<unsigned char>(character));
-  }
-  if (highest < 'a') return text;
+  if (!May_Fold(text)) return text;
   return scratch = To_Capitals(text);
 }
 

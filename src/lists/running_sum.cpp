@@ -67,7 +67,7 @@ bool Running_Sum::add_in_chain(std::string_view element, double msd) {
   return true;
 }
 
-NumberText Running_Sum::text() const {
+NumberText Running_Sum::text() {
   if (in_chain_) return chain_.text();
   const Decimal_Parts positive = Without_Leading_Zeros(positive_.parts());
   const Decimal_Parts negative = Without_Leading_Zeros(negative_.parts());

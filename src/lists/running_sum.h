@@ -21,7 +21,7 @@ class Running_Sum {
   bool add(std::string_view element, double msd);
 
   /// The sum as plain text.
-  NumberText text() const;
+  NumberText text();
 
  private:
   bool add_in_place(const Operand& element, double msd);

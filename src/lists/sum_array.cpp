@@ -36,7 +36,7 @@ class Checked_Sum {
     failed_ = Do_Operation(operation::add, sum, cell, {.maximum_significant_digits = limit_});
   }
 
-  NumberText text() const { return failed_ ? *failed_ : sum_.text(); }
+  NumberText text() { return failed_ ? *failed_ : sum_.text(); }
 
  private:
   bool add_number(const HostValue& cell) {
