@@ -27,7 +27,7 @@ class Best {
     std::optional<Operand> number;
     if (!comparable_ || !Read_For_Comparison(element, number)) return;
     const auto order = Compare_Values(*number, *number_);
-    if (extreme_ == Extreme::greatest ? order <= 0 : order >= 0) return;
+    if (extreme_ == Extreme::greatest ? std::is_lteq(order) : std::is_gteq(order)) return;
     take(element);
     Read_For_Comparison(text_, number_);
   }

@@ -114,6 +114,14 @@ TEST(SumOfCells, CountsRowsAndColumnsFromOne) {
             Failure_Number::type_mismatch);
 }
 
+TEST(ListFunctions, TellACurrencySymbolFromAnExponent) {
+  const Locale_Guard locale({".", ",", "EUR", Currency_Side::before});
+  cls_Quorvex engine;
+  EXPECT_EQ(engine.qvxMAX({"EUR05", 1}), "EUR05");
+  EXPECT_EQ(engine.qvxMAX({"EUR5E+1", 1}), "50");
+  EXPECT_EQ(engine.qvxMIN({"(EUR5)", 1}), "-5");
+}
+
 TEST(ListFunctions, CanBeBrokenOff) {
   cls_Quorvex engine;
   const List list = {Array_Of(1, std::vector<HostValue>(1000, HostValue("1.5")))};

@@ -103,6 +103,18 @@ TEST(RunningSum, CarriesThroughAllDigitsAndBack) {
   }
 }
 
+TEST(RunningSum, SettlesCarriesBeforeTheyOverflow) {
+  for (const char* element : {"9", "99999", "0.9999", "99999999999.99999999", "-99"}) {
+    Exact_Decimal exact("0");
+    for (std::size_t count = 1; count < 100; ++count) {
+      exact = exact + Exact_Decimal(element);
+      Running_Sum sum;
+      for (std::size_t i = 0; i < count; ++i) sum.add(element, maximum_digits);
+      ASSERT_EQ(sum.text(), exact.text()) << count;
+    }
+  }
+}
+
 TEST(RunningSum, PassesOverWhatHasNoRoom) {
   Running_Sum sum;
   ASSERT_TRUE(sum.add("1.5", maximum_digits));
