@@ -141,7 +141,7 @@ TEST(ListFunctions, TakeAValueThatIsNoListForItsOnlyElement) {
     return std::get<HostValue>(Invoke(engine, method, std::move(arguments))).text();
   };
   EXPECT_EQ(sum({}), "0");
-  EXPECT_EQ(sum({List{1, 2}}), "3");
+  EXPECT_EQ(sum({HostValue(List{1, 2})}), "3");
   EXPECT_EQ(sum({Array_Of(1, {1, 2})}), "3");
   EXPECT_EQ(sum({7}), "7");
 }

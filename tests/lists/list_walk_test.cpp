@@ -51,9 +51,10 @@ TEST(ListWalk, ReadsARangeOfOneCellAsThatCell) {
 
 TEST(ListWalk, RefusesShapesThatHoldNoCells) {
   const HostValue array = Array_Of(1, {1});
-  for (const HostValue& bad : {HostValue(List{1, 2}), HostValue(Array_Of(2, {1, array})),
-                               HostValue(Array_Of(1, {List{1}})), HostValue(Array_Of(1, {Missing})),
-                               Range_Of_Cells(1, {Range_Of_Cells(1, {1})})}) {
+  for (const HostValue& bad :
+       {HostValue(List{1, 2}), HostValue(Array_Of(2, {1, array})),
+        HostValue(Array_Of(1, {HostValue(List{1})})), HostValue(Array_Of(1, {Missing})),
+        Range_Of_Cells(1, {Range_Of_Cells(1, {1})})}) {
     EXPECT_EQ(Failure_Of([&] { Texts({1, bad}); }), Failure_Number::type_mismatch);
     EXPECT_EQ(Failure_Of([&] { Texts({1, bad}, 1); }), std::nullopt);
   }
