@@ -1,16 +1,17 @@
 #include "lists/running_product.h"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <utility>
 
-#include "arith/do_operation.h"
 #include "arith/multiply_digits.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "lists/running_sum.h"
 #include "text/digit_runs.h"
 #include "text/format_result.h"
+#include "text/round_to_length.h"
 #include "text/tokens.h"
 
 namespace quorvex {
@@ -40,24 +41,36 @@ bool Can_Multiply() {
 }  // namespace
 
 void Running_Product::multiply(std::string_view element, double msd) {
-  if (in_chain_) return multiply_in_chain(element, msd);
   std::optional<Operand> operand;
   const bool is_number = With_Handler([&] { return operand.emplace(element).is_number(); },
                                       [](const Run_Time_Failure&) { return false; });
-  if (is_number && !multiply_partial(*operand, msd)) multiply_in_chain(element, msd);
+  if (!is_number || zero_) return;
+  Whole_Number factor = Whole(operand->parts());
+  if (factor.digits.empty()) {
+    zero_ = true;
+    return;
+  }
+  if (partial_.empty() && !Can_Multiply()) return;
+  power_of_ten_ += factor.power_of_ten;
+  if (!operand->positive()) negative_ = !negative_;
+  digits_ += factor.digits.size();
+  push(std::move(factor.digits));
+  if (digits_ > Digits_Never_Cut(msd)) cut(msd);
 }
 
-// False if a limit might cut the product, or the one before it, or if products can't be formed.
-bool Running_Product::multiply_partial(const Operand& element, double msd) {
-  Whole_Number factor = Whole(element.parts());
-  if (digits_ + factor.digits.size() > Digits_Never_Cut(msd)) return false;
-  if (digits_ == 0 && !Can_Multiply()) return false;
-  digits_ += factor.digits.size();
-  power_of_ten_ += factor.power_of_ten;
-  if (!element.positive()) negative_ = !negative_;
-  zero_ = zero_ || factor.digits.empty();
-  if (!zero_) push(std::move(factor.digits));
-  return true;
+// Each product keeps two digits more than the limit.
+void Running_Product::cut(double msd) {
+  join_all();
+  NumberText& product = partial_.front();
+  product = Round_To_Length(std::move(product), std::min(msd, maximum_digits) + 2);
+  const std::size_t zeros = Count_Trailing_Zeros(product);
+  power_of_ten_ += static_cast<std::int64_t>(zeros);
+  product.resize(product.size() - zeros);
+  digits_ = product.size();
+}
+
+void Running_Product::join_all() {
+  while (partial_.size() > 1) join_last_two();
 }
 
 void Running_Product::push(NumberText digits) {
@@ -78,20 +91,9 @@ void Running_Product::join_last_two() {
   }
 }
 
-void Running_Product::multiply_in_chain(std::string_view element, double msd) {
-  if (!in_chain_) {
-    chain_ = exact_text();
-    in_chain_ = true;
-  }
-  const HostValue limit = msd;
-  NumberText product = Do_Operation(operation::multiply, chain_, element,
-                                    {.maximum_significant_digits = limit}, {.intermediate = true});
-  if (!Has_Token_Mark(product)) chain_ = std::move(product);
-}
-
-NumberText Running_Product::exact_text() {
+NumberText Running_Product::text() {
   if (zero_) return "0";
-  while (partial_.size() > 1) join_last_two();
+  join_all();
   NumberText digits = partial_.empty() ? NumberText("1") : partial_.front();
   double position = 1;
   if (power_of_ten_ >= 0) {
@@ -103,10 +105,6 @@ NumberText Running_Product::exact_text() {
   type_Restrictionator options;
   options.maxSD = maximum_digits;
   return Format_Result(std::move(digits), position, !negative_, options, true);
-}
-
-NumberText Running_Product::text() {
-  return in_chain_ ? chain_.text() : exact_text();
 }
 
 }  // namespace quorvex
