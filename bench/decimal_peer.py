@@ -1,4 +1,4 @@
-"""The same sums, differences, comparisons and products through Python's decimal, as JSON."""
+"""The same operations and lists through Python's decimal, as JSON."""
 
 import decimal
 import json
@@ -23,6 +23,22 @@ PRODUCTS = {
     "product": lambda a, b: str(decimal.Decimal(a) * decimal.Decimal(b)),
     "by a tenth": lambda a, b: str(decimal.Decimal(a) * decimal.Decimal(b)),
     "square": lambda a, b: str((x := decimal.Decimal(a)) * x),
+}
+
+
+def product_by_halves(numbers):
+    factors = [decimal.Decimal(text) for text in numbers]
+    while len(factors) > 1:
+        pairs = [a * b for a, b in zip(factors[::2], factors[1::2])]
+        factors = pairs + factors[len(pairs) * 2 :]
+    return str(factors[0])
+
+
+LISTS = {
+    "sum": (100_000, lambda numbers, _: str(sum(map(decimal.Decimal, numbers)))),
+    "mixed sum": (100_000, lambda numbers, _: str(sum(map(decimal.Decimal, numbers)))),
+    "max": (100_000, lambda numbers, _: str(max(map(decimal.Decimal, numbers)))),
+    "product": (1000, lambda numbers, _: product_by_halves(numbers)),
 }
 
 
@@ -68,6 +84,11 @@ def main():
             digits(size, 2, "3"),
             repetitions,
         )
+    for name, (count, call) in LISTS.items():
+        numbers = [digits(50, seed, "3") for seed in range(count)]
+        if name == "mixed sum":
+            numbers[1::2] = ["-" + number for number in numbers[1::2]]
+        times[f"list/{name}/{count}"] = nanoseconds(call, numbers, None, repetitions)
     json.dump(times, sys.stdout)
 
 

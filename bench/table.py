@@ -61,6 +61,24 @@ def print_quotients(times, peer):
         )
 
 
+LIST_CALLS = {"sum": "qvxSUM2", "mixed sum": "qvxSUM2", "max": "qvxMAX", "product": "qvxPRODUCT"}
+
+
+def print_lists(times, peer):
+    """Whole calls over a column of fifty-digit numbers."""
+    print("| call | numbers | GMP / ours | decimal / ours | ours | GMP | decimal |")
+    print("|---|---:|---:|---:|---:|---:|---:|")
+    for name, call in LIST_CALLS.items():
+        for count in sizes(times, f"List/{name}"):
+            ours, gmp = times[f"List/{name}/{count}"], times[f"Gmp list/{name}/{count}"]
+            dec = peer[f"list/{name}/{count}"]
+            signs = ", both signs" if name == "mixed sum" else ""
+            print(
+                f"| {call}{signs} | {int(count):,} | {gmp / ours:.1f} | {dec / ours:.1f} "
+                f"| {unit(ours)} | {unit(gmp)} | {unit(dec)} |"
+            )
+
+
 def print_overhead(times):
     """What the whole call costs beside the bare product."""
     print("| digits | qvxMULTIPLY / `Multiply` | qvxDIVIDE / `Multiply` |")
@@ -91,6 +109,8 @@ def main():
     print_products(times, peer)
     print()
     print_quotients(times, peer)
+    print()
+    print_lists(times, peer)
     print()
     print_overhead(times)
 

@@ -27,6 +27,8 @@ constexpr Parameter_Kind Kind_Of() {
     return Parameter_Kind::text;
   } else if constexpr (std::is_same_v<Value, std::int32_t>) {
     return Parameter_Kind::integer;
+  } else if constexpr (std::is_same_v<Value, List>) {
+    return Parameter_Kind::list;
   } else {
     static_assert(unknown<Value>, "no kind of parameter is of this type");
   }
@@ -48,13 +50,19 @@ constexpr Result_Kind Result_Of() {
 /// Makes a value its own text, and gives that text to be changed.
 NumberText& Text_In_Place(HostValue& argument);
 
-/// An argument as a parameter takes it: a value by reference, text converted.
+/// Makes a value a list, and gives that list: a missing one is empty, and any other value that is
+/// no list is the only element of one.
+const List& List_In_Place(HostValue& argument);
+
+/// An argument as a parameter takes it: a value or a list by reference, text converted.
 template <typename Type>
 decltype(auto) Take(HostValue& argument) {
   if constexpr (Kind_Of<Type>() == Parameter_Kind::value) {
     return (argument);
   } else if constexpr (Kind_Of<Type>() == Parameter_Kind::integer) {
     return To_Int32(argument);
+  } else if constexpr (Kind_Of<Type>() == Parameter_Kind::list) {
+    return (List_In_Place(argument));
   } else if constexpr (std::is_same_v<Type, NumberText&>) {
     // The method changes its text: the caller's value holds it.
     return Text_In_Place(argument);

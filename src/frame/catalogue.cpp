@@ -32,6 +32,12 @@ NumberText& Text_In_Place(HostValue& argument) {
   return argument.mutable_text();
 }
 
+const List& List_In_Place(HostValue& argument) {
+  if (argument.is_missing()) argument = List();
+  if (argument.kind() != HostValue::Kind::list) argument = List{std::move(argument)};
+  return argument.list();
+}
+
 }  // namespace binding
 
 namespace {
@@ -40,6 +46,7 @@ using Parameters = std::vector<Parameter>;
 
 constexpr std::string_view operators = "High-Precision Operators";
 constexpr std::string_view math = "High-Precision Math";
+constexpr std::string_view statistical = "High-Precision Statistical";
 constexpr std::string_view information = "High-Precision Information";
 constexpr std::string_view miscellaneous = "High-Precision Miscellaneous";
 constexpr std::string_view not_offered;
@@ -143,6 +150,57 @@ std::vector<Method> Division_Rows() {
                                        "Returns the half of a 32-bit whole number, rounded down.",
                                        "GetHalfofLong(7)",
                                        {Operand_Parameter("num_as_long", "a whole number")}),
+  };
+}
+
+Parameters Number_List() {
+  return {Operand_Parameter("numlist",
+                            "numbers, ranges and arrays; and among them, as text, how the result "
+                            "is formatted: \"format:\" and any of the words negative, thousands, "
+                            "currency, exponent, MSD=n")};
+}
+
+std::vector<Method> List_Rows() {
+  return {
+      Row<&cls_Quorvex::qvxSUM>(
+          "qvxSUM", "List", math,
+          "Returns the sum of a range or array, with up to 32,767 significant digits of precision. "
+          "Every cell must be a number or blank.",
+          "qvxSUM({1, \"0.00000000000000000001\"; 2, 3}, , TRUE)",
+          With_Digits({Operand_Parameter("rngArray", "a range of several cells, or an array")})),
+      Row<&cls_Quorvex::qvxAVERAGE>(
+          "qvxAVERAGE", "List", statistical,
+          "Returns the average of the numeric arguments, with up to 32,767 significant digits of "
+          "precision. MSD=n must be given.  \"format:negative,thousands,currency,exponent,MSD=n\"",
+          "qvxAVERAGE(1, 2, 4, \"format:MSD=30\")", Number_List()),
+      Row<&cls_Quorvex::qvxPRODUCT>(
+          "qvxPRODUCT", "List", math,
+          "Returns the product of the numeric arguments, with up to 32,767 significant digits of "
+          "precision.  \"format:negative,thousands,currency,exponent,MSD=n\"",
+          "qvxPRODUCT(\"12345678901234567890\", -2, 0.5)", Number_List()),
+      Row<&cls_Quorvex::qvxSUM2>(
+          "qvxSUM2", "List", math,
+          "Returns the sum of the numeric arguments, with up to 32,767 significant digits of "
+          "precision.  \"format:negative,thousands,currency,exponent,MSD=n\"",
+          "qvxSUM2({1, 2; 3, \"no number\"}, \"99999999999999999999\", \"format:thousands\")",
+          Number_List()),
+      Row<&cls_Quorvex::qvxCOUNT>(
+          "qvxCOUNT", "List", statistical,
+          "Returns how many of the arguments are numbers, with up to 32,767 significant digits of "
+          "precision.  \"format:negative,thousands,currency,exponent,MSD=n\"",
+          "qvxCOUNT(1, \"2\", \"two\", TRUE, \"3.00000000000000000001\")", Number_List()),
+      Row<&cls_Quorvex::qvxMAX>(
+          "qvxMAX", "List", statistical,
+          "Returns the largest of the numeric arguments, with up to 32,767 significant digits of "
+          "precision. The first argument must be a number.  "
+          "\"format:negative,thousands,currency,exponent,MSD=n\"",
+          "qvxMAX(\"0.1\", \"0.10000000000000000001\")", Number_List()),
+      Row<&cls_Quorvex::qvxMIN>(
+          "qvxMIN", "List", statistical,
+          "Returns the smallest of the numeric arguments, with up to 32,767 significant digits of "
+          "precision. The first argument must be a number.  "
+          "\"format:negative,thousands,currency,exponent,MSD=n\"",
+          "qvxMIN(-1, \"-1.00000000000000000001\", \"format:negative\")", Number_List()),
   };
 }
 
@@ -254,7 +312,7 @@ std::vector<Method> Last_Rows() {
 
 std::vector<Method> Make_Catalogue() {
   std::vector<Method> methods;
-  for (auto rows : {Call_Frame_Rows(), Division_Rows(), Number_Rows(), Product_Rows(),
+  for (auto rows : {Call_Frame_Rows(), Division_Rows(), List_Rows(), Number_Rows(), Product_Rows(),
                     Comparison_Rows(), Last_Rows()}) {
     std::ranges::move(rows, std::back_inserter(methods));
   }

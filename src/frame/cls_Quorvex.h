@@ -61,6 +61,35 @@ class QUORVEX_API cls_Quorvex {
   /// The half of a 32-bit number, rounded down.
   HostValue GetHalfofLong(std::int32_t num_as_long);
 
+  /// The sum of the cells of an array or range, each addition with the limit. A cell that is no
+  /// number makes it a token; blank cells are 0. Throws `Run_Time_Failure` 13 for what is no
+  /// two-dimensional array, such as a single cell, and 9 for an array without a row or column 1.
+  NumberText qvxSUM(const HostValue& rngArray, const HostValue& format_negative = Missing,
+                    const HostValue& format_thousands = Missing,
+                    const HostValue& format_currency = Missing,
+                    const HostValue& exponential_notation = Missing,
+                    const HostValue& maximum_significant_digits = Missing);
+
+  /// Functions of a list: single values, arrays and ranges, in order. Blanks are passed over, and
+  /// so is text that is no number. How the result is formatted stands in the list as well, as text:
+  /// "format:" and any of the words negative, thousands, currency, exponent, MSD=n, in any case and
+  /// order. MSD= limits the digits from where it stands on; without it nothing is cut, whatever the
+  /// default limit.
+  ///
+  /// The mean is "#VALUE!" without MSD=, unless the sum is 0. No numbers: the sum, the mean and the
+  /// count are "0", the product is "1". `qvxMAX` and `qvxMIN` keep the spelling of a number but
+  /// for E notation and parentheses. They take the first element as it is: where it is no number,
+  /// it is the result, in capitals; without elements the result is empty text.
+  ///
+  /// Throws `Run_Time_Failure` 13 for MSD= without digits and for a list within the list, 6 for
+  /// more digits behind MSD= than a number can have and for a mean of a sum beyond 64-bit floats.
+  NumberText qvxAVERAGE(const List& numlist);
+  NumberText qvxPRODUCT(const List& numlist);
+  NumberText qvxSUM2(const List& numlist);
+  NumberText qvxCOUNT(const List& numlist);
+  NumberText qvxMAX(const List& numlist);
+  NumberText qvxMIN(const List& numlist);
+
   /// Whether addition would accept the value as a number. Throws `Run_Time_Failure` 13 for a
   /// missing value and for an array, which have no text.
   bool qvxISNUMBER(const HostValue& num);

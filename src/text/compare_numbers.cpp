@@ -5,7 +5,6 @@
 
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
-#include "text/operand.h"
 #include "text/primitives.h"
 #include "text/recognition.h"
 #include "text/tokens.h"
@@ -19,6 +18,14 @@ bool Is_Comparable(const Operand& operand, std::string_view text) {
   return operand.is_number() && (operand.was_plain() || !Has_Two_Separators(text));
 }
 
+}  // namespace
+
+bool Read_For_Comparison(std::string_view text, std::optional<Operand>& number) {
+  if (Is_Lone_Mark(text)) return false;
+  return With_Handler([&] { return Is_Comparable(number.emplace(text), text); },
+                      [](const Run_Time_Failure&) { return false; });
+}
+
 std::strong_ordering Compare_Values(const Operand& number1, const Operand& number2) {
   const Decimal_Parts& parts1 = number1.parts();
   const Decimal_Parts& parts2 = number2.parts();
@@ -27,8 +34,6 @@ std::strong_ordering Compare_Values(const Operand& number1, const Operand& numbe
   if (positive1 != positive2) return positive1 <=> positive2;
   return positive1 ? Compare_Magnitudes(parts1, parts2) : Compare_Magnitudes(parts2, parts1);
 }
-
-}  // namespace
 
 HostValue Compare_Numbers(std::string_view number1, std::string_view number2, bool testEqual,
                           bool testGreater) {

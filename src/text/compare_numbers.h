@@ -1,9 +1,12 @@
 // The order of two numbers held as text, at any length.
 #pragma once
 
+#include <compare>
+#include <optional>
 #include <string_view>
 
 #include "host/host_value.h"
+#include "text/operand.h"
 
 namespace quorvex {
 
@@ -12,6 +15,13 @@ namespace quorvex {
 /// ("#VALUE!" before "#NUM!" before "#DIV/0!"), and "#NUM!" for an operand that is no number.
 HostValue Compare_Numbers(std::string_view number1, std::string_view number2, bool testEqual,
                           bool testGreater);
+
+/// Reads a number into `number` for comparisons with many others; `text` must outlive it. False for
+/// what `Compare_Numbers` takes for no number, a token among it.
+bool Read_For_Comparison(std::string_view text, std::optional<Operand>& number);
+
+/// The order of two numbers by value.
+std::strong_ordering Compare_Values(const Operand& number1, const Operand& number2);
 
 /// Compares two digit strings of like scale, without leading zeros: the longer is the greater, and
 /// at equal lengths the first different character decides.

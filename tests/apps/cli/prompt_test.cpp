@@ -24,7 +24,7 @@ TEST(Prompt, CompletesNames) {
     std::size_t candidates;
   };
   const std::vector<Completion_Case> cases = {
-      {"qvxad", "qvxADD(", 0},       {"=qvxADD(QVXSU", "qvxSUBTRACT(", 0},
+      {"qvxad", "qvxADD(", 0},       {"=qvxADD(QVXSUB", "qvxSUBTRACT(", 0},
       {"help qvxad", "qvxADD", 0},   {"qvxis", "qvxIS", 7},
       {"qvxisg", "qvxISGREATER", 2}, {"fun", "functions", 0},
       {"qvxADD(fun", "", 0},         {"nothing", "", 0},
@@ -123,7 +123,7 @@ TEST(Prompt, CalculatesExplainsAndLeaves) {
   EXPECT_TRUE(terminal.shows("there is no function \"nothing\"")) << terminal.shown();
   terminal.type_at_prompt("functions\n");
   EXPECT_TRUE(terminal.shows("qvxFORMAT")) << terminal.shown();
-  terminal.type_at_prompt("qvxsu\t7,\"0.5\")\n");
+  terminal.type_at_prompt("qvxsub\t7,\"0.5\")\n");
   EXPECT_TRUE(terminal.shows("\n6.5")) << terminal.shown();
   terminal.type_at_prompt("\"\xE2\x82\xAC\"\n");
   EXPECT_TRUE(terminal.shows("\n\xE2\x82\xAC")) << terminal.shown();

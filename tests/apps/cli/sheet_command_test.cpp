@@ -1,6 +1,7 @@
 // `quorvex sheet` as its users meet it.
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,19 @@ TEST(SheetCommand, PrintsTheGrid) {
   EXPECT_EQ(run.exit_code, 0) << run.errors;
   EXPECT_NE(run.output.find("total  12345678901234567890.75"), std::string::npos) << run.output;
   EXPECT_EQ(run.errors, "");
+}
+
+TEST(SheetCommand, ExamplesGiveWhatHasBeenPublished) {
+  const auto folder = std::filesystem::path(QUORVEX_SOURCE) / "examples";
+  std::size_t examples = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    const Tool_Run run = Run_Tool({"sheet", entry.path().string()});
+    EXPECT_EQ(run.exit_code, 0) << entry << run.errors;
+    EXPECT_NE(run.output.find("True"), std::string::npos) << entry;
+    EXPECT_EQ(run.output.find("False"), std::string::npos) << entry << '\n' << run.output;
+    ++examples;
+  }
+  EXPECT_GT(examples, 0U);
 }
 
 TEST(SheetCommand, CutsOnlyWhenTold) {

@@ -57,6 +57,32 @@ TEST_F(Recalculate, FollowsTheOrderOfDependency) {
   EXPECT_EQ(shown("A1"), "4");
 }
 
+TEST_F(Recalculate, HandsRangesToListFunctions) {
+  fill({{"A1", "12345678901234567890"},
+        {"A2", "=qvxADD(A1,B2)"},
+        {"A3", "text"},
+        {"B1", "#N/A"},
+        {"B2", "0.5"},
+        {"C1", "=qvxSUM2(A1:B4,B2,\"format:thousands\")"},
+        {"C2", "=qvxCOUNT(A1:B4)"},
+        {"C3", "=qvxMAX(A4:B4,A1:A3)"},
+        {"C4", "=qvxMAX(B1,A1)"},
+        {"C5", "=qvxSUM(A1:A2)"},
+        {"C6", "=qvxSUM(A1:A3)"},
+        {"C7", "=qvxPRODUCT(B2,B1:B2,2)"}});
+  calculate();
+  EXPECT_EQ(shown("C1"), "24,691,357,802,469,135,781.5");
+  EXPECT_EQ(shown("C2"), "3");
+  EXPECT_EQ(shown("C3"), "12345678901234567890.5");
+  EXPECT_EQ(shown("C4"), "#VALUE!");
+  EXPECT_EQ(shown("C5"), "24691357802469135780.5");
+  EXPECT_EQ(shown("C6"), "#VALUE!");
+  EXPECT_EQ(shown("C7"), "0.5");
+  fill({{"B2", "1"}});
+  calculate();
+  EXPECT_EQ(shown("C1"), "24,691,357,802,469,135,783");
+}
+
 TEST_F(Recalculate, ReadsOtherWorksheetsAndNames) {
   Worksheet& data = book.add("My data");
   data.set({1, 1}, "=qvxADD(Sheet1!A1,1)");

@@ -1,0 +1,132 @@
+#include "lists/list_walk.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <string>
+
+#include "host/conversions.h"
+#include "host/platform.h"
+#include "host/run_time_failure.h"
+#include "text/tokens.h"
+
+namespace quorvex {
+namespace {
+
+using Kind = HostValue::Kind;
+
+// Short enough for a break to be noticed, and too long for the asking to show.
+constexpr std::size_t elements_between_yields = 64;
+
+void Yield_At(std::size_t element) {
+  if (element % elements_between_yields == 0) Yield();
+}
+
+template <typename Visit>
+Walk Walk_Array(const Array& array, const Visit& visit) {
+  for (std::size_t i = 0; i < array.values.size(); ++i) {
+    Yield_At(i + 1);
+    if (visit(array.values[i]) == Walk::end) return Walk::end;
+  }
+  return Walk::on;
+}
+
+template <typename Visit>
+Walk Walk_Range(const Range& range, const Visit& visit) {
+  const std::size_t rows = range.rows();
+  const std::size_t columns = range.columns();
+  std::size_t cells = 0;
+  for (std::size_t row = 1; row <= rows; ++row) {
+    for (std::size_t column = 1; column <= columns; ++column) {
+      Yield_At(++cells);
+      if (visit(range.cell(row, column)) == Walk::end) return Walk::end;
+    }
+  }
+  return Walk::on;
+}
+
+template <typename Visit>
+Walk Walk_Block(const HostValue& block, const Visit& visit) {
+  return block.kind() == Kind::array ? Walk_Array(block.array(), visit)
+                                     : Walk_Range(block.range(), visit);
+}
+
+// True if any byte is a small letter or stands above them. Digits, capitals and the usual marks of
+// numbers stand below.
+bool May_Fold(std::string_view text) {
+  constexpr std::uint64_t ones = 0x0101010101010101U;
+  constexpr std::uint64_t to_high_bit = ones * (0x80 - 'a');
+  std::uint64_t found = 0;
+  std::size_t place = 0;
+  for (std::uint64_t word = 0; place + sizeof word <= text.size(); place += sizeof word) {
+    std::memcpy(&word, text.data() + place, sizeof word);
+    found |= word | (word + to_high_bit);
+  }
+  const auto rest = text.substr(place);
+  return (found & (ones * 0x80)) != 0 ||
+         std::ranges::any_of(rest, [](char c) { return static_cast<unsigned char>(c) >= 'a'; });
+}
+
+class Text_Walk {
+ public:
+  explicit Text_Walk(const std::function<Walk(std::string_view)>& visit) : visit_(visit) {}
+
+  Walk argument(const HostValue& value) {
+    if (Is_Single_Cell(value)) return argument(Cell_Of(value));
+    switch (value.kind()) {
+      case Kind::missing:
+        return Walk::on;
+      case Kind::error:
+        return visit_(value_token);
+      case Kind::array:
+      case Kind::range:
+        return Walk_Block(value, [this](const HostValue& each) { return cell(each); });
+      case Kind::list:
+        throw Run_Time_Failure(Failure_Number::type_mismatch,
+                               "A list among the arguments has no rows and columns.");
+      default:
+        return cell(value);
+    }
+  }
+
+ private:
+  Walk cell(const HostValue& value) {
+    const std::string_view text = Text_Of(value, scratch_);
+    return text.empty() ? Walk::on : visit_(text);
+  }
+
+  const std::function<Walk(std::string_view)>& visit_;
+  std::string scratch_;
+};
+
+}  // namespace
+
+void For_Each_Cell(const HostValue& block, const std::function<Walk(const HostValue&)>& visit) {
+  Walk_Block(block, visit);
+}
+
+void For_Each_Text(const List& list, const std::function<Walk(std::string_view)>& visit) {
+  Text_Walk walk(visit);
+  for (std::size_t i = 0; i < list.size(); ++i) {
+    Yield_At(i + 1);
+    if (walk.argument(list[i]) == Walk::end) return;
+  }
+}
+
+void Walk_List(const List& list, List_Options& options,
+               const std::function<Walk(std::string_view)>& visit) {
+  std::string scratch;
+  For_Each_Text(list, [&](std::string_view text) {
+    const std::string_view capitals = Capitals_Of(text, scratch);
+    if (!Is_Option_String(capitals)) return visit(capitals);
+    Read_Option_String(capitals, options);
+    return Walk::on;
+  });
+}
+
+std::string_view Capitals_Of(std::string_view text, std::string& scratch) {
+  if (!May_Fold(text)) return text;
+  return scratch = To_Capitals(text);
+}
+
+}  // namespace quorvex

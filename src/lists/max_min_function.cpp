@@ -1,0 +1,62 @@
+#include "lists/max_min_function.h"
+
+#include <compare>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "lists/list_result.h"
+#include "lists/list_walk.h"
+#include "text/compare_numbers.h"
+
+namespace quorvex {
+namespace {
+
+// The best element so far, read once.
+class Best {
+ public:
+  explicit Best(Extreme extreme) : extreme_(extreme) {}
+
+  void offer(std::string_view element) {
+    if (!taken_) {
+      take(element);
+      comparable_ = Read_For_Comparison(text_, number_);
+      return;
+    }
+    std::optional<Operand> number;
+    if (!comparable_ || !Read_For_Comparison(element, number)) return;
+    const auto order = Compare_Values(*number, *number_);
+    if (extreme_ == Extreme::greatest ? std::is_lteq(order) : std::is_gteq(order)) return;
+    take(element);
+    Read_For_Comparison(text_, number_);
+  }
+
+  NumberText text() && { return std::move(text_); }
+
+ private:
+  void take(std::string_view element) {
+    taken_ = true;
+    text_ = element;
+  }
+
+  Extreme extreme_;
+  bool taken_ = false;
+  bool comparable_ = false;
+  NumberText text_;
+  std::optional<Operand> number_;  // looks into the text
+};
+
+}  // namespace
+
+NumberText MaxMin_Function(const List& list, Extreme extreme) {
+  List_Options options;
+  Best best(extreme);
+  Walk_List(list, options, [&](std::string_view element) {
+    best.offer(element);
+    return Walk::on;
+  });
+  return Finish_List(std::move(best).text(), options);
+}
+
+}  // namespace quorvex
