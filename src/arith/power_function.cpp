@@ -59,7 +59,9 @@ bool Is_One(const Scaled_Number& number) {
 
 // Whether a whole number is greater than three. Fails for one that is a token.
 bool Is_Split(const NumberText& exponent) {
-  if (exponent.size() == 1 && !Has_Non_Digit(exponent)) return exponent > "3";
+  if (!exponent.empty() && exponent.front() != '0' && !Has_Non_Digit(exponent)) {
+    return exponent.size() > 1 || exponent.front() > '3';
+  }
   const HostValue answer = Compare_Numbers(exponent, "3", false, true);
   if (answer.is_text()) {
     throw Run_Time_Failure(Failure_Number::type_mismatch, "An exponent is no number.");

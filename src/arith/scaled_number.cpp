@@ -83,7 +83,7 @@ Scaled_Number Product(const Scaled_Number& a, const Scaled_Number& b, double lim
   Yield();
   Scaled_Number product;
   product.digits = Multiply_Digits(a.digits, b.digits);
-  if (Has_Token_Mark(product.digits)) return Scaled_Token(value_token);
+  if (product.digits.front() == token_mark) return Scaled_Token(value_token);
   product.negative = a.negative != b.negative;
   product.exponent = a.exponent + b.exponent;
   Strip_Zeros(product);
