@@ -52,11 +52,9 @@ Exponent_Split Split_Exactly(const NumberText& text) {
   std::from_chars(text.data(), text.data() + text.size(), n);
   std::uint64_t best = n;
   std::uint64_t A = n;
-  for (;;) {
-    // Never 0: with a half of 1 the cost is n - 1, and a split at n / 2 costs less than that.
-    const std::uint64_t a = A / 2;
-    const std::uint64_t b = n / a;
-    const std::uint64_t cost = a - 1 + (b - 1) + n % a;
+  // Ends before the half is 0: by 1 the split costs n - 1, and by n / 2 it cost less than that.
+  for (std::uint64_t a = n / 2; a > 0; a /= 2) {
+    const std::uint64_t cost = a - 1 + (n / a - 1) + n % a;
     if (best <= cost) break;
     best = cost;
     A = a;

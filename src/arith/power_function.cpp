@@ -59,9 +59,8 @@ bool Is_One(const Scaled_Number& number) {
 
 // Whether a whole number is greater than three. Fails for one that is a token.
 bool Is_Split(const NumberText& exponent) {
-  if (!exponent.empty() && exponent.front() != '0' && !Has_Non_Digit(exponent)) {
-    return exponent.size() > 1 || exponent.front() > '3';
-  }
+  const bool is_plain = !exponent.empty() && exponent.front() != '0' && !Has_Non_Digit(exponent);
+  if (is_plain || exponent == "0") return exponent.size() > 1 || exponent.front() > '3';
   const HostValue answer = Compare_Numbers(exponent, "3", false, true);
   if (answer.is_text()) {
     throw Run_Time_Failure(Failure_Number::type_mismatch, "An exponent is no number.");
@@ -76,30 +75,36 @@ Scaled_Number Reciprocal(const Scaled_Number& base, double limit) {
                              {.maximum_significant_digits = digits}, {.intermediate = true}));
 }
 
-// The product of one to three factors.
+// The product of one to three factors. The first one is multiplied by 1, which rounds it.
 Scaled_Number Multiply_Out(const Scaled_Number& base, int factors, double limit) {
   if (factors == 1) return Product(Digit('1'), base, limit);
-  Scaled_Number product = base;
-  Round(product, limit + 2);
-  for (; factors > 1 && !product.is_token(); --factors) product = Product(product, base, limit);
-  return product;
+  Scaled_Number rounded;
+  const bool is_cut = static_cast<double>(base.digits.size()) > limit + 2;
+  if (is_cut) {
+    rounded = base;
+    Round(rounded, limit + 2);
+  }
+  Scaled_Number product = Product(is_cut ? rounded : base, base, limit);
+  return factors == 2 ? product : Product(product, base, limit);
 }
 
 Scaled_Number Integer_Power(const Scaled_Number& base, const NumberText& n, double maxSD,
                             int depth);
 
+Scaled_Number Positive_Power(const Scaled_Number& base, const NumberText& exponent, double maxSD,
+                             double limit, int depth) {
+  if (Is_Split(exponent)) return Integer_Power(base, exponent, maxSD, depth);
+  return Multiply_Out(base, exponent.front() - '0', limit);
+}
+
 // A whole power of a number other than 0.
-Scaled_Number Whole_Power(Scaled_Number base, NumberText exponent, double maxSD,
+Scaled_Number Whole_Power(const Scaled_Number& base, const NumberText& exponent, double maxSD,
                           double working_digits, int depth) {
   if (exponent == "0" || Is_One(base)) return Digit('1');
   if (exponent == "1") return base;
   const double limit = working_digits + maxSD;
-  if (exponent.starts_with('-')) {
-    base = Reciprocal(base, limit);
-    exponent.erase(0, 1);
-  }
-  if (Is_Split(exponent)) return Integer_Power(base, exponent, maxSD, depth);
-  return Multiply_Out(base, exponent.front() - '0', limit);
+  if (!exponent.starts_with('-')) return Positive_Power(base, exponent, maxSD, limit, depth);
+  return Positive_Power(Reciprocal(base, limit), exponent.substr(1), maxSD, limit, depth);
 }
 
 // The power as `Do_Operation` gives it at the limit.
@@ -108,7 +113,7 @@ Scaled_Number Power_At(const Scaled_Number& base, const NumberText& exponent, do
   if (base.is_token()) return base;
   const double working_digits =
       static_cast<double>(Plain_Length(base)) + static_cast<double>(exponent.size());
-  Scaled_Number power = Whole_Power(base, exponent, limit + 1, working_digits, depth);
+  Scaled_Number power = Whole_Power(base, exponent, limit + 1, working_digits, depth + 1);
   Round(power, limit + 2);
   return power;
 }
@@ -155,7 +160,7 @@ Scaled_Number Power_Function(const Operand& base, const Operand& exponent,
   }
   if (power == "0") return Digit('1');
   if (number == "0") return Digit('0');
-  const Scaled_Number scaled = Scaled(number);
+  Scaled_Number scaled = Scaled(number);
   if (Is_One(scaled) || power == "1") return scaled;
   if (Has_Fraction(power)) {
     if (scaled.negative) return Scaled_Token(num_token);

@@ -105,8 +105,8 @@ void Round_Down(Digits& number, Place kept) {
 
 // False where the result would be a one with too many zeros.
 bool Round_To_Nearest(Digits& number, Place kept, Place places) {
-  // Decimals count as digits here: only a number with fewer digits than places is 0, and one with
-  // as many stays as it is where its first digit is not next to the places that are kept.
+  // Decimals count as digits here: a number that has as many as there are places to clear, by its
+  // decimals, and yet lies more than a digit below the place that is kept, stays as it is.
   if (Length(number) < -places) {
     Set_Zero(number);
     return true;

@@ -197,9 +197,9 @@ Parameters Power_Parameters() {
   Parameters parameters =
       With_Places({Operand_Parameter("number1", "the number to raise"),
                    Operand_Parameter("number2", "the power to raise it to, a whole number")});
-  parameters.insert(
-      parameters.end() - 2,
-      Optional("restrict_input_lengths", "TRUE refuses operands too long for a result in full"));
+  parameters.insert(parameters.end() - 2,
+                    Optional("restrict_input_lengths",
+                             "TRUE refuses operands of more than 1,073,741,824 digits together"));
   return parameters;
 }
 

@@ -111,9 +111,10 @@ class QUORVEX_API cls_Quorvex {
                        const HostValue& preserve_decimal_place = Missing);
 
   /// `number1` to the power `number2`, which must be whole; every step is rounded at the limit. An
-  /// exponent of 0 gives 1, and a base of 0 gives 0 otherwise. "#NUM!" for a base that is no number,
-  /// a negative base with a fractional exponent, and a power with more integer digits than a cell
-  /// can hold; "#VALUE!" for an exponent that is no number. `restrict_input_lengths` refuses, with
+  /// exponent of 0 gives 1, and a base of 0 gives 0 otherwise. "#NUM!" for a base that is no
+  /// number, a negative base with a fractional exponent, and a power with more integer digits than
+  /// a cell can hold; "#VALUE!" for an exponent that is no number. `restrict_input_lengths`
+  /// refuses, with
   /// "#NUM!", operands of more than half the ceiling of digits together; throws `Run_Time_Failure`
   /// 13 where it can't be read.
   NumberText qvxPOWER(const HostValue& number1, const HostValue& number2,
@@ -138,7 +139,8 @@ class QUORVEX_API cls_Quorvex {
   HostValue qvxISLESSOREQUAL(const HostValue& number1, const HostValue& number2);
 
   /// `num` rounded to `num_digits` decimal places: to the nearest by the first dropped digit, away
-  /// from zero, or towards it. A negative count acts one place short: -1 rounds to ones, -2 to tens.
+  /// from zero, or towards it. A negative count acts one place short: -1 rounds to ones, -2 to
+  /// tens.
   /// "#VALUE!" for what is no number and for a count below -32767. Throws `Run_Time_Failure` 13 for
   /// a count or an option that can't be read.
   NumberText qvxROUND(const HostValue& num, const HostValue& num_digits,
@@ -165,9 +167,9 @@ class QUORVEX_API cls_Quorvex {
   /// The maximum significant digits of a call that gives none, as a host number.
   HostValue qvxDEFAULTMAXSD();
 
-  /// An angle in the other unit, by a pi of `maxSD` digits. "#NUM!" beyond the digits of pi; an error
-  /// token for an angle that is no number. Throws `Run_Time_Failure` 13 for a `maxSD` that can't be
-  /// read, 5 for one below -1.
+  /// An angle in the other unit, by a pi of `maxSD` digits. "#NUM!" beyond the digits of pi; an
+  /// error token for an angle that is no number. Throws `Run_Time_Failure` 13 for a `maxSD` that
+  /// can't be read, 5 for one below -1.
   NumberText qvxRADIANS(const NumberText& degrees, const HostValue& maxSD = Missing);
   NumberText qvxDEGREES(const NumberText& radians, const HostValue& maxSD = Missing);
 

@@ -93,7 +93,6 @@ TEST(Rounding, LeavesWhatIsRound) {
     const Rounding_Direction direction = directions[random.below(3)];
     const NumberText once = Round(number, places, direction);
     for (const Rounding_Direction again : directions) {
-      // Up, nothing but 0 is below one unit, which a number rounded up is never.
       ASSERT_EQ(Round(once, places, again), once) << number << " to " << places;
     }
   }

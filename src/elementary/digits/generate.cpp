@@ -120,11 +120,12 @@ constexpr std::size_t longest_cell_text = 32767;
 // pi and e are rounded in their last decimal, the logarithms are cut. Results of full length have
 // always ended so, and worksheets compare them.
 std::string Pi() {
+  constexpr std::int64_t quarters = 4;
   Fixed_Point pi(longest_cell_text - 1);
-  pi.add_inverse_tangent(4 * 44, 57, false);
-  pi.add_inverse_tangent(4 * 7, 239, false);
-  pi.add_inverse_tangent(4 * -12, 682, false);
-  pi.add_inverse_tangent(4 * 24, 12943, false);
+  pi.add_inverse_tangent(quarters * 44, 57, false);
+  pi.add_inverse_tangent(quarters * 7, 239, false);
+  pi.add_inverse_tangent(quarters * -12, 682, false);
+  pi.add_inverse_tangent(quarters * 24, 12943, false);
   pi.round();
   return pi.decimals();
 }
