@@ -190,7 +190,7 @@ TEST(ExponentSplit, IsTheSameInRegistersAsByText) {
   for (int round = 0; round < 2000; ++round) {
     NumberText n = std::to_string(1 + random.below(9)) + random.digits(random.below(18));
     if (n.size() == 1) n = "4";
-    const double limit = static_cast<double>(n.size()) + static_cast<double>(random.below(4));
+    const auto limit = static_cast<double>(n.size() + 4 - random.below(n.size()));
     const Exponent_Split quick = Split_Exponent(n, limit);
     const Exponent_Split by_text = Split_Exponent_By_Text(n, limit);
     ASSERT_EQ(quick.A, by_text.A) << n << " at " << limit;
