@@ -8,6 +8,7 @@ import time
 
 SIZES = [10, 30, 100, 1000, 10_000, 100_000, 1_000_000]
 PRODUCT_SIZES = [10, 30, 100, 300, 1000, 3000, 10_000, 32_767, 100_000, 1_000_000]
+POWER_SIZES = [100, 1000, 10_000]
 
 decimal.setcontext(
     decimal.Context(prec=decimal.MAX_PREC, Emax=decimal.MAX_EMAX, Emin=decimal.MIN_EMIN)
@@ -82,6 +83,14 @@ def main():
             lambda a, b: str(context.divide(decimal.Decimal(a), decimal.Decimal(b))),
             digits(size, 1, "7"),
             digits(size, 2, "3"),
+            repetitions,
+        )
+    for size in POWER_SIZES:
+        context = decimal.Context(prec=size, Emax=decimal.MAX_EMAX, Emin=decimal.MIN_EMIN)
+        times[f"power/{size}"] = nanoseconds(
+            lambda a, b: str(context.power(decimal.Decimal(a), b)),
+            "1.0" + digits(size - 2, 1, "7"),
+            1000,
             repetitions,
         )
     for name, (count, call) in LISTS.items():

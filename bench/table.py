@@ -61,6 +61,21 @@ def print_quotients(times, peer):
         )
 
 
+def print_powers(times, peer):
+    """Whole calls of the power of 1000, and the longest pi."""
+    print("| call | digits | best peer / ours | ours | MPFR | decimal |")
+    print("|---|---:|---:|---:|---:|---:|")
+    for size in sizes(times, "Call/power"):
+        ours = times[f"Call/power/{size}"]
+        peers = [times[f"Mpfr/power/{size}"], peer[f"power/{size}"]]
+        print(
+            f"| qvxPOWER | {int(size):,} | {min(peers) / ours:.1f} | {unit(ours)} "
+            f"| {' | '.join(unit(time) for time in peers)} |"
+        )
+    for size in sizes(times, "Call/pi"):
+        print(f"| qvxPi | {int(size):,} | | {unit(times[f'Call/pi/{size}'])} | | |")
+
+
 LIST_CALLS = {"sum": "qvxSUM2", "mixed sum": "qvxSUM2", "max": "qvxMAX", "product": "qvxPRODUCT"}
 
 
@@ -109,6 +124,8 @@ def main():
     print_products(times, peer)
     print()
     print_quotients(times, peer)
+    print()
+    print_powers(times, peer)
     print()
     print_lists(times, peer)
     print()

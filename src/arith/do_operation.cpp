@@ -6,6 +6,7 @@
 
 #include "arith/add_digits.h"
 #include "arith/multiply_digits.h"
+#include "arith/power_function.h"
 #include "arith/recip_divide.h"
 #include "arith/resolve_signs.h"
 #include "arith/subtract_digits.h"
@@ -161,7 +162,19 @@ Raw_Result Divide(const type_SignOp& reduced, double limit) {
                      operand1.decimals() - operand2.decimals(), reduced.Negative);
 }
 
-Raw_Result Operate(const type_SignOp& reduced, double limit) {
+Raw_Result Raise(const type_SignOp& reduced, double limit, const Operation_Flags& flags) {
+  Scaled_Number power = Power_Function(*reduced.Operand1, *reduced.Operand2,
+                                       {limit, flags.restrict_input_lengths, flags.working_digits});
+  if (power.is_token()) return {NumberText(power.token), 0, false};
+  if (power.exponent < 0) {
+    return {std::move(power.digits), 1 - static_cast<double>(power.exponent), power.negative};
+  }
+  Require_Memory(texts_at_once * static_cast<double>(power.exponent));
+  power.digits.append(static_cast<std::size_t>(power.exponent), '0');
+  return {std::move(power.digits), 0, power.negative};
+}
+
+Raw_Result Operate(const type_SignOp& reduced, double limit, const Operation_Flags& flags) {
   switch (reduced.Operation) {
     case operation::add:
     case operation::subtract:
@@ -170,8 +183,9 @@ Raw_Result Operate(const type_SignOp& reduced, double limit) {
       return Multiply(reduced);
     case operation::divide:
       return Divide(reduced, limit);
-    case operation::root:
     case operation::power:
+      return Raise(reduced, limit, flags);
+    case operation::root:
       throw Run_Time_Failure(Failure_Number::invalid_call, "The operation has no routine yet.");
     default:
       return {};
@@ -191,7 +205,7 @@ NumberText Operate_On_Text(std::int16_t Operation, std::string_view number1,
     options.FormatDecimalPlace = Missing;
   }
 
-  Raw_Result raw = Operate(Resolve_Signs(Operation, operand1, operand2), options.maxSD);
+  Raw_Result raw = Operate(Resolve_Signs(Operation, operand1, operand2), options.maxSD, flags);
   if (Operation >= operation::multiply && Has_Token_Mark(raw.digits)) return raw.digits;
   return Format_Result(std::move(raw.digits), raw.position, !raw.negative, options,
                        flags.intermediate);

@@ -23,6 +23,10 @@ inline constexpr std::int16_t power = 6;
 struct Operation_Flags {
   /// An intermediate value of a worker: no length checks, and no fixed places.
   bool intermediate = false;
+  /// For roots and powers: refuses operands that have too many digits together.
+  bool restrict_input_lengths = false;
+  /// For roots and powers: the guard digits of their steps. Missing, they choose them.
+  const HostValue& working_digits = Missing;
 };
 
 /// Gives the result of an operation as formatted text with at most the limit plus two significant

@@ -251,6 +251,87 @@ std::vector<Method> Product_Rows() {
   };
 }
 
+Parameters Power_Parameters() {
+  Parameters parameters =
+      With_Places({Operand_Parameter("number1", "the number to raise"),
+                   Operand_Parameter("number2", "the power to raise it to, a whole number")});
+  parameters.insert(parameters.end() - 2,
+                    Optional("restrict_input_lengths",
+                             "TRUE refuses operands of more than 1,073,741,824 digits together"));
+  return parameters;
+}
+
+std::vector<Method> Power_Rows() {
+  return {
+      Row<&cls_Quorvex::qvxPOWER>(
+          "qvxPOWER", "Power", operators,
+          "Raises one number to the power of another number, with up to 32,767 significant digits "
+          "of precision. Number1 is raised to the power of number2.",
+          "qvxPOWER(\"1.000000001\", 1000000, , , , , 30)", Power_Parameters()),
+  };
+}
+
+Parameters Rounding_Parameters() {
+  return With_Formats(
+      {Operand_Parameter("num", first_number),
+       Operand_Parameter("num_digits",
+                         "the decimal places to keep; a negative count acts one place short, so "
+                         "that -2 rounds to tens")});
+}
+
+std::vector<Method> Rounding_Rows() {
+  return {
+      Row<&cls_Quorvex::qvxROUND>(
+          "qvxROUND", "Rounding", math,
+          "Rounds a number to a count of decimal places, with up to 32,767 significant digits of "
+          "precision. Halves are rounded away from zero.",
+          "qvxROUND(\"12345678901234567890.125\", 2)", Rounding_Parameters()),
+      Row<&cls_Quorvex::qvxROUNDUP>(
+          "qvxROUNDUP", "Rounding", math,
+          "Rounds a number away from zero to a count of decimal places, with up to 32,767 "
+          "significant digits of precision. The result is never below one unit of the last place.",
+          "qvxROUNDUP(\"0.00000000000000000001\", 2)", Rounding_Parameters()),
+      Row<&cls_Quorvex::qvxROUNDDOWN>(
+          "qvxROUNDDOWN", "Rounding", math,
+          "Rounds a number towards zero to a count of decimal places, with up to 32,767 "
+          "significant digits of precision.",
+          "qvxROUNDDOWN(\"-12345678901234567890.129\", 2)", Rounding_Parameters()),
+  };
+}
+
+std::vector<Method> Constant_Rows() {
+  const Parameters digits = {
+      Optional("digits", "the digits wanted, 32,767 at most; left out, the default limit")};
+  return {
+      Row<&cls_Quorvex::qvxPi>(
+          "qvxPi", "Constants", math,
+          "Returns the mathematical constant Pi, the ratio of circumference of a circle divided by "
+          "its diameter, with up to 32,767 significant digits of precision. Pi is the same for all "
+          "circles. Pi's decimal places continue infinitely and never repeat.",
+          "qvxPi(50)", digits),
+      Row<&cls_Quorvex::qvxE>(
+          "qvxE", "Constants", math,
+          "Returns the mathematical constant e, the base of natural logarithms, with up to 32,767 "
+          "significant digits of precision. e's decimal places continue infinitely and never "
+          "repeat.",
+          "qvxE(50)", digits),
+  };
+}
+
+std::vector<Method> Angle_Rows() {
+  const Parameter digits = Optional("maxSD", "the limit of significant digits, that of pi as well");
+  return {
+      Row<&cls_Quorvex::qvxRADIANS>(
+          "qvxRADIANS", "Trigonometry", math,
+          "Converts degrees to radians, with up to 32,767 significant digits of precision.",
+          "qvxRADIANS(\"90\", 30)", {Operand_Parameter("degrees", "an angle in degrees"), digits}),
+      Row<&cls_Quorvex::qvxDEGREES>(
+          "qvxDEGREES", "Trigonometry", math,
+          "Converts radians to degrees, with up to 32,767 significant digits of precision.",
+          "qvxDEGREES(\"0.5\", 30)", {Operand_Parameter("radians", "an angle in radians"), digits}),
+  };
+}
+
 Parameters Compared_By_Value() {
   return {By_Value("number1", first_number), By_Value("number2", second_number)};
 }
@@ -297,12 +378,17 @@ std::vector<Method> Comparison_Rows() {
   };
 }
 
-std::vector<Method> Last_Rows() {
+std::vector<Method> Default_Rows() {
   return {
       Row<&cls_Quorvex::qvxDEFAULTMAXSD>(
           "qvxDEFAULTMAXSD", "Call frame", not_offered,
           "Returns the maximum significant digits that a function uses when none are given.",
           "qvxDEFAULTMAXSD()", {}),
+  };
+}
+
+std::vector<Method> Last_Rows() {
+  return {
       Row<&cls_Quorvex::qvxFORMAT>("qvxFORMAT", "Formatting", miscellaneous,
                                    "Applies formatting to a number entered as text.",
                                    "qvxFORMAT(\"-1234567.891\", 2, TRUE, TRUE, , , 2)",
@@ -313,7 +399,8 @@ std::vector<Method> Last_Rows() {
 std::vector<Method> Make_Catalogue() {
   std::vector<Method> methods;
   for (auto rows : {Call_Frame_Rows(), Division_Rows(), List_Rows(), Number_Rows(), Product_Rows(),
-                    Comparison_Rows(), Last_Rows()}) {
+                    Power_Rows(), Comparison_Rows(), Rounding_Rows(), Constant_Rows(),
+                    Default_Rows(), Angle_Rows(), Last_Rows()}) {
     std::ranges::move(rows, std::back_inserter(methods));
   }
   return methods;

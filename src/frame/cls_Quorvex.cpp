@@ -2,6 +2,9 @@
 
 #include "arith/do_operation.h"
 #include "arith/recip_divide.h"
+#include "arith/round_function.h"
+#include "elementary/angle_units.h"
+#include "elementary/constants.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "lists/max_min_function.h"
@@ -28,6 +31,14 @@ HostValue Compare(const HostValue& number1, const HostValue& number2, bool testE
     std::string scratch2;
     return Compare_Numbers(Text_Of(number1, scratch1), Text_Of(number2, scratch2), testEqual,
                            testGreater);
+  });
+}
+
+NumberText Round(const HostValue& num, const HostValue& num_digits, Rounding_Direction direction,
+                 const Format_Arguments& format) {
+  return With_Memory_Failures([&] {
+    std::string scratch;
+    return Round_Function(Text_Of(num, scratch), Places_Of(num_digits), direction, format);
   });
 }
 
@@ -166,6 +177,20 @@ NumberText cls_Quorvex::qvxDIVIDE(
                        maximum_significant_digits, format_decimal_place, preserve_decimal_place});
 }
 
+NumberText cls_Quorvex::qvxPOWER(
+    const HostValue& number1, const HostValue& number2, const HostValue& format_negative,
+    const HostValue& format_thousands, const HostValue& format_currency,
+    const HostValue& exponential_notation, const HostValue& maximum_significant_digits,
+    const HostValue& restrict_input_lengths, const HostValue& format_decimal_place,
+    const HostValue& preserve_decimal_place) {
+  const bool restricted =
+      !restrict_input_lengths.is_missing() && To_Boolean(restrict_input_lengths);
+  return Do_Operation(operation::power, number1, number2,
+                      {format_negative, format_thousands, format_currency, exponential_notation,
+                       maximum_significant_digits, format_decimal_place, preserve_decimal_place},
+                      {.restrict_input_lengths = restricted});
+}
+
 HostValue cls_Quorvex::qvxISEQUAL(const HostValue& number1, const HostValue& number2) {
   return Shown(Compare(number1, number2, true, false));
 }
@@ -194,8 +219,51 @@ HostValue cls_Quorvex::qvxISLESSOREQUAL(const HostValue& number1, const HostValu
   return Shown(Compare(number2, number1, true, true));
 }
 
+NumberText cls_Quorvex::qvxROUND(const HostValue& num, const HostValue& num_digits,
+                                 const HostValue& format_negative,
+                                 const HostValue& format_thousands,
+                                 const HostValue& format_currency,
+                                 const HostValue& exponential_notation) {
+  return Round(num, num_digits, Rounding_Direction::nearest,
+               {format_negative, format_thousands, format_currency, exponential_notation});
+}
+
+NumberText cls_Quorvex::qvxROUNDUP(const HostValue& num, const HostValue& num_digits,
+                                   const HostValue& format_negative,
+                                   const HostValue& format_thousands,
+                                   const HostValue& format_currency,
+                                   const HostValue& exponential_notation) {
+  return Round(num, num_digits, Rounding_Direction::up,
+               {format_negative, format_thousands, format_currency, exponential_notation});
+}
+
+NumberText cls_Quorvex::qvxROUNDDOWN(const HostValue& num, const HostValue& num_digits,
+                                     const HostValue& format_negative,
+                                     const HostValue& format_thousands,
+                                     const HostValue& format_currency,
+                                     const HostValue& exponential_notation) {
+  return Round(num, num_digits, Rounding_Direction::down,
+               {format_negative, format_thousands, format_currency, exponential_notation});
+}
+
+NumberText cls_Quorvex::qvxPi(const HostValue& digits) {
+  return To_Text(Pi_Digits(Constant_Digits(digits)));
+}
+
+NumberText cls_Quorvex::qvxE(const HostValue& digits) {
+  return To_Text(E_Digits(Constant_Digits(digits)));
+}
+
 HostValue cls_Quorvex::qvxDEFAULTMAXSD() {
   return Default_MaxSD();
+}
+
+NumberText cls_Quorvex::qvxRADIANS(const NumberText& degrees, const HostValue& maxSD) {
+  return With_Memory_Failures([&] { return Radians_Function(degrees, maxSD); });
+}
+
+NumberText cls_Quorvex::qvxDEGREES(const NumberText& radians, const HostValue& maxSD) {
+  return With_Memory_Failures([&] { return Degrees_Function(radians, maxSD); });
 }
 
 NumberText cls_Quorvex::qvxFORMAT(const NumberText& number, const HostValue& format_negative,

@@ -139,6 +139,23 @@ class QUORVEX_API cls_Quorvex {
                        const HostValue& format_decimal_place = Missing,
                        const HostValue& preserve_decimal_place = Missing);
 
+  /// `number1` to the power `number2`, which must be whole; every step is rounded at the limit. An
+  /// exponent of 0 gives 1, and a base of 0 gives 0 otherwise. "#NUM!" for a base that is no
+  /// number, a negative base with a fractional exponent, and a power with more integer digits than
+  /// a cell can hold; "#VALUE!" for an exponent that is no number. `restrict_input_lengths`
+  /// refuses, with
+  /// "#NUM!", operands of more than half the ceiling of digits together; throws `Run_Time_Failure`
+  /// 13 where it can't be read.
+  NumberText qvxPOWER(const HostValue& number1, const HostValue& number2,
+                      const HostValue& format_negative = Missing,
+                      const HostValue& format_thousands = Missing,
+                      const HostValue& format_currency = Missing,
+                      const HostValue& exponential_notation = Missing,
+                      const HostValue& maximum_significant_digits = Missing,
+                      const HostValue& restrict_input_lengths = Missing,
+                      const HostValue& format_decimal_place = Missing,
+                      const HostValue& preserve_decimal_place = Missing);
+
   /// Comparisons, at any length: the text "True" or "False". "#NUM!" for what is no number, and an
   /// error token for itself; but `qvxISNOTEQUAL` answers "True" to "#VALUE!" and "#DIV/0!".
   /// Operands that have no text (missing, arrays) throw `Run_Time_Failure` 13.
@@ -150,8 +167,40 @@ class QUORVEX_API cls_Quorvex {
   HostValue qvxISLESS(const HostValue& number1, const HostValue& number2);
   HostValue qvxISLESSOREQUAL(const HostValue& number1, const HostValue& number2);
 
+  /// `num` rounded to `num_digits` decimal places: to the nearest by the first dropped digit, away
+  /// from zero, or towards it. A negative count acts one place short: -1 rounds to ones, -2 to
+  /// tens.
+  /// "#VALUE!" for what is no number and for a count below -32767. Throws `Run_Time_Failure` 13 for
+  /// a count or an option that can't be read.
+  NumberText qvxROUND(const HostValue& num, const HostValue& num_digits,
+                      const HostValue& format_negative = Missing,
+                      const HostValue& format_thousands = Missing,
+                      const HostValue& format_currency = Missing,
+                      const HostValue& exponential_notation = Missing);
+  NumberText qvxROUNDUP(const HostValue& num, const HostValue& num_digits,
+                        const HostValue& format_negative = Missing,
+                        const HostValue& format_thousands = Missing,
+                        const HostValue& format_currency = Missing,
+                        const HostValue& exponential_notation = Missing);
+  NumberText qvxROUNDDOWN(const HostValue& num, const HostValue& num_digits,
+                          const HostValue& format_negative = Missing,
+                          const HostValue& format_thousands = Missing,
+                          const HostValue& format_currency = Missing,
+                          const HostValue& exponential_notation = Missing);
+
+  /// Pi and e, cut to so many digits (`Default_MaxSD` if missing) and not rounded. "#NUM!" beyond
+  /// 32768 digits and for text that is no number. Throws `Run_Time_Failure` 5 below -1 digits.
+  NumberText qvxPi(const HostValue& digits = Missing);
+  NumberText qvxE(const HostValue& digits = Missing);
+
   /// The maximum significant digits of a call that gives none, as a host number.
   HostValue qvxDEFAULTMAXSD();
+
+  /// An angle in the other unit, by a pi of `maxSD` digits. "#NUM!" beyond the digits of pi; an
+  /// error token for an angle that is no number. Throws `Run_Time_Failure` 13 for a `maxSD` that
+  /// can't be read, 5 for one below -1.
+  NumberText qvxRADIANS(const NumberText& degrees, const HostValue& maxSD = Missing);
+  NumberText qvxDEGREES(const NumberText& radians, const HostValue& maxSD = Missing);
 
   /// `number` with the options applied, cut to the limit plus one digits. An error token, or the
   /// token for what is no number, comes back as it is. Throws `Run_Time_Failure` for an option that

@@ -34,10 +34,6 @@ Whole_Number Whole(const Decimal_Parts& parts) {
   return whole;
 }
 
-bool Can_Multiply() {
-  return !Has_Token_Mark(Multiply_Digits("1", "1"));
-}
-
 }  // namespace
 
 void Running_Product::multiply(std::string_view element, double msd) {

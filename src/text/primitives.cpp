@@ -87,6 +87,11 @@ bool Has_Two_Separators(std::string_view text) {
          text.find(separator, first + separator.size()) != std::string_view::npos;
 }
 
+std::string_view Integer_Part_Text(std::string_view text) {
+  const std::size_t separator = text.find(Decimal_Separator());
+  return separator == 0 ? "0" : text.substr(0, separator);
+}
+
 void Remove_Currency_Symbol(std::string& text) {
   Remove_All(text, Current_Locale().currency_symbol);
 }

@@ -53,6 +53,10 @@ void Remove_Decimal_Separator(std::string& text);
 /// True if a text holds the decimal separator more than once.
 bool Has_Two_Separators(std::string_view text);
 
+/// The text left of the decimal separator, sign and all; "0" if nothing stands there. The whole
+/// text if it has no separator.
+std::string_view Integer_Part_Text(std::string_view text);
+
 /// Takes the currency symbol out wherever it stands, upper and lower case being different.
 void Remove_Currency_Symbol(std::string& text);
 

@@ -1,0 +1,27 @@
+// The split of an exponent that a power is worked out by.
+#pragma once
+
+#include "host/host_value.h"
+
+namespace quorvex {
+
+/// An exponent as A times B plus C.
+struct Exponent_Split {
+  NumberText A;
+  NumberText B;
+  NumberText C;
+};
+
+/// The split of a whole number from 4 on that needs the fewest multiplications among those with A a
+/// half, a quarter, an eighth ... of it: 1000 is 31 * 32 + 8. The search ends where a split costs
+/// no less than the one before.
+///
+/// The search calculates at a limit of `maxSD` digits, as all steps of a power do. Where the limit
+/// is shorter than the exponent it finds another split, C can be negative, and the sum can miss the
+/// exponent. Fails with type_mismatch where the search comes to a token.
+Exponent_Split Split_Exponent(const NumberText& n, double maxSD);
+
+/// The same, always by arithmetic on text.
+Exponent_Split Split_Exponent_By_Text(const NumberText& n, double maxSD);
+
+}  // namespace quorvex
