@@ -59,25 +59,28 @@ class Long_Division {
 
   // rest = rest * base - quotient * divisor.
   //
-  // The high part of a product comes from the quotient as a fraction of the base in 63 bits, which
-  // is at most three units too small: it is right or one too small, and the low part makes up.
+  // The high part of a product comes from the quotient as a fraction of the base in 62 bits, which
+  // is less than two units too small: it is right or one too small, and the low part makes up.
   void take_off(Limb quotient) {
     constexpr auto scale = static_cast<Limb>((Wide{1} << 123U) / base);
-    const auto fraction = static_cast<Limb>(Wide{quotient} * scale >> 60U);
+    const auto fraction = static_cast<Limb>(Wide{quotient} * scale >> 61U);
+    const Limb* const divisor = divisor_;
+    Signed_Limb* const rest = rest_;
+    const std::size_t n = n_;
     Signed_Limb below = 0;  // the limb that moves up here
-    Signed_Limb owed = 0;   // the high part of the product below
+    Signed_Limb high_below = 0;
     Signed_Limb carry = 0;
-    for (std::size_t place = 0; place < n_; ++place) {
-      const auto high = static_cast<Limb>(Wide{fraction} * divisor_[place] >> 63U);
-      const Limb low = quotient * divisor_[place] - high * base;
-      const Signed_Limb limb = below - static_cast<Signed_Limb>(low) - owed;
+    for (std::size_t place = 0; place < n; ++place) {
+      const auto high = static_cast<Limb>(Wide{fraction} * (divisor[place] << 2U) >> 64U);
+      const Limb low = quotient * divisor[place] - high * base;
+      const Signed_Limb limb = below - static_cast<Signed_Limb>(low) - high_below;
       const Signed_Limb over = limb >> 60U;  // nearly as many bases
-      below = rest_[place];
-      rest_[place] = limb - over * signed_base + carry;
+      below = rest[place];
+      rest[place] = limb - over * signed_base + carry;
       carry = over;
-      owed = static_cast<Signed_Limb>(high);
+      high_below = static_cast<Signed_Limb>(high);
     }
-    rest_[n_ - 1] += (below - owed + carry) * signed_base;
+    rest[n - 1] += (below - high_below + carry) * signed_base;
   }
 
   // Brings all limbs but the highest between 0 and the base.
