@@ -22,14 +22,17 @@ namespace {
 //
 // 1. The last round gives floor(L - t) or floor(L - t - c), t = L e^2. It moves x by x e, less than
 //    a unit of digit p and a trifle, so that t is above 0 and below 2 * 10^(3-p). c comes from
-//    rounds whose product k x ends in a zero, where the complement is short by one unit of the
-//    product's last place; that has p + N + 1 places, so that c is x 10^(s+2) 10^-(p+N+1), at most
-//    1/k.
-// 2. If L is whole, all this is L - 1, as c + t < 1: the floor above, with two digits more.
-// 3. If not, it is floor(L), or one less where g/k < c + t. One less shows in the first p digits
+//    rounds whose product k x ends in a zero, where the complement is short by ten units of the
+//    product's last place; that has p + N + 1 places, so that c is x 10^(s+2) 10^-(p+N), at most
+//    10/k.
+// 2. If L is whole, the floor above is L - 1, with two digits more. So is what the round gives, if
+//    c + t is at most 1; for a k below 10 it is up to 6 less than L, which ends in two zeros then,
+//    and shows in those two places alone.
+// 3. If not, it is floor(L), or one less where g/k < c + t. (For a k below 10 it can be four less,
+//    but floor(L) ends in 33, 66, 11 or two digits of 142857.) One less shows in the first p digits
 //    only if digits p + 1 and p + 2 of floor(L) are zeros. Then k floor(L) ends in two zeros and g,
 //    which is 10^(s+2) less that, is a multiple of 100. So g/k is at least 100/k, and that is
-//    enough if t is below 99/k: always if N <= p - 2.
+//    enough if t is below 90/k: always if N <= p - 2.
 // 4. The fixed rounds before the digits are compared leave e below 10^(-p/4): they begin with e at
 //    most 0.6 (k = 2) or 0.52, and there are log2 p + ln n2 of them, rounded, n2 being 2 or more.
 //    The first digit, which is never corrected afterwards, is right if of the digits behind it the
@@ -102,10 +105,7 @@ NumberText Divide_Into_One(std::string_view k, std::size_t count) {
   std::array<std::int64_t, most> rest;
   std::array<limbs::Limb, most + 1> quotient;
   const bool is_near_power = k.front() == '1' && All(k.substr(1, n * limbs::digits - 1), '0');
-  if (is_near_power) {
-    NumberText nines(count, '9');
-    return nines;
-  }
+  if (is_near_power) return NumberText().assign(count, '9');
   limbs::Read_Fraction(k.substr(0, n * limbs::digits), n, divisor.data());
   const std::size_t behind = limbs::Count_For(count - 1);
   limbs::Divide_Into_One(divisor.data(), n, quotient.data(), behind + 1, rest.data());
@@ -184,30 +184,36 @@ std::optional<NumberText> Long_Reciprocal(const NumberText& k, std::size_t p) {
   return digits;
 }
 
+bool First_Digit_May_Waver(const limbs::Divisor& k, std::size_t length, std::size_t p) {
+  const limbs::Limb behind_first = (limbs::Ten_To(length) - 1) % k.number() + 1;
+  const std::size_t behind = std::min(Digits_Behind_First(p), limbs::digits);
+  return limbs::Wide{behind_first} * limbs::Ten_To(behind) <= k.number();
+}
+
 std::optional<NumberText> Short_Reciprocal(std::string_view significant, std::size_t p) {
   const limbs::Divisor k(limbs::Read(significant));
-  if (!Missing_From_Power(k, significant.size(), p)) return std::nullopt;
-  return Divide_Nines(k, significant.size(), p);
+  const std::size_t length = significant.size();
+  const bool is_told = Ends_Beyond_Doubt(length, p) && k.number() > 1
+                           ? !First_Digit_May_Waver(k, length, p)
+                           : Missing_From_Power(k, length, p).has_value();
+  if (!is_told) return std::nullopt;
+  return Divide_Nines(k, length, p);
 }
 
 }  // namespace
 
 std::optional<limbs::Limb> Missing_From_Power(const limbs::Divisor& k, std::size_t length,
                                               std::size_t p) {
-  const limbs::Limb number = k.number();
-  if (number == 1) return number;  // nines all along
-  const limbs::Limb behind_first = (limbs::Ten_To(length) - 1) % number + 1;
-  const std::size_t behind = std::min(Digits_Behind_First(p), limbs::digits);
-  if (limbs::Wide{behind_first} * limbs::Ten_To(behind) <= number) return std::nullopt;
-
+  if (k.number() == 1) return 1;  // nines all along
+  if (First_Digit_May_Waver(k, length, p)) return std::nullopt;
   const std::size_t nines = p + length - 1;
   Nines_Division division(k, nines);
   for (std::size_t place = 0; place < limbs::Count_For(nines); ++place) division.next();
   const limbs::Limb missing = division.rest() + 1;
   if (!Ends_Beyond_Doubt(length, p)) {
     const double dropped =
-        2 * static_cast<double>(number) * std::pow(10, 3 - static_cast<double>(p));
-    if (100 * static_cast<double>(missing) < 1 + dropped) return std::nullopt;
+        10 + 2 * static_cast<double>(k.number()) * std::pow(10, 3 - static_cast<double>(p));
+    if (100 * static_cast<double>(missing) < dropped) return std::nullopt;
   }
   return missing;
 }

@@ -87,7 +87,8 @@ void Divide(std::string_view X, std::string_view Y, Operands operands, std::int3
       In_32_Bits(product.power_of_inverse - std::min<std::int64_t>(sd, length) + length);
   const std::size_t before = quotient.digits.size();
   if (sd < 1 || Has_Token_Mark(quotient.digits)) {
-    quotient.digits = To_Text(Round_To_SD(std::move(quotient.digits), sd));
+    // A copy: a token that was cut can't be rounded, and is then what there is.
+    quotient.digits = To_Text(Round_To_SD(quotient.digits, sd));
   } else {
     Round_Digits(quotient.digits, sd);
   }

@@ -70,22 +70,26 @@ Approximation Start(const NumberText& k, double& n2) {
 }
 
 // 2 - k*x as a 1 and decimals, from the decimals of k*x. The last digit takes the tens complement;
-// where it is 0, no borrow runs on, and the number comes out one unit short.
+// where it is 0, it stays, no borrow runs on, and the number comes out ten units short.
 NumberText Two_Less(const NumberText& product) {
   NumberText complement;
   complement.reserve(product.size() + 1);
   complement += '1';
   for (const char digit : product) complement += static_cast<char>('0' + '9' - digit);
-  if (product.back() != '0') ++complement.back();
+  if (product.back() == '0') {
+    complement.back() = '0';
+  } else {
+    ++complement.back();
+  }
   return complement;
 }
 
 // One step of the iteration: x (2 - k x), whose scale falls by one when it passes a power of ten.
+// The mark of a token counts as below every digit.
 NumberText Step(const NumberText& k, const Approximation& x, double& scale) {
   Yield();
-  NumberText product = Multiply_Digits(k, x.digits);
-  if (Has_Token_Mark(product)) return product;
-  NumberText next = Multiply_Digits(x.digits, Two_Less(product));
+  NumberText next = Multiply_Digits(k, x.digits);
+  if (!Has_Token_Mark(next)) next = Multiply_Digits(x.digits, Two_Less(next));
   if (next.front() < x.digits.front()) scale -= 1;
   return next;
 }
@@ -167,7 +171,7 @@ type_Division_Recip myInverse5(const NumberText& k, std::int32_t p) {
     return {NumberText(static_cast<std::size_t>(std::max(p, 1)), '9'),
             std::numeric_limits<std::int32_t>::max()};
   }
-  if (Is_Plain_Divisor(k)) {
+  if (Is_Plain_Divisor(k) && Can_Multiply()) {
     auto quick = With_Handler([&] { return Quick_Reciprocal(k, p); },
                               [](const Run_Time_Failure&) { return std::optional<NumberText>(); });
     if (quick) return {std::move(*quick), Power_Of_Reciprocal(k.size(), p)};

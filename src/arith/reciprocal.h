@@ -24,8 +24,8 @@ struct type_Division_Recip {
 /// below 2 gives no digits.
 type_Division_Recip Iterated_Reciprocal(const NumberText& k, std::int32_t p);
 
-/// The same digits, most often without the iteration; "1" gives itself, "0" gives nines and the
-/// largest power. A power of ten beyond 32 bits fails with overflow.
+/// The same digits and tokens, most often without the iteration; "1" gives itself, "0" gives nines
+/// and the largest power. A power of ten beyond 32 bits fails with overflow.
 type_Division_Recip myInverse5(const NumberText& k, std::int32_t p);
 
 /// The power of ten of `p` digits of the reciprocal of a divisor of so many digits. Fails with

@@ -13,6 +13,7 @@
 #include "arith/quick_reciprocal.h"
 #include "arith/recip_divide.h"
 #include "support/locales.h"
+#include "support/without_libraries.h"
 
 namespace quorvex {
 namespace {
@@ -190,6 +191,34 @@ TEST(RecipDivide, AnswersAsToldByItsCases) {
     const type_Division_Recip quotient = Recip_Divide(dividend, divisor, sd);
     EXPECT_EQ(quotient.digits, digits) << X << " by " << Y;
     EXPECT_EQ(quotient.powerOfTen, power) << X << " by " << Y;
+  }
+}
+
+// A token takes part in what is done to digits: it is cut, and cut again.
+TEST(RecipDivide, CutsATokenLikeDigits) {
+  const std::vector<std::pair<std::int32_t, const char*>> cases = {
+      {1, "#VAL"}, {2, "#VALU"}, {3, "#VALUE"}, {4, "#VAL"}, {6, "#VALUE"}, {7, "#VALUE!"}};
+  for (const auto& [sd, digits] : cases) {
+    NumberText dividend = "12.5";
+    NumberText divisor = "3";
+    EXPECT_EQ(Recip_Divide(dividend, divisor, sd).digits, digits) << sd;
+    dividend = "2";
+    divisor = "12.5";
+    EXPECT_EQ(Recip_Divide(dividend, divisor, sd).digits, digits) << sd;
+  }
+}
+
+TEST(RecipDivide, HasNoDigitsWithoutTheLibraryOfProducts) {
+  const Without_Libraries without;
+  for (const char* k : {"7", "12345678901234567890123"}) {
+    for (const std::int32_t p : {7, 20, 400}) EXPECT_EQ(myInverse5(k, p).digits, "#VALUE!") << k;
+  }
+  for (const char* divisor : {"7", "70000"}) {
+    for (const std::int32_t sd : {1, 30, 400}) {
+      NumberText X = "22";
+      NumberText Y = divisor;
+      EXPECT_EQ(Recip_Divide(X, Y, sd).digits, sd == 1 ? "#VAL" : "#VALUE!") << divisor;
+    }
   }
 }
 

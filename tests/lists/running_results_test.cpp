@@ -9,6 +9,7 @@
 #include "lists/running_sum.h"
 #include "support/exact_decimal.h"
 #include "support/surroundings.h"
+#include "support/without_libraries.h"
 #include "text/options.h"
 #include "text/tokens.h"
 
@@ -127,17 +128,12 @@ TEST(RunningSum, PassesOverWhatHasNoRoom) {
 }
 
 TEST(RunningProduct, IsOneWhereProductsCantBeFormed) {
-  class No_Libraries final : public Library_Loader {
-   public:
-    void* symbol(const char*, const char*) override { return nullptr; }
-  };
-  const auto before = std::exchange(Current_Platform().libraries, std::make_shared<No_Libraries>());
+  const Without_Libraries without;
   Running_Product product;
   product.multiply("7", maximum_digits);
   EXPECT_EQ(product.text(), "1");
   product.multiply("0", maximum_digits);
   EXPECT_EQ(product.text(), "0");
-  Current_Platform().libraries = before;
 }
 
 }  // namespace
