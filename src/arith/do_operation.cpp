@@ -222,7 +222,12 @@ NumberText Do_Operation(std::int16_t Operation, const HostValue& number1, const 
         return Operate_On_Text(Operation, Operand_Text(number1, scratch1),
                                Operand_Text(number2, scratch2), format, flags);
       },
-      [](const Run_Time_Failure&) { return NumberText(value_token); });
+      [&](const Run_Time_Failure& failure) {
+        if (flags.lack_of_memory_fails && failure.number() == Failure_Number::out_of_memory) {
+          throw Run_Time_Failure(failure);
+        }
+        return NumberText(value_token);
+      });
 }
 
 }  // namespace quorvex

@@ -23,6 +23,9 @@ inline constexpr std::int16_t power = 6;
 struct Operation_Flags {
   /// An intermediate value of a worker: no length checks, and no fixed places.
   bool intermediate = false;
+  /// Lack of memory fails with out_of_memory instead of giving "#VALUE!", for callers to whom that
+  /// token means that an operand is no number.
+  bool lack_of_memory_fails = false;
   /// For roots and powers: refuses operands that have too many digits together.
   bool restrict_input_lengths = false;
   /// For roots and powers: the guard digits of their steps. Missing, they choose them.

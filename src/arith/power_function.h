@@ -23,7 +23,8 @@ struct Power_Options {
 /// exponent, for operands that are too long where they are restricted, and for a power with more
 /// integer digits than a text can have. Fails with type_mismatch for an exponent that is no number,
 /// with invalid_call for a fractional one, which has no routine yet, and with too_complex for one
-/// that is so much longer than the limit that its splits are split without end.
+/// whose splits are split more than a thousand deep. An exponent that is longer than the limit can
+/// take any time, but yields.
 Scaled_Number Power_Function(const Operand& base, const Operand& exponent,
                              const Power_Options& options);
 

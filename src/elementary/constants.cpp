@@ -30,7 +30,9 @@ double Count(const HostValue& digits) {
   return With_Handler([&] { return To_Number(digits); },
                       [&](const Run_Time_Failure& failure) {
                         if (!digits.is_text()) throw failure;
-                        return 2 * maximum_digits;
+                        const bool is_number = failure.number() == Failure_Number::overflow;
+                        const bool is_small = is_number && !Is_Positive(digits.text());
+                        return is_small ? -maximum_digits : 2 * maximum_digits;
                       });
 }
 

@@ -184,11 +184,11 @@ std::vector<Method> List_Rows() {
           "precision.  \"format:negative,thousands,currency,exponent,MSD=n\"",
           "qvxSUM2({1, 2; 3, \"no number\"}, \"99999999999999999999\", \"format:thousands\")",
           Number_List()),
-      Row<&cls_Quorvex::qvxCOUNT>(
-          "qvxCOUNT", "List", statistical,
-          "Returns how many of the arguments are numbers, with up to 32,767 significant digits of "
-          "precision.  \"format:negative,thousands,currency,exponent,MSD=n\"",
-          "qvxCOUNT(1, \"2\", \"two\", TRUE, \"3.00000000000000000001\")", Number_List()),
+      Row<&cls_Quorvex::qvxCOUNT>("qvxCOUNT", "List", statistical,
+                                  "Returns how many of the arguments are numbers.  "
+                                  "\"format:negative,thousands,currency,exponent,MSD=n\"",
+                                  "qvxCOUNT(1, \"2\", \"two\", TRUE, \"3.00000000000000000001\")",
+                                  Number_List()),
       Row<&cls_Quorvex::qvxMAX>(
           "qvxMAX", "List", statistical,
           "Returns the largest of the numeric arguments, with up to 32,767 significant digits of "
@@ -300,8 +300,8 @@ std::vector<Method> Rounding_Rows() {
 }
 
 std::vector<Method> Constant_Rows() {
-  const Parameters digits = {
-      Optional("digits", "the digits wanted, 32,767 at most; left out, the default limit")};
+  const Parameters digits = {Optional(
+      "digits", "the digits wanted, of 32,767 that there are; left out, the default limit")};
   return {
       Row<&cls_Quorvex::qvxPi>(
           "qvxPi", "Constants", math,

@@ -20,7 +20,7 @@ class Running_Product {
  public:
   /// Multiplies by an element, with so many significant digits as the limit. What is no number
   /// leaves the product as it is, and so does everything but 0 where products can't be formed.
-  /// Fails with out_of_memory where a partial product has no room.
+  /// Fails with out_of_memory where an element or a partial product has no room.
   void multiply(std::string_view element, double msd);
 
   /// The product as plain text. Fails as `multiply` does.

@@ -35,7 +35,8 @@ bool Running_Sum::add(std::string_view element, double msd) {
         is_number = operand.is_number();
         return !is_number || add_in_place(operand, msd);
       },
-      [&](const Run_Time_Failure&) {
+      [&](const Run_Time_Failure& failure) {
+        if (failure.number() == Failure_Number::out_of_memory) throw Run_Time_Failure(failure);
         is_number = false;
         return true;
       });
@@ -60,8 +61,9 @@ bool Running_Sum::add_in_chain(std::string_view element, double msd) {
     in_chain_ = true;
   }
   const HostValue limit = msd;
-  NumberText sum = Do_Operation(operation::add, chain_, element,
-                                {.maximum_significant_digits = limit}, {.intermediate = true});
+  NumberText sum =
+      Do_Operation(operation::add, chain_, element, {.maximum_significant_digits = limit},
+                   {.intermediate = true, .lack_of_memory_fails = true});
   if (Has_Token_Mark(sum)) return false;
   chain_ = std::move(sum);
   return true;

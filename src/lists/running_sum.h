@@ -17,7 +17,8 @@ namespace quorvex {
 class Running_Sum {
  public:
   /// Adds an element, with so many significant digits as the limit. False if it is no number, which
-  /// leaves the sum as it was.
+  /// leaves the sum as it was. Fails with out_of_memory for one that has no room: passed over, it
+  /// would make the sum wrong.
   bool add(std::string_view element, double msd);
 
   /// The sum as plain text.

@@ -21,13 +21,18 @@ constexpr std::size_t line = 64;
 #define QUORVEX_NATIVE_SEES_BLOCKS
 #endif
 #if defined(QUORVEX_NATIVE_SEES_BLOCKS)
-constexpr std::size_t most_kept = 0;
+constexpr bool keeps_blocks = false;
 #else
-constexpr std::size_t most_kept = std::size_t{13} << 20U;
+constexpr bool keeps_blocks = true;
 #endif
+constexpr std::size_t most_kept = std::size_t{13} << 20U;
 
 // Blocks that no call of the system stands behind.
 constexpr std::size_t few = std::size_t{16} << 10U;
+
+bool Is_Kept(std::size_t bytes) {
+  return keeps_blocks && bytes > few && bytes <= most_kept;
+}
 
 // Before each block stands a line of its own with its size.
 struct alignas(line) Block {
@@ -50,7 +55,7 @@ Kept kept;
 }  // namespace
 
 void* Take_Memory(std::size_t bytes) noexcept {
-  if (bytes > few && bytes <= most_kept) {
+  if (Is_Kept(bytes)) {
     Block* const block = kept.take();
     if (block != nullptr && block->bytes >= bytes) return block + 1;
     std::free(block);
@@ -64,8 +69,7 @@ void* Take_Memory(std::size_t bytes) noexcept {
 void Give_Memory_Back(void* memory) noexcept {
   if (memory == nullptr) return;
   Block* const block = static_cast<Block*>(memory) - 1;
-  const bool is_kept = block->bytes > few && block->bytes <= most_kept;
-  std::free(is_kept ? kept.keep(block) : block);
+  std::free(Is_Kept(block->bytes) ? kept.keep(block) : block);
 }
 
 }  // namespace quorvex::native

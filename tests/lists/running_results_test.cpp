@@ -116,15 +116,19 @@ TEST(RunningSum, SettlesCarriesBeforeTheyOverflow) {
   }
 }
 
-TEST(RunningSum, PassesOverWhatHasNoRoom) {
-  Running_Sum sum;
-  ASSERT_TRUE(sum.add("1.5", maximum_digits));
-  {
+// Passed over as if it were no number, an element would make the result wrong.
+TEST(RunningResults, FailWhereAnElementHasNoRoom) {
+  for (const double msd : {3.0, maximum_digits}) {
+    Running_Sum sum;
+    Running_Product product;
+    for (int i = 0; i < 3; ++i) {
+      ASSERT_TRUE(sum.add("1.2345", msd));
+      product.multiply("1.2345", msd);
+    }
     const Memory_Guard poor(0);
-    EXPECT_FALSE(sum.add("1E+2000000000", maximum_digits));
+    EXPECT_THROW(sum.add("1E+2000000000", msd), Run_Time_Failure) << msd;
+    EXPECT_THROW(product.multiply("1E+2000000000", msd), Run_Time_Failure) << msd;
   }
-  ASSERT_TRUE(sum.add("2", maximum_digits));
-  EXPECT_EQ(sum.text(), "3.5");
 }
 
 TEST(RunningProduct, IsOneWhereProductsCantBeFormed) {
