@@ -18,18 +18,12 @@ struct Exact_Remainder {
 };
 
 /// The dividend less the divisor times the whole part of the quotient. Both are numbers, the
-/// divisor is not 0. Fails with invalid_call where products can't be formed, as the quotient and
-/// the product would, and with out_of_memory.
+/// divisor is not 0. Fails with invalid_call where products can't be formed, which dividing takes,
+/// and with out_of_memory.
 ///
-/// It is what the three operations give: the quotient to as many digits as both texts have together
-/// and six more, cut; its product with the divisor; the difference. Let D be the divisor as a whole
-/// number, both operands scaled by the same power of ten, I the integer digits of the quotient Q.
-/// The texts are long enough for I and the digits of D together, but for one. If Q is not whole, it
-/// lies 1/D or more from any whole number. Rounded to so many digits it moves by 10^-4/D at most,
-/// and does not reach one. If Q is whole, the quotient comes out exactly: the product with the
-/// reciprocal, three digits longer, is less than eleven units of its last place below Q, begins
-/// with the digits of Q less one and a run of nines, and is rounded up. The product has no more
-/// digits than its limit, and the difference is cut only where the result is.
+/// It is defined by three operations: the quotient, to as many digits as both texts have together
+/// (those of a number in E notation written out) and six more, made whole; its product with the
+/// divisor; the difference. The proof that this is the same stands with the code.
 Exact_Remainder Remainder_Of(const Operand& dividend, const Operand& divisor, Quotient_Cut cut);
 
 }  // namespace quorvex

@@ -34,29 +34,45 @@ double Wanted_Sign(const HostValue& sign) {
                       [](const Run_Time_Failure&) { return of_divisor; });
 }
 
-bool Is_Shown_Positive(const HostValue& sign, const NumberText& remainder,
+// The difference before formatting; a token has no place and is positive.
+struct Raw_Remainder {
+  NumberText digits;
+  double position = 0;
+  bool positive = true;
+};
+
+// The operation that forms the difference keeps two digits more than the limit. What that does not
+// cut need not be written out and read again.
+Raw_Remainder As_Operation_Gives(Exact_Remainder exact, double limit) {
+  if (static_cast<double>(exact.digits.size()) <= limit + 2) {
+    return {std::move(exact.digits), exact.position, !exact.negative};
+  }
+  type_Restrictionator options;
+  options.maxSD = std::min(limit, maximum_digits) + 1;
+  const NumberText text =
+      Format_Result(std::move(exact.digits), exact.position, !exact.negative, options, true);
+  type_CleanUp clean = Clean_Up_Number(text, false, false);
+  return {std::move(clean.NumClean), clean.DecPos, Is_Positive(text)};
+}
+
+Raw_Remainder Remainder(std::string_view dividend, const Operand& divisor, Quotient_Cut cut,
+                        double limit) {
+  return With_Handler(
+      [&]() -> Raw_Remainder {
+        const Operand number(dividend);
+        if (!number.is_number()) return {NumberText(value_token)};
+        return As_Operation_Gives(Remainder_Of(number, divisor, cut), limit);
+      },
+      [](const Run_Time_Failure&) { return Raw_Remainder{NumberText(value_token)}; });
+}
+
+bool Is_Shown_Positive(const HostValue& sign, const Raw_Remainder& remainder,
                        const HostValue& dividend, const HostValue& divisor) {
   const double wanted = Wanted_Sign(sign);
-  if (wanted == of_remainder) return Is_Positive(remainder);
+  if (wanted == of_remainder) return remainder.positive;
   if (wanted == of_dividend) return Is_Positive(dividend);
   if (wanted == none || wanted == minus) return wanted == none;
   return Is_Positive(divisor);
-}
-
-// As an operation gives it: no formats, one guard digit here, and one more from formatting.
-NumberText Remainder_Text(std::string_view dividend, const Operand& divisor, Quotient_Cut cut,
-                          double limit) {
-  return With_Handler(
-      [&] {
-        const Operand number(dividend);
-        if (!number.is_number()) return NumberText(value_token);
-        Exact_Remainder remainder = Remainder_Of(number, divisor, cut);
-        type_Restrictionator options;
-        options.maxSD = std::min(limit, maximum_digits) + 1;
-        return Format_Result(std::move(remainder.digits), remainder.position, !remainder.negative,
-                             options, true);
-      },
-      [](const Run_Time_Failure&) { return NumberText(value_token); });
 }
 
 }  // namespace
@@ -78,10 +94,9 @@ NumberText Mod_Function(const HostValue& dividend, const HostValue& divisor,
     throw Run_Time_Failure(Failure_Number::type_mismatch, "The divisor is no number.");
   }
   if (Is_Zero(number->parts())) return "DIV/0!";
-  const NumberText remainder = Remainder_Text(dividend_text, *number, cut, limit);
+  Raw_Remainder remainder = Remainder(dividend_text, *number, cut, limit);
   const bool positive = Is_Shown_Positive(sign, remainder, dividend, divisor);
-  type_CleanUp clean = Clean_Up_Number(remainder, false, false);
-  return Close_Number(std::move(clean.NumClean), clean.DecPos, positive, format);
+  return Close_Number(std::move(remainder.digits), remainder.position, positive, format);
 }
 
 }  // namespace quorvex

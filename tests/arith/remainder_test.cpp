@@ -133,9 +133,9 @@ class Whole {
   mpz_t number_;
 };
 
-// Long division reaches to 64 limbs of eighteen digits, of divisor or quotient.
+// Long division reaches to 48 limbs of eighteen digits, of divisor or quotient.
 TEST(Remainders, OfLongNumbersAreExact) {
-  const std::size_t lengths[] = {17, 18, 19, 36, 37, 1151, 1152, 1153, 1170, 1171, 2400, 5000};
+  const std::size_t lengths[] = {17, 18, 19, 36, 37, 863, 864, 865, 882, 883, 2400, 5000};
   Random_Numbers random(82);
   for (const std::size_t divisor_length : lengths) {
     for (const std::size_t quotient_length : lengths) {
