@@ -8,6 +8,7 @@ import time
 
 SIZES = [10, 30, 100, 1000, 10_000, 100_000, 1_000_000]
 PRODUCT_SIZES = [10, 30, 100, 300, 1000, 3000, 10_000, 32_767, 100_000, 1_000_000]
+REMAINDER_SIZES = [30, 100, 1000, 10_000, 100_000]
 POWER_SIZES = [100, 1000, 10_000]
 
 decimal.setcontext(
@@ -85,6 +86,14 @@ def main():
             digits(size, 2, "3"),
             repetitions,
         )
+    for size in REMAINDER_SIZES:
+        for divisor, length in (("20", 20), ("half", size // 2)):
+            times[f"mod by {divisor}/{size}"] = nanoseconds(
+                lambda a, b: str(decimal.Decimal(a) % decimal.Decimal(b)),
+                digits(size, 1, "7"),
+                digits(length, 2, "3"),
+                repetitions,
+            )
     for size in POWER_SIZES:
         context = decimal.Context(prec=size, Emax=decimal.MAX_EMAX, Emin=decimal.MIN_EMIN)
         times[f"power/{size}"] = nanoseconds(

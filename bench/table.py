@@ -61,6 +61,21 @@ def print_quotients(times, peer):
         )
 
 
+def print_remainders(times, peer):
+    """Whole calls by a divisor of twenty digits, and by one of half the dividend's digits."""
+    print("| divisor | digits | best peer / ours | ours | three operations | GMP | decimal |")
+    print("|---|---:|---:|---:|---:|---:|---:|")
+    for divisor in ("20", "half"):
+        for size in sizes(times, f"Call/mod by {divisor}"):
+            call = f"mod by {divisor}/{size}"
+            ours, peers = times[f"Call/{call}"], [times[f"Gmp/{call}"], peer[call]]
+            spent = [ours, times[f"Operations/{call}"], *peers]
+            print(
+                f"| {divisor} | {int(size):,} | {min(peers) / ours:.1f} "
+                f"| {' | '.join(unit(time) for time in spent)} |"
+            )
+
+
 def print_powers(times, peer):
     """Whole calls of the power of 1000, and the longest pi."""
     print("| call | digits | best peer / ours | ours | MPFR | decimal |")
@@ -124,6 +139,8 @@ def main():
     print_products(times, peer)
     print()
     print_quotients(times, peer)
+    print()
+    print_remainders(times, peer)
     print()
     print_powers(times, peer)
     print()

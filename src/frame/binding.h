@@ -27,6 +27,8 @@ constexpr Parameter_Kind Kind_Of() {
     return Parameter_Kind::text;
   } else if constexpr (std::is_same_v<Value, std::int32_t>) {
     return Parameter_Kind::integer;
+  } else if constexpr (std::is_same_v<Value, bool>) {
+    return Parameter_Kind::boolean;
   } else if constexpr (std::is_same_v<Value, List>) {
     return Parameter_Kind::list;
   } else {
@@ -54,13 +56,16 @@ NumberText& Text_In_Place(HostValue& argument);
 /// no list is the only element of one.
 const List& List_In_Place(HostValue& argument);
 
-/// An argument as a parameter takes it: a value or a list by reference, text converted.
+/// An argument as a parameter takes it: a value or a list by reference, text and truth values
+/// converted. A truth value that is left out is false.
 template <typename Type>
 decltype(auto) Take(HostValue& argument) {
   if constexpr (Kind_Of<Type>() == Parameter_Kind::value) {
     return (argument);
   } else if constexpr (Kind_Of<Type>() == Parameter_Kind::integer) {
     return To_Int32(argument);
+  } else if constexpr (Kind_Of<Type>() == Parameter_Kind::boolean) {
+    return !argument.is_missing() && To_Boolean(argument);
   } else if constexpr (Kind_Of<Type>() == Parameter_Kind::list) {
     return (List_In_Place(argument));
   } else if constexpr (std::is_same_v<Type, NumberText&>) {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "frame/binding.h"
+#include "frame/catalogue_rows.h"
 #include "host/run_time_failure.h"
 
 namespace quorvex {
@@ -42,69 +43,7 @@ const List& List_In_Place(HostValue& argument) {
 
 namespace {
 
-using Parameters = std::vector<Parameter>;
-
-constexpr std::string_view operators = "High-Precision Operators";
-constexpr std::string_view math = "High-Precision Math";
-constexpr std::string_view statistical = "High-Precision Statistical";
-constexpr std::string_view information = "High-Precision Information";
-constexpr std::string_view miscellaneous = "High-Precision Miscellaneous";
-constexpr std::string_view not_offered;
-
-Parameter Operand_Parameter(std::string_view name, std::string_view help) {
-  return {name, help};
-}
-
-Parameter By_Value(std::string_view name, std::string_view help) {
-  return {.name = name, .help = help, .by_value = true};
-}
-
-Parameter Optional(std::string_view name, std::string_view help) {
-  return {.name = name, .help = help, .optional = true};
-}
-
-// Parameters followed by the formatting options that most methods take.
-Parameters With_Formats(Parameters parameters) {
-  parameters.insert(parameters.end(),
-                    {Optional("format_negative",
-                              "0 shows no sign, 1 a leading minus (the default), 2 parentheses"),
-                     Optional("format_thousands", "TRUE groups the integer digits by thousands"),
-                     Optional("format_currency", "TRUE attaches the currency symbol"),
-                     Optional("exponential_notation", "TRUE writes E notation, without grouping")});
-  return parameters;
-}
-
-Parameters With_Digits(Parameters parameters) {
-  parameters = With_Formats(std::move(parameters));
-  parameters.push_back(Optional("maximum_significant_digits",
-                                "the limit of significant digits; left out, the default limit"));
-  return parameters;
-}
-
-Parameters With_Places(Parameters parameters) {
-  parameters = With_Digits(std::move(parameters));
-  parameters.push_back(
-      Optional("format_decimal_place", "a fixed count of decimal places, rounded half up"));
-  parameters.push_back(Optional("preserve_decimal_place", "accepted, without effect"));
-  return parameters;
-}
-
-constexpr std::string_view first_number = "a number";
-constexpr std::string_view second_number = "another number";
-
-template <auto method>
-Method Row(std::string_view name, std::string_view family, std::string_view category,
-           std::string_view description, std::string_view example, Parameters parameters) {
-  using Bound = binding::Bound<method>;
-  if (parameters.size() != Bound::kinds.size()) {
-    throw std::logic_error(std::string(name) + " is described with another count of parameters.");
-  }
-  for (std::size_t place = 0; place < parameters.size(); ++place) {
-    parameters[place].kind = Bound::kinds[place];
-  }
-  return {name,          family,        category, description, example, std::move(parameters),
-          Bound::result, &Bound::Invoke};
-}
+using namespace catalogue;
 
 std::vector<Method> Call_Frame_Rows() {
   return {
@@ -160,7 +99,7 @@ Parameters Number_List() {
                             "currency, exponent, MSD=n")};
 }
 
-std::vector<Method> List_Rows() {
+std::vector<Method> Cell_Sum_Rows() {
   return {
       Row<&cls_Quorvex::qvxSUM>(
           "qvxSUM", "List", math,
@@ -168,6 +107,11 @@ std::vector<Method> List_Rows() {
           "Every cell must be a number or blank.",
           "qvxSUM({1, \"0.00000000000000000001\"; 2, 3}, , TRUE)",
           With_Digits({Operand_Parameter("rngArray", "a range of several cells, or an array")})),
+  };
+}
+
+std::vector<Method> List_Rows() {
+  return {
       Row<&cls_Quorvex::qvxAVERAGE>(
           "qvxAVERAGE", "List", statistical,
           "Returns the average of the numeric arguments, with up to 32,767 significant digits of "
@@ -204,7 +148,7 @@ std::vector<Method> List_Rows() {
   };
 }
 
-std::vector<Method> Number_Rows() {
+std::vector<Method> Recognition_Rows() {
   return {
       Row<&cls_Quorvex::qvxISNUMBER>(
           "qvxISNUMBER", "Recognition", information,
@@ -212,11 +156,11 @@ std::vector<Method> Number_Rows() {
           "functions, with up to 32,767 significant digits of precision. Returns TRUE if input can "
           "be evaluated as a number by Quorvex functions; returns FALSE if not.",
           "qvxISNUMBER(\"-1,234.5\")", {Operand_Parameter("num", "a value or text")}),
-      Row<&cls_Quorvex::qvxSIGN>(
-          "qvxSIGN", "Comparison", math,
-          "Determines the sign of a number, with up to 32,767 significant digits of precision. "
-          "Returns 1 for a positive number, 0 for zero and -1 for a negative number.",
-          "qvxSIGN(-273.15)", {Operand_Parameter("num", first_number)}),
+  };
+}
+
+std::vector<Method> Sum_Rows() {
+  return {
       Row<&cls_Quorvex::qvxADD>(
           "qvxADD", "Arithmetic", operators,
           "Adds two numbers, with up to 32,767 significant digits of precision.",
@@ -398,9 +342,10 @@ std::vector<Method> Last_Rows() {
 
 std::vector<Method> Make_Catalogue() {
   std::vector<Method> methods;
-  for (auto rows : {Call_Frame_Rows(), Division_Rows(), List_Rows(), Number_Rows(), Product_Rows(),
-                    Power_Rows(), Comparison_Rows(), Rounding_Rows(), Constant_Rows(),
-                    Default_Rows(), Angle_Rows(), Last_Rows()}) {
+  for (auto rows : {Call_Frame_Rows(), Division_Rows(), Cell_Sum_Rows(), Parity_Rows(), List_Rows(),
+                    Recognition_Rows(), Whole_Number_Rows(), Sign_Rows(), Sum_Rows(),
+                    Product_Rows(), Power_Rows(), Comparison_Rows(), Rounding_Rows(),
+                    Constant_Rows(), Default_Rows(), Angle_Rows(), Last_Rows()}) {
     std::ranges::move(rows, std::back_inserter(methods));
   }
   return methods;

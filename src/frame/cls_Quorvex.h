@@ -70,6 +70,40 @@ class QUORVEX_API cls_Quorvex {
                     const HostValue& exponential_notation = Missing,
                     const HostValue& maximum_significant_digits = Missing);
 
+  /// Whether the whole part of `num` is odd, or even. An empty one is even. The text "#NUM!" for
+  /// what is no number. Throws `Run_Time_Failure` 13 as `qvxISNUMBER` does.
+  HostValue qvxISODD(const HostValue& num);
+  HostValue qvxISEVEN(const HostValue& num);
+
+  /// The next whole number that is even, or odd: away from zero, or with a 2 towards zero. The
+  /// second argument sends negative numbers the other way. An empty `num` is 0, and 0 counts as
+  /// positive; "#VALUE!" for what is no number. Throws `Run_Time_Failure` 13 for an option that
+  /// can't be read and for a `num` without text.
+  NumberText qvxEVEN(const HostValue& num, bool RoundNegTowardZero = false,
+                     const HostValue& format_negative = Missing,
+                     const HostValue& format_thousands = Missing,
+                     const HostValue& format_currency = Missing,
+                     const HostValue& exponential_notation = Missing);
+  NumberText qvxODD(const HostValue& num, bool RoundNegTowardZero = false,
+                    const HostValue& format_negative = Missing,
+                    const HostValue& format_thousands = Missing,
+                    const HostValue& format_currency = Missing,
+                    const HostValue& exponential_notation = Missing);
+  NumberText qvxEVEN2(const HostValue& num, bool RoundNegAwayFromZero = false,
+                      const HostValue& format_negative = Missing,
+                      const HostValue& format_thousands = Missing,
+                      const HostValue& format_currency = Missing,
+                      const HostValue& exponential_notation = Missing);
+  NumberText qvxODD2(const HostValue& num, bool RoundNegAwayFromZero = false,
+                     const HostValue& format_negative = Missing,
+                     const HostValue& format_thousands = Missing,
+                     const HostValue& format_currency = Missing,
+                     const HostValue& exponential_notation = Missing);
+
+  /// Whether `num` is an error value of the host or a text that holds "#". "DIV/0!" and "VALUE!",
+  /// which some functions give, are no errors by it.
+  bool qvxISERROR(const HostValue& num);
+
   /// Functions of a list: single values, arrays and ranges, in order. Blanks are passed over, and
   /// so is text that is no number. How the result is formatted stands in the list as well, as text:
   /// "format:" and any of the words negative, thousands, currency, exponent, MSD=n, in any case and
@@ -94,10 +128,87 @@ class QUORVEX_API cls_Quorvex {
   /// missing value and for an array, which have no text.
   bool qvxISNUMBER(const HostValue& num);
 
+  /// `num` rounded down to a whole number, and `num` cut to `num_digits` places towards zero, all
+  /// digits kept. An empty one is 0. "#VALUE!" for what is no number, whichever token it is. Throws
+  /// `Run_Time_Failure` 13 for a count or an option that can't be read and for a `num` without
+  /// text.
+  NumberText qvxINT(const HostValue& num, const HostValue& format_negative = Missing,
+                    const HostValue& format_thousands = Missing,
+                    const HostValue& format_currency = Missing,
+                    const HostValue& exponential_notation = Missing);
+  NumberText qvxTRUNC(const HostValue& num, const HostValue& num_digits = Missing,
+                      const HostValue& format_negative = Missing,
+                      const HostValue& format_thousands = Missing,
+                      const HostValue& format_currency = Missing,
+                      const HostValue& exponential_notation = Missing);
+
+  /// What stands right of the separator, unchecked; with `as_int` as a whole number. "0" for text
+  /// without a separator. `sign` 1 (the default) gives the sign of `num`, 2 none, 3 a minus. Throws
+  /// `Run_Time_Failure` 13 or 6 for an argument that can't be read, 13 for a `num` without text or,
+  /// with `sign` 1, without a sign.
+  NumberText qvxFRAC(const HostValue& num, const HostValue& as_int = Missing,
+                     const HostValue& sign = Missing, const HostValue& format_negative = Missing,
+                     const HostValue& format_thousands = Missing,
+                     const HostValue& format_currency = Missing,
+                     const HostValue& exponential_notation = Missing,
+                     const HostValue& maximum_significant_digits = Missing);
+
+  /// What is left of `dividend` by `divisor`: the quotient is rounded down by `qvxMOD`, cut towards
+  /// zero by `qvxMODTRUNC`. The sign of the result is set apart from that: `sign` 1 leaves it as
+  /// it comes out, 2 gives that of the dividend, 3 (the default) that of the divisor, 4 none, 5 a
+  /// minus. "#VALUE!" for an empty operand and a dividend that is no number, "DIV/0!" for a divisor
+  /// of 0. Throws `Run_Time_Failure` 13 for a divisor that is no number and an option that can't be
+  /// read.
+  ///
+  /// `qvxREMAINDER` reads its arguments one place on: `sign` says whether the quotient is cut
+  /// towards zero (it must be given, or the call throws 13), `format_negative` is its sign,
+  /// `format_thousands` its style of negatives, and so on up to `maximum_significant_digits`, which
+  /// asks for E notation; the limit is the default one. Worksheets are written to that, so it
+  /// stays.
+  NumberText qvxMOD(const HostValue& dividend, const HostValue& divisor,
+                    const HostValue& sign = Missing, const HostValue& format_negative = Missing,
+                    const HostValue& format_thousands = Missing,
+                    const HostValue& format_currency = Missing,
+                    const HostValue& exponential_notation = Missing,
+                    const HostValue& maximum_significant_digits = Missing);
+  NumberText qvxMODTRUNC(const HostValue& dividend, const HostValue& divisor,
+                         const HostValue& sign = Missing,
+                         const HostValue& format_negative = Missing,
+                         const HostValue& format_thousands = Missing,
+                         const HostValue& format_currency = Missing,
+                         const HostValue& exponential_notation = Missing,
+                         const HostValue& maximum_significant_digits = Missing);
+  NumberText qvxREMAINDER(const HostValue& dividend, const HostValue& divisor,
+                          const HostValue& sign = Missing,
+                          const HostValue& format_negative = Missing,
+                          const HostValue& format_thousands = Missing,
+                          const HostValue& format_currency = Missing,
+                          const HostValue& exponential_notation = Missing,
+                          const HostValue& maximum_significant_digits = Missing);
+
+  /// The number without its sign, all digits kept. An empty one is 0. The token of what is no
+  /// number: "#NUM!" or "#VALUE!", or itself. Throws `Run_Time_Failure` 13 for an option that can't
+  /// be read and for a `num` without text.
+  NumberText qvxABS(const HostValue& num, const HostValue& format_negative = Missing,
+                    const HostValue& format_thousands = Missing,
+                    const HostValue& format_currency = Missing,
+                    const HostValue& exponential_notation = Missing);
+
   /// The number 1, 0 or -1 by the sign of `num`; "0" as text for a blank cell or empty text,
   /// "#VALUE!" for what is no number. The sign is looked for at the very start of the value:
   /// *'-5'*, in quote marks, gives 1. Throws `Run_Time_Failure` 13 as `qvxISNUMBER` does.
   HostValue qvxSIGN(const HostValue& num);
+
+  /// The number with a negative sign, whichever it had, and with the opposite one; otherwise as
+  /// `qvxABS`. But `qvxNEG` of an empty one is "VALUE!".
+  NumberText qvxNEG(const HostValue& num, const HostValue& format_negative = Missing,
+                    const HostValue& format_thousands = Missing,
+                    const HostValue& format_currency = Missing,
+                    const HostValue& exponential_notation = Missing);
+  NumberText qvxCHANGESIGN(const HostValue& num, const HostValue& format_negative = Missing,
+                           const HostValue& format_thousands = Missing,
+                           const HostValue& format_currency = Missing,
+                           const HostValue& exponential_notation = Missing);
 
   /// The sum, or the difference `number1` less `number2`. Any operand or option that can't be read
   /// gives "#VALUE!"; an operand that is an error token gives that token.

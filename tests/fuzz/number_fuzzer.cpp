@@ -1,5 +1,6 @@
 // Any bytes as number text: what is recognised is what addition accepts, no routine lets a failure
-// out that it promises to keep, and what is formatted reads back as the same number.
+// out that it promises to keep, what is formatted reads back as the same number, and a number is
+// its whole part and the rest.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -71,6 +72,20 @@ void Check_Format(const std::string& text, bool exponential) {
           "what is formatted reads back as another number", formatted);
 }
 
+void Check_Whole_Part(const std::string& text) {
+  cls_Quorvex engine;
+  const HostValue all = 2147483648.0;
+  const NumberText whole = engine.qvxTRUNC(text);
+  const HostValue odd = engine.qvxISODD(text);
+  (void)engine.qvxFRAC(text, true, Missing, Missing, true, true, true);
+  (void)engine.qvxEVEN(text);
+  if (odd.is_text() || text.empty()) return;
+  Require(odd.boolean() == (engine.qvxMODTRUNC(whole, 2) == "1"), "parity differs", text);
+  const NumberText rest = engine.qvxMODTRUNC(text, 1, 1, Missing, Missing, Missing, Missing, all);
+  const NumberText less = engine.qvxSUBTRACT(text, whole, Missing, Missing, Missing, Missing, all);
+  Require(rest == less, "a number is not its whole part and what it leaves by 1", text);
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -86,5 +101,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Check_Recognition(text);
   Check_Comparison(text);
   Check_Format(text, exponential);
+  Check_Whole_Part(text);
   return 0;
 }

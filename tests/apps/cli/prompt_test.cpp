@@ -25,7 +25,7 @@ TEST(Prompt, CompletesNames) {
   };
   const std::vector<Completion_Case> cases = {
       {"qvxad", "qvxADD(", 0},       {"=qvxADD(QVXSUB", "qvxSUBTRACT(", 0},
-      {"help qvxad", "qvxADD", 0},   {"qvxis", "qvxIS", 7},
+      {"help qvxad", "qvxADD", 0},   {"qvxis", "qvxIS", 10},
       {"qvxisg", "qvxISGREATER", 2}, {"fun", "functions", 0},
       {"qvxADD(fun", "", 0},         {"nothing", "", 0},
   };

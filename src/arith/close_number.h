@@ -1,0 +1,20 @@
+// The step that every function of one number ends with.
+#pragma once
+
+#include "host/host_value.h"
+#include "text/options.h"
+
+namespace quorvex {
+
+/// Formats digits without sign and separator, `position` being the place of the separator from the
+/// right end. They are cut to the limit of the call and one digit more; fixed places have no part
+/// in it. Tokens come back as they are, but an option that can't be read fails with type_mismatch
+/// for them too.
+NumberText Close_Number(NumberText digits, double position, bool positive,
+                        const Format_Arguments& format);
+
+/// The same without a cut: whatever the default limit, all digits stay.
+NumberText Close_In_Full(NumberText digits, double position, bool positive,
+                         const Format_Arguments& format);
+
+}  // namespace quorvex
