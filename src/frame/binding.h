@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <tuple>
 #include <type_traits>
@@ -27,6 +28,10 @@ constexpr Parameter_Kind Kind_Of() {
     return Parameter_Kind::text;
   } else if constexpr (std::is_same_v<Value, std::int32_t>) {
     return Parameter_Kind::integer;
+  } else if constexpr (std::is_same_v<Value, bool>) {
+    return Parameter_Kind::boolean;
+  } else if constexpr (std::is_same_v<Value, std::optional<NumberText>>) {
+    return Parameter_Kind::text;
   } else if constexpr (std::is_same_v<Value, List>) {
     return Parameter_Kind::list;
   } else {
@@ -54,13 +59,19 @@ NumberText& Text_In_Place(HostValue& argument);
 /// no list is the only element of one.
 const List& List_In_Place(HostValue& argument);
 
-/// An argument as a parameter takes it: a value or a list by reference, text converted.
+/// An argument as a parameter takes it: a value or a list by reference, text converted. A boolean
+/// that is missing is false.
 template <typename Type>
 decltype(auto) Take(HostValue& argument) {
   if constexpr (Kind_Of<Type>() == Parameter_Kind::value) {
     return (argument);
   } else if constexpr (Kind_Of<Type>() == Parameter_Kind::integer) {
     return To_Int32(argument);
+  } else if constexpr (Kind_Of<Type>() == Parameter_Kind::boolean) {
+    return !argument.is_missing() && To_Boolean(argument);
+  } else if constexpr (std::is_same_v<std::remove_cvref_t<Type>, std::optional<NumberText>>) {
+    return argument.is_missing() ? std::nullopt
+                                 : std::optional<NumberText>(std::move(Text_In_Place(argument)));
   } else if constexpr (Kind_Of<Type>() == Parameter_Kind::list) {
     return (List_In_Place(argument));
   } else if constexpr (std::is_same_v<Type, NumberText&>) {

@@ -160,7 +160,7 @@ Parameters Number_List() {
                             "currency, exponent, MSD=n")};
 }
 
-std::vector<Method> List_Rows() {
+std::vector<Method> Sum_Rows() {
   return {
       Row<&cls_Quorvex::qvxSUM>(
           "qvxSUM", "List", math,
@@ -168,6 +168,33 @@ std::vector<Method> List_Rows() {
           "Every cell must be a number or blank.",
           "qvxSUM({1, \"0.00000000000000000001\"; 2, 3}, , TRUE)",
           With_Digits({Operand_Parameter("rngArray", "a range of several cells, or an array")})),
+  };
+}
+
+Parameters Square_Root_Parameters() {
+  return {Operand_Parameter("num", first_number),
+          Optional("format_thousands", "TRUE groups the integer digits by thousands"),
+          Optional("format_currency", "TRUE attaches the currency symbol"),
+          Optional("exponential_notation", "TRUE writes E notation, without grouping"),
+          Optional("maxSD", "the limit of significant digits; left out, the default limit")};
+}
+
+std::vector<Method> Square_Root_Rows() {
+  return {
+      Row<&cls_Quorvex::qvxSQRT>(
+          "qvxSQRT", "Root", math,
+          "Returns the square root of a number, with up to 32,767 significant digits of precision.",
+          "qvxSQRT(2, , , , 50)", Square_Root_Parameters()),
+      Row<&cls_Quorvex::qvxSQRTPI>(
+          "qvxSQRTPI", "Root", math,
+          "Returns the square root of (number * Pi), with up to 32,767 significant digits of "
+          "precision.",
+          "qvxSQRTPI(1, , , , 50)", Square_Root_Parameters()),
+  };
+}
+
+std::vector<Method> List_Rows() {
+  return {
       Row<&cls_Quorvex::qvxAVERAGE>(
           "qvxAVERAGE", "List", statistical,
           "Returns the average of the numeric arguments, with up to 32,767 significant digits of "
@@ -251,10 +278,9 @@ std::vector<Method> Product_Rows() {
   };
 }
 
-Parameters Power_Parameters() {
-  Parameters parameters =
-      With_Places({Operand_Parameter("number1", "the number to raise"),
-                   Operand_Parameter("number2", "the power to raise it to, a whole number")});
+// Parameters of operations that can refuse long operands.
+Parameters With_Restriction(Parameters parameters) {
+  parameters = With_Places(std::move(parameters));
   parameters.insert(parameters.end() - 2,
                     Optional("restrict_input_lengths",
                              "TRUE refuses operands of more than 1,073,741,824 digits together"));
@@ -263,11 +289,23 @@ Parameters Power_Parameters() {
 
 std::vector<Method> Power_Rows() {
   return {
+      Row<&cls_Quorvex::qvxROOT>(
+          "qvxROOT", "Root", operators,
+          "Returns the root of a number, with up to 32,767 significant digits of precision. "
+          "Number2 is the degree of the root of number1.",
+          "qvxROOT(2, 7, , , , , 50)",
+          With_Restriction(
+              {Operand_Parameter("number1", "the number to take the root of"),
+               Operand_Parameter("number2",
+                                 "the degree: 2 for the square root, 3 for the cube root; it may "
+                                 "be fractional or negative")})),
       Row<&cls_Quorvex::qvxPOWER>(
           "qvxPOWER", "Power", operators,
           "Raises one number to the power of another number, with up to 32,767 significant digits "
           "of precision. Number1 is raised to the power of number2.",
-          "qvxPOWER(\"1.000000001\", 1000000, , , , , 30)", Power_Parameters()),
+          "qvxPOWER(\"1.000000001\", 1000000, , , , , 30)",
+          With_Restriction({Operand_Parameter("number1", "the number to raise"),
+                            Operand_Parameter("number2", "the power to raise it to")})),
   };
 }
 
@@ -296,6 +334,57 @@ std::vector<Method> Rounding_Rows() {
           "Rounds a number towards zero to a count of decimal places, with up to 32,767 "
           "significant digits of precision.",
           "qvxROUNDDOWN(\"-12345678901234567890.129\", 2)", Rounding_Parameters()),
+  };
+}
+
+std::vector<Method> Reduction_Rows() {
+  return {
+      Row<&cls_Quorvex::qvxREDUCEFRACTION>(
+          "qvxREDUCEFRACTION", "Fractions", math,
+          "Reduces a fraction to its lowest terms, with up to 32,767 significant digits of "
+          "precision. Returns the fraction, its numerator, its divisor and the number it was "
+          "reduced by, across a row and down a column.",
+          "qvxREDUCEFRACTION(\"1234567890123456789012\", \"9876543210987654321096\")",
+          {Operand_Parameter("Numerator", first_number),
+           Operand_Parameter("divisor", second_number),
+           Optional("simplify_signs", "TRUE leaves a minus to the numerator at most"),
+           Optional("always_simplify_fraction",
+                    "TRUE reduces also where the numerator becomes larger"),
+           Optional("return_numerator", "TRUE returns the numerator alone"),
+           Optional("return_divisor", "TRUE returns the divisor alone"),
+           Optional("return_reduced_by", "TRUE returns the number it was reduced by alone"),
+           Optional("fraction_separator",
+                    "what stands between numerator and divisor; a slash if left out")}),
+  };
+}
+
+std::vector<Method> Divisor_Rows() {
+  return {
+      Row<&cls_Quorvex::qvxGCD>(
+          "qvxGCD", "Fractions", math,
+          "Returns the greatest common divisor of the numeric arguments, cut to whole numbers, "
+          "with up to 32,767 significant digits of precision.  "
+          "\"format:negative,thousands,currency,exponent,MSD=n\"",
+          "qvxGCD(\"123456789012345678901234567890\", \"987654321098765432109876543210\")",
+          Number_List()),
+      Row<&cls_Quorvex::qvxGCD2>(
+          "qvxGCD2", "Fractions", math,
+          "Returns the greatest common divisor of the numeric arguments, which are not cut to "
+          "whole numbers, with up to 32,767 significant digits of precision.  "
+          "\"format:negative,thousands,currency,exponent,MSD=n\"",
+          "qvxGCD2(7.5, 4.5)", Number_List()),
+      Row<&cls_Quorvex::qvxLCM>(
+          "qvxLCM", "Fractions", math,
+          "Returns the least common multiple of the numeric arguments, cut to whole numbers, with "
+          "up to 32,767 significant digits of precision.  "
+          "\"format:negative,thousands,currency,exponent,MSD=n\"",
+          "qvxLCM(4, 6, \"12345678901234567890\")", Number_List()),
+      Row<&cls_Quorvex::qvxLCM2>(
+          "qvxLCM2", "Fractions", math,
+          "Returns the least common multiple of the numeric arguments, which are not cut to whole "
+          "numbers, with up to 32,767 significant digits of precision.  "
+          "\"format:negative,thousands,currency,exponent,MSD=n\"",
+          "qvxLCM2(7.5, 4.5)", Number_List()),
   };
 }
 
@@ -398,9 +487,10 @@ std::vector<Method> Last_Rows() {
 
 std::vector<Method> Make_Catalogue() {
   std::vector<Method> methods;
-  for (auto rows : {Call_Frame_Rows(), Division_Rows(), List_Rows(), Number_Rows(), Product_Rows(),
-                    Power_Rows(), Comparison_Rows(), Rounding_Rows(), Constant_Rows(),
-                    Default_Rows(), Angle_Rows(), Last_Rows()}) {
+  for (auto rows : {Call_Frame_Rows(), Division_Rows(), Sum_Rows(), Square_Root_Rows(), List_Rows(),
+                    Number_Rows(), Product_Rows(), Power_Rows(), Comparison_Rows(), Rounding_Rows(),
+                    Reduction_Rows(), Divisor_Rows(), Constant_Rows(), Default_Rows(), Angle_Rows(),
+                    Last_Rows()}) {
     std::ranges::move(rows, std::back_inserter(methods));
   }
   return methods;
