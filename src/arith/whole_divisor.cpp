@@ -1,12 +1,16 @@
 #include "arith/whole_divisor.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <string_view>
 #include <utility>
 
 #include "arith/do_operation.h"
+#include "arith/exact_divisor.h"
 #include "arith/round_function.h"
 #include "host/platform.h"
 #include "text/clean_up_number.h"
+#include "text/digit_runs.h"
 #include "text/format_result.h"
 #include "text/options.h"
 #include "text/primitives.h"
@@ -39,13 +43,32 @@ NumberText Remainder(const NumberText& dividend, const NumberText& divisor, doub
                        false);
 }
 
+std::string_view Digits_Of(const NumberText& number) {
+  const std::string_view digits = Strip_Sign(number);
+  return digits.substr(Count_Leading_Zeros(digits));
+}
+
+// A remainder is less than what it is divided by, and ends in all the zeros that both end in: where
+// the longer of the two fits the limit without these, no remainder is ever cut.
+bool Is_Exact(std::string_view a, std::string_view b, double maxSD) {
+  const std::size_t zeros = std::min(Count_Trailing_Zeros(a), Count_Trailing_Zeros(b));
+  return maxSD >= 1 && static_cast<double>(std::max(a.size(), b.size()) - zeros) <= maxSD + 1;
+}
+
 }  // namespace
 
-Common_Divisor Divisor_Of(const NumberText& A, const NumberText& B, double maxSD) {
+Common_Divisor Divisor_Of(const NumberText& A, const NumberText& B, double maxSD,
+                          Remainders remainders) {
   NumberText X = A;
   NumberText Y = B;
   for (bool is_first = true; X != "0"; is_first = false) {
     Yield();
+    const std::string_view x = Digits_Of(X);
+    const std::string_view y = Digits_Of(Y);
+    if (remainders == Remainders::quick && Is_Exact(x, y, maxSD)) {
+      if (is_first && x == y) return {true, {}};
+      return {false, Exact_Divisor(x, y)};
+    }
     NumberText remainder = Remainder(Y, X, maxSD);
     if (is_first && remainder == "0") {
       remainder = Remainder(X, Y, maxSD);
@@ -54,7 +77,7 @@ Common_Divisor Divisor_Of(const NumberText& A, const NumberText& B, double maxSD
     if (Has_Token_Mark(remainder)) return {false, std::move(remainder)};
     Y = std::exchange(X, std::move(remainder));
   }
-  return {false, NumberText(Strip_Sign(Y))};
+  return {false, NumberText(Digits_Of(Y))};
 }
 
 }  // namespace quorvex

@@ -10,9 +10,13 @@ struct Common_Divisor {
   NumberText divisor;      // or the token of a step
 };
 
+/// How remainders are found: one after the other as text, or many at once where none is cut.
+enum class Remainders { quick, by_text };
+
 /// Euclid's algorithm on whole numbers other than 0, which may have a sign and zeros at the left.
 /// Remainders take the sign of what they are divided by, and are rounded to the limit and one
 /// digit more.
-Common_Divisor Divisor_Of(const NumberText& A, const NumberText& B, double maxSD);
+Common_Divisor Divisor_Of(const NumberText& A, const NumberText& B, double maxSD,
+                          Remainders remainders = Remainders::quick);
 
 }  // namespace quorvex

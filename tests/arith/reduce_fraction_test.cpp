@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <string>
 
+#include "arith/exact_divisor.h"
 #include "arith/whole_divisor.h"
 #include "support/failures.h"
 #include "support/random_numbers.h"
@@ -82,6 +83,47 @@ TEST(ReducedFractions, AreRoundedAtTheLimit) {
   for (const auto& c : cases) {
     const type_Fraction fraction = Reduce_Fraction(c.numerator, c.divisor, {.maxSD = limit});
     EXPECT_EQ(fraction.Reduced_By, c.expected) << c.numerator;
+  }
+}
+
+TEST(CommonDivisor, IsTheSameByTextAndInWords) {
+  Random_Numbers random(82);
+  for (int round = 0; round < 600; ++round) {
+    const std::size_t most = random.one_in(4) ? 200 : 30;
+    std::string A = Product(Random_Whole(random, most), Random_Whole(random, most));
+    std::string B = random.one_in(8) ? A : Product(Random_Whole(random, most), A);
+    if (random.one_in(2)) B = Random_Whole(random, most);
+    if (random.one_in(3)) A += std::string(random.below(60), '0');
+    if (random.one_in(3)) B += std::string(random.below(60), '0');
+    const auto limit = static_cast<double>(1 + random.below(2 * most));
+    const Common_Divisor quick = Divisor_Of(A, B, limit);
+    const Common_Divisor by_text = Divisor_Of(A, B, limit, Remainders::by_text);
+    ASSERT_EQ(quick.are_equal, by_text.are_equal) << A << ' ' << B << " at " << limit;
+    ASSERT_EQ(quick.divisor, by_text.divisor) << A << ' ' << B << " at " << limit;
+  }
+}
+
+// Quotients of many words, and of one bit.
+TEST(CommonDivisor, IsExactInWords) {
+  Random_Numbers random(83);
+  for (int round = 0; round < 1500; ++round) {
+    const auto whole = [&] {
+      return std::to_string(1 + random.below(9)) + random.digits(random.length(400));
+    };
+    std::string A = whole();
+    std::string B = random.one_in(3) ? random.neighbour(A) : whole();
+    if (B.front() == '-') B.erase(0, 1);
+    B.erase(0, std::min(B.find_first_not_of('0'), B.size() - 1));
+    if (random.one_in(2)) {
+      const std::string common = whole();
+      A = Product(A, common);
+      B = Product(B, common);
+    }
+    const Integer a(A);
+    const Integer b(B);
+    Integer divisor;
+    mpz_gcd(divisor.value, a.value, b.value);
+    ASSERT_EQ(Exact_Divisor(A, B), divisor.text()) << A << ' ' << B;
   }
 }
 
