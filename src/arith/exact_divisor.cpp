@@ -121,8 +121,9 @@ void Reduce(Number& a, const Number& b) {
     const std::size_t b_bits = Bits(b);
     const std::size_t a_shift = a_bits > 126 ? a_bits - 126 : 0;
     const std::size_t b_shift = b_bits > 63 ? b_bits - 63 : 0;
-    Wide factor = Shifted_Right(a, a_shift) /
-                  (Shifted_Right(b, b_shift) + static_cast<Word>(b_shift > 0 ? 1 : 0));
+    const Wide divisor = Shifted_Right(b, b_shift) + static_cast<Word>(b_shift > 0 ? 1 : 0);
+    if (divisor == 0) return;  // only if b is 0, which leaves a as it is
+    Wide factor = Shifted_Right(a, a_shift) / divisor;
     std::size_t shift = 0;
     if (a_shift >= b_shift) {
       shift = a_shift - b_shift;
