@@ -182,7 +182,7 @@ NumberText Mean_Root(const NumberText& radicand, NumberText start, double maxSD)
     }
     quotient = Intermediate(operation::divide, radicand, mean, limit);
     if (Has_Token_Mark(quotient)) return quotient;
-    const NumberText sum = Intermediate(operation::add, quotient, mean, limit);
+    NumberText sum = Intermediate(operation::add, quotient, mean, limit);
     if (Has_Token_Mark(sum)) return sum;
     mean = Intermediate(operation::divide, sum, "2", limit);
     if (Has_Token_Mark(mean)) return mean;

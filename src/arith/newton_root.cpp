@@ -132,7 +132,7 @@ NumberText Newton_Root(const NumberText& radicand, const NumberText& degree, Num
   NumberText value = std::move(start);
   for (;;) {
     Yield();
-    const NumberText before = std::move(value);
+    NumberText before = std::move(value);
     value = iteration.next(before);
     if (Has_Token_Mark(value)) return value;
     if (Is_Equal(value, "0")) {

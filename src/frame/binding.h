@@ -24,14 +24,13 @@ constexpr Parameter_Kind Kind_Of() {
   using Value = std::remove_cvref_t<Type>;
   if constexpr (std::is_same_v<Value, HostValue>) {
     return Parameter_Kind::value;
-  } else if constexpr (std::is_same_v<Value, NumberText>) {
+  } else if constexpr (std::is_same_v<Value, NumberText> ||
+                       std::is_same_v<Value, std::optional<NumberText>>) {
     return Parameter_Kind::text;
   } else if constexpr (std::is_same_v<Value, std::int32_t>) {
     return Parameter_Kind::integer;
   } else if constexpr (std::is_same_v<Value, bool>) {
     return Parameter_Kind::boolean;
-  } else if constexpr (std::is_same_v<Value, std::optional<NumberText>>) {
-    return Parameter_Kind::text;
   } else if constexpr (std::is_same_v<Value, List>) {
     return Parameter_Kind::list;
   } else {
