@@ -175,15 +175,7 @@ TEST(NewtonRoot, BeginsAnewFromTheTimeOfDay) {
 
 TEST(NewtonRoot, OfWhatHasNoneEndsWhereValuesComeBack) {
   // A fourth root of -1 is nowhere on the line: the values leap about until one comes back.
-  for (int i = 2; i < 9; ++i)
-    for (int j = 1; j < 4; ++j)
-      printf("%d %d %s\n", i, j,
-             With_Handler(
-                 [&] {
-                   return Newton_Root("-1", "4", "0.5", {double(i), double(j)});
-                 },
-                 [](auto& f) { return std::to_string(static_cast<int>(f.number())); })
-                 .c_str());
+  EXPECT_EQ(Newton_Root("-1", "4", "0.5", {4, 3}), "#NUM!");
   EXPECT_EQ(Failure_Of([] {
               Newton_Root("-1", "4", "0.5", {20, 2});
             }),
