@@ -2,6 +2,7 @@
 
 import decimal
 import json
+import math
 import random
 import sys
 import time
@@ -10,6 +11,9 @@ SIZES = [10, 30, 100, 1000, 10_000, 100_000, 1_000_000]
 PRODUCT_SIZES = [10, 30, 100, 300, 1000, 3000, 10_000, 32_767, 100_000, 1_000_000]
 REMAINDER_SIZES = [30, 100, 1000, 10_000, 100_000]
 POWER_SIZES = [100, 1000, 10_000]
+ROOT_SIZES = [30, 100, 1000, 10_000]
+ROOT_DEGREE = 7
+DIVISOR_SIZES = [100, 1000]
 
 decimal.setcontext(
     decimal.Context(prec=decimal.MAX_PREC, Emax=decimal.MAX_EMAX, Emin=decimal.MIN_EMIN)
@@ -47,6 +51,10 @@ LISTS = {
 def digits(count, seed, first):
     source = random.Random(seed)
     return first + "".join(source.choices("0123456789", k=count - 1))
+
+
+def root(context, text, degree):
+    return str(context.power(decimal.Decimal(text), context.divide(1, degree)))
 
 
 def nanoseconds(call, a, b, repetitions):
@@ -100,6 +108,22 @@ def main():
             lambda a, b: str(context.power(decimal.Decimal(a), b)),
             "1.0" + digits(size - 2, 1, "7"),
             1000,
+            repetitions,
+        )
+    for size in ROOT_SIZES:
+        context = decimal.Context(prec=size, Emax=decimal.MAX_EMAX, Emin=decimal.MIN_EMIN)
+        times[f"sqrt/{size}"] = nanoseconds(
+            lambda a, _: str(context.sqrt(decimal.Decimal(a))), "2", None, repetitions
+        )
+        if size <= 1000:  # by its logarithm; at 10,000 digits a call takes seconds
+            times[f"root/{size}"] = nanoseconds(
+                lambda a, b: root(context, a, b), "2", ROOT_DEGREE, repetitions
+            )
+    for size in DIVISOR_SIZES:
+        times[f"gcd/{size}"] = nanoseconds(
+            lambda a, b: str(math.gcd(int(a), int(b))),
+            digits(size, 1, "7"),
+            digits(size, 2, "3"),
             repetitions,
         )
     for name, (count, call) in LISTS.items():

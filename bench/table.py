@@ -91,6 +91,22 @@ def print_powers(times, peer):
         print(f"| qvxPi | {int(size):,} | | {unit(times[f'Call/pi/{size}'])} | | |")
 
 
+def print_roots(times, peer):
+    """Whole calls of the roots of 2, and of common divisors, which the last peer takes of its int."""
+    print("| call | digits | best peer / ours | ours | MPFR, GMP | Python |")
+    print("|---|---:|---:|---:|---:|---:|")
+    calls = {"sqrt": ("qvxSQRT", "Mpfr"), "root": ("qvxROOT", "Mpfr"), "gcd": ("qvxGCD", "Gmp")}
+    for name, (call, library) in calls.items():
+        for size in sizes(times, f"Call/{name}"):
+            ours, native = times[f"Call/{name}/{size}"], times[f"{library}/{name}/{size}"]
+            dec = peer.get(f"{name}/{size}")
+            best = native if dec is None else min(native, dec)
+            print(
+                f"| {call} | {int(size):,} | {best / ours:.2f} | {unit(ours)} | {unit(native)} "
+                f"| {'' if dec is None else unit(dec)} |"
+            )
+
+
 LIST_CALLS = {"sum": "qvxSUM2", "mixed sum": "qvxSUM2", "max": "qvxMAX", "product": "qvxPRODUCT"}
 
 
@@ -143,6 +159,8 @@ def main():
     print_remainders(times, peer)
     print()
     print_powers(times, peer)
+    print()
+    print_roots(times, peer)
     print()
     print_lists(times, peer)
     print()

@@ -1,6 +1,7 @@
 #include "arith/do_operation.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <utility>
 
@@ -9,6 +10,7 @@
 #include "arith/power_function.h"
 #include "arith/recip_divide.h"
 #include "arith/resolve_signs.h"
+#include "arith/root_function.h"
 #include "arith/subtract_digits.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
@@ -174,6 +176,17 @@ Raw_Result Raise(const type_SignOp& reduced, double limit, const Operation_Flags
   return {std::move(power.digits), 0, power.negative};
 }
 
+// The sign of a root stands in its text.
+Raw_Result Extract(const type_SignOp& reduced, double limit, const Operation_Flags& flags) {
+  NumberText root = Root_Function(*reduced.Operand1, *reduced.Operand2,
+                                  {limit, flags.restrict_input_lengths, flags.working_digits});
+  const double position = Decimal_Position_Of(root);
+  const bool negative = !Is_Positive(root);
+  if (root.starts_with('-')) root.erase(0, 1);
+  Remove_Decimal_Separator(root);
+  return {std::move(root), position, negative};
+}
+
 Raw_Result Operate(const type_SignOp& reduced, double limit, const Operation_Flags& flags) {
   switch (reduced.Operation) {
     case operation::add:
@@ -186,19 +199,17 @@ Raw_Result Operate(const type_SignOp& reduced, double limit, const Operation_Fla
     case operation::power:
       return Raise(reduced, limit, flags);
     case operation::root:
-      throw Run_Time_Failure(Failure_Number::invalid_call, "The operation has no routine yet.");
+      return Extract(reduced, limit, flags);
     default:
       return {};
   }
 }
 
 NumberText Operate_On_Text(std::int16_t Operation, std::string_view number1,
-                           std::string_view number2, const Format_Arguments& format,
+                           std::string_view number2, type_Restrictionator options,
                            const Operation_Flags& flags) {
-  if (const auto token = Token_Of_Operands(number1, number2)) return NumberText(*token);
   const Operand operand1(number1);
   const Operand operand2(number2);
-  type_Restrictionator options = Restrictionator(format);
   // One guard digit here, and formatting keeps one more: so results have two beyond the limit.
   options.maxSD += 1;
   if (flags.intermediate && !options.FormatDecimalPlace.is_missing()) {
@@ -211,6 +222,10 @@ NumberText Operate_On_Text(std::int16_t Operation, std::string_view number1,
                        flags.intermediate);
 }
 
+NumberText Value_Token(const Run_Time_Failure&) {
+  return NumberText(value_token);
+}
+
 }  // namespace
 
 NumberText Do_Operation(std::int16_t Operation, const HostValue& number1, const HostValue& number2,
@@ -219,8 +234,10 @@ NumberText Do_Operation(std::int16_t Operation, const HostValue& number1, const 
       [&] {
         std::string scratch1;
         std::string scratch2;
-        return Operate_On_Text(Operation, Operand_Text(number1, scratch1),
-                               Operand_Text(number2, scratch2), format, flags);
+        const std::string_view text1 = Operand_Text(number1, scratch1);
+        const std::string_view text2 = Operand_Text(number2, scratch2);
+        if (const auto token = Token_Of_Operands(text1, text2)) return NumberText(*token);
+        return Operate_On_Text(Operation, text1, text2, Restrictionator(format), flags);
       },
       [&](const Run_Time_Failure& failure) {
         if (flags.lack_of_memory_fails && failure.number() == Failure_Number::out_of_memory) {
@@ -228,6 +245,19 @@ NumberText Do_Operation(std::int16_t Operation, const HostValue& number1, const 
         }
         return NumberText(value_token);
       });
+}
+
+NumberText Intermediate(std::int16_t Operation, std::string_view number1, std::string_view number2,
+                        double limit) {
+  return With_Handler(
+      [&] {
+        if (const auto token = Token_Of_Operands(number1, number2)) return NumberText(*token);
+        type_Restrictionator options;
+        options.maxSD = std::fmin(limit, maximum_digits);
+        return Operate_On_Text(Operation, number1, number2, std::move(options),
+                               {.intermediate = true});
+      },
+      Value_Token);
 }
 
 }  // namespace quorvex

@@ -6,6 +6,7 @@
 
 #include "arith/do_operation.h"
 #include "arith/exponent_split.h"
+#include "arith/reduce_fraction.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "text/clean_up_number.h"
@@ -19,33 +20,6 @@ namespace quorvex {
 namespace {
 
 constexpr int deepest_split = 1000;
-
-// A number in normal form with its sign, or the token that clean-up gives.
-NumberText Clean_Text(const Operand& operand) {
-  NumberText text = operand.positive() ? "" : "-";
-  if (!operand.is_number()) {
-    text += operand.magnitude();
-    Strip_Leading_Zeros(text);
-    return Clean_Up_Number(text, true, true).NumClean;
-  }
-  const Decimal_Parts& parts = operand.parts();
-  if (Is_Zero(parts)) return "0";
-  const std::string_view integer = parts.integer.substr(Count_Leading_Zeros(parts.integer));
-  const std::string_view fraction =
-      parts.fraction.substr(0, parts.fraction.size() - Count_Trailing_Zeros(parts.fraction));
-  text += integer.empty() ? "0" : integer;
-  if (!fraction.empty()) text.append(Decimal_Separator()).append(fraction);
-  return text;
-}
-
-bool Has_Fraction(const NumberText& number) {
-  return number.find(Decimal_Separator()) != NumberText::npos;
-}
-
-double Length_Without_Separator(const NumberText& number) {
-  const std::size_t separator = Has_Fraction(number) ? Decimal_Separator().size() : 0;
-  return static_cast<double>(number.size() - separator);
-}
 
 Scaled_Number Digit(char digit) {
   Scaled_Number number;
@@ -138,6 +112,24 @@ Scaled_Number Integer_Power(const Scaled_Number& base, const NumberText& n, doub
   return Is_One(rest) ? power : Product(power, rest, maxSD);
 }
 
+// The root of the fraction's divisor, raised to its numerator.
+Scaled_Number Fractional_Power(const Scaled_Number& base, const NumberText& exponent,
+                               double limit) {
+  const bool is_reciprocal = exponent.starts_with('-');
+  const Scaled_Number root_of = is_reciprocal ? Reciprocal(base, limit) : base;
+  const std::string_view magnitude = std::string_view(exponent).substr(is_reciprocal ? 1 : 0);
+  const std::size_t place = magnitude.find(Decimal_Separator());
+  const std::string_view integer = magnitude.substr(0, place);
+  const std::string_view decimals = magnitude.substr(place + Decimal_Separator().size());
+  NumberText numerator = integer == "0" ? "" : NumberText(integer);
+  numerator += decimals;
+  const type_Fraction fraction =
+      Reduce_Fraction(numerator, "1" + NumberText(decimals.size(), '0'), {});
+  const NumberText root =
+      Intermediate(operation::root, Plain_Text(root_of), fraction.divisor, limit);
+  return Scaled(Intermediate(operation::power, root, fraction.Numerator, limit));
+}
+
 // Text has room for so many integer digits, and formatting would refuse more.
 bool Is_Too_Long(const Scaled_Number& number) {
   return number.exponent > 0 &&
@@ -148,23 +140,18 @@ bool Is_Too_Long(const Scaled_Number& number) {
 }  // namespace
 
 Scaled_Number Power_Function(const Operand& base, const Operand& exponent,
-                             const Power_Options& options) {
+                             const Step_Options& options) {
   const NumberText number = Clean_Text(base);
   const NumberText power = Clean_Text(exponent);
-  const double working_digits =
-      options.working_digits.is_missing()
-          ? Length_Without_Separator(power) + Length_Without_Separator(number)
-          : To_Number(options.working_digits);
-  if (options.restrict_input_lengths && 2 * working_digits > maximum_digits) {
-    return Scaled_Token(num_token);
-  }
+  const double working_digits = Working_Digits(options, number, power);
+  if (Are_Too_Long(options, working_digits)) return Scaled_Token(num_token);
   if (power == "0") return Digit('1');
   if (number == "0") return Digit('0');
   Scaled_Number scaled = Scaled(number);
   if (Is_One(scaled) || power == "1") return scaled;
   if (Has_Fraction(power)) {
-    if (scaled.negative) return Scaled_Token(num_token);
-    throw Run_Time_Failure(Failure_Number::invalid_call, "The operation has no routine yet.");
+    return scaled.negative ? Scaled_Token(num_token)
+                           : Fractional_Power(scaled, power, working_digits + options.maxSD);
   }
   Scaled_Number result = Whole_Power(scaled, power, options.maxSD, working_digits, 0);
   return Is_Too_Long(result) ? Scaled_Token(num_token) : result;

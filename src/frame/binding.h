@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <tuple>
 #include <type_traits>
@@ -23,7 +24,8 @@ constexpr Parameter_Kind Kind_Of() {
   using Value = std::remove_cvref_t<Type>;
   if constexpr (std::is_same_v<Value, HostValue>) {
     return Parameter_Kind::value;
-  } else if constexpr (std::is_same_v<Value, NumberText>) {
+  } else if constexpr (std::is_same_v<Value, NumberText> ||
+                       std::is_same_v<Value, std::optional<NumberText>>) {
     return Parameter_Kind::text;
   } else if constexpr (std::is_same_v<Value, std::int32_t>) {
     return Parameter_Kind::integer;
@@ -66,6 +68,9 @@ decltype(auto) Take(HostValue& argument) {
     return To_Int32(argument);
   } else if constexpr (Kind_Of<Type>() == Parameter_Kind::boolean) {
     return !argument.is_missing() && To_Boolean(argument);
+  } else if constexpr (std::is_same_v<std::remove_cvref_t<Type>, std::optional<NumberText>>) {
+    return argument.is_missing() ? std::nullopt
+                                 : std::optional<NumberText>(std::move(Text_In_Place(argument)));
   } else if constexpr (Kind_Of<Type>() == Parameter_Kind::list) {
     return (List_In_Place(argument));
   } else if constexpr (std::is_same_v<Type, NumberText&>) {

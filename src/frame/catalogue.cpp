@@ -92,13 +92,6 @@ std::vector<Method> Division_Rows() {
   };
 }
 
-Parameters Number_List() {
-  return {Operand_Parameter("numlist",
-                            "numbers, ranges and arrays; and among them, as text, how the result "
-                            "is formatted: \"format:\" and any of the words negative, thousands, "
-                            "currency, exponent, MSD=n")};
-}
-
 std::vector<Method> Cell_Sum_Rows() {
   return {
       Row<&cls_Quorvex::qvxSUM>(
@@ -195,10 +188,9 @@ std::vector<Method> Product_Rows() {
   };
 }
 
-Parameters Power_Parameters() {
-  Parameters parameters =
-      With_Places({Operand_Parameter("number1", "the number to raise"),
-                   Operand_Parameter("number2", "the power to raise it to, a whole number")});
+// Parameters of operations that can refuse long operands.
+Parameters With_Restriction(Parameters parameters) {
+  parameters = With_Places(std::move(parameters));
   parameters.insert(parameters.end() - 2,
                     Optional("restrict_input_lengths",
                              "TRUE refuses operands of more than 1,073,741,824 digits together"));
@@ -207,11 +199,23 @@ Parameters Power_Parameters() {
 
 std::vector<Method> Power_Rows() {
   return {
+      Row<&cls_Quorvex::qvxROOT>(
+          "qvxROOT", "Root", operators,
+          "Returns the root of a number, with up to 32,767 significant digits of precision. "
+          "Number2 is the degree of the root of number1.",
+          "qvxROOT(2, 7, , , , , 50)",
+          With_Restriction(
+              {Operand_Parameter("number1", "the number to take the root of"),
+               Operand_Parameter("number2",
+                                 "the degree: 2 for the square root, 3 for the cube root; it may "
+                                 "be fractional or negative")})),
       Row<&cls_Quorvex::qvxPOWER>(
           "qvxPOWER", "Power", operators,
           "Raises one number to the power of another number, with up to 32,767 significant digits "
           "of precision. Number1 is raised to the power of number2.",
-          "qvxPOWER(\"1.000000001\", 1000000, , , , , 30)", Power_Parameters()),
+          "qvxPOWER(\"1.000000001\", 1000000, , , , , 30)",
+          With_Restriction({Operand_Parameter("number1", "the number to raise"),
+                            Operand_Parameter("number2", "the power to raise it to")})),
   };
 }
 
@@ -342,10 +346,11 @@ std::vector<Method> Last_Rows() {
 
 std::vector<Method> Make_Catalogue() {
   std::vector<Method> methods;
-  for (auto rows : {Call_Frame_Rows(), Division_Rows(), Cell_Sum_Rows(), Parity_Rows(), List_Rows(),
-                    Recognition_Rows(), Whole_Number_Rows(), Sign_Rows(), Sum_Rows(),
-                    Product_Rows(), Power_Rows(), Comparison_Rows(), Rounding_Rows(),
-                    Constant_Rows(), Default_Rows(), Angle_Rows(), Last_Rows()}) {
+  for (auto rows : {Call_Frame_Rows(), Division_Rows(), Cell_Sum_Rows(),    Square_Root_Rows(),
+                    Parity_Rows(),     List_Rows(),     Recognition_Rows(), Whole_Number_Rows(),
+                    Sign_Rows(),       Sum_Rows(),      Product_Rows(),     Power_Rows(),
+                    Comparison_Rows(), Rounding_Rows(), Reduction_Rows(),   Divisor_Rows(),
+                    Constant_Rows(),   Default_Rows(),  Angle_Rows(),       Last_Rows()}) {
     std::ranges::move(rows, std::back_inserter(methods));
   }
   return methods;

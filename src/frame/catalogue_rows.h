@@ -63,6 +63,13 @@ inline Parameters With_Places(Parameters parameters) {
 inline constexpr std::string_view first_number = "a number";
 inline constexpr std::string_view second_number = "another number";
 
+inline Parameters Number_List() {
+  return {Operand_Parameter("numlist",
+                            "numbers, ranges and arrays; and among them, as text, how the result "
+                            "is formatted: \"format:\" and any of the words negative, thousands, "
+                            "currency, exponent, MSD=n")};
+}
+
 template <auto method>
 Method Row(std::string_view name, std::string_view family, std::string_view category,
            std::string_view description, std::string_view example, Parameters parameters) {
@@ -78,8 +85,11 @@ Method Row(std::string_view name, std::string_view family, std::string_view cate
 }
 
 // Rows that fill files of their own, in the order of the class.
+std::vector<Method> Square_Root_Rows();
 std::vector<Method> Parity_Rows();
 std::vector<Method> Whole_Number_Rows();
 std::vector<Method> Sign_Rows();
+std::vector<Method> Reduction_Rows();
+std::vector<Method> Divisor_Rows();
 
 }  // namespace quorvex::catalogue

@@ -4,18 +4,22 @@
 #include "arith/mod_function.h"
 #include "arith/parity.h"
 #include "arith/recip_divide.h"
+#include "arith/reduce_fraction.h"
 #include "arith/round_function.h"
 #include "arith/signs.h"
 #include "arith/whole_part.h"
 #include "elementary/angle_units.h"
 #include "elementary/constants.h"
+#include "elementary/square_root.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "lists/even_odd.h"
 #include "lists/frac_function.h"
+#include "lists/gcd_lcm_function.h"
 #include "lists/is_error.h"
 #include "lists/max_min_function.h"
 #include "lists/product_function.h"
+#include "lists/shown_fraction.h"
 #include "lists/sum_array.h"
 #include "lists/sum_function.h"
 #include "text/compare_numbers.h"
@@ -39,6 +43,10 @@ HostValue Compare(const HostValue& number1, const HostValue& number2, bool testE
     return Compare_Numbers(Text_Of(number1, scratch1), Text_Of(number2, scratch2), testEqual,
                            testGreater);
   });
+}
+
+bool Is_Restricted(const HostValue& restrict_input_lengths) {
+  return !restrict_input_lengths.is_missing() && To_Boolean(restrict_input_lengths);
 }
 
 NumberText Round(const HostValue& num, const HostValue& num_digits, Rounding_Direction direction,
@@ -104,6 +112,24 @@ NumberText cls_Quorvex::qvxSUM(const HostValue& rngArray, const HostValue& forma
   return With_Memory_Failures([&] {
     return Sum_Array(rngArray, {format_negative, format_thousands, format_currency,
                                 exponential_notation, maximum_significant_digits});
+  });
+}
+
+NumberText cls_Quorvex::qvxSQRT(const HostValue& num, const HostValue& format_thousands,
+                                const HostValue& format_currency,
+                                const HostValue& exponential_notation, const HostValue& maxSD) {
+  return With_Memory_Failures([&] {
+    return Sqrt_Function(num, Radicand::number,
+                         {Missing, format_thousands, format_currency, exponential_notation, maxSD});
+  });
+}
+
+NumberText cls_Quorvex::qvxSQRTPI(const HostValue& num, const HostValue& format_thousands,
+                                  const HostValue& format_currency,
+                                  const HostValue& exponential_notation, const HostValue& maxSD) {
+  return With_Memory_Failures([&] {
+    return Sqrt_Function(num, Radicand::multiple_of_pi,
+                         {Missing, format_thousands, format_currency, exponential_notation, maxSD});
   });
 }
 
@@ -354,18 +380,30 @@ NumberText cls_Quorvex::qvxDIVIDE(
                        maximum_significant_digits, format_decimal_place, preserve_decimal_place});
 }
 
+NumberText cls_Quorvex::qvxROOT(const HostValue& number1, const HostValue& number2,
+                                const HostValue& format_negative, const HostValue& format_thousands,
+                                const HostValue& format_currency,
+                                const HostValue& exponential_notation,
+                                const HostValue& maximum_significant_digits,
+                                const HostValue& restrict_input_lengths,
+                                const HostValue& format_decimal_place,
+                                const HostValue& preserve_decimal_place) {
+  return Do_Operation(operation::root, number1, number2,
+                      {format_negative, format_thousands, format_currency, exponential_notation,
+                       maximum_significant_digits, format_decimal_place, preserve_decimal_place},
+                      {.restrict_input_lengths = Is_Restricted(restrict_input_lengths)});
+}
+
 NumberText cls_Quorvex::qvxPOWER(
     const HostValue& number1, const HostValue& number2, const HostValue& format_negative,
     const HostValue& format_thousands, const HostValue& format_currency,
     const HostValue& exponential_notation, const HostValue& maximum_significant_digits,
     const HostValue& restrict_input_lengths, const HostValue& format_decimal_place,
     const HostValue& preserve_decimal_place) {
-  const bool restricted =
-      !restrict_input_lengths.is_missing() && To_Boolean(restrict_input_lengths);
   return Do_Operation(operation::power, number1, number2,
                       {format_negative, format_thousands, format_currency, exponential_notation,
                        maximum_significant_digits, format_decimal_place, preserve_decimal_place},
-                      {.restrict_input_lengths = restricted});
+                      {.restrict_input_lengths = Is_Restricted(restrict_input_lengths)});
 }
 
 HostValue cls_Quorvex::qvxISEQUAL(const HostValue& number1, const HostValue& number2) {
@@ -421,6 +459,37 @@ NumberText cls_Quorvex::qvxROUNDDOWN(const HostValue& num, const HostValue& num_
                                      const HostValue& exponential_notation) {
   return Round(num, num_digits, Rounding_Direction::down,
                {format_negative, format_thousands, format_currency, exponential_notation});
+}
+
+HostValue cls_Quorvex::qvxREDUCEFRACTION(const HostValue& Numerator, const HostValue& divisor,
+                                         bool simplify_signs, bool always_simplify_fraction,
+                                         bool return_numerator, bool return_divisor,
+                                         bool return_reduced_by,
+                                         const std::optional<NumberText>& fraction_separator) {
+  return With_Memory_Failures([&] {
+    std::string scratch1;
+    std::string scratch2;
+    return Shown_Fraction(Reduce_Fraction(Text_Of(Numerator, scratch1), Text_Of(divisor, scratch2),
+                                          {simplify_signs, always_simplify_fraction}),
+                          {return_numerator, return_divisor, return_reduced_by},
+                          fraction_separator);
+  });
+}
+
+HostValue cls_Quorvex::qvxGCD(const List& numlist) {
+  return With_Memory_Failures([&] { return GCD_Function(numlist, Element_Form::truncated); });
+}
+
+HostValue cls_Quorvex::qvxGCD2(const List& numlist) {
+  return With_Memory_Failures([&] { return GCD_Function(numlist, Element_Form::whole); });
+}
+
+HostValue cls_Quorvex::qvxLCM(const List& numlist) {
+  return With_Memory_Failures([&] { return LCM_Function(numlist, Element_Form::truncated); });
+}
+
+HostValue cls_Quorvex::qvxLCM2(const List& numlist) {
+  return With_Memory_Failures([&] { return LCM_Function(numlist, Element_Form::whole); });
 }
 
 NumberText cls_Quorvex::qvxPi(const HostValue& digits) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "arith/reciprocal.h"
 #include "host/export.h"
@@ -70,6 +71,18 @@ class QUORVEX_API cls_Quorvex {
                     const HostValue& exponential_notation = Missing,
                     const HostValue& maximum_significant_digits = Missing);
 
+  /// The square root of a number, and of a number times pi, to `maxSD` digits (`Default_MaxSD` if
+  /// missing or empty). "#NUM!" for a number that begins with a minus or a parenthesis, and beyond
+  /// the digits of pi. Throws `Run_Time_Failure` 13 for an error value and for an option that can't
+  /// be read.
+  NumberText qvxSQRT(const HostValue& num, const HostValue& format_thousands = Missing,
+                     const HostValue& format_currency = Missing,
+                     const HostValue& exponential_notation = Missing,
+                     const HostValue& maxSD = Missing);
+  NumberText qvxSQRTPI(const HostValue& num, const HostValue& format_thousands = Missing,
+                       const HostValue& format_currency = Missing,
+                       const HostValue& exponential_notation = Missing,
+                       const HostValue& maxSD = Missing);
   /// Whether the whole part of `num` is odd, or even. An empty one is even. The text "#NUM!" for
   /// what is no number. Throws `Run_Time_Failure` 13 as `qvxISNUMBER` does.
   HostValue qvxISODD(const HostValue& num);
@@ -250,13 +263,26 @@ class QUORVEX_API cls_Quorvex {
                        const HostValue& format_decimal_place = Missing,
                        const HostValue& preserve_decimal_place = Missing);
 
-  /// `number1` to the power `number2`, which must be whole; every step is rounded at the limit. An
-  /// exponent of 0 gives 1, and a base of 0 gives 0 otherwise. "#NUM!" for a base that is no
-  /// number, a negative base with a fractional exponent, and a power with more integer digits than
-  /// a cell can hold; "#VALUE!" for an exponent that is no number. `restrict_input_lengths`
-  /// refuses, with
-  /// "#NUM!", operands of more than half the ceiling of digits together; throws `Run_Time_Failure`
-  /// 13 where it can't be read.
+  /// The root of `number1` of the degree `number2`, which may be fractional or negative. "DIV/0!",
+  /// spelt so, for a degree of 0; "#NUM!" for a root of a negative number whose degree isn't an odd
+  /// whole number, and for what is no number. `restrict_input_lengths` as for `qvxPOWER`.
+  NumberText qvxROOT(const HostValue& number1, const HostValue& number2,
+                     const HostValue& format_negative = Missing,
+                     const HostValue& format_thousands = Missing,
+                     const HostValue& format_currency = Missing,
+                     const HostValue& exponential_notation = Missing,
+                     const HostValue& maximum_significant_digits = Missing,
+                     const HostValue& restrict_input_lengths = Missing,
+                     const HostValue& format_decimal_place = Missing,
+                     const HostValue& preserve_decimal_place = Missing);
+
+  /// `number1` to the power `number2`; every step is rounded at the limit. A fractional exponent is
+  /// reduced to a fraction, and the power is a whole power of a root. An exponent of 0 gives 1, and
+  /// a base of 0 gives 0 otherwise. "#NUM!" for a base that is no number, a negative base with a
+  /// fractional exponent, and a power with more integer digits than a cell can hold; "#VALUE!" for
+  /// an exponent that is no number. `restrict_input_lengths` refuses, with "#NUM!", operands of
+  /// more than half the ceiling of digits together; throws `Run_Time_Failure` 13 where it can't be
+  /// read.
   NumberText qvxPOWER(const HostValue& number1, const HostValue& number2,
                       const HostValue& format_negative = Missing,
                       const HostValue& format_thousands = Missing,
@@ -298,6 +324,28 @@ class QUORVEX_API cls_Quorvex {
                           const HostValue& format_thousands = Missing,
                           const HostValue& format_currency = Missing,
                           const HostValue& exponential_notation = Missing);
+
+  /// A fraction of two decimals in lowest terms: an array of four rows and columns, whose first row
+  /// and first column hold the fraction as text, its numerator, its divisor and what it was reduced
+  /// by; or one of these alone. `simplify_signs` leaves a minus to the numerator at most. A
+  /// fraction whose numerator would become larger is reduced only with `always_simplify_fraction`.
+  /// What is no number gives its token. Throws `Run_Time_Failure` 5 where both have decimals, the
+  /// numerator more, and more digits before its separator as well.
+  HostValue qvxREDUCEFRACTION(const HostValue& Numerator, const HostValue& divisor,
+                              bool simplify_signs = false, bool always_simplify_fraction = false,
+                              bool return_numerator = false, bool return_divisor = false,
+                              bool return_reduced_by = false,
+                              const std::optional<NumberText>& fraction_separator = std::nullopt);
+
+  /// The greatest common divisor and the least common multiple of a list; its elements are cut to
+  /// whole numbers first, or by `qvxGCD2` and `qvxLCM2` taken as they are. A negative element gives
+  /// "#NUM!", but not to `qvxGCD2`. MSD= as for other lists, but the default limit holds without
+  /// it. No numbers: empty text. Throws as other lists do, and `qvxGCD2` and `qvxLCM2` as
+  /// `qvxREDUCEFRACTION`.
+  HostValue qvxGCD(const List& numlist);
+  HostValue qvxGCD2(const List& numlist);
+  HostValue qvxLCM(const List& numlist);
+  HostValue qvxLCM2(const List& numlist);
 
   /// Pi and e, cut to so many digits (`Default_MaxSD` if missing) and not rounded. "#NUM!" beyond
   /// 32768 digits and for text that is no number. Throws `Run_Time_Failure` 5 below -1 digits.

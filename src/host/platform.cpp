@@ -18,6 +18,7 @@ Yielder::~Yielder() = default;
 Letter_Case::~Letter_Case() = default;
 Memory_Gauge::~Memory_Gauge() = default;
 Library_Loader::~Library_Loader() = default;
+Clock::~Clock() = default;
 
 namespace {
 

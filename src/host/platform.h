@@ -106,6 +106,14 @@ class QUORVEX_API Library_Loader {
   virtual void* symbol(const char* library, const char* name) = 0;
 };
 
+/// The time of the user's day.
+class QUORVEX_API Clock {
+ public:
+  virtual ~Clock();
+  /// The part of the day that has passed, from 0 up to 1: noon is 0.5.
+  virtual double time_of_day() = 0;
+};
+
 struct Platform {
   std::shared_ptr<Locale_Source> locale;
   std::shared_ptr<Settings_Store> settings;
@@ -115,6 +123,7 @@ struct Platform {
   std::shared_ptr<Memory_Gauge> memory;
   std::shared_ptr<Letter_Case> letters;
   std::shared_ptr<Library_Loader> libraries;
+  std::shared_ptr<Clock> clock;
 };
 
 /// Makes the platform of the process when it is first called. For `Current_Platform` only.

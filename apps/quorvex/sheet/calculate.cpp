@@ -62,13 +62,14 @@ class Sheet_References final : public Reference_Source {
 struct Outcome {
   HostValue value;
   std::optional<Cell_Problem> problem;
+  HostValue spill = {};  // an array, whose other values go to the cells beside
 };
 
 Outcome Failed(const std::string& message) {
   return {Error_Code::value, Cell_Problem{Cell_Problem::Kind::failure, message}};
 }
 
-// A cell holds one value: of an array its first, and of a range the only one.
+// What stands in the cell of the formula: of an array its first value, of a range the only one.
 HostValue In_One_Cell(const HostValue& value) {
   switch (value.kind()) {
     case HostValue::Kind::missing:
@@ -96,7 +97,8 @@ Outcome Cell_Outcome(const Call_Result& result) {
   if (value->kind() == HostValue::Kind::range && !Is_Single_Cell(*value)) {
     return Failed("The formula gives more than one cell, and a cell holds one value.");
   }
-  return {In_One_Cell(*value), {}};
+  const bool spills = value->kind() == HostValue::Kind::array && value->array().values.size() > 1;
+  return {In_One_Cell(*value), {}, spills ? *value : HostValue()};
 }
 
 // A name may stand for a range, which the formulas that use it read.
@@ -114,6 +116,14 @@ void Calculate(const Workbook& workbook, cls_Quorvex& engine, Calculation& calcu
       [&] { return Outcome_For(calculation, Evaluate(engine, calculation.formula, references)); },
       [](const Run_Time_Failure& failure) { return Failed(failure.what()); });
   if (!outcome.problem) outcome.problem = references.problem();
+  calculation.spill = std::move(outcome.spill);
+  if (calculation.obstacle && calculation.spill.kind() == HostValue::Kind::array) {
+    outcome.value = Error_Code::value;
+    outcome.problem = Cell_Problem{Cell_Problem::Kind::spill,
+                                   "The formula gives several values, and there is no room for "
+                                   "them: " +
+                                       Address_Text(*calculation.obstacle) + " isn't blank."};
+  }
   calculation.value = std::move(outcome.value);
   calculation.problem.reset();
   if (outcome.problem) {

@@ -44,6 +44,9 @@ Calculation* Precedents::next_in_area() {
       const Cell& cell = at_->second;
       ++at_;
       if (cell.calculation) return cell.calculation.get();
+      if (!cell.spilled_from) continue;
+      const auto from = cells.find(*cell.spilled_from);
+      if (from != cells.end() && from->second.calculation) return from->second.calculation.get();
     }
   }
   sheet_ = nullptr;

@@ -90,6 +90,7 @@ void Recalculation::calculate(Calculation& calculation) {
 void Recalculation::mark_circle(const std::vector<Calculation*>& group) {
   for (Calculation* calculation : group) {
     calculation->value = Error_Code::reference;
+    calculation->spill = {};
     calculation->problem = std::make_unique<Cell_Problem>(
         Cell_Problem{Cell_Problem::Kind::circular,
                      "circular reference: " + Circle_Text(workbook_, *calculation, group.size())});

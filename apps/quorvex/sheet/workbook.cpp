@@ -27,7 +27,15 @@ Worksheet* Workbook::find(std::string_view name) const {
 }
 
 void Workbook::recalculate(cls_Quorvex& engine, const Progress& progress) {
-  Recalculation(*this, engine, progress).run();
+  // Formulas may use cells that arrays have filled only after them. Arrays that get in each other's
+  // way for ever are left as they are.
+  constexpr int most_passes = 8;
+  bool again = true;
+  for (int pass = 0; again && pass < most_passes; ++pass) {
+    Recalculation(*this, engine, progress).run();
+    again = false;
+    for (const auto& sheet : worksheets_) again = sheet->spill() || again;
+  }
 }
 
 }  // namespace quorvex

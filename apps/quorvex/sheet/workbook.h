@@ -25,7 +25,8 @@ class Workbook {
   /// In the order in which they were added.
   const std::vector<std::unique_ptr<Worksheet>>& worksheets() const { return worksheets_; }
 
-  /// Calculates every formula once, after those that it depends on. Cells on a circular reference
+  /// Calculates every formula, after those that it depends on; all of them again where the array of
+  /// one has filled other cells with new values. Cells on a circular reference
   /// get a problem that spells it out; a method's failure makes the cell #VALUE!, with its message
   /// as the problem. A host that breaks the calculation off (`Run_Time_Failure` 18, let through)
   /// leaves values as they were in the cells not yet reached; calculating again mends them.

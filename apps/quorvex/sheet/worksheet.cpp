@@ -151,6 +151,7 @@ const Defined_Name* Worksheet::find_name(std::string_view name) const {
 std::string Shown_Value(const Cell& cell) {
   const Cell_Problem* problem = cell.trouble();
   if (problem != nullptr && problem->kind == Cell_Problem::Kind::circular) return "#CIRCULAR!";
+  if (problem != nullptr && problem->kind == Cell_Problem::Kind::spill) return "#SPILL!";
   return Render(cell.value());
 }
 

@@ -25,6 +25,7 @@ struct Cell_Problem {
     circular,   // the cell depends on itself
     failure,    // a function failed
     reference,  // the formula uses a worksheet or a name that isn't there
+    spill,      // the formula gives several values, and a cell among theirs isn't blank
   };
   Kind kind = Kind::failure;
   std::string message;
@@ -39,6 +40,8 @@ struct Calculation {
   Formula formula;
   HostValue value = HostValue::Empty();
   std::unique_ptr<Cell_Problem> problem;
+  HostValue spill;                       // the array that a cell's formula gave, if it did
+  std::optional<Cell_Address> obstacle;  // the cell that leaves the array no room
 
   // The state of a recalculation under way: when this formula was reached, 0 for not yet; the
   // earliest one that it leads back to; and whether it waits for others.
@@ -53,6 +56,7 @@ struct Cell {
   HostValue constant;                        // if it holds no formula
   std::unique_ptr<Calculation> calculation;  // if it holds a formula that can be read
   std::unique_ptr<Cell_Problem> problem;     // of a formula that can't
+  std::optional<Cell_Address> spilled_from;  // whose array fills this cell with its constant
 
   const HostValue& value() const { return calculation ? calculation->value : constant; }
   const Cell_Problem* trouble() const {
@@ -61,7 +65,7 @@ struct Cell {
   bool is_formula() const { return calculation || problem; }
 };
 
-/// The value as shown; #CIRCULAR! on a circular reference.
+/// The value as shown; #CIRCULAR! on a circular reference, #SPILL! for an array without room.
 std::string Shown_Value(const Cell& cell);
 
 /// A name and what it refers to: cells, or any other formula.
@@ -98,6 +102,11 @@ class Worksheet {
   std::string shown(Cell_Address address) const;
   /// Null if all is well.
   const Cell_Problem* problem(Cell_Address address) const;
+
+  /// Fills the cells right of and below formulas that gave arrays with their values, and empties
+  /// those that none fills any more. An array of which a cell isn't free fills none, and is told
+  /// the obstacle; blank values need no room. True if formulas may have to be calculated again.
+  bool spill();
 
   /// The smallest block that holds all cells that aren't blank; nothing if there are none.
   std::optional<Cell_Area> used_range() const;

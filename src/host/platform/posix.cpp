@@ -25,7 +25,8 @@ Platform Default_Platform() {
           .yielder = std::make_shared<Silent_Yielder>(),
           .memory = System_Memory(),
           .letters = System_Letters(),
-          .libraries = System_Libraries()};
+          .libraries = System_Libraries(),
+          .clock = System_Clock()};
 }
 
 }  // namespace quorvex

@@ -31,4 +31,7 @@ std::shared_ptr<Letter_Case> System_Letters();
 /// Loads shared libraries from the folder of this one, or from where the system looks.
 std::shared_ptr<Library_Loader> System_Libraries();
 
+/// The local time, in whole seconds.
+std::shared_ptr<Clock> System_Clock();
+
 }  // namespace quorvex

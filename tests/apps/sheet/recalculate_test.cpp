@@ -175,7 +175,8 @@ TEST_F(Recalculate, KeepsFailuresInTheirCells) {
   EXPECT_EQ(message("A2"), "");
   EXPECT_NE(message("A3").find("record"), std::string::npos);
   EXPECT_NE(message("A4").find("more than one cell"), std::string::npos);
-  EXPECT_EQ(shown("A5"), "7");
+  EXPECT_EQ(shown("A5"), "#SPILL!");
+  EXPECT_EQ(sheet.problem({5, 1})->kind, Cell_Problem::Kind::spill);
   EXPECT_EQ(shown("A6"), "3");
 }
 
@@ -253,6 +254,49 @@ TEST(Workbook, FindsWorksheetsInAnyCaseAndRefusesASecondOfAName) {
   EXPECT_EQ(book.find("Other"), nullptr);
   EXPECT_THROW(book.add("data"), std::invalid_argument);
   EXPECT_THROW(book.add(""), std::invalid_argument);
+}
+
+TEST_F(Recalculate, FillsTheCellsBesideWithAnArray) {
+  fill({{"A1", "=qvxADD(B2,C2)"},
+        {"B2", "=qvxREDUCEFRACTION(E1, 4)"},
+        {"E1", "6"},
+        {"F6", "=qvxMULTIPLY(B5, 10)"}});
+  calculate();
+  EXPECT_EQ(shown("B2") + ' ' + shown("C2") + ' ' + shown("D2") + ' ' + shown("E2"), "3/2 3 2 2");
+  EXPECT_EQ(shown("B3") + ' ' + shown("B4") + ' ' + shown("B5"), "3 2 2");
+  EXPECT_EQ(shown("C3"), "");
+  EXPECT_EQ(shown("F6"), "20");
+  EXPECT_EQ(sheet.typed(Read_Address("C2").value()), "");
+
+  fill({{"E1", "10"}, {"F6", "=qvxMULTIPLY(C2, 10)"}});
+  calculate();
+  EXPECT_EQ(shown("C2"), "5");
+  EXPECT_EQ(shown("F6"), "50");
+
+  fill({{"B2", "=qvxADD(1, 1)"}});
+  calculate();
+  EXPECT_EQ(shown("C2") + shown("E2") + shown("B5"), "");
+  EXPECT_EQ(shown("F6"), "0");
+}
+
+TEST_F(Recalculate, LeavesAnArrayWithoutRoomOut) {
+  fill({{"B2", "=qvxREDUCEFRACTION(6, 4)"}, {"D2", "mine"}, {"C3", "no obstacle"}});
+  calculate();
+  EXPECT_EQ(shown("B2"), "#SPILL!");
+  EXPECT_NE(message("B2").find("D2 isn't blank"), std::string::npos) << message("B2");
+  EXPECT_EQ(shown("C2") + shown("B3"), "");
+  EXPECT_EQ(shown("D2"), "mine");
+
+  sheet.clear(Read_Address("D2").value());
+  calculate();
+  EXPECT_EQ(shown("B2") + ' ' + shown("D2") + ' ' + shown("C3"), "3/2 2 no obstacle");
+  EXPECT_EQ(message("B2"), "");
+
+  // The first of two that want the same cell has it.
+  fill({{"D1", "=qvxREDUCEFRACTION(9, 6)"}});
+  calculate();
+  EXPECT_EQ(shown("D1"), "3/2");
+  EXPECT_EQ(shown("B2"), "#SPILL!");
 }
 
 }  // namespace

@@ -1,0 +1,82 @@
+// Arrays that fill the cells beside their formula.
+#include <utility>
+#include <vector>
+
+#include "formula/evaluate.h"
+#include "host/platform.h"
+#include "sheet/worksheet.h"
+
+namespace quorvex {
+
+namespace {
+
+struct Filling {
+  Cell_Address from;
+  HostValue value;
+};
+
+using Fillings = std::map<Cell_Address, Filling>;
+
+bool Is_Cell(Cell_Address address) {
+  return address.row <= maximum_rows && address.column <= maximum_columns;
+}
+
+// What an array puts into the cells beside its first one.
+Fillings Fillings_Of(const Array& array, Cell_Address from) {
+  Fillings fillings;
+  for (std::size_t place = 1; place < array.values.size(); ++place) {
+    const HostValue& value = array.values[place];
+    if (value.is_empty() || value.is_missing()) continue;
+    const Cell_Address address{from.row + static_cast<std::uint32_t>(place / array.columns),
+                               from.column + static_cast<std::uint32_t>(place % array.columns)};
+    fillings.insert({address, {from, value}});
+  }
+  return fillings;
+}
+
+bool Is_Same(const Cell& cell, const Filling& filling) {
+  return cell.spilled_from == filling.from && cell.constant.kind() == filling.value.kind() &&
+         Render(cell.constant) == Render(filling.value);
+}
+
+}  // namespace
+
+bool Worksheet::spill() {
+  bool changed = false;
+  Fillings all;
+  for (auto& [from, cell] : cells_) {
+    Calculation* calculation = cell.calculation.get();
+    if (calculation == nullptr) continue;
+    std::optional<Cell_Address> obstacle;
+    if (calculation->spill.kind() == HostValue::Kind::array) {
+      Yield();
+      Fillings fillings = Fillings_Of(calculation->spill.array(), from);
+      for (const auto& [address, filling] : fillings) {
+        const Cell* there = find(address);
+        const bool is_free = Is_Cell(address) && !all.contains(address) &&
+                             (there == nullptr || there->spilled_from.has_value());
+        if (!is_free && !obstacle) obstacle = address;
+      }
+      if (!obstacle) all.merge(fillings);
+    }
+    changed = changed || obstacle != calculation->obstacle;
+    calculation->obstacle = obstacle;
+  }
+
+  std::vector<Cell_Address> left_over;
+  for (const auto& [address, cell] : cells_) {
+    if (cell.spilled_from && !all.contains(address)) left_over.push_back(address);
+  }
+  for (const Cell_Address address : left_over) clear(address);
+  changed = changed || !left_over.empty();
+  for (auto& [address, filling] : all) {
+    Cell& cell = cell_at(address);
+    if (Is_Same(cell, filling)) continue;
+    cell.spilled_from = filling.from;
+    cell.constant = std::move(filling.value);
+    changed = true;
+  }
+  return changed;
+}
+
+}  // namespace quorvex

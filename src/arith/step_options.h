@@ -1,0 +1,29 @@
+// What roots and powers are asked for beside their operands, and how they read them.
+#pragma once
+
+#include "host/host_value.h"
+#include "text/operand.h"
+
+namespace quorvex {
+
+struct Step_Options {
+  double maxSD = 0;  // the limit of the operation, with the guard digit that it adds
+  /// Refuses operands that have more than half the ceiling of digits together.
+  bool restrict_input_lengths = false;
+  /// The guard digits of the steps; missing, as many as both operands have.
+  const HostValue& working_digits = Missing;
+};
+
+/// A number in normal form with its sign, or the token that clean-up gives.
+NumberText Clean_Text(const Operand& operand);
+
+/// True for a text that holds the decimal separator.
+bool Has_Fraction(const NumberText& number);
+
+/// The guard digits of the steps, for operands in normal form.
+double Working_Digits(const Step_Options& options, const NumberText& a, const NumberText& b);
+
+/// True where there are more guard digits than a restricted operation may have.
+bool Are_Too_Long(const Step_Options& options, double working_digits);
+
+}  // namespace quorvex

@@ -1,0 +1,85 @@
+#include "lists/gcd_lcm_function.h"
+
+#include <optional>
+#include <string_view>
+#include <utility>
+
+#include "arith/do_operation.h"
+#include "arith/reduce_fraction.h"
+#include "arith/round_function.h"
+#include "lists/list_result.h"
+#include "lists/list_walk.h"
+#include "text/compare_numbers.h"
+#include "text/options.h"
+#include "text/primitives.h"
+#include "text/tokens.h"
+
+namespace quorvex {
+namespace {
+
+// The text that stands for an element; nothing for one that is passed over.
+std::optional<NumberText> Element_Of(std::string_view text, Element_Form form) {
+  if (form == Element_Form::whole) return NumberText(text);
+  NumberText whole = Round_Function(text, 0, Rounding_Direction::down, {});
+  if (Has_Token_Mark(whole)) return std::nullopt;
+  return whole;
+}
+
+type_Fraction Reduce(const NumberText& running, const NumberText& element) {
+  return Reduce_Fraction(running, element, {.simplify_signs = true});
+}
+
+bool Is_Zero_Text(const NumberText& number) {
+  return Is_True(Compare_Numbers(number, "0", true, false));
+}
+
+NumberText Common_Multiple(const NumberText& running, const NumberText& element,
+                           const NumberText& reduced_by, double limit) {
+  const NumberText product = Intermediate(operation::multiply, running, element, limit);
+  if (Is_Zero_Text(product) && Is_Zero_Text(reduced_by)) return "0";
+  return Intermediate(operation::divide, product, reduced_by, limit);
+}
+
+// Folds a list with `join`, which changes the running value by an element. Unlike other lists these
+// begin with the default limit.
+template <typename Join>
+NumberText Fold(const List& list, Element_Form form, bool refuses_negatives, const Join& join) {
+  List_Options options;
+  options.msd = Default_MaxSD();
+  NumberText running;
+  bool refused = false;
+  Walk_List(list, options, [&](std::string_view text) {
+    auto element = Element_Of(text, form);
+    if (!element) return Walk::on;
+    refused = refuses_negatives && !Is_Positive(*element);
+    if (refused) return Walk::end;
+    if (running.empty()) {
+      running = std::move(*element);
+    } else {
+      join(running, *element, options.msd);
+    }
+    return Walk::on;
+  });
+  return refused ? NumberText(num_token) : Finish_List(std::move(running), options);
+}
+
+}  // namespace
+
+NumberText GCD_Function(const List& list, Element_Form form) {
+  const bool refuses_negatives = form == Element_Form::truncated;
+  return Fold(list, form, refuses_negatives,
+              [](NumberText& running, const NumberText& element, double) {
+                type_Fraction fraction = Reduce(running, element);
+                if (!Has_Token_Mark(fraction.Reduced_By)) running = std::move(fraction.Reduced_By);
+              });
+}
+
+NumberText LCM_Function(const List& list, Element_Form form) {
+  return Fold(list, form, true, [](NumberText& running, const NumberText& element, double limit) {
+    const type_Fraction fraction = Reduce(running, element);
+    if (Has_Token_Mark(fraction.Reduced_By)) return;
+    running = Common_Multiple(running, element, fraction.Reduced_By, limit);
+  });
+}
+
+}  // namespace quorvex
