@@ -81,6 +81,7 @@ class Minuend {
 std::optional<Leading_Digits> Divide_By_Limb(std::string_view X, std::string_view k_digits,
                                              std::size_t p) {
   const limbs::Divisor k(limbs::Read(k_digits));
+  Require_Memory(2.0 * static_cast<double>(X.size() + p));
   const std::optional<Limb> g = Missing_From_Power(k, k_digits.size(), p);
   if (!g) return std::nullopt;
   const std::size_t s = p + k_digits.size() - 1;

@@ -221,6 +221,7 @@ std::optional<limbs::Limb> Missing_From_Power(const limbs::Divisor& k, std::size
 std::optional<NumberText> Quick_Reciprocal(const NumberText& k, std::int32_t p) {
   if (p < least_quick_precision) return std::nullopt;
   const auto length = static_cast<std::size_t>(p);
+  Require_Memory(4.0 * (static_cast<double>(p) + static_cast<double>(k.size())));
   const auto significant = std::string_view(k).substr(0, k.size() - Count_Trailing_Zeros(k));
   if (significant.size() <= short_divisor_digits) return Short_Reciprocal(significant, length);
   return Long_Reciprocal(NumberText(significant), length);

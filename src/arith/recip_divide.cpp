@@ -64,9 +64,7 @@ enum class Operands { digits, texts };
 Product Multiply_By_Reciprocal(std::string_view X, std::string_view Y, Operands operands,
                                std::int32_t p) {
   if (operands == Operands::digits && Can_Multiply()) {
-    auto quick =
-        With_Handler([&] { return Quick_Quotient(X, Y, p); },
-                     [](const Run_Time_Failure&) { return std::optional<Leading_Digits>(); });
+    auto quick = Quick_Quotient(X, Y, p);
     if (quick) return {std::move(*quick), Power_Of_Reciprocal(Y.size(), p)};
   }
   const type_Division_Recip inverse = myInverse5(NumberText(Y), p);
@@ -107,7 +105,13 @@ type_Division_Recip Quotient(std::string_view X, std::string_view Y, Operands op
                              std::int32_t sd) {
   type_Division_Recip quotient;
   if (Is_Answered_At_Once(X, Y, quotient)) return quotient;
-  With_Handler([&] { Divide(X, Y, operands, sd, quotient); }, [](const Run_Time_Failure&) {});
+  With_Handler([&] { Divide(X, Y, operands, sd, quotient); },
+               [&](const Run_Time_Failure& failure) {
+                 // What there is then would be taken for a number.
+                 if (failure.number() == Failure_Number::out_of_memory) {
+                   quotient = {NumberText(value_token), 0};
+                 }
+               });
   return quotient;
 }
 

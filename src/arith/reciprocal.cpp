@@ -158,11 +158,16 @@ bool Is_Plain_Divisor(const NumberText& k) {
   return !k.empty() && k.front() != '0' && !Has_Non_Digit(k);
 }
 
+// Digits that can't be held are no digits: a quotient with none would be 0.
+type_Division_Recip Failed_Reciprocal(const Run_Time_Failure& failure) {
+  if (failure.number() != Failure_Number::out_of_memory) return {};
+  return {NumberText(value_token), 0};
+}
+
 }  // namespace
 
 type_Division_Recip Iterated_Reciprocal(const NumberText& k, std::int32_t p) {
-  return With_Handler([&] { return Iterate(k, p); },
-                      [](const Run_Time_Failure&) { return type_Division_Recip(); });
+  return With_Handler([&] { return Iterate(k, p); }, Failed_Reciprocal);
 }
 
 type_Division_Recip myInverse5(const NumberText& k, std::int32_t p) {
@@ -172,9 +177,14 @@ type_Division_Recip myInverse5(const NumberText& k, std::int32_t p) {
             std::numeric_limits<std::int32_t>::max()};
   }
   if (Is_Plain_Divisor(k) && Can_Multiply()) {
-    auto quick = With_Handler([&] { return Quick_Reciprocal(k, p); },
-                              [](const Run_Time_Failure&) { return std::optional<NumberText>(); });
-    if (quick) return {std::move(*quick), Power_Of_Reciprocal(k.size(), p)};
+    const auto quick = With_Handler(
+        [&]() -> std::optional<type_Division_Recip> {
+          auto digits = Quick_Reciprocal(k, p);
+          if (!digits) return std::nullopt;
+          return type_Division_Recip{std::move(*digits), Power_Of_Reciprocal(k.size(), p)};
+        },
+        [](const Run_Time_Failure& failure) { return std::optional(Failed_Reciprocal(failure)); });
+    if (quick) return *quick;
   }
   return Iterated_Reciprocal(k, p);
 }

@@ -13,6 +13,7 @@
 #include "arith/quick_reciprocal.h"
 #include "arith/recip_divide.h"
 #include "support/locales.h"
+#include "support/surroundings.h"
 #include "support/without_libraries.h"
 
 namespace quorvex {
@@ -205,6 +206,16 @@ TEST(RecipDivide, CutsATokenLikeDigits) {
     dividend = "2";
     divisor = "12.5";
     EXPECT_EQ(Recip_Divide(dividend, divisor, sd).digits, digits) << sd;
+  }
+}
+
+TEST(RecipDivide, IsATokenWhereThereIsNoRoomForIt) {
+  const Memory_Guard poor(1000);
+  for (const char* divisor : {"7", "12345678901234567890123"}) {
+    NumberText X = "22";
+    NumberText Y = divisor;
+    EXPECT_EQ(Recip_Divide(X, Y, 2'000'000'000).digits, "#VALUE!") << divisor;
+    EXPECT_EQ(myInverse5(divisor, 2'000'000'000).digits, "#VALUE!") << divisor;
   }
 }
 

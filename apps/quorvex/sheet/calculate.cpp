@@ -108,6 +108,11 @@ Outcome Outcome_For(const Calculation& calculation, const Call_Result& result) {
   return {*value, {}};
 }
 
+std::string Obstacle_Text(Cell_Address obstacle) {
+  const bool is_cell = obstacle.row <= maximum_rows && obstacle.column <= maximum_columns;
+  return is_cell ? Address_Text(obstacle) + " isn't blank." : "the worksheet ends before.";
+}
+
 }  // namespace
 
 void Calculate(const Workbook& workbook, cls_Quorvex& engine, Calculation& calculation) {
@@ -122,7 +127,7 @@ void Calculate(const Workbook& workbook, cls_Quorvex& engine, Calculation& calcu
     outcome.problem = Cell_Problem{Cell_Problem::Kind::spill,
                                    "The formula gives several values, and there is no room for "
                                    "them: " +
-                                       Address_Text(*calculation.obstacle) + " isn't blank."};
+                                       Obstacle_Text(*calculation.obstacle)};
   }
   calculation.value = std::move(outcome.value);
   calculation.problem.reset();

@@ -1,4 +1,6 @@
 // Arrays that fill the cells beside their formula.
+#include <algorithm>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -43,10 +45,18 @@ bool Is_Same(const Cell& cell, const Filling& filling) {
 
 bool Worksheet::spill() {
   bool changed = false;
+  const auto move = [&](Cell_Address from) {
+    changed = true;
+    const auto cell = cells_.find(from);
+    if (cell != cells_.end() && cell->second.calculation) {
+      cell->second.calculation->spill_moved = true;
+    }
+  };
   Fillings all;
   for (auto& [from, cell] : cells_) {
     Calculation* calculation = cell.calculation.get();
     if (calculation == nullptr) continue;
+    calculation->spill_moved = false;
     std::optional<Cell_Address> obstacle;
     if (calculation->spill.kind() == HostValue::Kind::array) {
       Yield();
@@ -59,7 +69,7 @@ bool Worksheet::spill() {
       }
       if (!obstacle) all.merge(fillings);
     }
-    changed = changed || obstacle != calculation->obstacle;
+    if (obstacle != calculation->obstacle) move(from);
     calculation->obstacle = obstacle;
   }
 
@@ -67,16 +77,37 @@ bool Worksheet::spill() {
   for (const auto& [address, cell] : cells_) {
     if (cell.spilled_from && !all.contains(address)) left_over.push_back(address);
   }
-  for (const Cell_Address address : left_over) clear(address);
-  changed = changed || !left_over.empty();
+  for (const Cell_Address address : left_over) {
+    move(*cells_.at(address).spilled_from);
+    clear(address);
+  }
   for (auto& [address, filling] : all) {
     Cell& cell = cell_at(address);
     if (Is_Same(cell, filling)) continue;
     cell.spilled_from = filling.from;
     cell.constant = std::move(filling.value);
-    changed = true;
+    move(filling.from);
   }
   return changed;
+}
+
+std::size_t Worksheet::count_spills() const {
+  return static_cast<std::size_t>(std::count_if(cells_.begin(), cells_.end(), [](const auto& cell) {
+    const Calculation* calculation = cell.second.calculation.get();
+    return calculation != nullptr && calculation->spill.kind() == HostValue::Kind::array;
+  }));
+}
+
+void Worksheet::mark_moved_spills() {
+  for (auto& [address, cell] : cells_) {
+    Calculation* calculation = cell.calculation.get();
+    if (calculation == nullptr || !calculation->spill_moved) continue;
+    calculation->value = Error_Code::reference;
+    calculation->problem = std::make_unique<Cell_Problem>(
+        Cell_Problem{Cell_Problem::Kind::circular,
+                     "The values that the formula gives never come to rest: cells that they fill, "
+                     "or leave blank, lead back to it."});
+  }
 }
 
 }  // namespace quorvex

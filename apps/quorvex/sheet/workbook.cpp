@@ -27,15 +27,22 @@ Worksheet* Workbook::find(std::string_view name) const {
 }
 
 void Workbook::recalculate(cls_Quorvex& engine, const Progress& progress) {
-  // Formulas may use cells that arrays have filled only after them. Arrays that get in each other's
-  // way for ever are left as they are.
-  constexpr int most_passes = 8;
+  // Formulas may use cells that arrays have filled only after them. Each pass settles one array of
+  // a chain at least, so arrays that still move when all have had their turn move for ever.
   bool again = true;
-  for (int pass = 0; again && pass < most_passes; ++pass) {
+  std::size_t most_passes = 1;
+  for (std::size_t pass = 0; again && pass <= most_passes; ++pass) {
     Recalculation(*this, engine, progress).run();
     again = false;
-    for (const auto& sheet : worksheets_) again = sheet->spill() || again;
+    std::size_t spills = 0;
+    for (const auto& sheet : worksheets_) {
+      again = sheet->spill() || again;
+      spills += sheet->count_spills();
+    }
+    most_passes = std::max(most_passes, spills + 1);
   }
+  if (!again) return;
+  for (const auto& sheet : worksheets_) sheet->mark_moved_spills();
 }
 
 }  // namespace quorvex

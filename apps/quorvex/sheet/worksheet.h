@@ -25,7 +25,7 @@ struct Cell_Problem {
     circular,   // the cell depends on itself
     failure,    // a function failed
     reference,  // the formula uses a worksheet or a name that isn't there
-    spill,      // the formula gives several values, and a cell among theirs isn't blank
+    spill,      // the formula gives several values, and a cell among theirs isn't there or blank
   };
   Kind kind = Kind::failure;
   std::string message;
@@ -42,6 +42,7 @@ struct Calculation {
   std::unique_ptr<Cell_Problem> problem;
   HostValue spill;                       // the array that a cell's formula gave, if it did
   std::optional<Cell_Address> obstacle;  // the cell that leaves the array no room
+  bool spill_moved = false;              // the array filled other cells than before, or otherwise
 
   // The state of a recalculation under way: when this formula was reached, 0 for not yet; the
   // earliest one that it leads back to; and whether it waits for others.
@@ -107,6 +108,12 @@ class Worksheet {
   /// those that none fills any more. An array of which a cell isn't free fills none, and is told
   /// the obstacle; blank values need no room. True if formulas may have to be calculated again.
   bool spill();
+
+  /// How many formulas gave arrays that fill cells, or have no room to.
+  std::size_t count_spills() const;
+
+  /// Makes formulas circular whose arrays filled other cells at the last `spill` than before.
+  void mark_moved_spills();
 
   /// The smallest block that holds all cells that aren't blank; nothing if there are none.
   std::optional<Cell_Area> used_range() const;

@@ -57,6 +57,32 @@ TEST_F(Recalculate, FollowsTheOrderOfDependency) {
   EXPECT_EQ(shown("A1"), "4");
 }
 
+// Each link uses a cell that the array before it fills.
+TEST_F(Recalculate, SettlesALongChainOfArrays) {
+  fill({{"A1", "=qvxREDUCEFRACTION(6,1)"}});
+  for (int link = 1; link < 12; ++link) {
+    const std::string above = std::to_string(5 * link - 4);
+    const std::string formula = "=qvxREDUCEFRACTION(qvxADD(B" + above + ",1),1)";
+    sheet.set({static_cast<std::uint32_t>(5 * link + 1), 1}, formula);
+  }
+  calculate();
+  EXPECT_EQ(shown("B56"), "17");
+}
+
+TEST_F(Recalculate, TellsOfArraysThatNeverComeToRest) {
+  fill({{"C1", "=qvxREDUCEFRACTION(6,4,,,qvxISEVEN(D3))"}, {"A3", "=qvxREDUCEFRACTION(9,6)"}});
+  calculate();
+  EXPECT_TRUE(shown("C1") == "#CIRCULAR!" || shown("A3") == "#CIRCULAR!")
+      << shown("C1") << " " << shown("A3");
+}
+
+TEST_F(Recalculate, TellsThatAnArrayRunsOffTheWorksheet) {
+  fill({{"XFB1", "=qvxREDUCEFRACTION(6,4)"}});
+  calculate();
+  EXPECT_EQ(shown("XFB1"), "#SPILL!");
+  EXPECT_NE(message("XFB1").find("the worksheet ends"), std::string::npos) << message("XFB1");
+}
+
 TEST_F(Recalculate, HandsRangesToListFunctions) {
   fill({{"A1", "12345678901234567890"},
         {"A2", "=qvxADD(A1,B2)"},
