@@ -28,7 +28,8 @@ HostValue Shown_Fraction(type_Fraction fraction, const Fraction_Parts& parts,
                                            fraction.divisor, fraction.Reduced_By};
   Array array;
   array.rows = array.columns = shown.size();
-  array.values.assign(shown.size() * shown.size(), HostValue::Empty());
+  // An array of text: what is empty in it is so as text.
+  array.values.assign(shown.size() * shown.size(), NumberText());
   for (std::size_t place = 0; place < shown.size(); ++place) {
     array.values[place] = shown[place];
     array.values[place * array.columns] = shown[place];

@@ -17,7 +17,7 @@ struct Fraction_Parts {
 
 /// One part as text; or an array of four rows and columns, the first of which both hold the
 /// fraction as text, its numerator, its divisor and what it was reduced by, and the rest of which
-/// is blank. An empty `separator` is a slash.
+/// is empty text. An empty `separator` is a slash.
 HostValue Shown_Fraction(type_Fraction fraction, const Fraction_Parts& parts,
                          const std::optional<NumberText>& separator);
 

@@ -28,7 +28,9 @@ Fillings Fillings_Of(const Array& array, Cell_Address from) {
   Fillings fillings;
   for (std::size_t place = 1; place < array.values.size(); ++place) {
     const HostValue& value = array.values[place];
-    if (value.is_empty() || value.is_missing()) continue;
+    const bool is_blank =
+        value.is_empty() || value.is_missing() || (value.is_text() && value.text().empty());
+    if (is_blank) continue;
     const Cell_Address address{from.row + static_cast<std::uint32_t>(place / array.columns),
                                from.column + static_cast<std::uint32_t>(place % array.columns)};
     fillings.insert({address, {from, value}});
