@@ -22,16 +22,17 @@ namespace {
 // Why the three operations leave the exact remainder.
 //
 // Let A, a and B, b be the digits, without zeros in front, and decimals of dividend and divisor, L
-// the length of both texts, D the divisor as a whole number, both operands scaled by the same power of ten, and I the integer
-// digits of the quotient Q (below 1, less by the zeros behind the point). I is A - a - (B - b) + 1
-// at most, and log10 D is B - b + max(a, b) at most: together, L + 1 at most. The quotient is asked
-// for to s = L + 6 digits, so that a unit of its last place, 10^(I-s), is at most 10^-5 / D.
+// the length of both texts, D the divisor as a whole number, both operands scaled by the same power
+// of ten, and I the integer digits of the quotient Q (below 1, less by the zeros behind the point).
+// I is A - a - (B - b) + 1 at most, and log10 D is B - b + max(a, b) at most: together, L + 1 at
+// most. The quotient is asked for to s = L + 6 digits, so that a unit of its last place, 10^(I-s),
+// is at most 10^-5 / D.
 //
 // 1. It is the dividend times s + 3 digits of the reciprocal, which are right, or where the
 //    reciprocal ends those of a number just below it. So it lies below Q, by less than 11 units of
 //    digit s + 3, before it is rounded to s digits by the first dropped one.
-// 2. Q whole: it has I digits, fewer than s. What is dropped begins with a nine, also for a power of
-//    ten, whose digits begin one place later then: rounding gives Q.
+// 2. Q whole: it has I digits, fewer than s. What is dropped begins with a nine, also for a power
+//    of ten, whose digits begin one place later then: rounding gives Q.
 // 3. Q not whole: it is 1/D or more from any whole number, and rounding moves it by less than
 //    10^-5 / D. Its whole part stays, whichever way it is cut.
 // 4. Divisors of 1 and quotients of 1, answered without a reciprocal, are exact.

@@ -106,7 +106,8 @@ class Worksheet {
 
   /// Fills the cells right of and below formulas that gave arrays with their values, and empties
   /// those that none fills any more. An array of which a cell isn't free fills none, and is told
-  /// the obstacle; blank and empty values need no room. True if formulas may have to be calculated again.
+  /// the obstacle; blank and empty values need no room. True if formulas may have to be calculated
+  /// again.
   bool spill();
 
   /// How many formulas gave arrays that fill cells, or have no room to.
