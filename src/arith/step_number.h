@@ -1,0 +1,47 @@
+// Numbers in long chains of operations, such as the terms and sums of a series.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <utility>
+
+#include "host/host_value.h"
+
+namespace quorvex {
+
+/// A number between two steps of a chain: the value of the text that `Intermediate` gives, or an
+/// error token. Any other text that arithmetic takes may begin a chain.
+class Step_Number {
+ public:
+  explicit Step_Number(std::string_view text) : text_(text) {}
+  explicit Step_Number(NumberText&& text) : text_(std::move(text)) {}
+  explicit Step_Number(double number);
+
+  /// Plain number text with its sign, or the token.
+  NumberText text() const { return text_; }
+
+  bool is_token() const;
+  bool is_zero() const;
+  bool is_negative() const;
+
+  /// The power of ten of the leading digit: 2 for 123.4, -3 for 0.00123; 0 for 0. Not for tokens.
+  std::int64_t leading_power() const;
+
+  /// The opposite number, and the one without its sign. 0 has none.
+  Step_Number opposite() const;
+  Step_Number magnitude() const;
+
+ private:
+  NumberText text_;
+};
+
+// What `Intermediate` gives for the texts at the limit, digit for digit.
+Step_Number Sum(const Step_Number& a, const Step_Number& b, double limit);
+Step_Number Difference(const Step_Number& a, const Step_Number& b, double limit);
+Step_Number Product(const Step_Number& a, const Step_Number& b, double limit);
+Step_Number Quotient(const Step_Number& a, const Step_Number& b, double limit);
+
+/// True where a is the greater by value. Fails with type_mismatch where one is no number.
+bool Is_Greater(const Step_Number& a, const Step_Number& b);
+
+}  // namespace quorvex
