@@ -65,6 +65,13 @@ class Divisor {
     return quotient;
   }
 
+  /// What division leaves of a dividend below 2^64 times the number.
+  Limb rest_of(Wide dividend) const {
+    Limb shifted_rest = 0;
+    Divide_Shifted(dividend << shift_, shifted_, reciprocal_, shifted_rest);
+    return shifted_rest >> shift_;
+  }
+
  private:
   Limb number_;
   unsigned shift_;

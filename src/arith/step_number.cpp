@@ -1,6 +1,11 @@
 #include "arith/step_number.h"
 
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
 #include "arith/do_operation.h"
+#include "arith/multiply_digits.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "text/compare_numbers.h"
@@ -9,24 +14,93 @@
 #include "text/tokens.h"
 
 namespace quorvex {
+namespace {
 
-Step_Number::Step_Number(double number) : text_(To_Text(HostValue(number))) {}
+using limbs::Number;
+
+// The host writes whole numbers below this plainly.
+constexpr double plain_whole_numbers = 1e15;
+
+// Limits and powers of the base beyond these are left to the operations on text, which ask for the
+// memory that they need.
+constexpr double highest_limit = 1'000'000;
+constexpr std::int64_t highest_power = 1'000'000;
+
+// Formatting keeps two digits beyond the limit, division one.
+constexpr std::size_t formatted_beyond = 2;
+constexpr std::size_t divided_beyond = 1;
+
+std::optional<std::size_t> Whole_Limit(double limit) {
+  if (!(limit >= 1 && limit <= highest_limit) || std::trunc(limit) != limit) return std::nullopt;
+  return static_cast<std::size_t>(limit);
+}
+
+bool Is_Near(const Number* number) {
+  return number != nullptr && number->low >= -highest_power && number->top() <= highest_power;
+}
+
+// The operation on texts where `step` doesn't give the result. It takes the numbers and the digits
+// that are kept of their result.
+template <typename Step>
+Step_Number Take_Step(std::int16_t code, const Step_Number& a, const Step_Number& b, double limit,
+                      const Step& step) {
+  const Number* const first = a.in_limbs();
+  const Number* const second = b.in_limbs();
+  const auto digits = Whole_Limit(limit);
+  if (digits && Is_Near(first) && Is_Near(second)) {
+    std::optional<Number> result = step(*first, *second, *digits);
+    if (result) return Step_Number(std::move(*result));
+  }
+  return Step_Number(Intermediate(code, a.text(), b.text(), limit));
+}
+
+Step_Number Add(std::int16_t code, const Step_Number& a, const Step_Number& b, double limit) {
+  return Take_Step(code, a, b, limit, [&](const Number& x, const Number& y, std::size_t digits) {
+    const bool negative = y.negative != (code == operation::subtract);
+    return std::optional(limbs::Sum(x, y, negative, digits + formatted_beyond));
+  });
+}
+
+}  // namespace
+
+Step_Number::Step_Number(std::string_view text) {
+  if (auto number = limbs::Read_Canonical(text)) {
+    number_ = std::move(*number);
+  } else {
+    text_ = text;
+  }
+}
+
+Step_Number::Step_Number(double number) {
+  if (std::fabs(number) < plain_whole_numbers && std::trunc(number) == number) {
+    auto limb = static_cast<limbs::Limb>(std::fabs(number));
+    number_ = limbs::Trimmed({&limb, 1, 0, number < 0});
+  } else {
+    *this = Step_Number(Number_To_Text(number));
+  }
+}
+
+NumberText Step_Number::text() const {
+  return text_ ? *text_ : limbs::Text_Of(number_);
+}
 
 bool Step_Number::is_token() const {
-  return Has_Token_Mark(text_);
+  return text_ && Has_Token_Mark(*text_);
 }
 
 bool Step_Number::is_zero() const {
-  const Operand number(text_);
+  if (!text_) return number_.is_zero();
+  const Operand number(*text_);
   return number.is_number() && Is_Zero(number.parts());
 }
 
 bool Step_Number::is_negative() const {
-  return text_.starts_with('-') && !is_zero();
+  return text_ ? text_->starts_with('-') && !is_zero() : number_.negative;
 }
 
 std::int64_t Step_Number::leading_power() const {
-  const Operand number(text_);
+  if (!text_) return number_.is_zero() ? 0 : limbs::Leading_Power(number_);
+  const Operand number(*text_);
   const Decimal_Parts& parts = number.parts();
   const std::size_t before = Count_Leading_Zeros(parts.integer);
   if (before < parts.integer.size()) {
@@ -38,30 +112,52 @@ std::int64_t Step_Number::leading_power() const {
 
 Step_Number Step_Number::opposite() const {
   if (is_token() || is_zero()) return *this;
-  return text_.starts_with('-') ? Step_Number(text_.substr(1)) : Step_Number("-" + text_);
+  if (text_) return Step_Number(text_->starts_with('-') ? text_->substr(1) : "-" + *text_);
+  Step_Number other = *this;
+  other.number_.negative = !number_.negative;
+  return other;
 }
 
 Step_Number Step_Number::magnitude() const {
-  return text_.starts_with('-') ? Step_Number(text_.substr(1)) : *this;
+  if (text_) return text_->starts_with('-') ? Step_Number(text_->substr(1)) : *this;
+  Step_Number other = *this;
+  other.number_.negative = false;
+  return other;
 }
 
 Step_Number Sum(const Step_Number& a, const Step_Number& b, double limit) {
-  return Step_Number(Intermediate(operation::add, a.text(), b.text(), limit));
+  return Add(operation::add, a, b, limit);
 }
 
 Step_Number Difference(const Step_Number& a, const Step_Number& b, double limit) {
-  return Step_Number(Intermediate(operation::subtract, a.text(), b.text(), limit));
+  return Add(operation::subtract, a, b, limit);
 }
 
 Step_Number Product(const Step_Number& a, const Step_Number& b, double limit) {
-  return Step_Number(Intermediate(operation::multiply, a.text(), b.text(), limit));
+  return Take_Step(operation::multiply, a, b, limit,
+                   [](const Number& x, const Number& y, std::size_t digits) {
+                     const bool is_long = std::min(x.count(), y.count()) >= limbs::long_factor;
+                     if (is_long || !Can_Multiply()) return std::optional<Number>();
+                     return std::optional(limbs::Product(x, y, digits + formatted_beyond));
+                   });
 }
 
 Step_Number Quotient(const Step_Number& a, const Step_Number& b, double limit) {
-  return Step_Number(Intermediate(operation::divide, a.text(), b.text(), limit));
+  return Take_Step(operation::divide, a, b, limit,
+                   [](const Number& x, const Number& y, std::size_t digits) {
+                     if (!Can_Multiply()) return std::optional<Number>();
+                     return limbs::Quotient(x, y, digits + divided_beyond);
+                   });
 }
 
 bool Is_Greater(const Step_Number& a, const Step_Number& b) {
+  const Number* const first = a.in_limbs();
+  const Number* const second = b.in_limbs();
+  if (first != nullptr && second != nullptr) {
+    if (first->negative != second->negative) return second->negative;
+    const auto order = limbs::Compare_Magnitudes(*first, *second);
+    return first->negative ? std::is_lt(order) : std::is_gt(order);
+  }
   const HostValue answer = Compare_Numbers(a.text(), b.text(), false, true);
   if (answer.is_text()) {
     throw Run_Time_Failure(Failure_Number::type_mismatch, "What is compared is no number.");

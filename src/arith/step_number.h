@@ -2,23 +2,29 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <utility>
 
+#include "arith/limb_number.h"
 #include "host/host_value.h"
 
 namespace quorvex {
 
 /// A number between two steps of a chain: the value of the text that `Intermediate` gives, or an
 /// error token. Any other text that arithmetic takes may begin a chain.
+///
+/// Numbers as formatting writes them are held in limbs, and steps on them at limits from 1 to a
+/// million digits, quotients by few digits among them, form no text. All else is held as text and
+/// goes the slow way, with the same results.
 class Step_Number {
  public:
-  explicit Step_Number(std::string_view text) : text_(text) {}
-  explicit Step_Number(NumberText&& text) : text_(std::move(text)) {}
+  explicit Step_Number(std::string_view text);
   explicit Step_Number(double number);
+  explicit Step_Number(limbs::Number&& number) : number_(std::move(number)) {}
 
   /// Plain number text with its sign, or the token.
-  NumberText text() const { return text_; }
+  NumberText text() const;
 
   bool is_token() const;
   bool is_zero() const;
@@ -31,8 +37,12 @@ class Step_Number {
   Step_Number opposite() const;
   Step_Number magnitude() const;
 
+  /// The number in limbs; null where it is held as text.
+  const limbs::Number* in_limbs() const { return text_ ? nullptr : &number_; }
+
  private:
-  NumberText text_;
+  limbs::Number number_;
+  std::optional<NumberText> text_;  // where the number is not in limbs
 };
 
 // What `Intermediate` gives for the texts at the limit, digit for digit.

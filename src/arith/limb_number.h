@@ -1,0 +1,113 @@
+// Numbers of any size in limbs, and what chains of operations do with them.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <compare>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "arith/limbs.h"
+#include "host/host_value.h"
+
+namespace quorvex::limbs {
+
+/// Limbs, within the object if they are few: a copy is then no more than theirs.
+class Store {
+ public:
+  Store() = default;
+  Store(const Store& other) { *this = other; }
+  Store(Store&& other) noexcept { *this = std::move(other); }
+  ~Store() = default;
+  Store& operator=(const Store& other) {
+    if (this != &other) std::copy_n(other.data(), other.count_, reset(other.count_));
+    return *this;
+  }
+  Store& operator=(Store&& other) noexcept {
+    count_ = other.count_;
+    if (count_ > few_.size()) {
+      many_.swap(other.many_);
+    } else {
+      std::copy_n(other.few_.data(), count_, few_.data());
+    }
+    return *this;
+  }
+
+  std::size_t size() const { return count_; }
+  const Limb* data() const { return count_ > few_.size() ? many_.data() : few_.data(); }
+
+  /// Room for `count` limbs, which hold nothing yet.
+  Limb* reset(std::size_t count) {
+    count_ = count;
+    if (count <= few_.size()) return few_.data();
+    many_.resize(count);
+    return many_.data();
+  }
+
+ private:
+  std::size_t count_ = 0;
+  std::array<Limb, 60> few_;  // more than a thousand digits
+  std::vector<Limb> many_;
+};
+
+/// A number by its limbs, of which neither the first nor the last is 0; 0 has none. Limbs stand as
+/// in every other number, so that sums need no shifts.
+struct Number {
+  Store store;
+  std::int64_t low = 0;  // the first limb counts the base to this power
+  bool negative = false;
+
+  std::size_t count() const { return store.size(); }
+  const Limb* data() const { return store.data(); }
+  bool is_zero() const { return count() == 0; }
+  /// The power of the base above the last limb.
+  std::int64_t top() const { return low + static_cast<std::int64_t>(count()); }
+};
+
+/// Reads number text as formatting leaves it; nothing for any other.
+std::optional<Number> Read_Canonical(std::string_view text);
+
+/// The text that formatting leaves of a number.
+NumberText Text_Of(const Number& number);
+
+/// The power of ten of the leading digit of a number that is not 0.
+std::int64_t Leading_Power(const Number& number);
+
+std::strong_ordering Compare_Magnitudes(const Number& a, const Number& b);
+
+/// `count` limbs with room for one more, their first at the power `low` of the base.
+struct Raw_Number {
+  Limb* limbs;
+  std::size_t count;
+  std::int64_t low;
+  bool negative;
+};
+
+/// The number without the zeros around it.
+Number Trimmed(const Raw_Number& raw);
+
+/// Adds `unit`, which is below the base, to a limb, and what runs over to those above it.
+void Raise(Raw_Number& raw, std::size_t place, Limb unit);
+
+/// Rounded to so many significant digits (1 or more), half up by the first dropped digit alone.
+Number Rounded(Raw_Number raw, std::size_t digits);
+Number Rounded(const Number& number, std::size_t digits);
+
+/// a + b, with a sign for b that stands in for its own.
+Number Sum(const Number& a, const Number& b, bool b_is_negative, std::size_t digits);
+
+/// Of so many limbs in the shorter one, products of text cost less than those of limbs.
+inline constexpr std::size_t long_factor = 100;
+
+Number Product(const Number& a, const Number& b, std::size_t digits);
+
+/// a / b as division gives it to `digits` digits (not 0): the first ones of a times the reciprocal
+/// of b in three digits more. Nothing where b is not one limb, and where digits are too close to a
+/// border for this way of telling them.
+std::optional<Number> Quotient(const Number& a, const Number& b, std::size_t digits);
+
+}  // namespace quorvex::limbs
