@@ -88,7 +88,7 @@ std::vector<Method> Parity_Rows() {
   };
 }
 
-std::vector<Method> Whole_Number_Rows() {
+std::vector<Method> Whole_Part_Rows() {
   return {
       Row<&cls_Quorvex::qvxINT>(
           "qvxINT", "Whole number", math,
@@ -104,6 +104,11 @@ std::vector<Method> Whole_Number_Rows() {
                         Optional("num_digits",
                                  "the decimal places to keep, none if left out; a negative count "
                                  "acts one place short, so that -2 cuts to tens")})),
+  };
+}
+
+std::vector<Method> Whole_Number_Rows() {
+  return {
       Row<&cls_Quorvex::qvxFRAC>(
           "qvxFRAC", "Whole number", math,
           "Returns the fractional part of a number, with up to 32,767 significant digits of "
