@@ -22,10 +22,10 @@ inline Limb Divide_Shifted(Wide dividend, Limb divisor, Limb reciprocal, Limb& r
   const Wide guess = Wide{reciprocal} * high + (Wide{high + 1} << 64U) + low;
   auto quotient = static_cast<Limb>(guess >> 64U);
   rest = low - quotient * divisor;
-  if (rest > static_cast<Limb>(guess)) {
-    --quotient;
-    rest += divisor;
-  }
+  // Half of all guesses are one too large, so this takes no branch.
+  const Limb too_large = Limb{0} - static_cast<Limb>(rest > static_cast<Limb>(guess));
+  quotient += too_large;
+  rest += too_large & divisor;
   if (rest >= divisor) {
     ++quotient;
     rest -= divisor;
@@ -55,6 +55,11 @@ class Divisor {
         reciprocal_(Reciprocal_Of(shifted_)) {}
 
   Limb number() const { return number_; }
+
+  /// The places that bring the number's highest bit to the top, and 2^128 over the number there,
+  /// rounded down, less 2^64.
+  unsigned shift() const { return shift_; }
+  Limb reciprocal() const { return reciprocal_; }
 
   /// Divides rest * base + limb; `rest`, which is below the number, becomes the new rest.
   Limb divide(Limb& rest, Limb limb) const {

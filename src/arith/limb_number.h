@@ -29,7 +29,7 @@ class Store {
   }
   Store& operator=(Store&& other) noexcept {
     count_ = other.count_;
-    if (count_ > few_.size()) {
+    if (count_ > few_.size()) [[unlikely]] {
       many_.swap(other.many_);
     } else {
       std::copy_n(other.few_.data(), count_, few_.data());
@@ -100,14 +100,12 @@ Number Rounded(const Number& number, std::size_t digits);
 /// a + b, with a sign for b that stands in for its own.
 Number Sum(const Number& a, const Number& b, bool b_is_negative, std::size_t digits);
 
-/// Of so many limbs in the shorter one, products of text cost less than those of limbs.
-inline constexpr std::size_t long_factor = 100;
-
+/// a b. Long numbers are multiplied by the library of products, which must be there.
 Number Product(const Number& a, const Number& b, std::size_t digits);
 
-/// a / b as division gives it to `digits` digits (not 0): the first ones of a times the reciprocal
-/// of b in three digits more. Nothing where b is not one limb, and where digits are too close to a
-/// border for this way of telling them.
-std::optional<Number> Quotient(const Number& a, const Number& b, std::size_t digits);
+/// `result` = a / b as division gives it to `digits` digits (not 0): the first ones of a times the
+/// reciprocal of b in three digits more. False where b is not one limb, and where digits are too
+/// close to a border for this way of telling them.
+bool Divide(Number& result, const Number& a, const Number& b, std::size_t digits);
 
 }  // namespace quorvex::limbs

@@ -30,35 +30,25 @@ constexpr std::int64_t highest_power = 1'000'000;
 constexpr std::size_t formatted_beyond = 2;
 constexpr std::size_t divided_beyond = 1;
 
-std::optional<std::size_t> Whole_Limit(double limit) {
-  if (!(limit >= 1 && limit <= highest_limit) || std::trunc(limit) != limit) return std::nullopt;
-  return static_cast<std::size_t>(limit);
-}
-
 bool Is_Near(const Number* number) {
   return number != nullptr && number->low >= -highest_power && number->top() <= highest_power;
 }
 
-// The operation on texts where `step` doesn't give the result. It takes the numbers and the digits
-// that are kept of their result.
-template <typename Step>
-Step_Number Take_Step(std::int16_t code, const Step_Number& a, const Step_Number& b, double limit,
-                      const Step& step) {
-  const Number* const first = a.in_limbs();
-  const Number* const second = b.in_limbs();
-  const auto digits = Whole_Limit(limit);
-  if (digits && Is_Near(first) && Is_Near(second)) {
-    std::optional<Number> result = step(*first, *second, *digits);
-    if (result) return Step_Number(std::move(*result));
+// Two numbers for a step in limbs, and the limit; or 0 for it where the step is left to texts.
+struct Operands {
+  Operands(const Step_Number& first, const Step_Number& second, double limit)
+      : a(first.in_limbs()), b(second.in_limbs()) {
+    const bool is_plain = limit >= 1 && limit <= highest_limit && std::trunc(limit) == limit;
+    if (is_plain && Is_Near(a) && Is_Near(b)) digits = static_cast<std::size_t>(limit);
   }
-  return Step_Number(Intermediate(code, a.text(), b.text(), limit));
-}
 
-Step_Number Add(std::int16_t code, const Step_Number& a, const Step_Number& b, double limit) {
-  return Take_Step(code, a, b, limit, [&](const Number& x, const Number& y, std::size_t digits) {
-    const bool negative = y.negative != (code == operation::subtract);
-    return std::optional(limbs::Sum(x, y, negative, digits + formatted_beyond));
-  });
+  const Number* a;
+  const Number* b;
+  std::size_t digits = 0;
+};
+
+Step_Number By_Text(std::int16_t code, const Step_Number& a, const Step_Number& b, double limit) {
+  return Step_Number(Intermediate(code, a.text(), b.text(), limit));
 }
 
 }  // namespace
@@ -126,28 +116,31 @@ Step_Number Step_Number::magnitude() const {
 }
 
 Step_Number Sum(const Step_Number& a, const Step_Number& b, double limit) {
-  return Add(operation::add, a, b, limit);
+  const Operands in(a, b, limit);
+  if (in.digits == 0) return By_Text(operation::add, a, b, limit);
+  return Step_Number(limbs::Sum(*in.a, *in.b, in.b->negative, in.digits + formatted_beyond));
 }
 
 Step_Number Difference(const Step_Number& a, const Step_Number& b, double limit) {
-  return Add(operation::subtract, a, b, limit);
+  const Operands in(a, b, limit);
+  if (in.digits == 0) return By_Text(operation::subtract, a, b, limit);
+  return Step_Number(limbs::Sum(*in.a, *in.b, !in.b->negative, in.digits + formatted_beyond));
 }
 
 Step_Number Product(const Step_Number& a, const Step_Number& b, double limit) {
-  return Take_Step(operation::multiply, a, b, limit,
-                   [](const Number& x, const Number& y, std::size_t digits) {
-                     const bool is_long = std::min(x.count(), y.count()) >= limbs::long_factor;
-                     if (is_long || !Can_Multiply()) return std::optional<Number>();
-                     return std::optional(limbs::Product(x, y, digits + formatted_beyond));
-                   });
+  const Operands in(a, b, limit);
+  if (in.digits == 0 || !Can_Multiply()) return By_Text(operation::multiply, a, b, limit);
+  return Step_Number(limbs::Product(*in.a, *in.b, in.digits + formatted_beyond));
 }
 
 Step_Number Quotient(const Step_Number& a, const Step_Number& b, double limit) {
-  return Take_Step(operation::divide, a, b, limit,
-                   [](const Number& x, const Number& y, std::size_t digits) {
-                     if (!Can_Multiply()) return std::optional<Number>();
-                     return limbs::Quotient(x, y, digits + divided_beyond);
-                   });
+  const Operands in(a, b, limit);
+  Number quotient;
+  if (in.digits == 0 || !Can_Multiply() ||
+      !limbs::Divide(quotient, *in.a, *in.b, in.digits + divided_beyond)) {
+    return By_Text(operation::divide, a, b, limit);
+  }
+  return Step_Number(std::move(quotient));
 }
 
 bool Is_Greater(const Step_Number& a, const Step_Number& b) {

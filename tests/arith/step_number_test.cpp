@@ -37,6 +37,11 @@ std::string Call_Text(const Operation& operation, const std::string& a, const st
   return std::to_string(operation.code) + ": " + a + " and " + b + " at " + std::to_string(limit);
 }
 
+// A quotient has as many digits as the limit says.
+bool Takes_Too_Long(const Operation& operation, double limit) {
+  return operation.code == operation::divide && !(limit <= 10'000);
+}
+
 void Expect_As_Text(const Operation& operation, const std::string& a, const std::string& b,
                     double limit) {
   if (operation.code == operation::divide && !(limit <= 10'000))
@@ -145,6 +150,7 @@ TEST(StepNumber, KeepsToTextsThroughWholeChains) {
       const std::string other =
           operands.random().one_in(3) ? earlier : operands.number_beside(text);
       const auto& operation = operations[operands.random().below(operations.size())];
+      if (Takes_Too_Long(operation, limit)) continue;
       earlier = text;
       number = operation.step(number, Step_Number(other), limit);
       text = Intermediate(operation.code, text, other, limit);
