@@ -20,6 +20,7 @@ inline constexpr std::string_view math = "High-Precision Math";
 inline constexpr std::string_view statistical = "High-Precision Statistical";
 inline constexpr std::string_view information = "High-Precision Information";
 inline constexpr std::string_view miscellaneous = "High-Precision Miscellaneous";
+inline constexpr std::string_view add_in_information = "Quorvex Add-In Information";
 inline constexpr std::string_view not_offered;
 
 inline Parameter Operand_Parameter(std::string_view name, std::string_view help) {
@@ -85,11 +86,14 @@ Method Row(std::string_view name, std::string_view family, std::string_view cate
 }
 
 // Rows that fill files of their own, in the order of the class.
+std::vector<Method> Host_Rows();
 std::vector<Method> Square_Root_Rows();
 std::vector<Method> Parity_Rows();
 std::vector<Method> Whole_Number_Rows();
 std::vector<Method> Sign_Rows();
 std::vector<Method> Reduction_Rows();
 std::vector<Method> Divisor_Rows();
+std::vector<Method> About_Rows();
+std::vector<Method> Test_Rows();
 
 }  // namespace quorvex::catalogue
