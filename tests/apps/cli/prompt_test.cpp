@@ -74,7 +74,13 @@ TEST(Prompt, RecalculatesTheOpenWorksheetOnYesAlone) {
   EXPECT_TRUE(terminal.shows("\n3\r\n")) << terminal.shown();
   EXPECT_EQ(terminal.shown().find("0.3333"), std::string::npos) << terminal.shown();
   terminal.type_at_prompt("settings\n");
+  terminal.type_at("Digits [3]: ", "\x03");
+  terminal.type_at_prompt("settings\n");
   terminal.type_at("Digits [3]: ", "\n");
+  terminal.type_at("[y/N] ", "\x03");  // agrees to nothing
+  terminal.type_at_prompt("settings\n");
+  terminal.type_at("Digits [3]: ", "\n");
+  EXPECT_EQ(terminal.shown().find("0.3333"), std::string::npos) << terminal.shown();
   terminal.type_at("[y/N] ", "y\n");
   EXPECT_TRUE(terminal.shows("\n0.3333\r\n0.3333\r\n")) << terminal.shown();
   terminal.type_at_prompt("quit\n");
