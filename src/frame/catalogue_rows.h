@@ -21,6 +21,7 @@ inline constexpr std::string_view statistical = "High-Precision Statistical";
 inline constexpr std::string_view text_functions = "High-Precision Text";
 inline constexpr std::string_view information = "High-Precision Information";
 inline constexpr std::string_view miscellaneous = "High-Precision Miscellaneous";
+inline constexpr std::string_view add_in_information = "Quorvex Add-In Information";
 inline constexpr std::string_view not_offered;
 
 inline Parameter Operand_Parameter(std::string_view name, std::string_view help) {
@@ -86,6 +87,7 @@ Method Row(std::string_view name, std::string_view family, std::string_view cate
 }
 
 // Rows that fill files of their own, in the order of the class.
+std::vector<Method> Host_Rows();
 std::vector<Method> Angle_Worker_Rows();
 std::vector<Method> Square_Root_Rows();
 std::vector<Method> Parity_Rows();
@@ -96,6 +98,8 @@ std::vector<Method> Whole_Number_Rows();
 std::vector<Method> Sign_Rows();
 std::vector<Method> Reduction_Rows();
 std::vector<Method> Divisor_Rows();
+std::vector<Method> About_Rows();
+std::vector<Method> Test_Rows();
 std::vector<Method> Sine_Rows();
 std::vector<Method> Arc_Rows();
 std::vector<Method> Mantissa_Rows();

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cli/result_text.h"
+#include "cli/wrapped.h"
 #include "formula/evaluate.h"
 #include "formula/formula.h"
 #include "host/platform.h"
@@ -14,8 +15,6 @@
 
 namespace quorvex {
 namespace {
-
-constexpr std::size_t page_width = 92;
 
 // Examples are written with "." and ",", and mean the same wherever they are read.
 class Example_Settings {
@@ -87,26 +86,6 @@ std::string Padded(std::string_view text, std::size_t width) {
   std::string padded(text);
   padded.resize(std::max(width, text.size()), ' ');
   return padded;
-}
-
-// Breaks at blanks; lines after the first begin with `indent` blanks.
-std::string Wrapped(std::string_view text, std::size_t indent) {
-  std::string wrapped;
-  std::size_t column = indent;
-  while (!text.empty()) {
-    const std::string_view word = text.substr(0, text.find(' '));
-    text.remove_prefix(std::min(word.size() + 1, text.size()));
-    if (column > indent && column + 1 + word.size() > page_width) {
-      wrapped += '\n' + std::string(indent, ' ');
-      column = indent;
-    } else if (column > indent) {
-      wrapped += ' ';
-      ++column;
-    }
-    wrapped += word;
-    column += word.size();
-  }
-  return wrapped;
 }
 
 std::string Indented_Lines(std::string_view lines) {
