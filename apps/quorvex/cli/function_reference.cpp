@@ -47,26 +47,6 @@ std::string Example_Result(cls_Quorvex& engine, std::string_view example) {
   return result;
 }
 
-using Category = std::pair<std::string_view, std::vector<const Method*>>;
-
-// In the order in which the catalogue first names them. What no function dialog offers comes last.
-std::vector<Category> Categories() {
-  std::vector<Category> categories;
-  std::vector<const Method*> others;
-  for (const Method& method : Catalogue()) {
-    if (method.category.empty()) {
-      others.push_back(&method);
-      continue;
-    }
-    auto found = std::find_if(categories.begin(), categories.end(),
-                              [&](const auto& each) { return each.first == method.category; });
-    if (found == categories.end()) found = categories.insert(found, Category(method.category, {}));
-    found->second.push_back(&method);
-  }
-  if (!others.empty()) categories.emplace_back("For programs", std::move(others));
-  return categories;
-}
-
 std::string Signature(const Method& method) {
   std::string text(method.name);
   text += '(';
@@ -162,11 +142,29 @@ std::string Reference_Entry(cls_Quorvex& engine, const Method& method) {
 
 }  // namespace
 
+std::vector<std::pair<std::string_view, std::vector<const Method*>>> Functions_By_Category() {
+  using Category = std::pair<std::string_view, std::vector<const Method*>>;
+  std::vector<Category> categories;
+  std::vector<const Method*> others;
+  for (const Method& method : Catalogue()) {
+    if (method.category.empty()) {
+      others.push_back(&method);
+      continue;
+    }
+    auto found = std::find_if(categories.begin(), categories.end(),
+                              [&](const auto& each) { return each.first == method.category; });
+    if (found == categories.end()) found = categories.insert(found, Category(method.category, {}));
+    found->second.push_back(&method);
+  }
+  if (!others.empty()) categories.emplace_back("For programs", std::move(others));
+  return categories;
+}
+
 std::string Function_List() {
   const std::size_t width =
       Widest(Catalogue(), [](const Method& method) { return method.name; }) + 4;
   std::string text;
-  for (const auto& [category, methods] : Categories()) {
+  for (const auto& [category, methods] : Functions_By_Category()) {
     if (!text.empty()) text += '\n';
     text.append(category).append("\n");
     for (const Method* method : methods) {
@@ -204,7 +202,7 @@ std::string Function_Reference(cls_Quorvex& engine) {
       "in "
       "brackets are optional. The examples are calculated with `.` as the decimal separator, `,` "
       "between thousands and `$` as the currency symbol.\n\n";
-  for (const auto& [category, methods] : Categories()) {
+  for (const auto& [category, methods] : Functions_By_Category()) {
     text.append("## ").append(category).append("\n\n");
     for (const Method* method : methods) text += Reference_Entry(engine, *method);
   }

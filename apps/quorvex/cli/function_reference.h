@@ -4,11 +4,17 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "frame/catalogue.h"
 #include "frame/cls_Quorvex.h"
 
 namespace quorvex {
+
+/// The functions of the catalogue by category, in the order in which it first names them. What no
+/// function dialog offers comes last.
+std::vector<std::pair<std::string_view, std::vector<const Method*>>> Functions_By_Category();
 
 /// All functions by category, a line each.
 std::string Function_List();
