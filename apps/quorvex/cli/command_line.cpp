@@ -17,6 +17,7 @@
 #include "batch/serve.h"
 #include "cli/common_options.h"
 #include "cli/formulas.h"
+#include "cli/function_page.h"
 #include "cli/function_reference.h"
 #include "cli/manual_page.h"
 #include "cli/prompt.h"
@@ -157,7 +158,7 @@ std::vector<std::string> Guarded_Arguments(int argc, char** argv) {
 Outcome Run_Functions(Session& session, const Arguments& arguments) {
   std::string& out = session.output().buffer();
   if (arguments.markdown) {
-    out += Function_Reference(session.engine());
+    out += Function_Page(session.engine());
   } else if (arguments.function.empty()) {
     out += Function_List();
   } else {
