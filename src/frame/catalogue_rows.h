@@ -93,6 +93,7 @@ Method Row(std::string_view name, std::string_view family, std::string_view cate
 }
 
 // Rows that fill files of their own, in the order of the class.
+std::vector<Method> Angle_Worker_Rows();
 std::vector<Method> Square_Root_Rows();
 std::vector<Method> Parity_Rows();
 std::vector<Method> Whole_Number_Rows();
@@ -103,5 +104,7 @@ std::vector<Method> Power_Rows();
 std::vector<Method> Comparison_Rows();
 std::vector<Method> Reduction_Rows();
 std::vector<Method> Divisor_Rows();
+std::vector<Method> Sine_Rows();
+std::vector<Method> Arc_Rows();
 
 }  // namespace quorvex::catalogue

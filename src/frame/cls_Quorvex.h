@@ -62,6 +62,14 @@ class QUORVEX_API cls_Quorvex {
   /// The half of a 32-bit number, rounded down.
   HostValue GetHalfofLong(std::int32_t num_as_long);
 
+  /// The workers of the functions of the same names further down, for a host's macros. What those
+  /// give as the text "0" without a calculation is a number here.
+  HostValue Cos_Function(const HostValue& num, const HostValue& maxSD = Missing);
+  HostValue Tan_Function(const HostValue& num, const HostValue& maxSD = Missing);
+  HostValue ATan_Function(const HostValue& num, const HostValue& maxSD = Missing);
+  HostValue ASin_Function(const HostValue& num, const HostValue& maxSD = Missing);
+  HostValue ACos_Function(const HostValue& num, const HostValue& maxSD = Missing);
+
   /// The sum of the cells of an array or range, each addition with the limit. A cell that is no
   /// number makes it a token; blank cells are 0. Throws `Run_Time_Failure` 13 for what is no
   /// two-dimensional array, such as a single cell, and 9 for an array without a row or column 1.
@@ -360,6 +368,32 @@ class QUORVEX_API cls_Quorvex {
   /// can't be read, 5 for one below -1.
   NumberText qvxRADIANS(const NumberText& degrees, const HostValue& maxSD = Missing);
   NumberText qvxDEGREES(const NumberText& radians, const HostValue& maxSD = Missing);
+
+  /// The sine, cosine and tangent of an angle in radians, each step and pi taken to `maxSD` digits
+  /// (`Default_MaxSD` if missing), so that the last digits carry the rounding of all steps, and
+  /// more of them the more turns an angle has. What is below 10 to the minus `maxSD` is "0".
+  ///
+  /// The text "0" gives "0", the cosine too; *0.0* gives a cosine and a tangent of 1. The tangent
+  /// of a right angle is 1 or -1. Negative angles whose count of quarter turns, rounded down, is
+  /// even have a tangent of the wrong sign, and where it is a multiple of 4 a sine as well.
+  ///
+  /// Throws `Run_Time_Failure` 13 for an angle that is no number or blank, for a `maxSD` that can't
+  /// be read and for one above 32768; 5 for one below -1; 16 for a series that would never end: the
+  /// sine of *0.0*.
+  NumberText qvxSIN(const HostValue& num, const HostValue& maxSD = Missing);
+  NumberText qvxCOS(const HostValue& num, const HostValue& maxSD = Missing);
+  NumberText qvxTAN(const HostValue& num, const HostValue& maxSD = Missing);
+
+  /// The arc tangent, sine and cosine in radians, each step and pi taken to `maxSD` digits. "#NUM!"
+  /// for a sine or cosine above 1 in magnitude, and above 32768 digits for what needs pi. The arc
+  /// cosine takes for 1, 0 and -1 whatever is so as a 64-bit float, a blank for 0.
+  ///
+  /// Throws `Run_Time_Failure` 13 for what is no number, for a `maxSD` that can't be read, and for
+  /// the arc sine of a number so near to 1 that `maxSD` digits can't tell its square from 1; 5 for
+  /// a `maxSD` below -1; 16 for the arc tangent of *0.0*, whose series would never end.
+  NumberText qvxATAN(const HostValue& num, const HostValue& maxSD = Missing);
+  NumberText qvxASIN(const HostValue& num, const HostValue& maxSD = Missing);
+  NumberText qvxACOS(const HostValue& num, const HostValue& maxSD = Missing);
 
   /// `number` with the options applied, cut to the limit plus one digits. An error token, or the
   /// token for what is no number, comes back as it is. Throws `Run_Time_Failure` for an option that

@@ -1,0 +1,77 @@
+#include "elementary/sine_series.h"
+
+#include <string_view>
+#include <utility>
+
+#include "arith/do_operation.h"
+#include "elementary/series.h"
+#include "host/conversions.h"
+
+namespace quorvex {
+namespace {
+
+bool Is_Zero_As_Float(const NumberText& x) {
+  return To_Number(x) == 0;
+}
+
+// The terms of sine or cosine, by what the first one is and how far the counter has come with it.
+class Sine_Terms {
+ public:
+  Sine_Terms(std::string_view first, double k, const NumberText& x, double limit)
+      : term_(first),
+        k_(k, limit),
+        square_(Intermediate(operation::power, x, "2", limit)),
+        limit_(limit),
+        end_(limit) {}
+
+  const Step_Number& term() const { return term_; }
+  const Series_Counter& k() const { return k_; }
+  bool is_at_end() const { return end_.is_reached(term_); }
+
+  void step() {
+    k_.step();
+    const Step_Number product = Product(term_, square_, limit_);
+    term_ = Quotient(product, k_.product_with_the_one_before(), limit_).opposite();
+  }
+
+ private:
+  Step_Number term_;
+  Series_Counter k_;
+  Step_Number square_;
+  double limit_;
+  Series_End end_;
+};
+
+NumberText Sum_Of(Sine_Terms terms, double limit) {
+  Step_Number sum = terms.term();
+  do {
+    terms.step();
+    sum = Sum(sum, terms.term(), limit);
+  } while (!terms.is_at_end());
+  return sum.text();
+}
+
+}  // namespace
+
+NumberText Sin_Series(const NumberText& x, double maxSD) {
+  return x == "0" ? x : Sum_Of({x, 1, x, maxSD}, maxSD);
+}
+
+NumberText Cos_Series(const NumberText& x, double maxSD) {
+  return Is_Zero_As_Float(x) ? "1" : Sum_Of({"1", 0, x, maxSD}, maxSD);
+}
+
+NumberText Tan_Series(const NumberText& x, double maxSD) {
+  if (Is_Zero_As_Float(x)) return "1";
+  Sine_Terms terms("1", 0, x, maxSD);
+  Step_Number cosine = terms.term();
+  Step_Number sine_by_x = terms.term();
+  do {
+    terms.step();
+    cosine = Sum(cosine, terms.term(), maxSD);
+    sine_by_x = Sum(sine_by_x, Quotient(terms.term(), terms.k().next(), maxSD), maxSD);
+  } while (!terms.is_at_end());
+  return Quotient(Product(sine_by_x, Step_Number(x), maxSD), cosine, maxSD).text();
+}
+
+}  // namespace quorvex

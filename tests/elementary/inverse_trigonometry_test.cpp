@@ -1,0 +1,100 @@
+// The arcs of tangent, sine and cosine against an independent library.
+#include "elementary/inverse_trigonometry.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "elementary/constants.h"
+#include "elementary/text_steps.h"
+#include "elementary/trigonometry.h"
+#include "host/conversions.h"
+#include "support/failures.h"
+#include "support/random_numbers.h"
+#include "support/real_number.h"
+#include "support/surroundings.h"
+
+namespace quorvex {
+namespace {
+
+using Worker = HostValue(const HostValue&, const HostValue&);
+using Oracle = int(mpfr_ptr, mpfr_srcptr, mpfr_rnd_t);
+
+double Distance(Worker* worker, Oracle* oracle, const std::string& text, double limit) {
+  const mpfr_prec_t bits = Bits_For(2 * limit + 2 * static_cast<double>(text.size()));
+  const Real_Number argument(text, bits);
+  Real_Number exact(bits);
+  oracle(exact.value(), argument.value(), MPFR_RNDN);
+  return exact.distance(To_Text(worker(text, limit)), limit);
+}
+
+std::size_t Random_Limit(Random_Numbers& random) {
+  return 5 + random.below(random.one_in(8) ? 496 : 56);
+}
+
+// Half a unit of the last digit of pi, and what the terms round: there are 1.4 for a digit, and
+// each sum keeps two digits more than pi.
+double Arc_Error(std::size_t limit) {
+  return 0.6 + static_cast<double>(limit) / 100;
+}
+
+TEST(InverseTrigonometry, ArcTangentsAgreeWithAnIndependentLibrary) {
+  Random_Numbers random(239);
+  for (int i = 0; i < 500; ++i) {
+    const std::size_t limit = Random_Limit(random);
+    std::string text = random.digits(random.below(random.one_in(4) ? limit : 3)) + "." +
+                       random.digits(1 + random.below(2 * limit)) + "1";
+    if (random.one_in(2)) text.insert(0, 1, '-');
+    EXPECT_LE(Distance(ATan_Function, mpfr_atan, text, static_cast<double>(limit)),
+              Arc_Error(limit))
+        << text << " at " << limit;
+  }
+}
+
+// Near 1 in magnitude the root loses digits: as many as half of those that 1 less the square loses.
+TEST(InverseTrigonometry, ArcSinesAndCosinesAgreeWithAnIndependentLibrary) {
+  Random_Numbers random(113);
+  for (int i = 0; i < 400; ++i) {
+    const std::size_t limit = Random_Limit(random);
+    std::string text = "0." + random.digits(1 + random.below(2 * limit)) + "1";
+    if (random.one_in(2)) text.insert(0, 1, '-');
+    const double rest = 1 - std::fabs(Text_To_Number(text));
+    if (rest < std::pow(10, -3)) continue;
+    const double error = Arc_Error(limit) + 0.02 / std::sqrt(rest);
+    const auto digits = static_cast<double>(limit);
+    EXPECT_LE(Distance(ASin_Function, mpfr_asin, text, digits), error) << text << " at " << limit;
+    EXPECT_LE(Distance(ACos_Function, mpfr_acos, text, digits), error + 1)
+        << text << " at " << limit;
+  }
+}
+
+TEST(InverseTrigonometry, UndoesTheTangentAndSharesTheRightAngle) {
+  for (const double limit : {12.0, 40.0, 200.0}) {
+    const Text_Steps steps{limit};
+    for (const char* text : {"0.3", "-0.75", "0.999"}) {
+      const HostValue arc = ATan_Function(Tan_Function(text, limit), limit);
+      EXPECT_LE(Real_Number(text, Bits_For(limit)).distance(To_Text(arc), limit), 3) << text;
+      const NumberText sum =
+          steps.sum(To_Text(ASin_Function(text, limit)), To_Text(ACos_Function(text, limit)));
+      const NumberText right_angle = steps.quotient(To_Text(Pi_Digits(limit)), "2");
+      EXPECT_LE(Real_Number(right_angle, Bits_For(limit + 2)).distance(sum, limit), 3) << text;
+    }
+  }
+}
+
+TEST(InverseTrigonometry, NeedsNoPiForSmallNumbers) {
+  const NumberText tiny = "0." + NumberText(20000, '0') + "1";
+  EXPECT_EQ(To_Text(ATan_Function(tiny, 33000)), tiny);
+  EXPECT_EQ(To_Text(ASin_Function(tiny, 33000)), tiny);
+  EXPECT_EQ(To_Text(ATan_Function("2", 33000)), "#NUM!");
+}
+
+TEST(InverseTrigonometry, SeriesCanBeBrokenOff) {
+  const Interruption_Guard guard;
+  EXPECT_EQ(Failure_Of([] { ATan_Function("0.5", 30); }), Failure_Number::interrupted);
+  EXPECT_EQ(Failure_Of([] { ASin_Function("0.5", 30); }), Failure_Number::interrupted);
+  EXPECT_EQ(Failure_Of([] { ACos_Function("0.5", 30); }), Failure_Number::interrupted);
+}
+
+}  // namespace
+}  // namespace quorvex
