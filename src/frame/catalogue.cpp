@@ -271,12 +271,13 @@ std::vector<Method> Last_Rows() {
 
 std::vector<Method> Make_Catalogue() {
   std::vector<Method> methods;
-  for (auto rows : {Call_Frame_Rows(),   Division_Rows(),   Angle_Worker_Rows(), Cell_Sum_Rows(),
-                    Square_Root_Rows(),  Parity_Rows(),     List_Rows(),         Recognition_Rows(),
-                    Whole_Number_Rows(), Sign_Rows(),       Sum_Rows(),          Product_Rows(),
-                    Power_Rows(),        Comparison_Rows(), Rounding_Rows(),     Reduction_Rows(),
-                    Divisor_Rows(),      Constant_Rows(),   Default_Rows(),      Angle_Rows(),
-                    Sine_Rows(),         Arc_Rows(),        Last_Rows()}) {
+  for (auto rows : {Call_Frame_Rows(),  Division_Rows(),    Mantissa_Rows(),  Angle_Worker_Rows(),
+                    Cell_Sum_Rows(),    Square_Root_Rows(), Parity_Rows(),    List_Rows(),
+                    Recognition_Rows(), Whole_Part_Rows(),  Factorial_Rows(), Whole_Number_Rows(),
+                    Sign_Rows(),        Sum_Rows(),         Product_Rows(),   Power_Rows(),
+                    Comparison_Rows(),  Rounding_Rows(),    Reduction_Rows(), Divisor_Rows(),
+                    Constant_Rows(),    Default_Rows(),     Angle_Rows(),     Sine_Rows(),
+                    Arc_Rows(),         Probability_Rows(), Logarithm_Rows(), Last_Rows()}) {
     std::ranges::move(rows, std::back_inserter(methods));
   }
   return methods;

@@ -96,6 +96,7 @@ Method Row(std::string_view name, std::string_view family, std::string_view cate
 std::vector<Method> Angle_Worker_Rows();
 std::vector<Method> Square_Root_Rows();
 std::vector<Method> Parity_Rows();
+std::vector<Method> Whole_Part_Rows();
 std::vector<Method> Whole_Number_Rows();
 std::vector<Method> Sign_Rows();
 std::vector<Method> Sum_Rows();
@@ -106,5 +107,9 @@ std::vector<Method> Reduction_Rows();
 std::vector<Method> Divisor_Rows();
 std::vector<Method> Sine_Rows();
 std::vector<Method> Arc_Rows();
+std::vector<Method> Mantissa_Rows();
+std::vector<Method> Factorial_Rows();
+std::vector<Method> Probability_Rows();
+std::vector<Method> Logarithm_Rows();
 
 }  // namespace quorvex::catalogue

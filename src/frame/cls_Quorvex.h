@@ -62,6 +62,15 @@ class QUORVEX_API cls_Quorvex {
   /// The half of a 32-bit number, rounded down.
   HostValue GetHalfofLong(std::int32_t num_as_long);
 
+  /// Number text as a mantissa below 1 and a power of ten, and the two joined again in 64-bit
+  /// floats. No sign is treated: a leading minus counts as a digit. `as_integer` gives the digits
+  /// of the mantissa alone. Joining throws `Run_Time_Failure` 13 for what is no number, 6 beyond
+  /// floats and 32-bit exponents.
+  NumberText Get_Mantissa(const HostValue& num, bool as_integer = false);
+  NumberText Get_Exponent(const HostValue& num);
+  NumberText Combine_Mantissa_And_Exponent(const NumberText& mantissa, const NumberText& exponent);
+  NumberText Test_Mantissa_And_Exponent(const HostValue& num);
+
   /// The workers of the functions of the same names further down, for a host's macros. What those
   /// give as the text "0" without a calculation is a number here.
   HostValue Cos_Function(const HostValue& num, const HostValue& maxSD = Missing);
@@ -162,6 +171,21 @@ class QUORVEX_API cls_Quorvex {
                       const HostValue& format_thousands = Missing,
                       const HostValue& format_currency = Missing,
                       const HostValue& exponential_notation = Missing);
+
+  /// The product of the whole numbers up to `num`, and of every other one down from its whole part;
+  /// a `num` of less than 1 gives 1. Every product on the way is cut to the limit. "#NUM!" for a
+  /// number that begins with a minus or a parenthesis and above 9273, or 17234. Throws
+  /// `Run_Time_Failure` 13 or 6 for what is no number and for an option that can't be read.
+  NumberText qvxFACT(const HostValue& num, const HostValue& format_negative = Missing,
+                     const HostValue& format_thousands = Missing,
+                     const HostValue& format_currency = Missing,
+                     const HostValue& exponential_notation = Missing,
+                     const HostValue& maximum_significant_digits = Missing);
+  NumberText qvxFACTDOUBLE(const HostValue& num, const HostValue& format_negative = Missing,
+                           const HostValue& format_thousands = Missing,
+                           const HostValue& format_currency = Missing,
+                           const HostValue& exponential_notation = Missing,
+                           const HostValue& maximum_significant_digits = Missing);
 
   /// What stands right of the separator, unchecked; with `as_int` as a whole number. "0" for text
   /// without a separator. `sign` 1 (the default) gives the sign of `num`, 2 none, 3 a minus. Throws
@@ -394,6 +418,34 @@ class QUORVEX_API cls_Quorvex {
   NumberText qvxATAN(const HostValue& num, const HostValue& maxSD = Missing);
   NumberText qvxASIN(const HostValue& num, const HostValue& maxSD = Missing);
   NumberText qvxACOS(const HostValue& num, const HostValue& maxSD = Missing);
+
+  /// The probability of `target_num` events, or with `is_cumulative` of so many at most, where
+  /// `average_num` are to be expected. The target is cut to a whole number; "TRUE" and "FALSE"
+  /// count as 0 for both. Factorials are taken at the default limit, whatever the limit of the
+  /// call. "#NUM!" for negative numbers, a target above 9273 and more than 32768 digits; "#VALUE!"
+  /// for text that is no number, and for truth values that are no booleans: `is_cumulative` must be
+  /// given. Throws `Run_Time_Failure` 13 for arguments without text and error values as digits, 6
+  /// and 5 for digits out of range, 16 where so few digits can't count the events.
+  NumberText qvxPOISSON(const HostValue& target_num, const HostValue& average_num,
+                        const HostValue& is_cumulative,
+                        const HostValue& exponential_notation = Missing,
+                        const HostValue& maximum_significant_digits = Missing,
+                        const HostValue& restrict_input_lengths = Missing);
+
+  /// The logarithm to a base, 10 if missing, with as many guard digits as the base says; the
+  /// natural logarithm, without guard digits; and e to the power `num`, with 10 of them. The
+  /// logarithm of 1 is "0" and e to the power 0 "1", whatever the base and the notation.
+  ///
+  /// "#NUM!" for a logarithm of what is not above 0, or to such a base, and beyond the 40051 digits
+  /// that there are for the steps; "#DIV/0!" for base 1; "#VALUE!" for any failure: what is no
+  /// number, options that can't be read, numbers beyond 64-bit floats.
+  NumberText qvxLOG(const HostValue& num, const HostValue& num_base = Missing,
+                    const HostValue& exponential_notation = Missing,
+                    const HostValue& maximum_significant_digits = Missing);
+  NumberText qvxLN(const HostValue& num, const HostValue& exponential_notation = Missing,
+                   const HostValue& maximum_significant_digits = Missing);
+  NumberText qvxEXP(const HostValue& num, const HostValue& exponential_notation = Missing,
+                    const HostValue& maximum_significant_digits = Missing);
 
   /// `number` with the options applied, cut to the limit plus one digits. An error token, or the
   /// token for what is no number, comes back as it is. Throws `Run_Time_Failure` for an option that

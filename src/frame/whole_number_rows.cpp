@@ -98,7 +98,7 @@ std::vector<Method> Parity_Rows() {
   };
 }
 
-std::vector<Method> Whole_Number_Rows() {
+std::vector<Method> Whole_Part_Rows() {
   return {
       Row<&cls_Quorvex::qvxINT>(
           "qvxINT", "Whole number", math,
@@ -116,6 +116,11 @@ std::vector<Method> Whole_Number_Rows() {
                                  "the decimal places to keep, none if left out; a negative count "
                                  "acts one place short, so that -2 cuts to tens")}),
           {"The number cut to its places, formatted.", {no_number_is_value, option_fails}}),
+  };
+}
+
+std::vector<Method> Whole_Number_Rows() {
+  return {
       Row<&cls_Quorvex::qvxFRAC>(
           "qvxFRAC", "Whole number", math,
           "Returns the fractional part of a number, with up to 32,767 significant digits of "

@@ -1,0 +1,89 @@
+#include "elementary/exponential.h"
+
+#include <cmath>
+#include <cstdint>
+#include <string>
+#include <utility>
+
+#include "arith/do_operation.h"
+#include "arith/step_number.h"
+#include "elementary/constants.h"
+#include "elementary/logarithm_steps.h"
+#include "host/conversions.h"
+#include "host/platform.h"
+#include "host/run_time_failure.h"
+#include "text/primitives.h"
+#include "text/tokens.h"
+
+namespace quorvex {
+namespace {
+
+constexpr double guard_digits = 10;
+
+// How often ln 2 goes into a number, by floats.
+std::int32_t Multiple_Of_Ln2(const NumberText& number, const NumberText& ln2) {
+  const double divisor = Text_To_Number(ln2);
+  if (divisor == 0) {
+    throw Run_Time_Failure(Failure_Number::invalid_call, "ln 2 has no digits at this limit.");
+  }
+  return To_Int32(std::floor(Text_To_Number(number) / divisor));
+}
+
+// The sum of r^k / k!.
+Step_Number Taylor_Series(const Step_Number& r, std::int32_t limit) {
+  const std::int32_t last_factor = 5 * limit;
+  Step_Number sum = Sum(Step_Number(1), r, limit);
+  Step_Number term = r;
+  for (std::int32_t k = 2; k <= last_factor; ++k) {
+    Yield();
+    term = Product(term, Quotient(r, Step_Number(k), limit), limit);
+    sum = Sum(sum, term, limit);
+    // From a term that is 0 or a token on, all are, and change nothing more.
+    if (term.is_token() || term.is_zero()) break;
+    if (Ends_Series(term, -std::int64_t{limit} - 1)) break;
+  }
+  return sum;
+}
+
+// e to a number of 0 or more, which is shown without its sign.
+Step_Number Power_Of_E(const NumberText& magnitude, std::int32_t limit) {
+  const NumberText ln2 = To_Text(Ln2_Digits(limit));
+  const std::int32_t n = Multiple_Of_Ln2(magnitude, ln2);
+  Step_Number r =
+      Difference(Step_Number(magnitude), Product(Step_Number(n), Step_Number(ln2), limit), limit);
+  const Step_Number tenth("0" + Decimal_Separator() + "1");
+  const Step_Number two(2);
+  int halvings = 0;
+  for (; !Is_Greater(tenth, r); ++halvings) {
+    Yield();
+    r = Quotient(r, two, limit);
+  }
+  Step_Number power = Taylor_Series(r, limit);
+  for (; halvings > 0; --halvings) {
+    Yield();
+    power = Product(power, power, limit);
+  }
+  if (n <= 0) return power;
+  return Product(power, Step_Number(Intermediate(operation::power, "2", std::to_string(n), limit)),
+                 limit);
+}
+
+}  // namespace
+
+NumberText Exp_Function(const HostValue& num, const HostValue& exponential_notation,
+                        const HostValue& maxSD) {
+  return With_Handler(
+      [&] {
+        const NumberText number = Normal_Form(num);
+        if (Equals(number, "0")) return NumberText("1");
+        const HostValue digits = Limit_Or_Default(maxSD);
+        const std::int32_t limit = To_Int32(To_Number(digits) + guard_digits);
+        const bool is_negative = number.front() == '-';
+        Step_Number power = Power_Of_E(is_negative ? number.substr(1) : number, limit);
+        if (is_negative) power = Quotient(Step_Number(1), power, limit);
+        return Finish(power.text(), exponential_notation, digits);
+      },
+      [](const Run_Time_Failure&) { return NumberText(value_token); });
+}
+
+}  // namespace quorvex

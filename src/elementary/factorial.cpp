@@ -1,0 +1,117 @@
+#include "elementary/factorial.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <utility>
+
+#include "arith/close_number.h"
+#include "arith/multiply_digits.h"
+#include "arith/whole_part.h"
+#include "host/conversions.h"
+#include "host/platform.h"
+#include "text/clean_up_number.h"
+#include "text/primitives.h"
+#include "text/tokens.h"
+
+namespace quorvex {
+namespace {
+
+// Factors of a product, in order: `first`, `first` + `step` and so on.
+struct Factors {
+  std::int32_t first = 1;
+  std::int32_t step = 1;
+  std::int32_t count = 0;
+
+  std::int32_t operator[](std::int32_t place) const { return first + place * step; }
+
+  Factors part(std::int32_t begin, std::int32_t end) const {
+    return {(*this)[begin], step, end - begin};
+  }
+};
+
+// So many of the greatest factors fit into 64 bits.
+constexpr std::int32_t factors_in_word = 4;
+
+// The product in full: with factors of about equal length it costs far less than one by one.
+NumberText Exact_Product(const Factors& factors) {
+  if (factors.count <= factors_in_word) {
+    std::uint64_t product = 1;
+    for (std::int32_t place = 0; place < factors.count; ++place) {
+      product *= static_cast<std::uint64_t>(factors[place]);
+    }
+    return std::to_string(product);
+  }
+  Yield();
+  const std::int32_t middle = factors.count / 2;
+  return Multiply_Digits(Exact_Product(factors.part(0, middle)),
+                         Exact_Product(factors.part(middle, factors.count)));
+}
+
+// How many of the first products are never cut, because they have no more digits than the limit. An
+// operation keeps two more, which is far beyond what the logarithms can be wrong by.
+std::int32_t Count_Of_Exact(const Factors& factors, double limit) {
+  double digits = 0;
+  for (std::int32_t place = 0; place < factors.count; ++place) {
+    digits += std::log10(static_cast<double>(factors[place]));
+    if (digits > limit) return place;
+  }
+  return factors.count;
+}
+
+// The product, each step of it cut to the limit.
+NumberText Product_Of(const Factors& factors, double limit) {
+  if (factors.count > 0 && !Can_Multiply()) return NumberText(value_token);
+  const std::int32_t exact = Count_Of_Exact(factors, limit);
+  Step_Number product(Exact_Product(factors.part(0, exact)));
+  for (std::int32_t place = exact; place < factors.count; ++place) {
+    Yield();
+    product = Product(product, Step_Number(factors[place]), limit);
+  }
+  return product.text();
+}
+
+NumberText Close(std::string_view product, const Format_Arguments& format) {
+  type_CleanUp clean = Clean_Up_Number(product, false, false);
+  return Close_Number(std::move(clean.NumClean), clean.DecPos, clean.Positive, format);
+}
+
+// The product as the call asks for it.
+NumberText Formatted_Product(const Factors& factors, const Format_Arguments& format) {
+  const double limit =
+      Restrictionator({.maximum_significant_digits = format.maximum_significant_digits}).maxSD;
+  return Close(Product_Of(factors, limit), format);
+}
+
+bool Is_Refused(std::string_view text, double number, double largest) {
+  return !Is_Positive(text) || number > largest;
+}
+
+}  // namespace
+
+NumberText Fact_Function(const HostValue& num, const Format_Arguments& format) {
+  std::string scratch;
+  const std::string_view text = Text_Of(num, scratch);
+  const double number = To_Number(num);
+  if (Is_Refused(text, number, largest_factorial)) return NumberText(num_token);
+  // The number can be negative although its text isn't: TRUE is -1.
+  const auto count = static_cast<std::int32_t>(std::fmax(number, 0));
+  return Formatted_Product({1, 1, count}, format);
+}
+
+NumberText FactDouble_Function(const HostValue& num, const Format_Arguments& format) {
+  std::string scratch;
+  const std::string_view text = Text_Of(num, scratch);
+  const double number = To_Number(num);
+  if (Is_Refused(text, number, largest_double_factorial)) return NumberText(num_token);
+  const auto whole = static_cast<std::int32_t>(Text_To_Number(Int_Function(text)));
+  return Formatted_Product({whole, -2, (whole + 1) / 2}, format);
+}
+
+NumberText Running_Factorial::next() {
+  if (next_ > 0) product_ = Product(product_, Step_Number(next_), Default_MaxSD());
+  ++next_;
+  return Close(product_.text(), {});
+}
+
+}  // namespace quorvex

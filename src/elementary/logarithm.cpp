@@ -1,0 +1,182 @@
+#include "elementary/logarithm.h"
+
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "arith/do_operation.h"
+#include "arith/round_to_sd.h"
+#include "arith/signs.h"
+#include "arith/step_number.h"
+#include "elementary/constants.h"
+#include "elementary/logarithm_steps.h"
+#include "host/conversions.h"
+#include "host/platform.h"
+#include "host/run_time_failure.h"
+#include "text/options.h"
+#include "text/tokens.h"
+
+namespace quorvex {
+namespace {
+
+NumberText Value_Token(const Run_Time_Failure&) {
+  return NumberText(value_token);
+}
+
+// The logarithms that are known by a look at the number.
+std::optional<NumberText> Known_Logarithm(const NumberText& num) {
+  if (Equals(num, "1")) return "0";
+  if (Is_At_Most(num, "0")) return NumberText(num_token);
+  return std::nullopt;
+}
+
+// The n with num / 2^n close to the range 1 to 2, by the float of the number: next to a power of
+// two the quotient can lie just outside.
+std::int32_t Power_Of_Two(const NumberText& num) {
+  const double approximate = Text_To_Number(num);
+  if (approximate == 0) {
+    throw Run_Time_Failure(Failure_Number::invalid_call, "A number is too small for a float.");
+  }
+  return static_cast<std::int32_t>(std::floor(std::log(approximate) / std::log(2.0)));
+}
+
+// The precision of a logarithm, as far as its steps read it.
+class Precision {
+ public:
+  // Fails where the limit can't be read, by the host or by arithmetic.
+  explicit Precision(const HostValue& maxSD)
+      : limit_(Restrictionator({.maximum_significant_digits = maxSD}).maxSD),
+        last_factor_(
+            To_Int32(Do_Operation(operation::multiply, 5, maxSD,
+                                  {.maximum_significant_digits = maxSD}, {.intermediate = true}))),
+        last_power_(Greatest_Below(ChangeSign_Function(To_Text(maxSD)))) {}
+
+  double limit() const { return limit_; }
+
+  // Of k, in the terms t^k / k.
+  std::int32_t last_factor() const { return last_factor_; }
+
+  // Of ten: a term with no greater one ends the series.
+  std::int64_t last_power() const { return last_power_; }
+
+ private:
+  // The greatest whole number that is less. Text can name more digits than a float has.
+  static std::int64_t Greatest_Below(const NumberText& number) {
+    double whole = std::ceil(Text_To_Number(number)) + 1;
+    while (!Is_Greater(Step_Number(number), Step_Number(whole))) --whole;
+    return static_cast<std::int64_t>(whole);
+  }
+
+  double limit_;
+  std::int32_t last_factor_;
+  std::int64_t last_power_;
+};
+
+// True where a sum stays as it is whatever negative terms follow this one. They only become smaller
+// (t is next to 0 where it is negative), and each lies below the last digit that sums keep, and
+// behind it leaves a "0" as the first dropped digit, by which alone is rounded.
+bool Adds_Nothing(const Step_Number& sum, const Step_Number& term, double limit) {
+  const auto kept = static_cast<std::int64_t>(std::ceil(limit)) + 2;
+  return term.is_negative() && term.leading_power() < sum.leading_power() - kept;
+}
+
+// The sum of t^k / k over the odd k.
+Step_Number Area_Tangent(const Step_Number& t, const Precision& precision) {
+  const double limit = precision.limit();
+  const Step_Number square = Product(t, t, limit);
+  Step_Number power = t;
+  Step_Number sum = t;
+  for (std::int32_t k = 3; k <= precision.last_factor(); k += 2) {
+    Yield();
+    power = Product(power, square, limit);
+    const Step_Number term = Quotient(power, Step_Number(k), limit);
+    sum = Sum(sum, term, limit);
+    // From a term that is 0 or a token on, all are, and change nothing more.
+    if (term.is_token() || term.is_zero()) break;
+    // Negative terms would go on to the last factor, since none of them ends the series.
+    if (Ends_Series(term, precision.last_power()) || Adds_Nothing(sum, term, limit)) break;
+  }
+  return sum;
+}
+
+// The logarithm of a number above 0 that is not 1.
+NumberText Value_Of_Logarithm(const NumberText& num, const HostValue& ln2, const HostValue& maxSD) {
+  const std::int32_t n = Power_Of_Two(num);
+  if (ln2.text() == num_token) {
+    // Too many digits, or a limit that is no number: then this fails.
+    To_Number(maxSD);
+    return ln2.text();
+  }
+  const Precision precision(maxSD);
+  const double limit = precision.limit();
+
+  const Step_Number number(num);
+  const Step_Number power(Intermediate(operation::power, "2", std::to_string(std::abs(n)), limit));
+  const Step_Number y = n < 0 ? Product(number, power, limit) : Quotient(number, power, limit);
+  const Step_Number one(1);
+  const Step_Number t = Quotient(Difference(y, one, limit), Sum(y, one, limit), limit);
+  const Step_Number twice = Product(Step_Number(2), Area_Tangent(t, precision), limit);
+  // At a digit or less the text of ln 2 is no more than "0.", "0" or nothing.
+  const Step_Number shift(Intermediate(operation::multiply, std::to_string(n), ln2.text(), limit));
+  return Sum(twice, shift, limit).text();
+}
+
+// The natural logarithm as `close` makes it of its value; known ones are not closed.
+template <typename Close>
+NumberText Natural_Logarithm(const HostValue& num, const HostValue& maxSD, const Close& close) {
+  return With_Handler(
+      [&] {
+        const NumberText number = Normal_Form(num);
+        // A limit below -1 fails here, whatever the number.
+        const HostValue ln2 = Ln2_Digits(maxSD);
+        if (auto known = Known_Logarithm(number)) return *std::move(known);
+        return close(Value_Of_Logarithm(number, ln2, maxSD));
+      },
+      Value_Token);
+}
+
+// The natural logarithm as a part of another one: rounded to the limit, and not formatted.
+NumberText Rounded_Logarithm(const HostValue& num, double limit) {
+  return Natural_Logarithm(
+      num, limit, [&](NumberText value) { return To_Text(Round_To_SD(std::move(value), limit)); });
+}
+
+NumberText Logarithm_Of_Base(const HostValue& num_base, double base, double limit) {
+  if (base == 10) return To_Text(Ln10_Digits(limit));
+  if (base == 2) return To_Text(Ln2_Digits(limit));
+  return Rounded_Logarithm(num_base, limit);
+}
+
+}  // namespace
+
+NumberText Ln_Function(const HostValue& num, const HostValue& exponential_notation,
+                       const HostValue& maxSD) {
+  const HostValue digits = Limit_Or_Default(maxSD);
+  return Natural_Logarithm(num, digits, [&](NumberText value) {
+    return Finish(std::move(value), exponential_notation, digits);
+  });
+}
+
+NumberText Log_Function(const HostValue& num, const HostValue& num_base,
+                        const HostValue& exponential_notation, const HostValue& maxSD) {
+  return With_Handler(
+      [&] {
+        const NumberText number = Normal_Form(num);
+        if (auto known = Known_Logarithm(number)) return *std::move(known);
+        const HostValue digits = Limit_Or_Default(maxSD);
+        // The base itself counts the guard digits. Published results depend on their number, and so
+        // do the limits up to which a base can be used, so it stays.
+        const double base = num_base.is_missing() ? 10 : To_Number(num_base);
+        const double limit = To_Int32(base + To_Number(digits));
+        const NumberText below = Logarithm_Of_Base(num_base, base, limit);
+        const NumberText above = Rounded_Logarithm(number, limit);
+        return Finish(Intermediate(operation::divide, above, below, limit), exponential_notation,
+                      digits);
+      },
+      Value_Token);
+}
+
+}  // namespace quorvex
