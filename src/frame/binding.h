@@ -27,6 +27,8 @@ constexpr Parameter_Kind Kind_Of() {
   } else if constexpr (std::is_same_v<Value, NumberText> ||
                        std::is_same_v<Value, std::optional<NumberText>>) {
     return Parameter_Kind::text;
+  } else if constexpr (std::is_same_v<Value, std::optional<double>>) {
+    return Parameter_Kind::number;
   } else if constexpr (std::is_same_v<Value, std::int32_t>) {
     return Parameter_Kind::integer;
   } else if constexpr (std::is_same_v<Value, bool>) {
@@ -58,12 +60,14 @@ NumberText& Text_In_Place(HostValue& argument);
 /// no list is the only element of one.
 const List& List_In_Place(HostValue& argument);
 
-/// An argument as a parameter takes it: a value or a list by reference, text and truth values
-/// converted. A truth value that is left out is false.
+/// An argument as a parameter takes it: a value or a list by reference, text, numbers and truth
+/// values converted. A truth value that is left out is false.
 template <typename Type>
 decltype(auto) Take(HostValue& argument) {
   if constexpr (Kind_Of<Type>() == Parameter_Kind::value) {
     return (argument);
+  } else if constexpr (Kind_Of<Type>() == Parameter_Kind::number) {
+    return argument.is_missing() ? std::nullopt : std::optional<double>(To_Number(argument));
   } else if constexpr (Kind_Of<Type>() == Parameter_Kind::integer) {
     return To_Int32(argument);
   } else if constexpr (Kind_Of<Type>() == Parameter_Kind::boolean) {

@@ -122,7 +122,7 @@ std::vector<Method> Cell_Sum_Rows() {
   };
 }
 
-std::vector<Method> List_Rows() {
+std::vector<Method> Mean_Rows() {
   return {
       Row<&cls_Quorvex::qvxAVERAGE>(
           "qvxAVERAGE", "List", statistical,
@@ -133,6 +133,11 @@ std::vector<Method> List_Rows() {
            {"\"#VALUE!\" without MSD=, unless the sum is 0. The call fails for a sum beyond 64-bit "
             "floats.",
             list_fails}}),
+  };
+}
+
+std::vector<Method> List_Rows() {
+  return {
       Row<&cls_Quorvex::qvxPRODUCT>(
           "qvxPRODUCT", "List", math,
           "Returns the product of the numeric arguments, with up to 32,767 significant digits of "
@@ -271,13 +276,15 @@ std::vector<Method> Last_Rows() {
 
 std::vector<Method> Make_Catalogue() {
   std::vector<Method> methods;
-  for (auto rows : {Call_Frame_Rows(),  Division_Rows(),    Mantissa_Rows(),  Angle_Worker_Rows(),
-                    Cell_Sum_Rows(),    Square_Root_Rows(), Parity_Rows(),    List_Rows(),
-                    Recognition_Rows(), Whole_Part_Rows(),  Factorial_Rows(), Whole_Number_Rows(),
-                    Sign_Rows(),        Sum_Rows(),         Product_Rows(),   Power_Rows(),
-                    Comparison_Rows(),  Rounding_Rows(),    Reduction_Rows(), Divisor_Rows(),
-                    Constant_Rows(),    Default_Rows(),     Angle_Rows(),     Sine_Rows(),
-                    Arc_Rows(),         Probability_Rows(), Logarithm_Rows(), Last_Rows()}) {
+  for (auto rows :
+       {Call_Frame_Rows(),  Division_Rows(),    Mantissa_Rows(),     Angle_Worker_Rows(),
+        Cell_Sum_Rows(),    Square_Root_Rows(), Parity_Rows(),       Mean_Rows(),
+        Order_Rows(),       Extraction_Rows(),  List_Rows(),         Recognition_Rows(),
+        Whole_Part_Rows(),  Factorial_Rows(),   Whole_Number_Rows(), Sign_Rows(),
+        Sum_Rows(),         Product_Rows(),     Power_Rows(),        Comparison_Rows(),
+        Rounding_Rows(),    Reduction_Rows(),   Divisor_Rows(),      Constant_Rows(),
+        Default_Rows(),     Angle_Rows(),       Sine_Rows(),         Arc_Rows(),
+        Probability_Rows(), Logarithm_Rows(),   Last_Rows()}) {
     std::ranges::move(rows, std::back_inserter(methods));
   }
   return methods;

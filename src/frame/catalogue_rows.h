@@ -18,6 +18,7 @@ using Parameters = std::vector<Parameter>;
 inline constexpr std::string_view operators = "High-Precision Operators";
 inline constexpr std::string_view math = "High-Precision Math";
 inline constexpr std::string_view statistical = "High-Precision Statistical";
+inline constexpr std::string_view text_functions = "High-Precision Text";
 inline constexpr std::string_view information = "High-Precision Information";
 inline constexpr std::string_view miscellaneous = "High-Precision Miscellaneous";
 inline constexpr std::string_view not_offered;
@@ -96,6 +97,8 @@ Method Row(std::string_view name, std::string_view family, std::string_view cate
 std::vector<Method> Angle_Worker_Rows();
 std::vector<Method> Square_Root_Rows();
 std::vector<Method> Parity_Rows();
+std::vector<Method> Order_Rows();
+std::vector<Method> Extraction_Rows();
 std::vector<Method> Whole_Part_Rows();
 std::vector<Method> Whole_Number_Rows();
 std::vector<Method> Sign_Rows();

@@ -148,6 +148,57 @@ class QUORVEX_API cls_Quorvex {
   /// Throws `Run_Time_Failure` 13 for MSD= without digits and for a list within the list, 6 for
   /// more digits behind MSD= than a number can have and for a mean of a sum beyond 64-bit floats.
   NumberText qvxAVERAGE(const List& numlist);
+
+  /// The number in the middle of a list, and the one that occurs most often, the first such; they
+  /// read the list as the functions above and below do. With an even count of numbers the median is
+  /// half the sum of two, and so "#VALUE!" without MSD=. Without numbers `qvxMODE` gives empty
+  /// text, and `qvxMEDIAN` throws `Run_Time_Failure` 9.
+  ///
+  /// The option string of `qvxMODE` may also say TABLE, which gives an array with a row for each
+  /// number, its count and itself, and with it BLANK=, which lays that array into a block of `rows`
+  /// by `cols` cells and fills those left with the text up to the next "&". A count that is missing
+  /// is that of the table; one below 1, and a table of no numbers, throw `Run_Time_Failure` 9.
+  NumberText qvxMEDIAN(const List& numlist);
+  HostValue qvxMODE(const List& numlist, std::optional<double> rows = std::nullopt,
+                    std::optional<double> cols = std::nullopt);
+
+  /// The cells of an array or range as a selection sort with swaps arranges them by value, column
+  /// by column, or row by row if `left_to_right`: numbers first in either direction, equal ones not
+  /// always in their old order, then whatever is no number. They keep their places in a block of
+  /// `rows` by `cols` cells, or are poured into it if `fit_to_array`; `blank_text` fills the rest.
+  /// A count that is missing is that of `numlist`. Throws `Run_Time_Failure` 9 for a count below 1,
+  /// 13 for what is no two-dimensional array, such as a single cell, and for an array within it.
+  HostValue qvxSORT(const HostValue& numlist, bool descending = false, bool left_to_right = false,
+                    bool fit_to_array = false,
+                    const std::optional<NumberText>& blank_text = std::nullopt,
+                    std::optional<double> rows = std::nullopt,
+                    std::optional<double> cols = std::nullopt);
+
+  /// The number at place `k` of the block, from the greatest on or from the least, as it is
+  /// written. "#NUM!" for an empty `k`, one beyond the block, and a place without a number. Throws
+  /// as `qvxSORT`, and `Run_Time_Failure` 13 for a `k` that is no number.
+  NumberText qvxLARGE(const HostValue& numlist, const NumberText& k);
+  NumberText qvxSMALL(const HostValue& numlist, const NumberText& k);
+
+  /// The place of `num` in the block, counted from the greatest on, or from the least if
+  /// `ascending`: the first of equal ones, or with `tie_compensation` the mean of their places. A
+  /// number that isn't there ranks as the count of cells. "NUM!", spelt so, for a `num` that is no
+  /// number. Throws as `qvxSORT`.
+  NumberText qvxRANK(const NumberText& num, const HostValue& numlist, bool ascending = false,
+                     bool tie_compensation = false);
+
+  /// Functions of a text: the first element that isn't empty. The others, but for option strings,
+  /// are the entries that are deleted from it until none is left, or that are kept of it; capitals
+  /// and small letters differ. `qvxEXCLUDENOTNUM` keeps one number of what is left, and
+  /// `qvxEXTRACTNUM` one number of what stands beside the entries: its digits, first separator,
+  /// leading minus or parentheses, and exponent. What comes out is formatted by the options, also
+  /// where it is no number. Throws as the other functions of a list.
+  NumberText qvxEXCLUDE(const List& numlist);
+  NumberText qvxEXCLUDENOTNUM(const List& numlist);
+  NumberText qvxEXTRACT(const List& numlist);
+  NumberText qvxEXTRACTNUM(const List& numlist);
+
+  /// As told of `qvxAVERAGE`.
   NumberText qvxPRODUCT(const List& numlist);
   NumberText qvxSUM2(const List& numlist);
   NumberText qvxCOUNT(const List& numlist);

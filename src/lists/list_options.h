@@ -17,6 +17,9 @@ struct List_Options {
   bool thousands = false;
   bool currency = false;
   bool exponent = false;
+
+  /// True when no word is left that could act. What else a string may say is then passed over too.
+  bool all_seen() const { return has_msd && negative && thousands && currency && exponent; }
 };
 
 /// True for text in capitals that begins with FORMAT: and so is an option string.

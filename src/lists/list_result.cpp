@@ -11,6 +11,11 @@
 namespace quorvex {
 
 NumberText Finish_List(NumberText running, const List_Options& options) {
+  Write_Out(running);
+  return Finish_Text(std::move(running), options);
+}
+
+NumberText Finish_Text(NumberText text, const List_Options& options) {
   const HostValue negative = options.negative ? 2 : 1;
   const HostValue thousands = options.thousands;
   const HostValue currency = options.currency;
@@ -19,15 +24,14 @@ NumberText Finish_List(NumberText running, const List_Options& options) {
   const type_Restrictionator resolved =
       Restrictionator({negative, thousands, currency, exponent, msd});
 
-  Write_Out(running);
-  const bool positive = Is_Positive(running);
-  if (running.starts_with('-')) running.erase(0, 1);
-  const double position = Decimal_Position_Of(running);
-  Remove_Decimal_Separator(running);
+  const bool positive = Is_Positive(text);
+  if (text.starts_with('-')) text.erase(0, 1);
+  const double position = Decimal_Position_Of(text);
+  Remove_Decimal_Separator(text);
   // A thousands separator among zeros at the left is known as such only while it is whole.
-  if (!running.empty() && !Has_Token_Mark(running)) Strip_Leading_Zeros(running);
-  const Long_Characters long_characters(running);
-  NumberText result = Format_Result(std::move(running), position, positive, resolved, false);
+  if (!text.empty() && !Has_Token_Mark(text)) Strip_Leading_Zeros(text);
+  const Long_Characters long_characters(text);
+  NumberText result = Format_Result(std::move(text), position, positive, resolved, false);
   long_characters.restore(result);
   return result;
 }

@@ -11,4 +11,7 @@ namespace quorvex {
 /// every other spelling stays as it is, and so does text that is no number.
 NumberText Finish_List(NumberText running, const List_Options& options);
 
+/// The same for text whose every character counts: nothing is written out.
+NumberText Finish_Text(NumberText text, const List_Options& options);
+
 }  // namespace quorvex

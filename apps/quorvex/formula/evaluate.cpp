@@ -67,8 +67,7 @@ class Evaluator {
     std::vector<HostValue> arguments;
     arguments.reserve(call.arguments.size());
     for (const Expression& argument : call.arguments) arguments.push_back(value_of(argument));
-    const auto& parameters = call.method->parameters;
-    if (parameters.size() == 1 && parameters[0].kind == Parameter_Kind::list) {
+    if (Takes_All_As_List(*call.method)) {
       std::vector<HostValue> one;
       one.emplace_back(List(std::move(arguments)));
       arguments = std::move(one);

@@ -12,10 +12,6 @@ namespace quorvex {
 
 namespace {
 
-bool Takes_All_As_List(const Method& method) {
-  return method.parameters.size() == 1 && method.parameters[0].kind == Parameter_Kind::list;
-}
-
 std::string Signature(const Method& method) {
   std::string text(method.name);
   const char* separator = "(";

@@ -1,0 +1,82 @@
+// Rows of sorting and of what rests on it.
+#include "frame/catalogue_rows.h"
+
+namespace quorvex::catalogue {
+namespace {
+
+constexpr std::string_view block = "a range of several cells, or an array";
+
+Parameters Sort_Parameters() {
+  return {Operand_Parameter("numlist", block),
+          Optional("descending", "TRUE puts the largest number first"),
+          Optional("left_to_right", "TRUE sorts row by row, not column by column"),
+          Optional("fit_to_array",
+                   "TRUE pours the cells into the rows and columns asked for, whatever the shape "
+                   "of the range"),
+          Optional("blank_text", "what fills the cells that are left; empty text if left out"),
+          Optional("rows", "the rows of the result; left out, those of the range"),
+          Optional("cols", "the columns of the result; left out, those of the range")};
+}
+
+Parameters Place_Parameters(std::string_view k) {
+  return {Operand_Parameter("numlist", block), Operand_Parameter("k", k)};
+}
+
+Parameters Mode_Parameters() {
+  Parameters parameters = Number_List();
+  parameters[0].help =
+      "numbers, ranges and arrays; and among them, as text, how the result is formatted: "
+      "\"format:\" and any of the words negative, thousands, currency, exponent, MSD=n, table, and "
+      "blank= with what fills cells without a number, up to &. A formula's arguments all belong to "
+      "the list";
+  parameters.push_back(Optional("rows", "the rows of the cells for a table with blank="));
+  parameters.push_back(Optional("cols", "the columns of the cells for a table with blank="));
+  return parameters;
+}
+
+}  // namespace
+
+std::vector<Method> Order_Rows() {
+  return {
+      Row<&cls_Quorvex::qvxMEDIAN>(
+          "qvxMEDIAN", "Order", statistical,
+          "Returns the median of the numeric arguments, with up to 32,767 significant digits of "
+          "precision. For an even count of numbers MSD=n must be given.  "
+          "\"format:negative,thousands,currency,exponent,MSD=n\"",
+          "qvxMEDIAN({7, \"1.00000000000000000001\"; 1, \"no number\"})", Number_List()),
+      Row<&cls_Quorvex::qvxMODE>(
+          "qvxMODE", "Order", statistical,
+          "Returns the most frequently occurring of the numeric arguments, with up to 32,767 "
+          "significant digits of precision. Array-enter to return table. "
+          "\"format:table,blank=<text>&,negative,thousands,currency,exponent,MSD=n\"",
+          "qvxMODE({2, 3; 2, 1}, \"3.0\", \"2E+0\", \"format:table\")", Mode_Parameters()),
+      Row<&cls_Quorvex::qvxSORT>(
+          "qvxSORT", "Order", miscellaneous,
+          "Sorts a range of numbers, with up to 32,767 significant digits of precision. Must be "
+          "array-entered.",
+          "qvxSORT({10, 9; \"-0.00000000000000000001\", 0}, TRUE, TRUE)", Sort_Parameters()),
+      Row<&cls_Quorvex::qvxLARGE>(
+          "qvxLARGE", "Order", statistical,
+          "Returns the k-th largest number of a range, with up to 32,767 significant digits of "
+          "precision.",
+          "qvxLARGE({1, 3; \"12345678901234567890\", 2}, 2)",
+          Place_Parameters("the place, from the largest number on: 1 for the largest")),
+      Row<&cls_Quorvex::qvxSMALL>(
+          "qvxSMALL", "Order", statistical,
+          "Returns the k-th smallest number of a range, with up to 32,767 significant digits of "
+          "precision.",
+          "qvxSMALL({1, 3; \"-0.00000000000000000001\", 2}, 1)",
+          Place_Parameters("the place, from the smallest number on: 1 for the smallest")),
+      Row<&cls_Quorvex::qvxRANK>(
+          "qvxRANK", "Order", statistical,
+          "Returns the rank of a number among the numbers of a range, with up to 32,767 "
+          "significant digits of precision. The largest number ranks first unless ascending is "
+          "TRUE.",
+          "qvxRANK(2, {3, 2; \"2.0\", 1}, FALSE, TRUE)",
+          {Operand_Parameter("num", first_number), Operand_Parameter("numlist", block),
+           Optional("ascending", "TRUE ranks the smallest number first"),
+           Optional("tie_compensation", "TRUE gives equal numbers the mean of their ranks")}),
+  };
+}
+
+}  // namespace quorvex::catalogue

@@ -1,0 +1,13 @@
+// Repeated deletion of one text from another.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace quorvex {
+
+/// Deletes the first occurrence of `entry`, which must not be empty, until there is none left; what
+/// a deletion brings together is deleted as well. Linear in the text.
+void Delete_Every(std::string& text, std::string_view entry);
+
+}  // namespace quorvex

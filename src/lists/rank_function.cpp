@@ -1,0 +1,58 @@
+#include "lists/rank_function.h"
+
+#include <compare>
+#include <optional>
+#include <string>
+
+#include "host/conversions.h"
+#include "host/platform.h"
+#include "lists/number_block.h"
+#include "lists/sort_numbers.h"
+#include "text/compare_numbers.h"
+#include "text/recognition.h"
+
+namespace quorvex {
+namespace {
+
+// Whether cells equal one number, which is read once. What can't be compared equals nothing.
+class Equality {
+ public:
+  explicit Equality(std::string_view num) { comparable_ = Read_For_Comparison(num, number_); }
+
+  bool holds(const HostValue& cell) {
+    if (!comparable_) return false;
+    std::optional<Operand> other;
+    return Read_For_Comparison(Text_Of(cell, scratch_), other) &&
+           std::is_eq(Compare_Values(*other, *number_));
+  }
+
+ private:
+  std::optional<Operand> number_;
+  bool comparable_ = false;
+  std::string scratch_;
+};
+
+}  // namespace
+
+NumberText Rank_Function(std::string_view num, const HostValue& numlist, Sort_Direction direction,
+                         bool tie_compensation) {
+  if (!Is_Number_Text(num)) return "NUM!";
+  const Array sorted = Sort_Numbers_By_Row(Block_Of(numlist), direction);
+  Equality equality(num);
+  double ties = -1;
+  double position = 0;
+  for (const HostValue& cell : sorted.values) {
+    Yield();
+    if (equality.holds(cell)) {
+      ++ties;
+    } else if (ties >= 0) {
+      break;
+    }
+    ++position;
+  }
+  if (ties >= 0) position -= ties;
+  if (tie_compensation) position += ties / 2;
+  return Number_To_Text(position);
+}
+
+}  // namespace quorvex
