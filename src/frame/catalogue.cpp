@@ -241,8 +241,7 @@ std::vector<Method> Angle_Rows() {
           "qvxRADIANS", "Trigonometry", math,
           "Converts degrees to radians, with up to 32,767 significant digits of precision.",
           "qvxRADIANS(\"90\", 30)", {Operand_Parameter("degrees", "an angle in degrees"), digits},
-          {"The angle in radians, not formatted.",
-           {beyond_pi, angle_of_no_number, token_passes, unread_digits_fail}}),
+          {angle_in_radians, {beyond_pi, angle_of_no_number, token_passes, unread_digits_fail}}),
       Row<&cls_Quorvex::qvxDEGREES>(
           "qvxDEGREES", "Trigonometry", math,
           "Converts radians to degrees, with up to 32,767 significant digits of precision.",

@@ -21,13 +21,13 @@ std::vector<Method> Square_Root_Rows() {
           "qvxSQRT", "Root", math,
           "Returns the square root of a number, with up to 32,767 significant digits of precision.",
           "qvxSQRT(2, , , , 50)", Square_Root_Parameters(),
-          {root, {root_of_negative, no_number_is_num_or_value, token_passes, root_fails}}),
+          {root, {signed_is_num, no_number_is_num_or_value, token_passes, root_fails}}),
       Row<&cls_Quorvex::qvxSQRTPI>(
           "qvxSQRTPI", "Root", math,
           "Returns the square root of (number * Pi), with up to 32,767 significant digits of "
           "precision.",
           "qvxSQRTPI(1, , , , 50)", Square_Root_Parameters(),
-          {root, {root_of_negative, beyond_pi, unread_number_is_value, token_passes, root_fails}}),
+          {root, {signed_is_num, beyond_pi, unread_number_is_value, token_passes, root_fails}}),
   };
 }
 

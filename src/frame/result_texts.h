@@ -23,6 +23,13 @@ inline constexpr Sentence lesser_or_greater =
 inline constexpr Sentence extreme =
     "The number as it was written, but for E notation and parentheses, formatted; empty text where "
     "there is no element.";
+inline constexpr Sentence angle_in_radians = "The angle in radians, not formatted.";
+inline constexpr Sentence angle_value = "The value, not formatted.";
+inline constexpr Sentence worker_result = "The value, not formatted; of the text 0 the number 0.";
+inline constexpr Sentence logarithm =
+    "The logarithm, as text, in E notation if wanted; of 1 always 0.";
+inline constexpr Sentence text_left = "What is left of the text, formatted as a number.";
+inline constexpr Sentence text_kept = "What is kept of the text, formatted as a number.";
 inline constexpr Sentence options_record =
     "A record: FormatNegative, FormatThousands, FormatCurrency, ExponentialNotation, maxSD, "
     "InsertFunctionDialog and IncluderExcluderFunctions (always TRUE), FormatDecimalPlace, "
@@ -61,7 +68,7 @@ inline constexpr Sentence remainder_by_zero =
     "for a blank operand.";
 inline constexpr Sentence remainder_fails =
     "The call fails for a divisor that is no number and for an option that can't be read.";
-inline constexpr Sentence root_of_negative =
+inline constexpr Sentence signed_is_num =
     "\"#NUM!\" for a number that begins with a minus or a parenthesis.";
 inline constexpr Sentence root_fails =
     "The call fails for an error value, an array and an option that can't be read.";
@@ -82,5 +89,33 @@ inline constexpr Sentence unread_count =
 inline constexpr Sentence angle_of_no_number = "\"#VALUE!\" for an angle that is no number.";
 inline constexpr Sentence unread_digits_fail =
     "The call fails for a maxSD that can't be read or is below -1.";
+
+inline constexpr Sentence angle_fails =
+    "No token. The call fails for an angle that is no number, a blank cell among it, and for a "
+    "maxSD "
+    "that can't be read or is not from -1 to 32768.";
+inline constexpr Sentence endless_series_fails =
+    "It fails, too, for 0.0 and other zeros than the text 0, whose series would never end.";
+inline constexpr Sentence beyond_1 = "\"#NUM!\" for a number above 1 or below -1.";
+inline constexpr Sentence arc_beyond_pi = "\"#NUM!\" beyond 32,768 digits where pi is needed.";
+inline constexpr Sentence arc_fails =
+    "The call fails for what is no number and for a maxSD that can't be read or is below -1.";
+
+inline constexpr Sentence block_fails =
+    "The call fails for a single cell or value and for an array within the block.";
+inline constexpr Sentence place_is_num =
+    "\"#NUM!\" for an empty k, one beyond the block, and a place without a number.";
+inline constexpr Sentence text_unchecked =
+    "No token: a result that is no number comes back unchecked.";
+
+inline constexpr Sentence factorial_fails =
+    "The call fails for what is no number, an error token and a blank cell among it, and for an "
+    "option that can't be read.";
+inline constexpr Sentence logarithm_of_negative =
+    "\"#NUM!\" for a number or a base that is not above 0.";
+inline constexpr Sentence logarithm_fails =
+    "\"#VALUE!\" for any failure: what is no number, an error token among it, a number beyond "
+    "64-bit floats, an option that can't be read.";
+inline constexpr Sentence beyond_floats = "It fails, too, beyond 64-bit floats.";
 
 }  // namespace quorvex::catalogue
