@@ -32,7 +32,9 @@ def rows_of(text):
 
 
 def calculated(tool, file):
-    run = subprocess.run([tool, "sheet", file, "-o", "-"], capture_output=True, text=True, check=True)
+    settings = ["--decimal", ".", "--thousands", ",", "--currency", "$", "--digits", "100"]
+    run = subprocess.run([tool, "sheet", file, "-o", "-", *settings], capture_output=True, text=True,
+                         check=True)
     # What would be read back as something else is written with an apostrophe in front.
     return [[cell.removeprefix("'") for cell in row] for row in rows_of(run.stdout)]
 

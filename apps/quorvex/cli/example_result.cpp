@@ -1,37 +1,23 @@
 #include "cli/example_result.h"
 
-#include <memory>
-
 #include "cli/result_text.h"
 #include "formula/evaluate.h"
 #include "formula/formula.h"
-#include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "text/options.h"
 
 namespace quorvex {
-namespace {
 
-// Examples are written with "." and ",", and mean the same wherever they are read.
-class Example_Settings {
- public:
-  Example_Settings() {
-    Current_Platform().locale = Fixed_Locale(Locale{});
-    Set_Default_MaxSD(100);
-  }
-  ~Example_Settings() {
-    Current_Platform().locale = locale_;
-    Set_Default_MaxSD(digits_);
-  }
-  Example_Settings(const Example_Settings&) = delete;
-  Example_Settings& operator=(const Example_Settings&) = delete;
+Example_Settings::Example_Settings()
+    : locale_(Current_Platform().locale), digits_(Default_MaxSD()) {
+  Current_Platform().locale = Fixed_Locale(Locale{});
+  Set_Default_MaxSD(100);
+}
 
- private:
-  std::shared_ptr<Locale_Source> locale_ = Current_Platform().locale;
-  double digits_ = Default_MaxSD();
-};
-
-}  // namespace
+Example_Settings::~Example_Settings() {
+  Current_Platform().locale = locale_;
+  Set_Default_MaxSD(digits_);
+}
 
 std::string Example_Result(cls_Quorvex& engine, std::string_view formula) {
   const Example_Settings settings;

@@ -5,11 +5,15 @@
 #include <regex>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "apps/cli/run_tool.h"
 #include "cli/example_result.h"
+#include "formula/reference.h"
 #include "frame/catalogue.h"
+#include "sheet/csv.h"
+#include "sheet/workbook.h"
 
 namespace quorvex {
 namespace {
@@ -71,6 +75,41 @@ TEST(Pages, NameOnlyFunctionsThatAreThere) {
     for (std::sregex_iterator found(text.begin(), text.end(), function), end; found != end; ++found)
       EXPECT_NE(Find_Method(found->str()), nullptr) << page << ": " << found->str();
   }
+}
+
+std::string In_Markup(const std::string& text) {
+  std::string markup;
+  for (const char character : text) {
+    if (character == '&') {
+      markup += "&amp;";
+    } else if (character == '"') {
+      markup += "&quot;";
+    } else if (character == '\'') {
+      markup += "&#x27;";
+    } else {
+      markup += character;
+    }
+  }
+  return markup;
+}
+
+TEST(Pages, PictureShowsWhatTheSheetGives) {
+  const std::string picture = Text_Of("docs/sheet.svg");
+  const Example_Settings settings;
+  Workbook book;
+  Worksheet& sheet = book.add("Sheet1");
+  Load_Csv(std::string(QUORVEX_SOURCE) + "/examples/at-a-glance.csv", sheet);
+  cls_Quorvex engine;
+  book.recalculate(engine);
+  std::size_t formulas = 0;
+  for (const auto& [address, cell] : sheet.cells()) {
+    EXPECT_NE(picture.find(">" + In_Markup(Shown_Value(cell)) + "</text>"), std::string::npos)
+        << "draw it anew with docs/draw_sheet.py: " << Address_Text(address) << " is "
+        << Shown_Value(cell);
+    formulas += picture.find(">" + In_Markup(cell.typed) + "</text>") != std::string::npos &&
+                cell.typed.starts_with("=");
+  }
+  EXPECT_EQ(formulas, 1U);
 }
 
 }  // namespace
