@@ -1,5 +1,6 @@
 """The same operations and lists through Python's decimal, as JSON."""
 
+import collections
 import decimal
 import json
 import math
@@ -45,6 +46,24 @@ LISTS = {
     "mixed sum": (100_000, lambda numbers, _: str(sum(map(decimal.Decimal, numbers)))),
     "max": (100_000, lambda numbers, _: str(max(map(decimal.Decimal, numbers)))),
     "product": (1000, lambda numbers, _: product_by_halves(numbers)),
+}
+
+
+def counts(numbers):
+    found = collections.Counter(map(decimal.Decimal, numbers))
+    return [(str(count), str(number)) for number, count in found.most_common()]
+
+
+ORDERS = {
+    "sort": ((10_000, 100_000), 1, lambda numbers, _: sorted(numbers, key=decimal.Decimal)),
+    "mode": (
+        (5000, 10_000),
+        2,
+        lambda numbers, _: str(
+            collections.Counter(map(decimal.Decimal, numbers)).most_common(1)[0][0]
+        ),
+    ),
+    "mode table": ((5000, 10_000), 2, lambda numbers, _: counts(numbers)),
 }
 
 
@@ -131,6 +150,10 @@ def main():
         if name == "mixed sum":
             numbers[1::2] = ["-" + number for number in numbers[1::2]]
         times[f"list/{name}/{count}"] = nanoseconds(call, numbers, None, repetitions)
+    for name, (sizes, times_each, call) in ORDERS.items():
+        for count in sizes:
+            numbers = [digits(50, seed % (count // times_each), "3") for seed in range(count)]
+            times[f"order/{name}/{count}"] = nanoseconds(call, numbers, None, repetitions)
     json.dump(times, sys.stdout)
 
 

@@ -125,6 +125,22 @@ def print_lists(times, peer):
             )
 
 
+def print_order(times, peer):
+    """Whole calls over a column of fifty-digit numbers, and over a text of so many bytes."""
+    print("| call | cells | decimal / ours | ours | decimal |")
+    print("|---|---:|---:|---:|---:|")
+    for name, call in {"sort": "qvxSORT", "mode": "qvxMODE", "mode table": "qvxMODE, table"}.items():
+        for count in sizes(times, f"Order/{name}"):
+            ours, dec = times[f"Order/{name}/{count}"], peer[f"order/{name}/{count}"]
+            print(f"| {call} | {int(count):,} | {dec / ours:.1f} | {unit(ours)} | {unit(dec)} |")
+    print()
+    print("| call | bytes | ours |")
+    print("|---|---:|---:|")
+    for name in ("exclude", "excludenotnum", "extract", "extractnum"):
+        for count in sizes(times, f"Order/{name}"):
+            print(f"| qvx{name.upper()} | {int(count):,} | {unit(times[f'Order/{name}/{count}'])} |")
+
+
 def print_overhead(times):
     """What the whole call costs beside the bare product."""
     print("| digits | qvxMULTIPLY / `Multiply` | qvxDIVIDE / `Multiply` |")
@@ -163,6 +179,8 @@ def main():
     print_roots(times, peer)
     print()
     print_lists(times, peer)
+    print()
+    print_order(times, peer)
     print()
     print_overhead(times)
 
