@@ -18,6 +18,25 @@ class Interrupting_Yielder final : public Yielder {
   }
 };
 
+class Counting_Yielder final : public Yielder {
+ public:
+  void yield() override { ++count_; }
+  std::size_t count() const { return count_; }
+
+ private:
+  std::size_t count_ = 0;
+};
+
+/// How often `body` yields.
+template <typename Body>
+std::size_t Yields_Of(const Body& body) {
+  const auto counter = std::make_shared<Counting_Yielder>();
+  const auto before = std::exchange(Current_Platform().yielder, counter);
+  body();
+  Current_Platform().yielder = before;
+  return counter->count();
+}
+
 /// Says that there is so much memory, and never less.
 class Fixed_Memory final : public Memory_Gauge {
  public:

@@ -1,0 +1,237 @@
+// Logarithms and the exponential against an independent library, to the digits that their working
+// precisions leave.
+#include "elementary/logarithm.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <iterator>
+#include <string>
+#include <utility>
+
+#include "arith/do_operation.h"
+#include "arith/round_to_sd.h"
+#include "elementary/constants.h"
+#include "elementary/exponential.h"
+#include "host/conversions.h"
+#include "support/failures.h"
+#include "support/high_precision.h"
+#include "support/localized.h"
+#include "support/random_numbers.h"
+#include "support/surroundings.h"
+#include "support/without_libraries.h"
+
+namespace quorvex {
+namespace {
+
+NumberText Ln(const NumberText& number, double limit) {
+  return Ln_Function(number, Missing, limit);
+}
+
+NumberText Exp(const NumberText& number, double limit) {
+  return Exp_Function(number, Missing, limit);
+}
+
+NumberText Log(const NumberText& number, const HostValue& base, double limit) {
+  return Log_Function(number, base, Missing, limit);
+}
+
+mpfr_prec_t Bits(long limit) {
+  return 4 * limit + 600;
+}
+
+long Random_Limit(Random_Numbers& random) {
+  return static_cast<long>(5 + random.below(random.one_in(10) ? 496 : 60));
+}
+
+// Numbers of all sizes, and such as lie next to 1 and to powers of two.
+std::string Random_Positive(Random_Numbers& random) {
+  const std::string digits = random.digits(1 + random.below(40)) + "7";
+  switch (random.below(6)) {
+    case 0:
+      return "1." + std::string(random.below(40), '0') + digits;
+    case 1:
+      return "0." + std::string(1 + random.below(40), '9') + digits;
+    case 2:
+      return "0." + std::string(random.below(60), '0') + digits;
+    case 3:
+      return std::to_string((1ULL << (1 + random.below(50))) - 1) + "." + std::string(30, '9');
+    case 4:
+      return digits + std::string(random.below(60), '0');
+    default:
+      return digits + "." + random.digits(1 + random.below(30));
+  }
+}
+
+// The powers of two in a number.
+double Halvings(const High_Precision& logarithm) {
+  return std::fabs(logarithm.value()) / std::log(2.0) + 1;
+}
+
+// What can be wrong in a natural logarithm at a limit, in units of its second last place kept (ten
+// to the -limit - 1): ln 2 is cut one place earlier than its digits count, since its "0" is one,
+// and so is wrong by up to 100, once for each power of two; so is the power itself, by 1; and each
+// term, of which there is about one a digit, by less than 2.
+double Natural_Bound(const High_Precision& logarithm, long limit) {
+  return 110 * Halvings(logarithm) + 2.0 * static_cast<double>(limit) + 20;
+}
+
+TEST(NaturalLogarithm, IsRightButForWhatItsStepsLose) {
+  Random_Numbers random(81);
+  for (int round = 0; round < 600; ++round) {
+    const std::string number = Random_Positive(random);
+    const long limit = Random_Limit(random);
+    High_Precision exact(Bits(limit), number);
+    mpfr_log(exact.get(), exact.get(), MPFR_RNDN);
+    const NumberText result = Ln(number, static_cast<double>(limit));
+    ASSERT_LT(exact.distance(result, -limit - 1), Natural_Bound(exact, limit))
+        << number << " at " << limit << ": " << result;
+  }
+}
+
+// With ten guard digits only the last rounding shows, by the first dropped digit: half a unit of
+// the last of the limit + 2 digits, and a tenth for the guard digits that squaring uses up.
+TEST(Exponential, IsRightToTheLastPlace) {
+  Random_Numbers random(82);
+  for (int round = 0; round < 600; ++round) {
+    std::string number = std::to_string(random.below(random.one_in(4) ? 20000 : 30));
+    if (!random.one_in(3)) number += "." + random.digits(1 + random.below(50));
+    if (random.one_in(2)) number.insert(0, 1, '-');
+    const long limit = Random_Limit(random);
+    High_Precision exact(Bits(limit), number);
+    mpfr_exp(exact.get(), exact.get(), MPFR_RNDN);
+    High_Precision size(64);
+    mpfr_log10(size.get(), exact.get(), MPFR_RNDN);
+    const auto leading = static_cast<long>(std::floor(size.value()));
+    const NumberText result = Exp(number, static_cast<double>(limit));
+    ASSERT_LT(exact.distance(result, leading - limit - 1), 0.6)
+        << number << " at " << limit << ": " << result;
+  }
+}
+
+// The quotient of two natural logarithms at limit + base digits. Their own bounds hold there, and
+// the half unit where they are rounded: to as many characters as there are digits, of which a minus
+// and a "0" before the separator take one each.
+TEST(Logarithm, IsRightButForWhatItsBaseLeaves) {
+  Random_Numbers random(83);
+  const char* const bases[] = {"10", "2", "3", "7", "25", "0.5", "1.5", "2.718281828", "60"};
+  for (int round = 0; round < 400; ++round) {
+    const std::string number = Random_Positive(random);
+    const std::string base = bases[random.below(std::size(bases))];
+    const long limit = Random_Limit(random);
+    const auto working = std::lrint(std::stod(base) + static_cast<double>(limit));
+    High_Precision exact(Bits(working), number);
+    High_Precision below(Bits(working), base);
+    mpfr_log(exact.get(), exact.get(), MPFR_RNDN);
+    mpfr_log(below.get(), below.get(), MPFR_RNDN);
+    const double rounding = 500;
+    const double wrong_above =
+        Natural_Bound(exact, working) + rounding * (1 + std::fabs(exact.value()));
+    const double wrong_below =
+        Natural_Bound(below, working) + rounding * (1 + std::fabs(below.value()));
+    mpfr_div(exact.get(), exact.get(), below.get(), MPFR_RNDN);
+    const double size = std::fabs(exact.value());
+    const double bound = (wrong_above + size * wrong_below) / std::fabs(below.value()) *
+                             std::pow(10.0, static_cast<double>(limit - working)) +
+                         0.6 * std::fmax(size, 1);
+    const NumberText result = Log(number, base, static_cast<double>(limit));
+    ASSERT_LT(exact.distance(result, -limit - 1), bound)
+        << number << " to base " << base << " at " << limit << ": " << result;
+  }
+}
+
+TEST(Logarithm, CarriesAsManyGuardDigitsAsItsBaseSays) {
+  constexpr double limit = 21;
+  const auto natural = [](const NumberText& number, double working) {
+    return To_Text(Round_To_SD(Ln(number, working), working));
+  };
+  const struct {
+    HostValue base;
+    double working;
+    NumberText below;
+  } cases[] = {
+      {Missing, 31, To_Text(Ln10_Digits(31))},
+      {10, 31, To_Text(Ln10_Digits(31))},
+      {"10.0", 31, To_Text(Ln10_Digits(31))},
+      {2, 23, To_Text(Ln2_Digits(23))},
+      {7, 28, natural("7", 28)},
+      {100, 121, natural("100", 121)},
+      {2.5, 24, natural("2.5", 24)},
+      {"3.5", 24, natural("3.5", 24)},
+  };
+  for (const auto& [base, working, below] : cases) {
+    const NumberText quotient =
+        Intermediate(operation::divide, natural("3", working), below, working);
+    EXPECT_EQ(Log("3", base, limit), Intermediate(operation::add, quotient, "0", limit))
+        << working << " digits";
+  }
+}
+
+TEST(Logarithm, OfAPowerIsTheExponent) {
+  Random_Numbers random(84);
+  for (int round = 0; round < 100; ++round) {
+    const std::string base = std::to_string(2 + random.below(30));
+    const std::string exponent = std::to_string(1 + random.below(60));
+    const NumberText power = Intermediate(operation::power, base, exponent, 200);
+    const auto limit = static_cast<double>(10 + random.below(60));
+    High_Precision exact(1000, exponent);
+    ASSERT_LT(exact.distance(Log(power, base, limit), -static_cast<long>(limit) + 2),
+              static_cast<double>(std::stoi(exponent)))
+        << base << " to the " << exponent << " at " << limit;
+  }
+}
+
+TEST(NaturalLogarithm, UndoesTheExponential) {
+  Random_Numbers random(85);
+  for (int round = 0; round < 100; ++round) {
+    std::string number = std::to_string(random.below(200)) + "." + random.digits(20) + "1";
+    if (random.one_in(2)) number.insert(0, 1, '-');
+    const long limit = 30 + static_cast<long>(random.below(60));
+    const NumberText power = Exp(number, static_cast<double>(limit));
+    const High_Precision exact(Bits(limit), number);
+    // Beside its own, the logarithm shows the error of the power relative to it.
+    ASSERT_LT(exact.distance(Ln(power, static_cast<double>(limit)), -limit - 1),
+              Natural_Bound(exact, limit) + 10)
+        << number << " at " << limit;
+  }
+}
+
+// None of its negative terms would end the series.
+TEST(NaturalLogarithm, OfNumbersBelowAPowerOfTwoIsSettledEarly) {
+  NumberText result;
+  const auto yields = Yields_Of([&] { result = Ln("0." + std::string(40, '9'), 1000); });
+  EXPECT_LT(yields, 200U);
+  High_Precision exact(4000, "0." + std::string(40, '9'));
+  mpfr_log(exact.get(), exact.get(), MPFR_RNDN);
+  EXPECT_LT(exact.distance(result, -1001), Natural_Bound(exact, 1000));
+}
+
+TEST(LogarithmsAndExponential, AreTheSameInAllLocales) {
+  const NumberText ln = Ln("2.5", 30);
+  const NumberText log = Log("2.5", "3.5", 30);
+  const NumberText exp = Exp("-1.25", 30);
+  In_Each_Locale([&] {
+    EXPECT_EQ(Ln(Localized("2.5"), 30), Localized(ln));
+    EXPECT_EQ(Log(Localized("2.5"), Localized("3.5"), 30), Localized(log));
+    EXPECT_EQ(Exp(Localized("-1.25"), 30), Localized(exp));
+  });
+}
+
+TEST(LogarithmsAndExponential, CanBeBrokenOff) {
+  const Interruption_Guard guard;
+  EXPECT_EQ(Failure_Of([] { Ln("3", 50); }), Failure_Number::interrupted);
+  EXPECT_EQ(Failure_Of([] { Log("3", 7, 50); }), Failure_Number::interrupted);
+  EXPECT_EQ(Failure_Of([] { Exp("3", 50); }), Failure_Number::interrupted);
+}
+
+TEST(LogarithmsAndExponential, FailWhereProductsDo) {
+  const Without_Libraries guard;
+  EXPECT_EQ(Ln("3", 50), "#VALUE!");
+  EXPECT_EQ(Log("3", 7, 50), "#VALUE!");
+  EXPECT_EQ(Exp("3", 50), "#VALUE!");
+  EXPECT_EQ(Ln("1", 50), "0");
+  EXPECT_EQ(Exp("0", 50), "1");
+}
+
+}  // namespace
+}  // namespace quorvex

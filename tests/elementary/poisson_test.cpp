@@ -1,0 +1,128 @@
+// The Poisson distribution against its definition, step by step and as a whole.
+#include "elementary/poisson.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "arith/do_operation.h"
+#include "elementary/constants.h"
+#include "elementary/factorial.h"
+#include "host/conversions.h"
+#include "support/cells.h"
+#include "support/failures.h"
+#include "support/high_precision.h"
+#include "support/random_numbers.h"
+#include "support/surroundings.h"
+
+namespace quorvex {
+namespace {
+
+NumberText Poisson(int target, const NumberText& average, bool cumulative, double limit) {
+  return Poisson_Function(target, average, cumulative, Missing, limit, Missing);
+}
+
+NumberText Term(int k, const NumberText& average, double limit) {
+  const NumberText e = To_Text(E_Digits(limit));
+  const NumberText exp_term = Intermediate(operation::power, e, "-" + average, limit);
+  const NumberText power = Intermediate(operation::power, average, std::to_string(k), limit);
+  return Intermediate(operation::divide, Intermediate(operation::multiply, exp_term, power, limit),
+                      Fact_Function(k, {}), limit);
+}
+
+std::string Random_Average(Random_Numbers& random) {
+  std::string average = std::to_string(1 + random.below(30));
+  if (random.one_in(2)) average += "." + std::to_string(1 + random.below(99));
+  return average;
+}
+
+TEST(Poisson, TakesEveryTermAnewAndAddsThemUp) {
+  Random_Numbers random(95);
+  for (int round = 0; round < 40; ++round) {
+    const std::string average = Random_Average(random);
+    const int target = static_cast<int>(random.below(90));
+    const auto limit = static_cast<double>(3 + random.below(random.one_in(4) ? 150 : 30));
+    const HostValue shown = limit - 1;
+    const auto formatted = [&](const NumberText& number) {
+      return Do_Operation(operation::add, number, 0, {.maximum_significant_digits = shown});
+    };
+    ASSERT_EQ(Poisson(target, average, false, limit), formatted(Term(target, average, limit)))
+        << target << " of " << average << " at " << limit;
+    NumberText sum = "0";
+    for (int k = 0; k <= target; ++k) {
+      sum = Intermediate(operation::add, sum, Term(k, average, limit), limit);
+    }
+    ASSERT_EQ(Poisson(target, average, true, limit), formatted(sum))
+        << target << " of " << average << " at " << limit;
+  }
+}
+
+// Up to the default limit of factorials all digits of a term are right but the last ones.
+TEST(Poisson, IsRightAndItsSumsComeToOne) {
+  Random_Numbers random(96);
+  for (int round = 0; round < 60; ++round) {
+    const std::string average = std::to_string(1 + random.below(30));
+    const auto k = static_cast<int>(random.below(100));
+    const long limit = 10 + static_cast<long>(random.below(80));
+    High_Precision exact(600, average);
+    High_Precision other(600);
+    mpfr_pow_si(other.get(), exact.get(), k, MPFR_RNDN);
+    mpfr_neg(exact.get(), exact.get(), MPFR_RNDN);
+    mpfr_exp(exact.get(), exact.get(), MPFR_RNDN);
+    mpfr_mul(exact.get(), exact.get(), other.get(), MPFR_RNDN);
+    mpfr_fac_ui(other.get(), static_cast<unsigned long>(k), MPFR_RNDN);
+    mpfr_div(exact.get(), exact.get(), other.get(), MPFR_RNDN);
+    // e is cut and not rounded, by less than a unit of its last place, once for each power of it.
+    ASSERT_LT(exact.distance(Poisson(k, average, false, static_cast<double>(limit)), -limit), 40)
+        << k << " of " << average << " at " << limit;
+    const NumberText sum = Poisson(200, average, true, static_cast<double>(limit));
+    ASSERT_LT(High_Precision(600, "1").distance(sum, -limit), 40 * 30)
+        << average << " at " << limit << ": " << sum;
+  }
+}
+
+TEST(Poisson, TakesFactorialsAtTheDefaultLimit) {
+  const double before = Default_MaxSD();
+  const NumberText usual = Poisson(80, "70", false, 50);
+  Set_Default_MaxSD(5);
+  const NumberText few = Poisson(80, "70", false, 50);
+  Set_Default_MaxSD(before);
+  EXPECT_NE(few, usual);
+  EXPECT_EQ(few.substr(0, 6), usual.substr(0, 6));
+}
+
+TEST(Poisson, OfCountsBeyondFactorialsIsATokenAtOnce) {
+  // Nothing more than e to the power -average, which every term has.
+  const auto yields_of_one = Yields_Of([] { Poisson(0, "1", false, 10); });
+  for (const bool cumulative : {false, true}) {
+    for (const int target : {9274, 2000000000}) {
+      NumberText result;
+      const auto yields = Yields_Of([&] { result = Poisson(target, "1", cumulative, 10); });
+      EXPECT_EQ(result, "#NUM!") << target;
+      EXPECT_LE(yields, yields_of_one) << target;
+    }
+  }
+}
+
+TEST(Poisson, CountsThatComeToRestFail) {
+  EXPECT_EQ(Failure_Of([] { Poisson(100, "1", true, 0); }), Failure_Number::too_complex);
+  EXPECT_EQ(Failure_Of([] { Poisson(99, "1", true, 0); }), std::nullopt);
+  EXPECT_EQ(Failure_Of([] { Poisson(10, "1", true, -1); }), Failure_Number::too_complex);
+}
+
+TEST(Poisson, ReadsCellsAsWhatStandsInThem) {
+  const auto cell = [](const HostValue& value) { return Range_Of_Cells(1, {value}); };
+  EXPECT_EQ(Poisson_Function(cell("2"), cell(3), cell(true), cell(false), cell(20), cell(true)),
+            Poisson(2, "3", true, 20));
+  EXPECT_EQ(Poisson_Function(2, 3, cell(1), Missing, Missing, Missing), "#VALUE!");
+  EXPECT_EQ(Poisson_Function(2, 3, true, Missing, cell(HostValue::Empty()), Missing),
+            Poisson(2, "3", true, 100));
+}
+
+TEST(Poisson, CanBeBrokenOff) {
+  const Interruption_Guard guard;
+  EXPECT_EQ(Failure_Of([] { Poisson(20, "1", true, 20); }), Failure_Number::interrupted);
+}
+
+}  // namespace
+}  // namespace quorvex
