@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <tuple>
@@ -35,6 +36,8 @@ constexpr Parameter_Kind Kind_Of() {
     return Parameter_Kind::boolean;
   } else if constexpr (std::is_same_v<Value, List>) {
     return Parameter_Kind::list;
+  } else if constexpr (std::is_same_v<Value, std::shared_ptr<Host_Application>>) {
+    return Parameter_Kind::object;
   } else {
     static_assert(unknown<Value>, "no kind of parameter is of this type");
   }
@@ -42,7 +45,9 @@ constexpr Parameter_Kind Kind_Of() {
 
 template <typename Type>
 constexpr Result_Kind Result_Of() {
-  if constexpr (std::is_same_v<Type, NumberText>) {
+  if constexpr (std::is_void_v<Type>) {
+    return Result_Kind::nothing;
+  } else if constexpr (std::is_same_v<Type, NumberText>) {
     return Result_Kind::text;
   } else if constexpr (std::is_same_v<Type, HostValue>) {
     return Result_Kind::value;
@@ -59,6 +64,10 @@ NumberText& Text_In_Place(HostValue& argument);
 /// Makes a value a list, and gives that list: a missing one is empty, and any other value that is
 /// no list is the only element of one.
 const List& List_In_Place(HostValue& argument);
+
+/// Values can't hold an object of the host: null for a missing or empty one, a failure for any
+/// other.
+std::shared_ptr<Host_Application> Application_In(const HostValue& argument);
 
 /// An argument as a parameter takes it: a value or a list by reference, text, numbers and truth
 /// values converted. A truth value that is left out is false.
@@ -77,6 +86,8 @@ decltype(auto) Take(HostValue& argument) {
                                  : std::optional<NumberText>(std::move(Text_In_Place(argument)));
   } else if constexpr (Kind_Of<Type>() == Parameter_Kind::list) {
     return (List_In_Place(argument));
+  } else if constexpr (Kind_Of<Type>() == Parameter_Kind::object) {
+    return Application_In(argument);
   } else if constexpr (std::is_same_v<Type, NumberText&>) {
     // The method changes its text: the caller's value holds it.
     return Text_In_Place(argument);
@@ -113,7 +124,12 @@ struct Bound<method> {
   template <std::size_t... places>
   static Call_Result Invoke(cls_Quorvex& engine, [[maybe_unused]] std::span<HostValue> arguments,
                             std::index_sequence<places...>) {
-    return Give((engine.*method)(Take<Types>(arguments[places])...));
+    if constexpr (std::is_void_v<Result>) {
+      (engine.*method)(Take<Types>(arguments[places])...);
+      return {};
+    } else {
+      return Give((engine.*method)(Take<Types>(arguments[places])...));
+    }
   }
 };
 

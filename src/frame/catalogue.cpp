@@ -34,6 +34,12 @@ NumberText& Text_In_Place(HostValue& argument) {
   return argument.mutable_text();
 }
 
+std::shared_ptr<Host_Application> Application_In(const HostValue& argument) {
+  if (argument.is_missing() || argument.is_empty()) return nullptr;
+  throw Run_Time_Failure(Failure_Number::type_mismatch,
+                         "The host's application object is needed, and no value stands for it.");
+}
+
 const List& List_In_Place(HostValue& argument) {
   if (argument.is_missing()) argument = List();
   if (argument.kind() != HostValue::Kind::list) argument = List{std::move(argument)};
@@ -275,15 +281,15 @@ std::vector<Method> Last_Rows() {
 
 std::vector<Method> Make_Catalogue() {
   std::vector<Method> methods;
-  for (auto rows :
-       {Call_Frame_Rows(),  Division_Rows(),    Mantissa_Rows(),     Angle_Worker_Rows(),
-        Cell_Sum_Rows(),    Square_Root_Rows(), Parity_Rows(),       Mean_Rows(),
-        Order_Rows(),       Extraction_Rows(),  List_Rows(),         Recognition_Rows(),
-        Whole_Part_Rows(),  Factorial_Rows(),   Whole_Number_Rows(), Sign_Rows(),
-        Sum_Rows(),         Product_Rows(),     Power_Rows(),        Comparison_Rows(),
-        Rounding_Rows(),    Reduction_Rows(),   Divisor_Rows(),      Constant_Rows(),
-        Default_Rows(),     Angle_Rows(),       Sine_Rows(),         Arc_Rows(),
-        Probability_Rows(), Logarithm_Rows(),   Last_Rows()}) {
+  for (auto rows : {Host_Rows(),         Call_Frame_Rows(), Division_Rows(),    Mantissa_Rows(),
+                    Angle_Worker_Rows(), Cell_Sum_Rows(),   Square_Root_Rows(), Parity_Rows(),
+                    Mean_Rows(),         Order_Rows(),      Extraction_Rows(),  List_Rows(),
+                    Recognition_Rows(),  Whole_Part_Rows(), Factorial_Rows(),   Whole_Number_Rows(),
+                    Sign_Rows(),         Sum_Rows(),        Product_Rows(),     Power_Rows(),
+                    Comparison_Rows(),   Rounding_Rows(),   Reduction_Rows(),   Divisor_Rows(),
+                    Constant_Rows(),     About_Rows(),      Default_Rows(),     Test_Rows(),
+                    Angle_Rows(),        Sine_Rows(),       Arc_Rows(),         Probability_Rows(),
+                    Logarithm_Rows(),    Last_Rows()}) {
     std::ranges::move(rows, std::back_inserter(methods));
   }
   return methods;

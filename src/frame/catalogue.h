@@ -15,7 +15,7 @@
 
 namespace quorvex {
 
-enum class Parameter_Kind { value, text, number, integer, boolean, list };
+enum class Parameter_Kind { value, text, number, integer, boolean, list, object };
 enum class Result_Kind { nothing, text, value, boolean, record };
 
 struct Parameter {

@@ -21,6 +21,7 @@ inline constexpr std::string_view statistical = "High-Precision Statistical";
 inline constexpr std::string_view text_functions = "High-Precision Text";
 inline constexpr std::string_view information = "High-Precision Information";
 inline constexpr std::string_view miscellaneous = "High-Precision Miscellaneous";
+inline constexpr std::string_view add_in_information = "Quorvex Add-In Information";
 inline constexpr std::string_view not_offered;
 
 inline Parameter Operand_Parameter(std::string_view name, std::string_view help) {
@@ -94,6 +95,7 @@ Method Row(std::string_view name, std::string_view family, std::string_view cate
 }
 
 // Rows that fill files of their own, in the order of the class.
+std::vector<Method> Host_Rows();
 std::vector<Method> Angle_Worker_Rows();
 std::vector<Method> Square_Root_Rows();
 std::vector<Method> Parity_Rows();
@@ -114,5 +116,7 @@ std::vector<Method> Mantissa_Rows();
 std::vector<Method> Factorial_Rows();
 std::vector<Method> Probability_Rows();
 std::vector<Method> Logarithm_Rows();
+std::vector<Method> About_Rows();
+std::vector<Method> Test_Rows();
 
 }  // namespace quorvex::catalogue

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 
 #include "arith/reciprocal.h"
+#include "host/application.h"
 #include "host/export.h"
 #include "host/host_value.h"
 #include "text/options.h"
@@ -24,10 +26,21 @@ namespace quorvex {
 /// true or false; `maximum_significant_digits`, `Default_MaxSD` if missing;
 /// `format_decimal_place`, a fixed count of places; `preserve_decimal_place`, without effect.
 ///
-/// Methods keep no state. A calculation that the host breaks off throws `Run_Time_Failure` number
-/// 18 from any of them.
+/// Instances keep no state of their own: they share the default limit and the host. A calculation
+/// that the host breaks off throws `Run_Time_Failure` number 18 from any of them.
 class QUORVEX_API cls_Quorvex {
  public:
+  /// Loads the default limit from the user's settings, which get 100 where they have none, and has
+  /// the functions described to the host as soon as that is idle. Throws `Run_Time_Failure` 13 or 6
+  /// for a stored limit that is no number.
+  cls_Quorvex();
+
+  /// Tells the add-in the host that it runs in; null changes nothing.
+  void SetExcelApp(const std::shared_ptr<Host_Application>& excel_app);
+
+  /// Where the help file belongs: beside this library. Nobody looks whether it is there.
+  NumberText qvxHelpfilePath();
+
   /// `Restrictionator` with the last two arguments missing.
   type_Restrictionator PublicRestrictionatorCaller(
       const HostValue& format_negative = Missing, const HostValue& format_thousands = Missing,
@@ -435,8 +448,17 @@ class QUORVEX_API cls_Quorvex {
   NumberText qvxPi(const HostValue& digits = Missing);
   NumberText qvxE(const HostValue& digits = Missing);
 
+  /// Shows the About dialog. Throws as the constructor does.
+  void qvxABOUT();
+
+  /// The version that the user is shown.
+  NumberText qvxVERSION();
+
   /// The maximum significant digits of a call that gives none, as a host number.
   HostValue qvxDEFAULTMAXSD();
+
+  /// A greeting with the version.
+  NumberText qvxTEST();
 
   /// An angle in the other unit, by a pi of `maxSD` digits. "#NUM!" beyond the digits of pi; an
   /// error token for an angle that is no number. Throws `Run_Time_Failure` 13 for a `maxSD` that

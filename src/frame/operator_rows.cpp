@@ -68,8 +68,7 @@ std::vector<Method> Power_Rows() {
   return {
       Row<&cls_Quorvex::qvxROOT>(
           "qvxROOT", "Root", operators,
-          "Returns the root of a number, with up to 32,767 significant digits of precision. "
-          "Number2 is the degree of the root of number1.",
+          "Gets the specified root of a number, with up to 32,767 significant digits of precision.",
           "qvxROOT(2, 7, , , , , 50)",
           With_Restriction(
               {Operand_Parameter("number1", "the number to take the root of"),
@@ -83,7 +82,7 @@ std::vector<Method> Power_Rows() {
       Row<&cls_Quorvex::qvxPOWER>(
           "qvxPOWER", "Power", operators,
           "Raises one number to the power of another number, with up to 32,767 significant digits "
-          "of precision. Number1 is raised to the power of number2.",
+          "of precision. Num is raised to the power of pwr.",
           "qvxPOWER(\"1.000000001\", 1000000, , , , , 30)",
           With_Restriction({Operand_Parameter("number1", "the number to raise"),
                             Operand_Parameter("number2", "the power to raise it to")}),

@@ -2,6 +2,8 @@
 #include "host/platform.h"
 
 #include <cstdio>
+#include <map>
+#include <tuple>
 #include <utility>
 
 #include "host/run_time_failure.h"
@@ -19,6 +21,7 @@ Letter_Case::~Letter_Case() = default;
 Memory_Gauge::~Memory_Gauge() = default;
 Library_Loader::~Library_Loader() = default;
 Clock::~Clock() = default;
+Application_Source::~Application_Source() = default;
 
 namespace {
 
@@ -29,6 +32,31 @@ class Constant_Locale final : public Locale_Source {
 
  private:
   Locale locale_;
+};
+
+class Memory_Settings final : public Settings_Store {
+ public:
+  std::optional<std::string> read(std::string_view application, std::string_view section,
+                                  std::string_view key) override {
+    const auto found = settings_.find(Name(application, section, key));
+    return found == settings_.end() ? std::nullopt : std::optional(found->second);
+  }
+  void write(std::string_view application, std::string_view section, std::string_view key,
+             std::string_view value) override {
+    settings_[Name(application, section, key)] = value;
+  }
+
+ private:
+  using Name = std::tuple<std::string, std::string, std::string>;
+
+  std::map<Name, std::string> settings_;
+};
+
+class Absent_Application final : public Application_Source {
+ public:
+  std::shared_ptr<Host_Application> running() override {
+    throw Run_Time_Failure(Failure_Number::no_application, "No spreadsheet is running.");
+  }
 };
 
 std::string Size_Text(double bytes) {
@@ -49,6 +77,14 @@ Platform& Process_Platform() {
 
 std::shared_ptr<Locale_Source> Fixed_Locale(Locale locale) {
   return std::make_shared<Constant_Locale>(std::move(locale));
+}
+
+std::shared_ptr<Settings_Store> Settings_In_Memory() {
+  return std::make_shared<Memory_Settings>();
+}
+
+std::shared_ptr<Application_Source> No_Application() {
+  return std::make_shared<Absent_Application>();
 }
 
 void Require_Memory(double bytes) {

@@ -37,10 +37,15 @@ class QUORVEX_API Locale_Source {
 };
 
 /// A per-user store of texts under three-level keys. What can't be read isn't there; what can't be
-/// written fails with invalid_call.
+/// written fails with invalid_call, and what was there stays.
 class QUORVEX_API Settings_Store {
  public:
   virtual ~Settings_Store();
+  /// Where the user finds the settings, for messages; empty for nowhere.
+  virtual std::string place() { return {}; }
+  /// Why nothing can be read, as a sentence for the user; nothing if all is well, and where no
+  /// setting was ever written.
+  virtual std::optional<std::string> problem() { return std::nullopt; }
   virtual std::optional<std::string> read(std::string_view application, std::string_view section,
                                           std::string_view key) = 0;
   virtual void write(std::string_view application, std::string_view section, std::string_view key,
@@ -104,6 +109,9 @@ class QUORVEX_API Library_Loader {
   virtual ~Library_Loader();
   /// The address of a symbol in the library of that plain file name; null if there is none such.
   virtual void* symbol(const char* library, const char* name) = 0;
+  /// The folder that this library was loaded from, without a separator behind it; empty where that
+  /// can't be told.
+  virtual std::string folder() { return {}; }
 };
 
 /// The time of the user's day.
@@ -112,6 +120,16 @@ class QUORVEX_API Clock {
   virtual ~Clock();
   /// The part of the day that has passed, from 0 up to 1: noon is 0.5.
   virtual double time_of_day() = 0;
+};
+
+class Host_Application;
+
+/// Finds the spreadsheet that runs on this system.
+class QUORVEX_API Application_Source {
+ public:
+  virtual ~Application_Source();
+  /// Fails with no_application where none runs, and with numbers of its own while it can't answer.
+  virtual std::shared_ptr<Host_Application> running() = 0;
 };
 
 struct Platform {
@@ -124,6 +142,7 @@ struct Platform {
   std::shared_ptr<Letter_Case> letters;
   std::shared_ptr<Library_Loader> libraries;
   std::shared_ptr<Clock> clock;
+  std::shared_ptr<Application_Source> applications;
 };
 
 /// Makes the platform of the process when it is first called. For `Current_Platform` only.
@@ -141,6 +160,12 @@ Platform Default_Platform();
 
 /// A source that always gives this locale.
 QUORVEX_API std::shared_ptr<Locale_Source> Fixed_Locale(Locale locale);
+
+/// A store that lasts as long as it is held, for programs that leave the user's settings alone.
+QUORVEX_API std::shared_ptr<Settings_Store> Settings_In_Memory();
+
+/// A source that finds no spreadsheet.
+std::shared_ptr<Application_Source> No_Application();
 
 /// The system's locale of that name (fr_FR, de_CH.UTF-8); nothing if the system has none such.
 QUORVEX_API std::optional<Locale> System_Locale(std::string_view name);

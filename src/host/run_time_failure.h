@@ -9,7 +9,8 @@
 
 namespace quorvex {
 
-/// The host's error numbers, as far as the engine raises them.
+/// The host's error numbers, as far as the engine raises them. Failures of the host's own objects
+/// carry any other number.
 enum class Failure_Number : int {
   invalid_call = 5,
   overflow = 6,
@@ -18,6 +19,7 @@ enum class Failure_Number : int {
   type_mismatch = 13,
   too_complex = 16,
   interrupted = 18,
+  no_application = 429,
 };
 
 /// A run-time failure: the host's error number, and a message that a user can act on.

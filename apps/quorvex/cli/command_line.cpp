@@ -22,8 +22,10 @@
 #include "cli/manual_page.h"
 #include "cli/prompt.h"
 #include "cli/session.h"
+#include "cli/settings_command.h"
 #include "cli/sheet_command.h"
 #include "cli/shell_completion.h"
+#include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "quorvex_version.h"
 #include "sheet/csv.h"
@@ -35,6 +37,7 @@ struct Arguments {
   Common_Options common;
   std::vector<std::string> formulas;
   Sheet_Options sheet;
+  Settings_Words settings;
   std::string function;
   bool markdown = false;
   bool manual_page = false;
@@ -48,6 +51,7 @@ constexpr const char* examples =
     "  quorvex --digits 30 - < formulas.txt\n"
     "  quorvex sheet prices.csv -o calculated.csv\n"
     "  quorvex functions qvxADD\n"
+    "  quorvex settings max-sd 200\n"
     "  echo '{\"call\":\"qvxADD\",\"args\":[1,\"2.5\"]}' | quorvex batch\n"
     "Without arguments: a prompt on a terminal; else formulas are read from standard input.\n"
     "Exit code: 0 for success, 1 for a failed calculation, 2 for wrong usage.";
@@ -89,6 +93,9 @@ void Describe_Sheet(CLI::App& app, Arguments& arguments) {
   sheet->add_option("--width", arguments.sheet.width, "Cut printed values to so many characters")
       ->type_name("N")
       ->check(CLI::Validator(Check_Width, ""));
+  sheet->add_flag("--watch", arguments.sheet.watch,
+                  "Go on until Ctrl-C, and show the worksheet anew when the file changes or "
+                  "another default limit is stored");
   Add_Common_Options(*sheet, arguments.common);
   sheet->footer("Example:\n  quorvex sheet prices.csv --name rates=B2:B13 -o calculated.csv");
 }
@@ -113,6 +120,18 @@ void Describe_Batch(CLI::App& app, Arguments& arguments) {
       "  {\"id\":1,\"value\":\"3.5\"}");
 }
 
+void Describe_Settings(CLI::App& app, Arguments& arguments) {
+  auto* settings = app.add_subcommand("settings", "Show the settings, or change one");
+  settings->add_option("name", arguments.settings.name, "max-sd, the only one there is")
+      ->type_name("");
+  settings->add_option("value", arguments.settings.value, "What to store, from 0 to 2147483648")
+      ->type_name("");
+  settings->footer(
+      "max-sd is the default limit: the significant digits of a result where a function is not "
+      "told how many.\nWithout arguments: a dialogue on a terminal; else all settings are listed.\n"
+      "Examples:\n  quorvex settings max-sd\n  quorvex settings max-sd 200");
+}
+
 void Describe(CLI::App& app, Arguments& arguments) {
   app.set_version_flag("--version", std::string("quorvex ") + version);
   app.add_option("formula", arguments.formulas,
@@ -129,6 +148,8 @@ void Describe(CLI::App& app, Arguments& arguments) {
   Describe_Sheet(app, arguments);
   Describe_Functions(app, arguments);
   Describe_Batch(app, arguments);
+  Describe_Settings(app, arguments);
+  app.add_subcommand("about", "Tell what Quorvex is, and the default limit");
   app.footer(examples);
 }
 
@@ -156,6 +177,8 @@ std::vector<std::string> Guarded_Arguments(int argc, char** argv) {
 }
 
 Outcome Run_Functions(Session& session, const Arguments& arguments) {
+  // Examples hold for everybody, whatever limit is stored.
+  Current_Platform().settings = Settings_In_Memory();
   std::string& out = session.output().buffer();
   if (arguments.markdown) {
     out += Function_Page(session.engine());
@@ -169,7 +192,9 @@ Outcome Run_Functions(Session& session, const Arguments& arguments) {
   return Outcome::success;
 }
 
-Outcome Run_Batch(const std::shared_ptr<Call_Guard>& guard, const Arguments& arguments) {
+Outcome Run_Batch(Session& session, const std::shared_ptr<Call_Guard>& guard,
+                  const Arguments& arguments) {
+  session.engine();  // tells what is wrong with the settings
   Answerer answerer(guard);
   const Answer_Function answer = [&answerer](std::string& out, std::string_view line) {
     answerer.append_answer(out, line);
@@ -188,7 +213,9 @@ Outcome Calculate_Arguments(Session& session, const std::vector<std::string>& fo
   const std::string& first = formulas.front();
   if (outcome == Outcome::wrong_usage && !first.empty() &&
       std::all_of(first.begin(), first.end(), Is_Letter))
-    session.hint("The commands are sheet, functions and batch; \"quorvex --help\" tells more.");
+    session.hint(
+        "The commands are sheet, functions, batch, settings and about; \"quorvex --help\" tells "
+        "more.");
   return outcome;
 }
 
@@ -212,11 +239,16 @@ Outcome Run_Command(Session& session, const std::shared_ptr<Call_Guard>& guard, 
   if (commands.empty() && Writes_For_Packages(session, app, arguments)) return Outcome::success;
   if (commands.empty()) return Run_Formulas(session, arguments);
   const std::string command = commands.front()->get_name();
+  if (command == "settings" && arguments.common.digits)
+    throw Usage_Error(
+        "--digits is for one run, and \"settings\" for all: give the one or the other");
   if (!arguments.formulas.empty())
     throw Usage_Error("a formula and the command \"" + command + "\" don't go together");
   if (command == "sheet") return Calculate_Sheet(session, arguments.sheet);
   if (command == "functions") return Run_Functions(session, arguments);
-  return Run_Batch(guard, arguments);
+  if (command == "settings") return Run_Settings(session, arguments.settings);
+  if (command == "about") return Run_About(session);
+  return Run_Batch(session, guard, arguments);
 }
 
 // The hint at what to do next, after a message of the parser.

@@ -3,8 +3,10 @@
 
 #include <CLI/CLI.hpp>
 #include <cmath>
+#include <utility>
 
 #include "cli/session.h"
+#include "host/conversions.h"
 #include "host/platform.h"
 #include "text/options.h"
 
@@ -76,6 +78,36 @@ void Add_Common_Options(CLI::App& command, Common_Options& options) {
       ->check(CLI::Validator(Check_Timeout, ""));
 }
 
+namespace {
+
+// The user's settings, with a limit of this run in the place of the stored one.
+class Settings_Of_Run final : public Settings_Store {
+ public:
+  Settings_Of_Run(std::shared_ptr<Settings_Store> stored, double digits)
+      : stored_(std::move(stored)), digits_(Number_To_Text(digits)) {}
+
+  std::string place() override { return stored_->place(); }
+
+  std::optional<std::string> read(std::string_view application, std::string_view section,
+                                  std::string_view key) override {
+    return key == limit ? digits_ : stored_->read(application, section, key);
+  }
+  // A limit that the user stores holds from then on.
+  void write(std::string_view application, std::string_view section, std::string_view key,
+             std::string_view value) override {
+    if (key == limit) digits_ = value;
+    stored_->write(application, section, key, value);
+  }
+
+ private:
+  static constexpr std::string_view limit = "MaxSD";
+
+  std::shared_ptr<Settings_Store> stored_;
+  std::string digits_;
+};
+
+}  // namespace
+
 std::shared_ptr<Call_Guard> Apply(const Common_Options& options) {
   if (options.locale_name && Gives_Parts(options))
     throw Usage_Error("--locale names a whole locale: give it, or the parts one by one");
@@ -84,7 +116,10 @@ std::shared_ptr<Call_Guard> Apply(const Common_Options& options) {
     if (const auto problem = Locale_Problem(locale)) throw Usage_Error(*problem);
     Current_Platform().locale = Fixed_Locale(locale);
   }
-  if (options.digits) Set_Default_MaxSD(*options.digits);
+  if (options.digits) {
+    auto& settings = Current_Platform().settings;
+    settings = std::make_shared<Settings_Of_Run>(settings, *options.digits);
+  }
   std::optional<Seconds> limit;
   if (options.timeout) limit = Seconds(*options.timeout);
   auto guard = std::make_shared<Call_Guard>(limit);

@@ -7,12 +7,11 @@
 #include <vector>
 
 #include "cli/example_result.h"
+#include "cli/wrapped.h"
 #include "formula/formula.h"
 
 namespace quorvex {
 namespace {
-
-constexpr std::size_t page_width = 92;
 
 std::string_view First_Sentence(std::string_view text) {
   const auto end = text.find(". ");
@@ -23,26 +22,6 @@ std::string Padded(std::string_view text, std::size_t width) {
   std::string padded(text);
   padded.resize(std::max(width, text.size()), ' ');
   return padded;
-}
-
-// Breaks at blanks; lines after the first begin with `indent` blanks.
-std::string Wrapped(std::string_view text, std::size_t indent) {
-  std::string wrapped;
-  std::size_t column = indent;
-  while (!text.empty()) {
-    const std::string_view word = text.substr(0, text.find(' '));
-    text.remove_prefix(std::min(word.size() + 1, text.size()));
-    if (column > indent && column + 1 + word.size() > page_width) {
-      wrapped += '\n' + std::string(indent, ' ');
-      column = indent;
-    } else if (column > indent) {
-      wrapped += ' ';
-      ++column;
-    }
-    wrapped += word;
-    column += word.size();
-  }
-  return wrapped;
 }
 
 std::string Indented_Lines(std::string_view lines) {

@@ -5,12 +5,19 @@
 #include <array>
 #include <csignal>
 #include <cstdlib>
+#include <memory>
+#include <utility>
 
 #include "cli/formulas.h"
 #include "cli/function_reference.h"
+#include "cli/open_sheet.h"
+#include "cli/terminal_face.h"
 #include "formula/literals.h"
 #include "frame/catalogue.h"
+#include "host/platform.h"
+#include "host/run_time_failure.h"
 #include "quorvex_version.h"
+#include "sheet/csv.h"
 
 namespace quorvex {
 namespace {
@@ -19,10 +26,14 @@ constexpr std::string_view prompt_help =
     "Type a formula, as in a spreadsheet:  qvxADD(\"12345678901234567890.5\", 1.25)\n"
     "  functions    lists all functions\n"
     "  help NAME    explains one of them\n"
+    "  sheet FILE   opens a worksheet, a CSV file, and calculates it; sheet alone does so again\n"
+    "  settings     changes the default limit of significant digits\n"
+    "  about        tells what Quorvex is\n"
     "  quit         leaves; so do exit and Ctrl-D\n"
     "Tab completes names, arrow keys go back to earlier lines, and Ctrl-C ends a calculation.\n";
 
-constexpr std::array<std::string_view, 4> commands = {"exit", "functions", "help", "quit"};
+constexpr std::array<std::string_view, 7> commands = {"about", "exit",     "functions", "help",
+                                                      "quit",  "settings", "sheet"};
 
 // A second Ctrl-C while a calculation has not yet heeded the first one ends the tool, as it ends
 // any other.
@@ -65,7 +76,28 @@ void Explain(Session& session, std::string_view name) {
   }
 }
 
-void Obey(Session& session, std::string_view line) {
+// A file that can't be opened leaves the worksheet that is open.
+void Open(Session& session, std::string_view file, std::unique_ptr<Open_Sheet>& sheet) {
+  if (!file.empty()) {
+    Sheet_Options options;
+    options.file = file;
+    auto opened = std::make_unique<Open_Sheet>(session, std::move(options));
+    opened->load();
+    sheet = std::move(opened);
+  } else if (sheet != nullptr) {
+    sheet->load();
+  } else {
+    session.error("no worksheet is open; \"sheet FILE\" opens one");
+  }
+}
+
+void Open_Settings(Session& session, const std::unique_ptr<Open_Sheet>& sheet) {
+  Show_MaxSD();
+  session.output().flush();
+  if (sheet != nullptr) sheet->update();
+}
+
+void Obey_Word(Session& session, std::string_view line, std::unique_ptr<Open_Sheet>& sheet) {
   const std::string_view word = line.substr(0, line.find(' '));
   const std::string_view rest = Trimmed(line.substr(word.size()));
   if (Same_Word(word, "help") && !rest.empty()) {
@@ -73,10 +105,26 @@ void Obey(Session& session, std::string_view line) {
   } else if (Same_Word(line, "help") || Same_Word(line, "functions")) {
     session.output().buffer() +=
         Same_Word(line, "help") ? std::string(prompt_help) : Function_List();
+  } else if (Same_Word(word, "sheet")) {
+    Open(session, rest, sheet);
+  } else if (Same_Word(line, "settings")) {
+    Open_Settings(session, sheet);
+  } else if (Same_Word(line, "about")) {
+    session.engine().qvxABOUT();
   } else {
     Calculate(session, line);
   }
   session.output().flush();
+}
+
+void Obey(Session& session, std::string_view line, std::unique_ptr<Open_Sheet>& sheet) {
+  try {
+    Obey_Word(session, line, sheet);
+  } catch (const File_Error& error) {
+    session.error(error.what());
+  } catch (const Run_Time_Failure& failure) {
+    session.error(failure.what());
+  }
 }
 
 bool Is_Word_Character(char character) {
@@ -130,13 +178,18 @@ Completion Complete_Word(std::string_view before_cursor) {
 }
 
 Outcome Run_Prompt(Session& session) {
+  session.engine();  // tells what is wrong with the settings
+  const auto face = std::make_shared<Terminal_Face>(session);
+  Set_Form_Face(face);
   Catch_Interrupts();
   session.output().write_line(std::string("Quorvex ") + version +
                               R"(. Type a formula, "help" or "quit".)");
   session.output().flush();
   Line_Editor editor("> ", History_File(), &Complete_Word);
+  std::unique_ptr<Open_Sheet> sheet;
   std::string line;
   for (;;) {
+    Current_Platform().timers->run_due();
     const auto status = editor.read(line);
     if (status == Line_Editor::Status::interrupted) continue;
     if (status == Line_Editor::Status::end) {
@@ -147,7 +200,8 @@ Outcome Run_Prompt(Session& session) {
     if (typed.empty()) continue;
     editor.remember(std::string(typed));
     if (Same_Word(typed, "quit") || Same_Word(typed, "exit")) break;
-    Obey(session, typed);
+    Obey(session, typed, sheet);
+    if (sheet != nullptr) face->note_open_sheet();
   }
   session.output().flush();
   return Outcome::success;

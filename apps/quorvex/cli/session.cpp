@@ -8,6 +8,8 @@
 #include <utility>
 
 #include "formula/formula.h"
+#include "host/platform.h"
+#include "host/run_time_failure.h"
 
 namespace quorvex {
 namespace {
@@ -31,14 +33,46 @@ std::string Marked_Lines(std::string_view formula, std::size_t position) {
   return marked;
 }
 
+std::string Bad_Setting_Advice() {
+  return "It stands in " + Current_Platform().settings->place() +
+         "; \"quorvex settings max-sd N\" stores another.";
+}
+
 Session::Session(std::shared_ptr<Call_Guard> guard)
     : guard_(std::move(guard)), output_(STDOUT_FILENO), is_coloured_(Wants_Colour(STDERR_FILENO)) {}
 
-void Session::error(std::string_view message, std::string_view detail) {
+cls_Quorvex& Session::engine() {
+  if (!engine_) start_engine();
+  return *engine_;
+}
+
+void Session::start_engine() {
+  Settings_Store& settings = *Current_Platform().settings;
+  // Asked first, since an empty file is filled then.
+  const auto problem = settings.problem();
+  try {
+    engine_.emplace();
+  } catch (const Run_Time_Failure& failure) {
+    throw Usage_Error(failure.what(), Bad_Setting_Advice());
+  }
+  if (problem) warning(*problem + " The default limit is 100.");
+}
+
+void Session::write_message(std::string_view label, std::string_view colour,
+                            std::string_view message) {
   output_.flush();
-  std::cerr << (is_coloured_ ? "\033[1;31merror:\033[0m " : "error: ") << message << '\n';
-  if (!detail.empty()) std::cerr << detail << '\n';
-  std::cerr.flush();
+  std::cerr << (is_coloured_ ? colour : "") << label << (is_coloured_ ? "\033[0m " : " ") << message
+            << '\n'
+            << std::flush;
+}
+
+void Session::error(std::string_view message, std::string_view detail) {
+  write_message("error:", "\033[1;31m", message);
+  if (!detail.empty()) hint(detail);
+}
+
+void Session::warning(std::string_view message) {
+  write_message("warning:", "\033[1;33m", message);
 }
 
 void Session::hint(std::string_view advice) {

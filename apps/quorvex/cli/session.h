@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -37,25 +38,35 @@ class Usage_Error : public std::runtime_error {
 /// A formula with a place in it marked, as it stands below a message.
 std::string Marked_Lines(std::string_view formula, std::size_t position);
 
+/// What to do about a stored limit that is no number.
+std::string Bad_Setting_Advice();
+
 /// One run of the tool.
 class Session {
  public:
   explicit Session(std::shared_ptr<Call_Guard> guard);
 
-  cls_Quorvex& engine() { return engine_; }
+  /// The class, made when it is first needed: that reads the user's settings. What is wrong with
+  /// them is told, and a stored limit that can't be used is a `Usage_Error`.
+  cls_Quorvex& engine();
   Call_Guard& guard() { return *guard_; }
   Line_Writer& output() { return output_; }
 
   /// Writes "error: message" to standard error, after all output so far. `detail` holds further
   /// lines, without the last line end.
   void error(std::string_view message, std::string_view detail = {});
+  /// The same for what doesn't keep the run from going on.
+  void warning(std::string_view message);
   /// Writes a line of advice to standard error.
   void hint(std::string_view advice);
   /// As `error`, for a place in a formula, which is shown with the place marked.
   void error_at(std::string_view message, std::string_view formula, std::size_t position);
 
  private:
-  cls_Quorvex engine_;
+  void start_engine();
+  void write_message(std::string_view label, std::string_view colour, std::string_view message);
+
+  std::optional<cls_Quorvex> engine_;
   std::shared_ptr<Call_Guard> guard_;
   Line_Writer output_;
   bool is_coloured_;

@@ -1,96 +1,106 @@
 // `quorvex sheet`: a worksheet from a CSV file, calculated.
 #include "cli/sheet_command.h"
 
-#include <sstream>
-#include <stdexcept>
+#include <chrono>
+#include <filesystem>
+#include <optional>
+#include <system_error>
+#include <thread>
+#include <utility>
 
-#include "cli/progress_bar.h"
-#include "formula/formula.h"
-#include "formula/reference.h"
+#include "host/conversions.h"
+#include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "sheet/csv.h"
-#include "sheet/grid.h"
-#include "sheet/workbook.h"
+#include "shell/recalculate_formulas.h"
+#include "shell/start_up.h"
+#include "text/options.h"
 
 namespace quorvex {
 namespace {
 
-// A fault in the first row of a long column is a fault in all of them.
-constexpr std::size_t most_problems = 50;
+constexpr std::chrono::milliseconds glance_interval(250);
 
-void Define_Name(Worksheet& sheet, const std::string& definition) {
-  const auto equals = definition.find('=');
-  if (equals == std::string::npos)
-    throw Usage_Error("--name takes NAME=REFERENCE, not \"" + definition + "\"");
-  const std::string name = definition.substr(0, equals);
-  const std::string refers_to = definition.substr(equals + 1);
-  try {
-    sheet.define_name(name, refers_to);
-  } catch (const Syntax_Error& syntax) {
-    throw Usage_Error("--name " + name + ": " + syntax.what(),
-                      Marked_Lines(refers_to, syntax.position()));
-  } catch (const std::invalid_argument& invalid) {
-    throw Usage_Error("--name " + name + ": " + invalid.what());
-  }
+// What tells one state of a file from another.
+struct File_Stamp {
+  std::filesystem::file_time_type time;
+  std::uintmax_t size = 0;
+
+  bool operator==(const File_Stamp&) const = default;
+};
+
+// Nothing for a file that isn't there: editors take it away for a moment while they save.
+std::optional<File_Stamp> Stamp_Of(const std::string& file) {
+  std::error_code gone;
+  const File_Stamp stamp{std::filesystem::last_write_time(file, gone),
+                         std::filesystem::file_size(file, gone)};
+  return gone ? std::nullopt : std::optional(stamp);
 }
 
-void Report(Session& session, const std::string& place, const Cell& cell,
-            const Cell_Problem& problem) {
-  if (problem.kind == Cell_Problem::Kind::syntax) {
-    session.error_at(place + problem.message, cell.typed, problem.position);
-  } else {
-    session.error(place + problem.message);
-  }
-}
+class Watch {
+ public:
+  Watch(Session& session, const Sheet_Options& options)
+      : session_(session), file_(options.file), sheet_(session, options) {}
 
-Outcome Report_Problems(Session& session, const std::string& file, const Worksheet& sheet) {
-  std::size_t count = 0;
-  for (const auto& [address, cell] : sheet.cells()) {
-    const Cell_Problem* problem = cell.trouble();
-    if (problem == nullptr || ++count > most_problems) continue;
-    Report(session, file + ": " + Address_Text(address) + ": ", cell, *problem);
+  Outcome first() {
+    look();
+    return sheet_.load();
   }
-  if (count > most_problems) {
-    session.error(file + ": and " + std::to_string(count - most_problems) +
-                  " more cells with problems");
-  }
-  return count > 0 ? Outcome::failed_calculation : Outcome::success;
-}
 
-// The grid goes out before what is said about its cells.
-void Show_Sheet(Session& session, const Worksheet& sheet, const Sheet_Options& options) {
-  if (!options.output.empty() && options.output != "-") {
-    Save_Csv(options.output, sheet);
-    return;
+  [[noreturn]] void go_on() {
+    for (;;) {
+      std::this_thread::sleep_for(glance_interval);
+      Current_Platform().timers->run_due();
+      const auto file = std::exchange(file_stamp_, Stamp_Of(file_));
+      const auto limit = std::exchange(limit_, Stored_MaxSD());
+      try {
+        if (limit_ != limit) follow_limit();
+        if (!file_stamp_) {
+          file_stamp_ = file;
+        } else if (file_stamp_ != file) {
+          session_.hint(file_ + " has changed.");
+          sheet_.load();
+        }
+      } catch (const File_Error& error) {
+        session_.error(error.what());
+      } catch (const Usage_Error& error) {
+        session_.error(error.what(), error.detail());
+      } catch (const Run_Time_Failure& failure) {
+        session_.error(failure.what());
+      }
+    }
   }
-  std::ostringstream text;
-  if (options.output == "-") {
-    Write_Csv(text, sheet);
-  } else {
-    Print_Grid(text, sheet, {.width_limit = options.width});
+
+ private:
+  void look() {
+    file_stamp_ = Stamp_Of(file_);
+    limit_ = Stored_MaxSD();
   }
-  session.output().buffer() += text.str();
-  session.output().flush();
-}
+
+  void follow_limit() {
+    if (!limit_) return;
+    Load_Default_MaxSD();
+    session_.hint("The default limit is " + Number_To_Text(Default_MaxSD()) + " now.");
+    Recalculate_Formulas();
+    sheet_.update();
+  }
+
+  Session& session_;
+  std::string file_;
+  Open_Sheet sheet_;
+  std::optional<File_Stamp> file_stamp_;
+  std::optional<std::string> limit_;
+};
 
 }  // namespace
 
 Outcome Calculate_Sheet(Session& session, const Sheet_Options& options) {
-  Workbook book;
-  Worksheet& sheet = book.add("Sheet1");
-  Load_Csv(options.file, sheet);
-  for (const std::string& definition : options.names) Define_Name(sheet, definition);
-  try {
-    Progress_Bar bar("Calculating");
-    session.guard().begin_call();
-    book.recalculate(session.engine(),
-                     [&bar](std::size_t done, std::size_t all) { bar.show(done, all); });
-  } catch (const Run_Time_Failure& failure) {
-    session.error(options.file + ": " + failure.what());
-    return Outcome::failed_calculation;
-  }
-  Show_Sheet(session, sheet, options);
-  return Report_Problems(session, options.file, sheet);
+  if (!options.watch) return Open_Sheet(session, options).load();
+  session.engine();  // which may store the first limit
+  Watch watch(session, options);
+  watch.first();
+  session.hint("Watching " + options.file + "; Ctrl-C ends it.");
+  watch.go_on();
 }
 
 }  // namespace quorvex

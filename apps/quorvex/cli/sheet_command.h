@@ -1,23 +1,14 @@
 // `quorvex sheet`: a worksheet from a CSV file, calculated.
 #pragma once
 
-#include <cstddef>
-#include <string>
-#include <vector>
-
+#include "cli/open_sheet.h"
 #include "cli/session.h"
 
 namespace quorvex {
 
-struct Sheet_Options {
-  std::string file;
-  std::string output;  // a CSV file, or "-" for CSV on standard output; empty for a printed grid
-  std::vector<std::string> names;  // NAME=REFERENCE
-  std::size_t width = 0;           // 0 cuts nothing
-};
-
 /// Calculates the worksheet, then prints or writes it; what is wrong with cells goes to standard
-/// error. Throws `File_Error` and `Usage_Error`.
+/// error. Told to watch, it does so again whenever the file changes or another default limit is
+/// stored, and never comes back. Throws `File_Error` and `Usage_Error`.
 Outcome Calculate_Sheet(Session& session, const Sheet_Options& options);
 
 }  // namespace quorvex

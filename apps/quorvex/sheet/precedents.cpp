@@ -9,6 +9,13 @@ Worksheet* Sheet_Meant(const Workbook& workbook, const Calculation& calculation,
   return sheet.empty() ? calculation.sheet : workbook.find(sheet);
 }
 
+Calculation* Name_Meant(const Workbook& workbook, const Calculation& calculation,
+                        const Name_Use& use) {
+  const Worksheet* sheet = Sheet_Meant(workbook, calculation, use.sheet);
+  const Defined_Name* name = sheet == nullptr ? nullptr : sheet->find_name(use.name);
+  return name == nullptr ? nullptr : name->calculation.get();
+}
+
 Calculation* Precedents::next() {
   do {
     if (Calculation* found = next_in_area()) return found;
@@ -57,9 +64,7 @@ Calculation* Precedents::next_name() {
   const auto& names = calculation_->formula.names;
   while (names_seen_ < names.size()) {
     const Name_Use& use = names[names_seen_++];
-    const Worksheet* sheet = Sheet_Meant(*workbook_, *calculation_, use.sheet);
-    const Defined_Name* name = sheet == nullptr ? nullptr : sheet->find_name(use.name);
-    if (name != nullptr) return name->calculation.get();
+    if (Calculation* name = Name_Meant(*workbook_, *calculation_, use)) return name;
   }
   return nullptr;
 }

@@ -13,6 +13,10 @@ namespace quorvex {
 Worksheet* Sheet_Meant(const Workbook& workbook, const Calculation& calculation,
                        const std::string& sheet);
 
+/// The formula of the name that a formula uses; null if there is none such.
+Calculation* Name_Meant(const Workbook& workbook, const Calculation& calculation,
+                        const Name_Use& use);
+
 /// Walks the formulas that one formula depends on directly, cells and names, repeats included. It
 /// touches used cells only, so a reference to whole columns costs what stands in them.
 class Precedents {

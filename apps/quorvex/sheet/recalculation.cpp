@@ -11,6 +11,17 @@ namespace quorvex {
 
 void Recalculation::run() {
   collect();
+  for (Calculation* calculation : all_) calculation->stale = true;
+  visit_all();
+}
+
+void Recalculation::run_stale() {
+  collect();
+  spread_to_names();
+  visit_all();
+}
+
+void Recalculation::visit_all() {
   for (Calculation* calculation : all_) {
     if (calculation->order == 0) visit_from(*calculation);
   }
@@ -27,6 +38,24 @@ void Recalculation::collect() {
   for (Calculation* calculation : all_) {
     calculation->order = 0;
     calculation->open = false;
+    calculation->updated = false;
+  }
+}
+
+// A name stands for its formula: whoever is calculated anew wants that calculated anew, too.
+void Recalculation::spread_to_names() {
+  std::vector<Calculation*> stale;
+  for (Calculation* calculation : all_) {
+    if (calculation->stale) stale.push_back(calculation);
+  }
+  while (!stale.empty()) {
+    const Calculation& calculation = *stale.back();
+    stale.pop_back();
+    for (const Name_Use& use : calculation.formula.names) {
+      Calculation* name = Name_Meant(workbook_, calculation, use);
+      if (name == nullptr || std::exchange(name->stale, true)) continue;
+      stale.push_back(name);
+    }
   }
 }
 
@@ -51,8 +80,9 @@ void Recalculation::enter(Calculation& calculation) {
 
 void Recalculation::meet(Calculation& precedent) {
   if (precedent.order == 0) return enter(precedent);
-  if (!precedent.open) return;
   Visit& visit = visits_.back();
+  if (precedent.updated) visit.calculation->stale = true;
+  if (!precedent.open) return;
   if (&precedent == visit.calculation) visit.needs_itself = true;
   visit.calculation->earliest = std::min(visit.calculation->earliest, precedent.order);
 }
@@ -64,6 +94,7 @@ void Recalculation::leave() {
   if (calculation.earliest == calculation.order) close_group(calculation, needs_itself);
   if (visits_.empty()) return;
   Calculation& dependent = *visits_.back().calculation;
+  if (calculation.updated) dependent.stale = true;
   if (calculation.open) dependent.earliest = std::min(dependent.earliest, calculation.earliest);
 }
 
@@ -83,12 +114,20 @@ void Recalculation::close_group(const Calculation& root, bool needs_itself) {
 }
 
 void Recalculation::calculate(Calculation& calculation) {
-  Calculate(workbook_, engine_, calculation);
+  if (calculation.stale) {
+    Calculate(workbook_, engine_, calculation);
+    calculation.stale = false;
+    calculation.updated = true;
+  }
   count_done();
 }
 
 void Recalculation::mark_circle(const std::vector<Calculation*>& group) {
+  const bool stale = std::any_of(group.begin(), group.end(),
+                                 [](const Calculation* calculation) { return calculation->stale; });
   for (Calculation* calculation : group) {
+    calculation->stale = false;
+    calculation->updated = stale;
     calculation->value = Error_Code::reference;
     calculation->spill = {};
     calculation->problem = std::make_unique<Cell_Problem>(

@@ -18,7 +18,10 @@ class Recalculation {
   Recalculation(const Workbook& workbook, cls_Quorvex& engine, const Progress& progress)
       : workbook_(workbook), engine_(engine), progress_(progress) {}
 
+  /// Calculates every formula.
   void run();
+  /// Calculates the stale formulas, the names that they use, and what depends on them.
+  void run_stale();
 
  private:
   struct Visit {
@@ -28,6 +31,8 @@ class Recalculation {
   };
 
   void collect();
+  void spread_to_names();
+  void visit_all();
   void visit_from(Calculation& start);
   void enter(Calculation& calculation);
   void meet(Calculation& precedent);

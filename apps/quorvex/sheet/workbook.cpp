@@ -27,12 +27,23 @@ Worksheet* Workbook::find(std::string_view name) const {
 }
 
 void Workbook::recalculate(cls_Quorvex& engine, const Progress& progress) {
+  calculate(engine, progress, Extent::everything);
+}
+
+void Workbook::update(cls_Quorvex& engine, const Progress& progress) {
+  calculate(engine, progress, Extent::stale);
+}
+
+void Workbook::calculate(cls_Quorvex& engine, const Progress& progress, Extent extent) {
   // Formulas may use cells that arrays have filled only after them. Each pass settles one array of
   // a chain at least, so arrays that still move when all have had their turn move for ever.
   bool again = true;
   std::size_t most_passes = 1;
   for (std::size_t pass = 0; again && pass <= most_passes; ++pass) {
-    Recalculation(*this, engine, progress).run();
+    Recalculation recalculation(*this, engine, progress);
+    extent == Extent::everything ? recalculation.run() : recalculation.run_stale();
+    // What read a cell that an array has left can't be told any more.
+    extent = Extent::everything;
     again = false;
     std::size_t spills = 0;
     for (const auto& sheet : worksheets_) {

@@ -32,7 +32,15 @@ class Workbook {
   /// leaves values as they were in the cells not yet reached; calculating again mends them.
   void recalculate(cls_Quorvex& engine, const Progress& progress = {});
 
+  /// The same for the formulas alone that were set or marked stale since they were calculated, for
+  /// the names that these use, and for all that depends on any of them.
+  void update(cls_Quorvex& engine, const Progress& progress = {});
+
  private:
+  enum class Extent { everything, stale };
+
+  void calculate(cls_Quorvex& engine, const Progress& progress, Extent extent);
+
   std::vector<std::unique_ptr<Worksheet>> worksheets_;
 };
 

@@ -100,6 +100,11 @@ const Cell* Worksheet::find(Cell_Address address) const {
   return found == cells_.end() ? nullptr : &found->second;
 }
 
+void Worksheet::mark_stale(Cell_Address address) {
+  const auto found = cells_.find(address);
+  if (found != cells_.end() && found->second.calculation) found->second.calculation->stale = true;
+}
+
 std::string_view Worksheet::typed(Cell_Address address) const {
   const Cell* cell = find(address);
   return cell == nullptr ? std::string_view() : cell->typed;

@@ -43,12 +43,14 @@ struct Calculation {
   HostValue spill;                       // the array that a cell's formula gave, if it did
   std::optional<Cell_Address> obstacle;  // the cell that leaves the array no room
   bool spill_moved = false;              // the array filled other cells than before, or otherwise
+  bool stale = true;                     // what it last gave doesn't hold any more
 
   // The state of a recalculation under way: when this formula was reached, 0 for not yet; the
   // earliest one that it leads back to; and whether it waits for others.
   std::size_t order = 0;
   std::size_t earliest = 0;
   bool open = false;
+  bool updated = false;  // calculated by it
 };
 
 /// A cell that is not blank.
@@ -103,6 +105,9 @@ class Worksheet {
   std::string shown(Cell_Address address) const;
   /// Null if all is well.
   const Cell_Problem* problem(Cell_Address address) const;
+
+  /// Has the formula of a cell, if there is one, calculated by the workbook's next `update`.
+  void mark_stale(Cell_Address address);
 
   /// Fills the cells right of and below formulas that gave arrays with their values, and empties
   /// those that none fills any more. An array of which a cell isn't free fills none, and is told

@@ -26,7 +26,8 @@ Platform Default_Platform() {
           .memory = System_Memory(),
           .letters = System_Letters(),
           .libraries = System_Libraries(),
-          .clock = System_Clock()};
+          .clock = System_Clock(),
+          .applications = No_Application()};
 }
 
 }  // namespace quorvex

@@ -2,7 +2,9 @@
 #include <dlfcn.h>
 
 #include <cstring>
+#include <filesystem>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "host/platform/posix.h"
@@ -24,6 +26,15 @@ class Loaded_Libraries final : public Library_Loader {
     void* const symbol = handle == nullptr ? nullptr : ::dlsym(handle, name);
     if (symbol != nullptr) found_.push_back({library, name, symbol});
     return symbol;
+  }
+
+  std::string folder() override {
+    Dl_info info{};
+    // Any address within this library finds it.
+    if (::dladdr(reinterpret_cast<const void*>(&System_Libraries), &info) == 0) return {};
+    std::error_code error;
+    const auto path = std::filesystem::absolute(info.dli_fname, error);
+    return error ? std::string() : path.parent_path().string();
   }
 
  private:

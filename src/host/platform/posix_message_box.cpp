@@ -5,6 +5,7 @@
 #include <string>
 
 #include "host/platform/posix.h"
+#include "host/run_time_failure.h"
 
 namespace quorvex {
 
@@ -54,11 +55,21 @@ class Terminal_Box final : public Message_Box {
     std::string line;
     for (char c = 0; c != '\n';) {
       const ssize_t got = read(input_, &c, 1);
-      if (got < 0 && errno == EINTR) continue;
+      if (got < 0 && errno == EINTR && !is_broken_off()) continue;
       if (got <= 0) return line;
       if (c != '\n') line += c;
     }
     return line;
+  }
+
+  /// Whether the signal that came was the user's wish to end this, which agrees to nothing.
+  static bool is_broken_off() {
+    try {
+      Yield();
+      return false;
+    } catch (const Run_Time_Failure&) {
+      return true;
+    }
   }
 
   int input_;

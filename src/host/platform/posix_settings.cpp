@@ -21,9 +21,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
+std::string Sentence(const std::string& what, int error) {
+  return what + ": " + std::generic_category().message(error) + ".";
+}
+
+std::string Unreadable(const fs::path& path) {
+  return "The settings file " + path.string() + " can't be read";
+}
+
 [[noreturn]] void Fail(const std::string& what, int error) {
-  throw Run_Time_Failure(Failure_Number::invalid_call,
-                         what + ": " + std::generic_category().message(error) + ".");
+  throw Run_Time_Failure(Failure_Number::invalid_call, Sentence(what, error));
 }
 
 int Write_All(int file, std::string_view contents) {
@@ -58,6 +65,19 @@ class Settings_File final : public Settings_Store {
  public:
   explicit Settings_File(std::optional<fs::path> path) : path_(std::move(path)) {}
 
+  std::string place() override { return path_ ? path_->string() : std::string(); }
+
+  std::optional<std::string> problem() override {
+    if (!path_) return std::nullopt;
+    std::string contents;
+    const int unread = Read_File(*path_, contents);
+    if (unread == ENOENT) return std::nullopt;
+    if (unread != 0) return Sentence(Unreadable(*path_), unread);
+    // Every file that was written holds a setting.
+    if (contents.empty()) return "The settings file " + path_->string() + " is empty.";
+    return std::nullopt;
+  }
+
   std::optional<std::string> read(std::string_view application, std::string_view section,
                                   std::string_view key) override {
     std::string contents;
@@ -89,8 +109,7 @@ class Settings_File final : public Settings_Store {
     std::string contents;
     const int unread = Read_File(target, contents);
     // What can't be read must not be overwritten.
-    if (unread != 0 && unread != ENOENT)
-      Fail("The settings file " + target.string() + " can't be read", unread);
+    if (unread != 0 && unread != ENOENT) Fail(Unreadable(target), unread);
     const int unwritten = Replace_File(target, With_Setting(contents, name, value));
     if (unwritten != 0)
       Fail("The settings file " + target.string() + " can't be written", unwritten);

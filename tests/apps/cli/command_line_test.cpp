@@ -55,7 +55,7 @@ TEST(CommandLine, CalculatesFormulas) {
       {{"qvxSIGN({1,2})", "qvxADD(", "1"}, "", "1\n", "error: ", 2},
       {{"A1"}, "", "", "A1", 2},
       {{"qvxADDD(1,2)"}, "", "", "did you mean qvxADD?\n  qvxADDD(1,2)\n  ^", 2},
-      {{"function"}, "", "", "The commands are sheet, functions and batch", 2},
+      {{"function"}, "", "", "The commands are sheet, functions, batch, settings", 2},
       {{"\xFF(1)"}, "", "", "error: ", 2},
   };
   for (const Tool_Case& each : cases) Expect(each);
@@ -95,9 +95,10 @@ TEST(CommandLine, EndsCalculationsThatTakeTooLong) {
 TEST(CommandLine, HelpNamesEveryCommand) {
   const Tool_Run help = Run_Tool({"--help"});
   EXPECT_EQ(help.exit_code, 0);
-  for (const char* word : {"sheet", "functions", "batch", "--timeout", "Examples:", "Exit code"})
+  for (const char* word :
+       {"sheet", "functions", "batch", "settings", "about", "--timeout", "Examples:", "Exit code"})
     EXPECT_NE(help.output.find(word), std::string::npos) << word;
-  for (const char* command : {"sheet", "functions", "batch"}) {
+  for (const char* command : {"sheet", "functions", "batch", "settings", "about"}) {
     const Tool_Run of_command = Run_Tool({command, "--help"});
     EXPECT_EQ(of_command.exit_code, 0);
     EXPECT_NE(of_command.output.find(command), std::string::npos) << of_command.output;
@@ -133,7 +134,9 @@ TEST(CommandLine, WritesNoColourIntoFiles) {
 }
 
 TEST(CommandLine, FullDiskIsAnError) {
-  const std::string command = std::string(QUORVEX_TOOL) + " 1 > /dev/full 2> /dev/null";
+  const Temporary_Folder folder;
+  const std::string command = "XDG_CONFIG_HOME=" + folder.path().string() + " " +
+                              std::string(QUORVEX_TOOL) + " 1 > /dev/full 2> /dev/null";
   EXPECT_EQ(std::system(command.c_str()) >> 8, 1);
 }
 
@@ -143,8 +146,9 @@ TEST(CommandLine, ReaderThatLeavesIsNoError) {
   for (int i = 0; i < 50000; ++i) formulas += "qvxADD(1,1)\n";
   const std::string input = folder.write("formulas", formulas);
   const std::string errors = (folder.path() / "errors").string();
-  const std::string command = "bash -c 'set -o pipefail; " + std::string(QUORVEX_TOOL) + " - < " +
-                              input + " 2> " + errors + " | head -n 1 > /dev/null'";
+  const std::string command =
+      "bash -c 'set -o pipefail; XDG_CONFIG_HOME=" + folder.path().string() + " " +
+      std::string(QUORVEX_TOOL) + " - < " + input + " 2> " + errors + " | head -n 1 > /dev/null'";
   EXPECT_EQ(std::system(command.c_str()), 0);
   EXPECT_EQ(File_Text(errors), "");
 }

@@ -2,17 +2,12 @@
 #include "cli/prompt.h"
 
 #include <gtest/gtest.h>
-#include <poll.h>
-#include <pty.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <array>
-#include <csignal>
-#include <cstdlib>
 #include <string>
+#include <vector>
 
 #include "apps/cli/run_tool.h"
+#include "apps/cli/terminal.h"
 
 namespace quorvex {
 namespace {
@@ -36,80 +31,6 @@ TEST(Prompt, CompletesNames) {
   }
 }
 
-// The tool on a terminal.
-class Terminal {
- public:
-  explicit Terminal(const std::filesystem::path& state_folder) {
-    winsize size{24, 200, 0, 0};
-    process_ = ::forkpty(&terminal_, nullptr, nullptr, &size);
-    if (process_ == 0) {
-      // Tests may run in the background, where Ctrl-C is ignored; on a terminal it never is.
-      ::signal(SIGINT, SIG_DFL);
-      ::setenv("XDG_STATE_HOME", state_folder.c_str(), 1);
-      ::setenv("HOME", state_folder.c_str(), 1);
-      ::setenv("LC_ALL", "C", 1);
-      ::setenv("TERM", "vt100", 1);
-      ::execl(QUORVEX_TOOL, "quorvex", nullptr);
-      ::_exit(127);
-    }
-  }
-  ~Terminal() {
-    ::close(terminal_);
-    if (process_ > 0) {
-      ::kill(process_, SIGKILL);
-      ::waitpid(process_, nullptr, 0);
-    }
-  }
-  Terminal(const Terminal&) = delete;
-  Terminal& operator=(const Terminal&) = delete;
-
-  // Keys typed before the prompt is there would meet a terminal in another mode.
-  void type_at_prompt(std::string_view keys) {
-    EXPECT_TRUE(shows("> ")) << shown_;
-    type(keys);
-  }
-
-  void type(std::string_view keys) {
-    EXPECT_EQ(::write(terminal_, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
-  }
-
-  // Waits until these words are shown, and forgets what is shown up to them.
-  bool shows(std::string_view words) {
-    for (;;) {
-      const auto found = shown_.find(words);
-      if (found != std::string::npos) {
-        shown_.erase(0, found + words.size());
-        return true;
-      }
-      pollfd event{terminal_, POLLIN, 0};
-      std::array<char, 4096> buffer{};
-      if (::poll(&event, 1, 20000) <= 0) return false;
-      const ssize_t got = ::read(terminal_, buffer.data(), buffer.size());
-      if (got <= 0) return false;
-      shown_.append(buffer.data(), static_cast<std::size_t>(got));
-    }
-  }
-
-  // The exit code, once it has ended; less than 0 if a signal ended it.
-  int end() {
-    shows("(whatever comes before the end)");
-    int status = 0;
-    for (int tries = 0; ::waitpid(process_, &status, WNOHANG) == 0; ++tries) {
-      if (tries == 500) ::kill(process_, SIGKILL);
-      ::usleep(10'000);
-    }
-    process_ = -1;
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-  }
-
-  const std::string& shown() const { return shown_; }
-
- private:
-  int terminal_ = -1;
-  pid_t process_ = -1;
-  std::string shown_;
-};
-
 TEST(Prompt, CalculatesExplainsAndLeaves) {
   const Temporary_Folder folder;
   Terminal terminal(folder.path());
@@ -127,6 +48,41 @@ TEST(Prompt, CalculatesExplainsAndLeaves) {
   EXPECT_TRUE(terminal.shows("\n6.5")) << terminal.shown();
   terminal.type_at_prompt("\"\xE2\x82\xAC\"\n");
   EXPECT_TRUE(terminal.shows("\n\xE2\x82\xAC")) << terminal.shown();
+  terminal.type_at_prompt("about\n");
+  EXPECT_TRUE(terminal.shows("About Quorvex 3.1")) << terminal.shown();
+  terminal.type_at_prompt("sheet\n");
+  EXPECT_TRUE(terminal.shows("no worksheet is open")) << terminal.shown();
+  terminal.type_at_prompt("sheet /nowhere.csv\n");
+  EXPECT_TRUE(terminal.shows("there is no such file")) << terminal.shown();
+  terminal.type_at_prompt("quit\n");
+  EXPECT_EQ(terminal.end(), 0);
+}
+
+TEST(Prompt, RecalculatesTheOpenWorksheetOnYesAlone) {
+  const Temporary_Folder folder;
+  const std::string file = folder.write("thirds.csv", "=A2\n\"=qvxDIVIDE(1,3)\"\n=A9\n");
+  Terminal terminal(folder.path());
+  terminal.type_at_prompt("settings\n");
+  terminal.type_at("Digits [100]: ", "6\n");  // nothing is open: nobody is asked
+  EXPECT_TRUE(terminal.shows("The default limit is 6.")) << terminal.shown();
+  terminal.type_at_prompt("sheet " + file + "\n");
+  EXPECT_TRUE(terminal.shows("0.3333333\r\n0.3333333\r\n")) << terminal.shown();
+  terminal.type_at_prompt("settings\n");
+  terminal.type_at("Digits [6]: ", "3\n");
+  terminal.type_at("[y/N] ", "n\n");
+  terminal.type_at_prompt("qvxDEFAULTMAXSD()\n");
+  EXPECT_TRUE(terminal.shows("\n3\r\n")) << terminal.shown();
+  EXPECT_EQ(terminal.shown().find("0.3333"), std::string::npos) << terminal.shown();
+  terminal.type_at_prompt("settings\n");
+  terminal.type_at("Digits [3]: ", "\x03");
+  terminal.type_at_prompt("settings\n");
+  terminal.type_at("Digits [3]: ", "\n");
+  terminal.type_at("[y/N] ", "\x03");  // agrees to nothing
+  terminal.type_at_prompt("settings\n");
+  terminal.type_at("Digits [3]: ", "\n");
+  EXPECT_EQ(terminal.shown().find("0.3333"), std::string::npos) << terminal.shown();
+  terminal.type_at("[y/N] ", "y\n");
+  EXPECT_TRUE(terminal.shows("\n0.3333\r\n0.3333\r\n")) << terminal.shown();
   terminal.type_at_prompt("quit\n");
   EXPECT_EQ(terminal.end(), 0);
 }

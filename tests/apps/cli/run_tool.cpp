@@ -33,6 +33,7 @@ int Open_For(const std::filesystem::path& file, int flags) {
   for (std::string& word : words) argv.push_back(word.data());
   argv.push_back(nullptr);
   ::setenv("LC_ALL", "C", 1);
+  ::setenv("XDG_CONFIG_HOME", (folder / "config").c_str(), 1);
   for (const std::string& setting : environment) {
     const auto equals = setting.find('=');
     ::setenv(setting.substr(0, equals).c_str(), setting.substr(equals + 1).c_str(), 1);

@@ -14,8 +14,8 @@ struct Tool_Run {
   int exit_code = -1;  // less than 0: ended by that signal
 };
 
-/// Runs the tool in the C locale with this text as its standard input; `environment` adds settings
-/// of the form NAME=value.
+/// Runs the tool in the C locale, and without settings from earlier runs, with this text as its
+/// standard input; `environment` adds variables of the form NAME=value.
 Tool_Run Run_Tool(const std::vector<std::string>& arguments, std::string_view input = {},
                   const std::vector<std::string>& environment = {});
 

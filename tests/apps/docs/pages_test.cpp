@@ -95,11 +95,11 @@ std::string In_Markup(const std::string& text) {
 
 TEST(Pages, PictureShowsWhatTheSheetGives) {
   const std::string picture = Text_Of("docs/sheet.svg");
-  const Example_Settings settings;
   Workbook book;
   Worksheet& sheet = book.add("Sheet1");
   Load_Csv(std::string(QUORVEX_SOURCE) + "/examples/at-a-glance.csv", sheet);
   cls_Quorvex engine;
+  const Example_Settings settings;
   book.recalculate(engine);
   std::size_t formulas = 0;
   for (const auto& [address, cell] : sheet.cells()) {

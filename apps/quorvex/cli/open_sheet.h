@@ -1,0 +1,45 @@
+// A worksheet from a CSV file that is open in the embedded spreadsheet.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "cli/session.h"
+#include "sheet/sheet_application.h"
+
+namespace quorvex {
+
+struct Sheet_Options {
+  std::string file;
+  std::string output;  // a CSV file, or "-" for CSV on standard output; empty for a printed grid
+  std::vector<std::string> names;  // NAME=REFERENCE
+  std::size_t width = 0;           // 0 cuts nothing
+  bool watch = false;
+};
+
+class Open_Sheet {
+ public:
+  Open_Sheet(Session& session, Sheet_Options options);
+
+  /// Reads the file, anew if it was read before, tells the engine that this is its host, calculates
+  /// the worksheet, and prints or writes it; what is wrong with cells goes to standard error.
+  /// Throws `File_Error` and `Usage_Error`, and then leaves what was open before.
+  Outcome load();
+
+  /// Calculates what the engine has written to cells, and prints or writes the worksheet again;
+  /// nothing where it has written none. Throws `File_Error`.
+  Outcome update();
+
+ private:
+  Outcome calculate(const std::function<void(const Progress&)>& work);
+
+  Session& session_;
+  Sheet_Options options_;
+  std::shared_ptr<Sheet_Application> application_;
+  const Worksheet* sheet_ = nullptr;  // of the application
+};
+
+}  // namespace quorvex

@@ -1,0 +1,34 @@
+// The forms on a terminal.
+#pragma once
+
+#include "cli/session.h"
+#include "shell/form_face.h"
+
+namespace quorvex {
+
+/// Shows About as text. Of the dialog that sets the limit, a line that is typed replaces what
+/// stands in the box, and OK is pressed if the box takes it; an empty line presses OK alone, and
+/// the end of the input, or Ctrl-C where that doesn't end the tool, presses Cancel.
+class Terminal_Face final : public Form_Face {
+ public:
+  explicit Terminal_Face(Session& session) : session_(session) {}
+
+  void show(frmAbout& form) override;
+  void show(frmMaxSD& form) override;
+
+  /// Says that a worksheet is open. As long as none is, nobody is asked whether to recalculate.
+  void note_open_sheet() { has_sheet_ = true; }
+
+  /// Whether the limit that was set last could not be stored.
+  bool has_failed() const { return has_failed_; }
+
+ private:
+  void write(const std::string& text);
+  void press_ok(frmMaxSD& form);
+
+  Session& session_;
+  bool has_sheet_ = false;
+  bool has_failed_ = false;
+};
+
+}  // namespace quorvex

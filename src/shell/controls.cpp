@@ -1,0 +1,35 @@
+#include "shell/controls.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quorvex {
+
+void Text_Box::set_Text(std::string text) {
+  text_ = std::move(text);
+  set_SelStart(at_);
+}
+
+void Text_Box::set_SelStart(std::size_t at) {
+  at_ = std::min(at, text_.size());
+}
+
+void Text_Box::type(std::string_view text) {
+  text_.insert(at_, text);
+  at_ += text.size();
+  if (Change) Change();
+}
+
+void Text_Box::type_over(std::string_view text) {
+  text_ = text;
+  at_ = text_.size();
+  if (Change) Change();
+}
+
+void Text_Box::backspace() {
+  if (at_ == 0) return;
+  text_.erase(--at_, 1);
+  if (Change) Change();
+}
+
+}  // namespace quorvex

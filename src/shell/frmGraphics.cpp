@@ -1,0 +1,33 @@
+#include "shell/frmGraphics.h"
+
+#include <chrono>
+#include <utility>
+
+#include "shell/register_functions.h"
+
+namespace quorvex {
+
+Timer_Control::Timer_Control(std::function<void()> event)
+    : timer_(Current_Platform().timers->make(std::move(event))) {}
+
+void Timer_Control::set_Enabled(bool enabled) {
+  enabled_ = enabled;
+  arm();
+}
+
+void Timer_Control::set_Interval(int interval) {
+  interval_ = interval;
+  arm();
+}
+
+void Timer_Control::arm() {
+  if (enabled_ && interval_ > 0) {
+    timer_->arm(std::chrono::milliseconds(interval_));
+  } else {
+    timer_->cancel();
+  }
+}
+
+frmGraphics::frmGraphics() : Timer1(&Register_Functions) {}
+
+}  // namespace quorvex

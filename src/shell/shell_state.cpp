@@ -1,0 +1,21 @@
+#include "shell/shell_state.h"
+
+#include "frame/add_in.h"
+
+namespace quorvex {
+
+Shell_State& Shell() {
+  // Never destroyed: instances of the class may be made until the process ends.
+  static auto* const shell = new Shell_State();
+  return *shell;
+}
+
+std::shared_ptr<Host_Application> Excel_App(const std::shared_ptr<Host_Application>& new_app,
+                                            bool clear) {
+  Shell_State& shell = Shell();
+  if (new_app != nullptr) shell.application = new_app;
+  if (clear) shell.application.reset();
+  return shell.application;
+}
+
+}  // namespace quorvex
