@@ -119,7 +119,7 @@ std::vector<Method> Logarithm_Rows() {
           "to 32,767 significant digits of precision. It is the inverse of the natural logarithm.",
           "qvxEXP(1, , 50)", With_Notation({Operand_Parameter("num", "the power to raise e to")}),
           {"The power, as text, in E notation if wanted; of 0 always 1.",
-           {"\"#VALUE!\" for any failure: what is no number, an error token among it, a power "
+           {"\"#VALUE!\" for any failure: what is no number, an error token included, a power "
             "above 1,488,522,236, more than 40,041 digits, an option that can't be read."}}),
   };
 }

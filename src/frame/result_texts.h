@@ -50,9 +50,9 @@ inline constexpr Sentence unread_option_is_value = "\"#VALUE!\" for an option th
 inline constexpr Sentence no_number_is_num_or_value =
     "\"#NUM!\" or \"#VALUE!\" for what is no number.";
 inline constexpr Sentence no_number_is_num =
-    "\"#NUM!\" for what is no number, a blank cell among it.";
+    "\"#NUM!\" for what is no number, a blank cell included.";
 inline constexpr Sentence no_number_is_value =
-    "\"#VALUE!\" for what is no number, an error token among it.";
+    "\"#VALUE!\" for what is no number, an error token included.";
 
 inline constexpr Sentence restricted =
     "\"#NUM!\" for operands that restrict_input_lengths refuses; the call fails where that "
@@ -61,7 +61,7 @@ inline constexpr Sentence restricted =
 inline constexpr Sentence parity_of_no_number =
     "\"#NUM!\" for what is no number; a blank cell is even.";
 inline constexpr Sentence rounding_of_no_number =
-    "\"#VALUE!\" for what is no number, a blank cell and an error token among it, and for a count "
+    "\"#VALUE!\" for what is no number, a blank cell and an error token included, and for a count "
     "below -32767.";
 inline constexpr Sentence remainder_by_zero =
     "\"DIV/0!\", without a #, for a divisor of 0. \"#VALUE!\" for a dividend that is no number and "
@@ -91,11 +91,14 @@ inline constexpr Sentence unread_digits_fail =
     "The call fails for a maxSD that can't be read or is below -1.";
 
 inline constexpr Sentence angle_fails =
-    "No token. The call fails for an angle that is no number, a blank cell among it, and for a "
+    "No token. The call fails for an angle that is no number, a blank cell included, and for a "
     "maxSD "
     "that can't be read or is not from -1 to 32768.";
 inline constexpr Sentence endless_series_fails =
     "It fails, too, for 0.0 and other zeros than the text 0, whose series would never end.";
+inline constexpr Sentence near_1_fails =
+    "It fails, too, for a number so near to 1 or -1 that maxSD digits can't tell its square from "
+    "1.";
 inline constexpr Sentence beyond_1 = "\"#NUM!\" for a number above 1 or below -1.";
 inline constexpr Sentence arc_beyond_pi = "\"#NUM!\" beyond 32,768 digits where pi is needed.";
 inline constexpr Sentence arc_fails =
@@ -109,12 +112,12 @@ inline constexpr Sentence text_unchecked =
     "No token: a result that is no number comes back unchecked.";
 
 inline constexpr Sentence factorial_fails =
-    "The call fails for what is no number, an error token and a blank cell among it, and for an "
+    "The call fails for what is no number, an error token and a blank cell included, and for an "
     "option that can't be read.";
 inline constexpr Sentence logarithm_of_negative =
     "\"#NUM!\" for a number or a base that is not above 0.";
 inline constexpr Sentence logarithm_fails =
-    "\"#VALUE!\" for any failure: what is no number, an error token among it, a number beyond "
+    "\"#VALUE!\" for any failure: what is no number, an error token included, a number beyond "
     "64-bit floats, an option that can't be read.";
 inline constexpr Sentence beyond_floats = "It fails, too, beyond 64-bit floats.";
 

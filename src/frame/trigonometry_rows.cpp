@@ -27,14 +27,16 @@ std::vector<Method> Angle_Worker_Rows() {
           "Tan_Function", "Trigonometry", not_offered,
           "Returns the tangent of an angle as qvxTAN does, but the number 0 for the text \"0\".",
           "Tan_Function(1, 30)", With_Limit(angle), {worker_result, {angle_fails}}),
-      Row<&cls_Quorvex::ATan_Function>("ATan_Function", "Trigonometry", not_offered,
-                                       "Returns the arc tangent of a number as qvxATAN does.",
-                                       "ATan_Function(0.5, 30)", With_Limit(first_number),
-                                       {angle_in_radians, {arc_beyond_pi, arc_fails}}),
-      Row<&cls_Quorvex::ASin_Function>("ASin_Function", "Trigonometry", not_offered,
-                                       "Returns the arc sine of a number as qvxASIN does.",
-                                       "ASin_Function(0.5, 30)", With_Limit(part_of_1),
-                                       {angle_in_radians, {beyond_1, arc_beyond_pi, arc_fails}}),
+      Row<&cls_Quorvex::ATan_Function>(
+          "ATan_Function", "Trigonometry", not_offered,
+          "Returns the arc tangent of a number as qvxATAN does.", "ATan_Function(0.5, 30)",
+          With_Limit(first_number),
+          {angle_in_radians, {arc_beyond_pi, arc_fails, endless_series_fails}}),
+      Row<&cls_Quorvex::ASin_Function>(
+          "ASin_Function", "Trigonometry", not_offered,
+          "Returns the arc sine of a number as qvxASIN does.", "ASin_Function(0.5, 30)",
+          With_Limit(part_of_1),
+          {angle_in_radians, {beyond_1, arc_beyond_pi, arc_fails, near_1_fails}}),
       Row<&cls_Quorvex::ACos_Function>(
           "ACos_Function", "Trigonometry", not_offered,
           "Returns the arc cosine of a number as qvxACOS does, but the number 0 for 1.",
@@ -81,10 +83,7 @@ std::vector<Method> Arc_Rows() {
           "Returns the arc sine of a number, with up to 32,767 significant digits of precision. "
           "The arc sine is the angle, in radians, whose sine is the number.",
           "qvxASIN(0.5, 50)", With_Limit(part_of_1),
-          {angle_in_radians,
-           {beyond_1, arc_beyond_pi, arc_fails,
-            "It fails, too, for a number so near to 1 or -1 that maxSD digits can't tell its "
-            "square from 1."}}),
+          {angle_in_radians, {beyond_1, arc_beyond_pi, arc_fails, near_1_fails}}),
       Row<&cls_Quorvex::qvxACOS>(
           "qvxACOS", "Trigonometry", math,
           "Returns the arc cosine of a number, with up to 32,767 significant digits of precision. "
