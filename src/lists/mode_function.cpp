@@ -63,7 +63,8 @@ HostValue Mode_Function(const List& list, std::optional<double> rows,
   }
   Array array = Rows_Of(std::move(table).by_count(), options.list);
   if (!options.blank) return array;
-  return Copy_Sort_Result(array, Size_Of_Block(rows, columns, array), *options.blank);
+  const Block_Size size = Size_Of_Block(rows, columns, array);
+  return Copy_Sort_Result(std::move(array), size, *options.blank);
 }
 
 }  // namespace quorvex

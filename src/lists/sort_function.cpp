@@ -1,5 +1,7 @@
 #include "lists/sort_function.h"
 
+#include <utility>
+
 #include "lists/number_block.h"
 #include "lists/sort_numbers.h"
 #include "lists/sort_result.h"
@@ -14,7 +16,7 @@ Array Sort_Function(const HostValue& numlist, const Sort_Options& options) {
   const Block_Size size = Size_Of_Block(options.rows, options.columns, sorted);
   return options.fit_to_array
              ? Fit_Sort_Result(sorted, size, options.blank_text, options.left_to_right)
-             : Copy_Sort_Result(sorted, size, options.blank_text);
+             : Copy_Sort_Result(std::move(sorted), size, options.blank_text);
 }
 
 }  // namespace quorvex

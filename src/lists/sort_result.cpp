@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <string>
+#include <utility>
 
 #include "host/conversions.h"
 #include "host/platform.h"
@@ -33,6 +34,11 @@ Array Filled_Block(const Block_Size& size, const NumberText& filler) {
   return block;
 }
 
+bool Is_That_Block(const Array& array, const Block_Size& size) {
+  return array.rows == size.rows && array.columns == size.columns && array.lower_row == 1 &&
+         array.lower_column == 1;
+}
+
 }  // namespace
 
 Block_Size Size_Of_Block(std::optional<double> rows, std::optional<double> columns,
@@ -40,7 +46,8 @@ Block_Size Size_Of_Block(std::optional<double> rows, std::optional<double> colum
   return {Count_Of(rows, array.rows), Count_Of(columns, array.columns)};
 }
 
-Array Copy_Sort_Result(const Array& sorted, const Block_Size& size, const NumberText& filler) {
+Array Copy_Sort_Result(Array sorted, const Block_Size& size, const NumberText& filler) {
+  if (Is_That_Block(sorted, size)) return sorted;
   Array block = Filled_Block(size, filler);
   // Rows and columns count from 1 in the block, and from their bounds in the array.
   const auto first_row = std::max<std::int64_t>(sorted.lower_row, 1);
@@ -56,7 +63,7 @@ Array Copy_Sort_Result(const Array& sorted, const Block_Size& size, const Number
     const auto to = static_cast<std::size_t>(row - 1) * block.columns;
     for (std::int64_t column = first_column; column <= last_column; ++column) {
       block.values[to + static_cast<std::size_t>(column - 1)] =
-          sorted.values[from + static_cast<std::size_t>(column - sorted.lower_column)];
+          std::move(sorted.values[from + static_cast<std::size_t>(column - sorted.lower_column)]);
     }
   }
   return block;

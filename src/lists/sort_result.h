@@ -21,7 +21,7 @@ Block_Size Size_Of_Block(std::optional<double> rows, std::optional<double> colum
 
 /// A block in which each cell holds the cell of the same row and column of `sorted`, counted as its
 /// bounds say, and `filler` where there is none. What doesn't fit is cut.
-Array Copy_Sort_Result(const Array& sorted, const Block_Size& size, const NumberText& filler);
+Array Copy_Sort_Result(Array sorted, const Block_Size& size, const NumberText& filler);
 
 /// A block into which the cells of `sorted` are poured row by row, or column by column, whatever
 /// its shape; `filler` behind them. What doesn't fit is cut.

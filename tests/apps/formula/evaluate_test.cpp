@@ -36,7 +36,7 @@ TEST(EvaluateAlone, GivesWhatTheFunctionsGive) {
       {"qvxCOUNT(,1,,\"x\",{1,TRUE},)", "2"},
       {"qvxSUM2()", "0"},
       {"qvxMODE(1,{2,3},3,\"format:thousands\")", "3"},
-      {"qvxSORT({2,1},FALSE,TRUE,,\"x\",1,3)", "{\"1\",\"2\",\"x\"}"},
+      {"qvxSORT({2,1},FALSE,TRUE,,\"x\",1,3)", "{1,2,\"x\"}"},
       {"qvxMAX(qvxPRODUCT(2,3),qvxSUM({1;4}))", "6"},
       {"{1,\"a\";TRUE,#NUM!}", "{1,\"a\";TRUE,#NUM!}"},
       {"\"as it is\"", "as it is"},
