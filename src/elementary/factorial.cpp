@@ -1,6 +1,5 @@
 #include "elementary/factorial.h"
 
-#include <algorithm>
 #include <cmath>
 #include <string>
 #include <utility>
@@ -10,6 +9,7 @@
 #include "arith/whole_part.h"
 #include "host/conversions.h"
 #include "host/platform.h"
+#include "host/run_time_failure.h"
 #include "text/clean_up_number.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
@@ -59,16 +59,21 @@ std::int32_t Count_Of_Exact(const Factors& factors, double limit) {
   return factors.count;
 }
 
-// The product, each step of it cut to the limit.
+// A step of a product. At a limit that leaves no digits there is no product.
+Scaled_Number Times(const Scaled_Number& product, std::int32_t factor, double limit) {
+  return With_Handler([&] { return Product(product, Scaled(std::to_string(factor)), limit); },
+                      [](const Run_Time_Failure&) { return Scaled_Token(value_token); });
+}
+
+// The product, each step of it cut to the limit. The zeros of cut ones are not written out.
 NumberText Product_Of(const Factors& factors, double limit) {
   if (factors.count > 0 && !Can_Multiply()) return NumberText(value_token);
   const std::int32_t exact = Count_Of_Exact(factors, limit);
-  Step_Number product(Exact_Product(factors.part(0, exact)));
+  Scaled_Number product = Scaled(Exact_Product(factors.part(0, exact)));
   for (std::int32_t place = exact; place < factors.count; ++place) {
-    Yield();
-    product = Product(product, Step_Number(factors[place]), limit);
+    product = Times(product, factors[place], limit);
   }
-  return product.text();
+  return Plain_Text(product);
 }
 
 NumberText Close(std::string_view product, const Format_Arguments& format) {
@@ -109,9 +114,9 @@ NumberText FactDouble_Function(const HostValue& num, const Format_Arguments& for
 }
 
 NumberText Running_Factorial::next() {
-  if (next_ > 0) product_ = Product(product_, Step_Number(next_), Default_MaxSD());
+  if (next_ > 0) product_ = Times(product_, next_, Default_MaxSD());
   ++next_;
-  return Close(product_.text(), {});
+  return Close(Plain_Text(product_), {});
 }
 
 }  // namespace quorvex

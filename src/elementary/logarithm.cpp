@@ -167,8 +167,8 @@ NumberText Log_Function(const HostValue& num, const HostValue& num_base,
         const NumberText number = Normal_Form(num);
         if (auto known = Known_Logarithm(number)) return *std::move(known);
         const HostValue digits = Limit_Or_Default(maxSD);
-        // The base itself counts the guard digits. Published results depend on their number, and so
-        // do the limits up to which a base can be used, so it stays.
+        // The base itself is the count of guard digits. The last digits of results depend on it,
+        // and so does the greatest base that there are digits for, so it stays.
         const double base = num_base.is_missing() ? 10 : To_Number(num_base);
         const double limit = To_Int32(base + To_Number(digits));
         const NumberText below = Logarithm_Of_Base(num_base, base, limit);

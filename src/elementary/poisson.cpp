@@ -89,8 +89,8 @@ Step_Number Poisson_Sum(const Step_Number& exp_term, const Events& events) {
 NumberText Poisson_Core(const Events& events) {
   const Step_Number exp_term = Poisson_Exp_Term(events);
   if (events.cumulative) return Poisson_Sum(exp_term, events).text();
-  // At the default limit, and not at that of the call. Long results are wrong behind those digits,
-  // but they have been published, and sheets that check them depend on it.
+  // At the default limit, and not at that of the call: longer results are wrong behind those
+  // digits, but sheets that hold them compare with them, so it stays.
   const Step_Number factorial(Fact_Function(events.target, {}));
   return Poisson_Term(events.target, factorial, exp_term, events).text();
 }
@@ -108,7 +108,8 @@ Count Read_Count(const HostValue& value) {
     return {std::move(text), {}};
   }
   const std::string capitals = To_Capitals(text);
-  // TRUE counts as no event as well, since worksheets hold it for a cell that was not filled in.
+  // TRUE is no event either, and not one: sheets that hold truth values are written to that, so it
+  // stays.
   if (capitals == "TRUE" || capitals == "FALSE") return {"0", {}};
   return {{}, value_token};
 }
