@@ -2,7 +2,8 @@
 # Sourced from the root of the checkout.
 
 build_packages=(g++ cmake ninja-build pkg-config libcli11-dev nlohmann-json3-dev libedit-dev)
-test_packages=(git libgtest-dev libgmp-dev libmpfr-dev clang libclang-rt-14-dev clang-format clang-tidy locales)
+test_packages=(git libgtest-dev libgmp-dev libmpfr-dev clang libclang-rt-14-dev clang-format clang-tidy
+  locales dpkg-dev file)
 bench_packages=(libbenchmark-dev libgmp-dev libmpfr-dev libflint-dev python3)
 
 # Installs the Debian packages that are not there yet.

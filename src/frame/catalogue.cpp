@@ -6,6 +6,7 @@
 
 #include "frame/binding.h"
 #include "frame/catalogue_rows.h"
+#include "frame/result_texts.h"
 #include "host/run_time_failure.h"
 
 namespace quorvex {
@@ -56,10 +57,12 @@ std::vector<Method> Call_Frame_Rows() {
       Row<&cls_Quorvex::PublicRestrictionatorCaller>(
           "PublicRestrictionatorCaller", "Call frame", not_offered,
           "Resolves the first five formatting options, as every function does.",
-          "PublicRestrictionatorCaller(2, TRUE)", With_Digits({})),
+          "PublicRestrictionatorCaller(2, TRUE)", With_Digits({}),
+          {options_record, {unread_option_fails}}),
       Row<&cls_Quorvex::Restrictionator>("Restrictionator", "Call frame", not_offered,
                                          "Resolves the formatting options, as every function does.",
-                                         "Restrictionator(2, TRUE, , , 50, 2)", With_Places({})),
+                                         "Restrictionator(2, TRUE, , , 50, 2)", With_Places({}),
+                                         {options_record, {unread_option_fails}}),
   };
 }
 
@@ -73,28 +76,41 @@ std::vector<Method> Division_Rows() {
           "strings.",
           "DivisionDecimalPosition(\"1\", \"30\")",
           {Operand_Parameter("divisor", "the digits of the number that is divided"),
-           Operand_Parameter("dividend", "the digits of the number divided by")}),
+           Operand_Parameter("dividend", "the digits of the number divided by")},
+          {"A number: at which place behind the separator the quotient begins, 0 if before it; 1 "
+           "for equal operands.",
+           {array_fails}}),
       Row<&cls_Quorvex::Recip_Divide>(
           "Recip_Divide", "Division", not_offered,
           "Returns the quotient of two whole numbers as digits and a power of ten.",
           "Recip_Divide(\"1\", \"3\", 8)",
           {Operand_Parameter("iBig", "the number to divide"),
            Operand_Parameter("kBig", "the number to divide by"),
-           Operand_Parameter("Precision", "the significant digits wanted")}),
+           Operand_Parameter("Precision", "the significant digits wanted")},
+          {"A record: digits, and powerOfTen, the power of ten that they are multiplied by.",
+           {"In digits: \"#DIV/0!\" for a divisor of 0; the token of an operand that is no number, "
+            "or that it is; \"#VALUE!\" where products can't be formed."}}),
       Row<&cls_Quorvex::myInverse5>(
           "myInverse5", "Division", not_offered,
           "Returns digits of the reciprocal of a whole number, approached from below.",
           "myInverse5(\"7\", 20)",
           {Operand_Parameter("kBig", "a whole number as digits"),
-           Operand_Parameter("p", "the digits wanted")}),
+           Operand_Parameter("p", "the digits wanted")},
+          {"A record: digits, as many as wanted, and powerOfTen, the power of ten that they are "
+           "multiplied by.",
+           {"In digits: \"#EXPR!\" where the digits of a precision of 1 or 2 never come to rest; "
+            "empty text after any other failure, as for what is no whole number."}}),
       Row<&cls_Quorvex::Min>("Min", "Division", not_offered, "Returns the lesser of two numbers.",
-                             "Min(2, 10)", two_numbers),
+                             "Min(2, 10)", two_numbers, {lesser_or_greater, {no_number_fails}}),
       Row<&cls_Quorvex::Max>("Max", "Division", not_offered, "Returns the greater of two numbers.",
-                             "Max(2, 10)", two_numbers),
+                             "Max(2, 10)", two_numbers, {lesser_or_greater, {no_number_fails}}),
       Row<&cls_Quorvex::GetHalfofLong>("GetHalfofLong", "Division", not_offered,
                                        "Returns the half of a 32-bit whole number, rounded down.",
                                        "GetHalfofLong(7)",
-                                       {Operand_Parameter("num_as_long", "a whole number")}),
+                                       {Operand_Parameter("num_as_long", "a whole number")},
+                                       {"A number.",
+                                        {"The call fails for what is no number of 32 bits. A "
+                                         "fraction is rounded before it is halved."}}),
   };
 }
 
@@ -105,7 +121,10 @@ std::vector<Method> Cell_Sum_Rows() {
           "Returns the sum of a range or array, with up to 32,767 significant digits of precision. "
           "Every cell must be a number or blank.",
           "qvxSUM({1, \"0.00000000000000000001\"; 2, 3}, , TRUE)",
-          With_Digits({Operand_Parameter("rngArray", "a range of several cells, or an array")})),
+          With_Digits({Operand_Parameter("rngArray", "a range of several cells, or an array")}),
+          {"The sum, formatted.",
+           {"The token of a cell that is no number, or that it holds.", unread_option_is_value,
+            "The call fails for a single cell or value."}}),
   };
 }
 
@@ -115,7 +134,11 @@ std::vector<Method> Mean_Rows() {
           "qvxAVERAGE", "List", statistical,
           "Returns the average of the numeric arguments, with up to 32,767 significant digits of "
           "precision. MSD=n must be given.  \"format:negative,thousands,currency,exponent,MSD=n\"",
-          "qvxAVERAGE(1, 2, 4, \"format:MSD=30\")", Number_List()),
+          "qvxAVERAGE(1, 2, 4, \"format:MSD=30\")", Number_List(),
+          {"The mean, formatted; 0 where there is no number.",
+           {"\"#VALUE!\" without MSD=, unless the sum is 0. The call fails for a sum beyond 64-bit "
+            "floats.",
+            list_fails}}),
   };
 }
 
@@ -125,30 +148,33 @@ std::vector<Method> List_Rows() {
           "qvxPRODUCT", "List", math,
           "Returns the product of the numeric arguments, with up to 32,767 significant digits of "
           "precision.  \"format:negative,thousands,currency,exponent,MSD=n\"",
-          "qvxPRODUCT(\"12345678901234567890\", -2, 0.5)", Number_List()),
+          "qvxPRODUCT(\"12345678901234567890\", -2, 0.5)", Number_List(),
+          {"The product, formatted; 1 where there is no number.", {list_fails}}),
       Row<&cls_Quorvex::qvxSUM2>(
           "qvxSUM2", "List", math,
           "Returns the sum of the numeric arguments, with up to 32,767 significant digits of "
           "precision.  \"format:negative,thousands,currency,exponent,MSD=n\"",
           "qvxSUM2({1, 2; 3, \"no number\"}, \"99999999999999999999\", \"format:thousands\")",
-          Number_List()),
+          Number_List(), {"The sum, formatted; 0 where there is no number.", {list_fails}}),
       Row<&cls_Quorvex::qvxCOUNT>("qvxCOUNT", "List", statistical,
                                   "Returns how many of the arguments are numbers.  "
                                   "\"format:negative,thousands,currency,exponent,MSD=n\"",
                                   "qvxCOUNT(1, \"2\", \"two\", TRUE, \"3.00000000000000000001\")",
-                                  Number_List()),
+                                  Number_List(), {"The count, formatted.", {list_fails}}),
       Row<&cls_Quorvex::qvxMAX>(
           "qvxMAX", "List", statistical,
           "Returns the largest of the numeric arguments, with up to 32,767 significant digits of "
           "precision. The first argument must be a number.  "
           "\"format:negative,thousands,currency,exponent,MSD=n\"",
-          "qvxMAX(\"0.1\", \"0.10000000000000000001\")", Number_List()),
+          "qvxMAX(\"0.1\", \"0.10000000000000000001\")", Number_List(),
+          {extreme, {first_element_stays, list_fails}}),
       Row<&cls_Quorvex::qvxMIN>(
           "qvxMIN", "List", statistical,
           "Returns the smallest of the numeric arguments, with up to 32,767 significant digits of "
           "precision. The first argument must be a number.  "
           "\"format:negative,thousands,currency,exponent,MSD=n\"",
-          "qvxMIN(-1, \"-1.00000000000000000001\", \"format:negative\")", Number_List()),
+          "qvxMIN(-1, \"-1.00000000000000000001\", \"format:negative\")", Number_List(),
+          {extreme, {first_element_stays, list_fails}}),
   };
 }
 
@@ -159,73 +185,8 @@ std::vector<Method> Recognition_Rows() {
           "Determines whether a value or text string can be evaluated as a number by Quorvex "
           "functions, with up to 32,767 significant digits of precision. Returns TRUE if input can "
           "be evaluated as a number by Quorvex functions; returns FALSE if not.",
-          "qvxISNUMBER(\"-1,234.5\")", {Operand_Parameter("num", "a value or text")}),
-  };
-}
-
-std::vector<Method> Sum_Rows() {
-  return {
-      Row<&cls_Quorvex::qvxADD>(
-          "qvxADD", "Arithmetic", operators,
-          "Adds two numbers, with up to 32,767 significant digits of precision.",
-          "qvxADD(\"12345678901234567890.5\", 1.25)",
-          With_Places({Operand_Parameter("number1", first_number),
-                       Operand_Parameter("number2", second_number)})),
-      Row<&cls_Quorvex::qvxSUBTRACT>(
-          "qvxSUBTRACT", "Arithmetic", operators,
-          "Subtracts one number from another, with up to 32,767 significant digits of precision. "
-          "Number2 is subtracted from number1.",
-          "qvxSUBTRACT(1, \"0.00000000000000000001\")",
-          With_Places({Operand_Parameter("number1", "the number to subtract from"),
-                       Operand_Parameter("number2", "the number to subtract")})),
-  };
-}
-
-std::vector<Method> Product_Rows() {
-  return {
-      Row<&cls_Quorvex::qvxMULTIPLY>(
-          "qvxMULTIPLY", "Arithmetic", operators,
-          "Multiplies two numbers, with up to 32,767 significant digits of precision.",
-          "qvxMULTIPLY(\"12345678901234567890\", \"-0.5\")",
-          With_Places({Operand_Parameter("number1", first_number),
-                       Operand_Parameter("number2", second_number)})),
-      Row<&cls_Quorvex::qvxDIVIDE>(
-          "qvxDIVIDE", "Arithmetic", operators,
-          "Divides one number by another, with up to 32,767 significant digits of precision. "
-          "Number1 is divided by number2.",
-          "qvxDIVIDE(1, 7, , , , , 30)",
-          With_Places({Operand_Parameter("number1", "the number to divide"),
-                       Operand_Parameter("number2", "the number to divide by")})),
-  };
-}
-
-// Parameters of operations that can refuse long operands.
-Parameters With_Restriction(Parameters parameters) {
-  parameters = With_Places(std::move(parameters));
-  parameters.insert(parameters.end() - 2,
-                    Optional("restrict_input_lengths",
-                             "TRUE refuses operands of more than 1,073,741,824 digits together"));
-  return parameters;
-}
-
-std::vector<Method> Power_Rows() {
-  return {
-      Row<&cls_Quorvex::qvxROOT>(
-          "qvxROOT", "Root", operators,
-          "Gets the specified root of a number, with up to 32,767 significant digits of precision.",
-          "qvxROOT(2, 7, , , , , 50)",
-          With_Restriction(
-              {Operand_Parameter("number1", "the number to take the root of"),
-               Operand_Parameter("number2",
-                                 "the degree: 2 for the square root, 3 for the cube root; it may "
-                                 "be fractional or negative")})),
-      Row<&cls_Quorvex::qvxPOWER>(
-          "qvxPOWER", "Power", operators,
-          "Raises one number to the power of another number, with up to 32,767 significant digits "
-          "of precision. Num is raised to the power of pwr.",
-          "qvxPOWER(\"1.000000001\", 1000000, , , , , 30)",
-          With_Restriction({Operand_Parameter("number1", "the number to raise"),
-                            Operand_Parameter("number2", "the power to raise it to")})),
+          "qvxISNUMBER(\"-1,234.5\")", {Operand_Parameter("num", "a value or text")},
+          {true_or_false, {"No token: text that is one is no number.", array_fails}}),
   };
 }
 
@@ -243,17 +204,20 @@ std::vector<Method> Rounding_Rows() {
           "qvxROUND", "Rounding", math,
           "Rounds a number to a count of decimal places, with up to 32,767 significant digits of "
           "precision. Halves are rounded away from zero.",
-          "qvxROUND(\"12345678901234567890.125\", 2)", Rounding_Parameters()),
+          "qvxROUND(\"12345678901234567890.125\", 2)", Rounding_Parameters(),
+          {rounded_number, {rounding_of_no_number, option_fails}}),
       Row<&cls_Quorvex::qvxROUNDUP>(
           "qvxROUNDUP", "Rounding", math,
           "Rounds a number away from zero to a count of decimal places, with up to 32,767 "
           "significant digits of precision. The result is never below one unit of the last place.",
-          "qvxROUNDUP(\"0.00000000000000000001\", 2)", Rounding_Parameters()),
+          "qvxROUNDUP(\"0.00000000000000000001\", 2)", Rounding_Parameters(),
+          {rounded_number, {rounding_of_no_number, option_fails}}),
       Row<&cls_Quorvex::qvxROUNDDOWN>(
           "qvxROUNDDOWN", "Rounding", math,
           "Rounds a number towards zero to a count of decimal places, with up to 32,767 "
           "significant digits of precision.",
-          "qvxROUNDDOWN(\"-12345678901234567890.129\", 2)", Rounding_Parameters()),
+          "qvxROUNDDOWN(\"-12345678901234567890.129\", 2)", Rounding_Parameters(),
+          {rounded_number, {rounding_of_no_number, option_fails}}),
   };
 }
 
@@ -266,13 +230,13 @@ std::vector<Method> Constant_Rows() {
           "Returns the mathematical constant Pi, the ratio of circumference of a circle divided by "
           "its diameter, with up to 32,767 significant digits of precision. Pi is the same for all "
           "circles. Pi's decimal places continue infinitely and never repeat.",
-          "qvxPi(50)", digits),
+          "qvxPi(50)", digits, {digits_cut, {beyond_pi, unread_count}}),
       Row<&cls_Quorvex::qvxE>(
           "qvxE", "Constants", math,
           "Returns the mathematical constant e, the base of natural logarithms, with up to 32,767 "
           "significant digits of precision. e's decimal places continue infinitely and never "
           "repeat.",
-          "qvxE(50)", digits),
+          "qvxE(50)", digits, {digits_cut, {beyond_pi, unread_count}}),
   };
 }
 
@@ -282,57 +246,14 @@ std::vector<Method> Angle_Rows() {
       Row<&cls_Quorvex::qvxRADIANS>(
           "qvxRADIANS", "Trigonometry", math,
           "Converts degrees to radians, with up to 32,767 significant digits of precision.",
-          "qvxRADIANS(\"90\", 30)", {Operand_Parameter("degrees", "an angle in degrees"), digits}),
+          "qvxRADIANS(\"90\", 30)", {Operand_Parameter("degrees", "an angle in degrees"), digits},
+          {angle_in_radians, {beyond_pi, angle_of_no_number, token_passes, unread_digits_fail}}),
       Row<&cls_Quorvex::qvxDEGREES>(
           "qvxDEGREES", "Trigonometry", math,
           "Converts radians to degrees, with up to 32,767 significant digits of precision.",
-          "qvxDEGREES(\"0.5\", 30)", {Operand_Parameter("radians", "an angle in radians"), digits}),
-  };
-}
-
-Parameters Compared_By_Value() {
-  return {By_Value("number1", first_number), By_Value("number2", second_number)};
-}
-
-std::vector<Method> Comparison_Rows() {
-  return {
-      Row<&cls_Quorvex::qvxISEQUAL>(
-          "qvxISEQUAL", "Comparison", operators,
-          "Determines whether two numbers are equal, with up to 32,767 significant digits of "
-          "precision. Returns TRUE if they are equal; returns FALSE if not.",
-          "qvxISEQUAL(\"1.50\", 1.5)", Compared_By_Value()),
-      Row<&cls_Quorvex::qvxISNOTEQUAL>(
-          "qvxISNOTEQUAL", "Comparison", operators,
-          "Determines whether two numbers differ, with up to 32,767 significant digits of "
-          "precision. Returns TRUE if they differ; returns FALSE if they are equal.",
-          "qvxISNOTEQUAL(\"1.50\", 1.5)", Compared_By_Value()),
-      Row<&cls_Quorvex::qvxISGREATER>(
-          "qvxISGREATER", "Comparison", operators,
-          "Determines whether one number is larger than another, with up to 32,767 significant "
-          "digits of precision. Returns TRUE if the first number is larger than the second; "
-          "returns FALSE if the first number is smaller than the second number, or if they are "
-          "equal.",
-          "qvxISGREATER(\"0.1\", \"0.09\")",
-          {Operand_Parameter("number1", first_number),
-           Operand_Parameter("number2", second_number)}),
-      Row<&cls_Quorvex::qvxISGREATEROREQUAL>(
-          "qvxISGREATEROREQUAL", "Comparison", operators,
-          "Determines whether one number is larger than another or equal to it, with up to 32,767 "
-          "significant digits of precision. Returns TRUE if the first number is larger than the "
-          "second or equal to it; returns FALSE if it is smaller.",
-          "qvxISGREATEROREQUAL(2, 10)", Compared_By_Value()),
-      Row<&cls_Quorvex::qvxISLESS>(
-          "qvxISLESS", "Comparison", operators,
-          "Determines whether one number is smaller than another, with up to 32,767 significant "
-          "digits of precision. Returns TRUE if the first number is smaller than the second; "
-          "returns FALSE if it is larger, or if they are equal.",
-          "qvxISLESS(-2, -1)", Compared_By_Value()),
-      Row<&cls_Quorvex::qvxISLESSOREQUAL>(
-          "qvxISLESSOREQUAL", "Comparison", operators,
-          "Determines whether one number is smaller than another or equal to it, with up to 32,767 "
-          "significant digits of precision. Returns TRUE if the first number is smaller than the "
-          "second or equal to it; returns FALSE if it is larger.",
-          "qvxISLESSOREQUAL(2, 2)", Compared_By_Value()),
+          "qvxDEGREES(\"0.5\", 30)", {Operand_Parameter("radians", "an angle in radians"), digits},
+          {"The angle in degrees, not formatted.",
+           {beyond_pi, angle_of_no_number, token_passes, unread_digits_fail}}),
   };
 }
 
@@ -341,7 +262,7 @@ std::vector<Method> Default_Rows() {
       Row<&cls_Quorvex::qvxDEFAULTMAXSD>(
           "qvxDEFAULTMAXSD", "Call frame", not_offered,
           "Returns the maximum significant digits that a function uses when none are given.",
-          "qvxDEFAULTMAXSD()", {}),
+          "qvxDEFAULTMAXSD()", {}, {"A number.", {nothing_fails}}),
   };
 }
 
@@ -350,7 +271,11 @@ std::vector<Method> Last_Rows() {
       Row<&cls_Quorvex::qvxFORMAT>("qvxFORMAT", "Formatting", miscellaneous,
                                    "Applies formatting to a number entered as text.",
                                    "qvxFORMAT(\"-1234567.891\", 2, TRUE, TRUE, , , 2)",
-                                   With_Places({Operand_Parameter("number", "a number as text")})),
+                                   With_Places({Operand_Parameter("number", "a number as text")}),
+                                   {"The number, formatted, at the limit and one digit more.",
+                                    {no_number_is_num_or_value, token_passes, option_fails,
+                                     "It fails, too, where rounding to fixed places would carry "
+                                     "into a thousands separator."}}),
   };
 }
 

@@ -34,6 +34,12 @@ struct Record {
 /// What a call gave: nothing, a value, or a record.
 using Call_Result = std::variant<std::monostate, HostValue, Record>;
 
+/// What a call gives, for users to read. "Formatted" means: by the formatting options.
+struct Results {
+  std::string_view returns;
+  std::vector<std::string_view> failures;  // which tokens there are, and when the call fails
+};
+
 /// One public method.
 struct Method {
   std::string_view name;
@@ -42,6 +48,7 @@ struct Method {
   std::string_view description;
   std::string_view example;  // a formula
   std::vector<Parameter> parameters;
+  Results results;
   Result_Kind result = Result_Kind::nothing;
   Call_Result (*invoke)(cls_Quorvex&, std::span<HostValue>) = nullptr;
 };

@@ -74,7 +74,8 @@ inline Parameters Number_List() {
 
 template <auto method>
 Method Row(std::string_view name, std::string_view family, std::string_view category,
-           std::string_view description, std::string_view example, Parameters parameters) {
+           std::string_view description, std::string_view example, Parameters parameters,
+           Results results = {}) {
   using Bound = binding::Bound<method>;
   if (parameters.size() != Bound::kinds.size()) {
     throw std::logic_error(std::string(name) + " is described with another count of parameters.");
@@ -82,8 +83,15 @@ Method Row(std::string_view name, std::string_view family, std::string_view cate
   for (std::size_t place = 0; place < parameters.size(); ++place) {
     parameters[place].kind = Bound::kinds[place];
   }
-  return {name,          family,        category, description, example, std::move(parameters),
-          Bound::result, &Bound::Invoke};
+  return {name,
+          family,
+          category,
+          description,
+          example,
+          std::move(parameters),
+          std::move(results),
+          Bound::result,
+          &Bound::Invoke};
 }
 
 // Rows that fill files of their own, in the order of the class.
@@ -96,6 +104,10 @@ std::vector<Method> Extraction_Rows();
 std::vector<Method> Whole_Part_Rows();
 std::vector<Method> Whole_Number_Rows();
 std::vector<Method> Sign_Rows();
+std::vector<Method> Sum_Rows();
+std::vector<Method> Product_Rows();
+std::vector<Method> Power_Rows();
+std::vector<Method> Comparison_Rows();
 std::vector<Method> Reduction_Rows();
 std::vector<Method> Divisor_Rows();
 std::vector<Method> About_Rows();

@@ -1,5 +1,6 @@
 // Rows of square roots and of fractions, their divisors and multiples.
 #include "frame/catalogue_rows.h"
+#include "frame/result_texts.h"
 
 namespace quorvex::catalogue {
 namespace {
@@ -19,12 +20,14 @@ std::vector<Method> Square_Root_Rows() {
       Row<&cls_Quorvex::qvxSQRT>(
           "qvxSQRT", "Root", math,
           "Returns the square root of a number, with up to 32,767 significant digits of precision.",
-          "qvxSQRT(2, , , , 50)", Square_Root_Parameters()),
+          "qvxSQRT(2, , , , 50)", Square_Root_Parameters(),
+          {root, {signed_is_num, no_number_is_num_or_value, token_passes, root_fails}}),
       Row<&cls_Quorvex::qvxSQRTPI>(
           "qvxSQRTPI", "Root", math,
           "Returns the square root of (number * Pi), with up to 32,767 significant digits of "
           "precision.",
-          "qvxSQRTPI(1, , , , 50)", Square_Root_Parameters()),
+          "qvxSQRTPI(1, , , , 50)", Square_Root_Parameters(),
+          {root, {signed_is_num, beyond_pi, unread_number_is_value, token_passes, root_fails}}),
   };
 }
 
@@ -45,7 +48,13 @@ std::vector<Method> Reduction_Rows() {
            Optional("return_divisor", "TRUE returns the divisor alone"),
            Optional("return_reduced_by", "TRUE returns the number it was reduced by alone"),
            Optional("fraction_separator",
-                    "what stands between numerator and divisor; a slash if left out")}),
+                    "what stands between numerator and divisor; a slash if left out")},
+          {"An array of text of four rows and columns, whose first row and first column hold the "
+           "fraction, its numerator, its divisor and the number it was reduced by; or one of these "
+           "alone, as text.",
+           {no_number_is_num_or_value, token_passes,
+            "The call fails where both numbers have decimals and the numerator has more digits on "
+            "either side of its separator."}}),
   };
 }
 
@@ -57,25 +66,28 @@ std::vector<Method> Divisor_Rows() {
           "with up to 32,767 significant digits of precision.  "
           "\"format:negative,thousands,currency,exponent,MSD=n\"",
           "qvxGCD(\"123456789012345678901234567890\", \"987654321098765432109876543210\")",
-          Number_List()),
+          Number_List(), {divisor, {negative_is_num, list_fails}}),
       Row<&cls_Quorvex::qvxGCD2>(
           "qvxGCD2", "Fractions", math,
           "Returns the greatest common divisor of the numeric arguments, which are not cut to "
           "whole numbers, with up to 32,767 significant digits of precision.  "
           "\"format:negative,thousands,currency,exponent,MSD=n\"",
-          "qvxGCD2(7.5, 4.5)", Number_List()),
+          "qvxGCD2(7.5, 4.5)", Number_List(),
+          {divisor, {first_text_stays, scaling_fails, list_fails}}),
       Row<&cls_Quorvex::qvxLCM>(
           "qvxLCM", "Fractions", math,
           "Returns the least common multiple of the numeric arguments, cut to whole numbers, with "
           "up to 32,767 significant digits of precision.  "
           "\"format:negative,thousands,currency,exponent,MSD=n\"",
-          "qvxLCM(4, 6, \"12345678901234567890\")", Number_List()),
+          "qvxLCM(4, 6, \"12345678901234567890\")", Number_List(),
+          {multiple, {negative_is_num, list_fails}}),
       Row<&cls_Quorvex::qvxLCM2>(
           "qvxLCM2", "Fractions", math,
           "Returns the least common multiple of the numeric arguments, which are not cut to whole "
           "numbers, with up to 32,767 significant digits of precision.  "
           "\"format:negative,thousands,currency,exponent,MSD=n\"",
-          "qvxLCM2(7.5, 4.5)", Number_List()),
+          "qvxLCM2(7.5, 4.5)", Number_List(),
+          {multiple, {negative_is_num, first_text_stays, scaling_fails, list_fails}}),
   };
 }
 

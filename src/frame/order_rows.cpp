@@ -1,5 +1,6 @@
 // Rows of sorting and of what rests on it.
 #include "frame/catalogue_rows.h"
+#include "frame/result_texts.h"
 
 namespace quorvex::catalogue {
 namespace {
@@ -43,30 +44,45 @@ std::vector<Method> Order_Rows() {
           "Returns the median of the numeric arguments, with up to 32,767 significant digits of "
           "precision. For an even count of numbers MSD=n must be given.  "
           "\"format:negative,thousands,currency,exponent,MSD=n\"",
-          "qvxMEDIAN({7, \"1.00000000000000000001\"; 1, \"no number\"})", Number_List()),
+          "qvxMEDIAN({7, \"1.00000000000000000001\"; 1, \"no number\"})", Number_List(),
+          {"The number in the middle, formatted; of an even count half the sum of the two there.",
+           {"\"#VALUE!\" for an even count without MSD=. The call fails where there is no number.",
+            list_fails}}),
       Row<&cls_Quorvex::qvxMODE>(
           "qvxMODE", "Order", statistical,
           "Returns the most frequently occurring of the numeric arguments, with up to 32,767 "
           "significant digits of precision. Array-enter to return table. "
           "\"format:table,blank=<text>&,negative,thousands,currency,exponent,MSD=n\"",
-          "qvxMODE({2, 3; 2, 1}, \"3.0\", \"2E+0\", \"format:table\")", Mode_Parameters()),
+          "qvxMODE({2, 3; 2, 1}, \"3.0\", \"2E+0\", \"format:table\")", Mode_Parameters(),
+          {"The number, formatted, or with TABLE an array with a row for each number: its count "
+           "and itself. Empty text where there is no number.",
+           {"The call fails for a table of no numbers and for a block of less than one row or "
+            "column.",
+            list_fails}}),
       Row<&cls_Quorvex::qvxSORT>(
           "qvxSORT", "Order", miscellaneous,
           "Sorts a range of numbers, with up to 32,767 significant digits of precision. Must be "
           "array-entered.",
-          "qvxSORT({10, 9; \"-0.00000000000000000001\", 0}, TRUE, TRUE)", Sort_Parameters()),
+          "qvxSORT({10, 9; \"-0.00000000000000000001\", 0}, TRUE, TRUE)", Sort_Parameters(),
+          {"An array of rows by cols cells: numbers in order, then whatever is no number, then "
+           "blank_text.",
+           {block_fails, "It fails, too, for less than one row or column."}}),
       Row<&cls_Quorvex::qvxLARGE>(
           "qvxLARGE", "Order", statistical,
           "Returns the k-th largest number of a range, with up to 32,767 significant digits of "
           "precision.",
           "qvxLARGE({1, 3; \"12345678901234567890\", 2}, 2)",
-          Place_Parameters("the place, from the largest number on: 1 for the largest")),
+          Place_Parameters("the place, from the largest number on: 1 for the largest"),
+          {"The number as it is written, not formatted.",
+           {place_is_num, block_fails, "It fails, too, for a k that is no number."}}),
       Row<&cls_Quorvex::qvxSMALL>(
           "qvxSMALL", "Order", statistical,
           "Returns the k-th smallest number of a range, with up to 32,767 significant digits of "
           "precision.",
           "qvxSMALL({1, 3; \"-0.00000000000000000001\", 2}, 1)",
-          Place_Parameters("the place, from the smallest number on: 1 for the smallest")),
+          Place_Parameters("the place, from the smallest number on: 1 for the smallest"),
+          {"The number as it is written, not formatted.",
+           {place_is_num, block_fails, "It fails, too, for a k that is no number."}}),
       Row<&cls_Quorvex::qvxRANK>(
           "qvxRANK", "Order", statistical,
           "Returns the rank of a number among the numbers of a range, with up to 32,767 "
@@ -75,7 +91,9 @@ std::vector<Method> Order_Rows() {
           "qvxRANK(2, {3, 2; \"2.0\", 1}, FALSE, TRUE)",
           {Operand_Parameter("num", first_number), Operand_Parameter("numlist", block),
            Optional("ascending", "TRUE ranks the smallest number first"),
-           Optional("tie_compensation", "TRUE gives equal numbers the mean of their ranks")}),
+           Optional("tie_compensation", "TRUE gives equal numbers the mean of their ranks")},
+          {"The place, as text; the count of cells for a number that is not among them.",
+           {"\"NUM!\", without a #, for a num that is no number.", block_fails}}),
   };
 }
 

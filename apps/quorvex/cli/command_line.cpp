@@ -17,11 +17,14 @@
 #include "batch/serve.h"
 #include "cli/common_options.h"
 #include "cli/formulas.h"
+#include "cli/function_page.h"
 #include "cli/function_reference.h"
+#include "cli/manual_page.h"
 #include "cli/prompt.h"
 #include "cli/session.h"
 #include "cli/settings_command.h"
 #include "cli/sheet_command.h"
+#include "cli/shell_completion.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "quorvex_version.h"
@@ -37,6 +40,8 @@ struct Arguments {
   Settings_Words settings;
   std::string function;
   bool markdown = false;
+  bool manual_page = false;
+  std::string completion;
   unsigned jobs = 1;
 };
 
@@ -66,6 +71,12 @@ std::string Check_Width(const std::string& text) {
 std::string Check_Jobs(const std::string& text) {
   return Check_Whole(text, 256);
 }
+
+std::string Check_Shell(const std::string& text) {
+  return text == "bash" || text == "zsh" ? "" : "bash or zsh is needed, not " + text;
+}
+
+constexpr const char* for_packages = "For packages";
 
 void Describe_Sheet(CLI::App& app, Arguments& arguments) {
   auto* sheet = app.add_subcommand("sheet", "Calculate a worksheet from a CSV file");
@@ -127,6 +138,12 @@ void Describe(CLI::App& app, Arguments& arguments) {
                  "Formulas to calculate; - reads them from standard input")
       ->type_name("");
   Add_Common_Options(app, arguments.common);
+  app.add_flag("--manual-page", arguments.manual_page, "Write the manual page")
+      ->group(for_packages);
+  app.add_option("--completion", arguments.completion, "Write the completion script of a shell")
+      ->type_name("bash|zsh")
+      ->check(CLI::Validator(Check_Shell, ""))
+      ->group(for_packages);
   app.require_subcommand(0, 1);
   Describe_Sheet(app, arguments);
   Describe_Functions(app, arguments);
@@ -164,7 +181,7 @@ Outcome Run_Functions(Session& session, const Arguments& arguments) {
   Current_Platform().settings = Settings_In_Memory();
   std::string& out = session.output().buffer();
   if (arguments.markdown) {
-    out += Function_Reference(session.engine());
+    out += Function_Page(session.engine());
   } else if (arguments.function.empty()) {
     out += Function_List();
   } else {
@@ -208,9 +225,18 @@ Outcome Run_Formulas(Session& session, const Arguments& arguments) {
   return is_dialogue ? Run_Prompt(session) : Calculate_Input(session);
 }
 
+bool Writes_For_Packages(Session& session, const CLI::App& app, const Arguments& arguments) {
+  std::string& out = session.output().buffer();
+  if (arguments.manual_page) out += Manual_Page(app);
+  if (arguments.completion == "bash") out += Bash_Completion(app);
+  if (arguments.completion == "zsh") out += Zsh_Completion(app);
+  return !out.empty();
+}
+
 Outcome Run_Command(Session& session, const std::shared_ptr<Call_Guard>& guard, const CLI::App& app,
                     const Arguments& arguments) {
   const auto commands = app.get_subcommands();
+  if (commands.empty() && Writes_For_Packages(session, app, arguments)) return Outcome::success;
   if (commands.empty()) return Run_Formulas(session, arguments);
   const std::string command = commands.front()->get_name();
   if (command == "settings" && arguments.common.digits)

@@ -1,81 +1,17 @@
-// What the functions are, for people to read: lists, explanations and the reference page.
+// What the functions are, for people to read in a terminal.
 #include "cli/function_reference.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 #include <vector>
 
-#include "cli/result_text.h"
+#include "cli/example_result.h"
 #include "cli/wrapped.h"
-#include "formula/evaluate.h"
 #include "formula/formula.h"
-#include "host/platform.h"
-#include "host/run_time_failure.h"
-#include "text/options.h"
 
 namespace quorvex {
 namespace {
-
-// Examples are written with "." and ",", and mean the same wherever they are read.
-class Example_Settings {
- public:
-  Example_Settings() {
-    Current_Platform().locale = Fixed_Locale(Locale{});
-    Set_Default_MaxSD(100);
-  }
-  ~Example_Settings() {
-    Current_Platform().locale = locale_;
-    Set_Default_MaxSD(digits_);
-  }
-  Example_Settings(const Example_Settings&) = delete;
-  Example_Settings& operator=(const Example_Settings&) = delete;
-
- private:
-  std::shared_ptr<Locale_Source> locale_ = Current_Platform().locale;
-  double digits_ = Default_MaxSD();
-};
-
-std::string Example_Result(cls_Quorvex& engine, std::string_view example) {
-  const Example_Settings settings;
-  std::string result;
-  try {
-    Append_Result_Lines(result, Evaluate_Alone(engine, Parse_Formula(example)));
-  } catch (const Run_Time_Failure& failure) {
-    result = std::string(failure.what()) + "\n";
-  }
-  return result;
-}
-
-using Category = std::pair<std::string_view, std::vector<const Method*>>;
-
-// In the order in which the catalogue first names them. What no function dialog offers comes last.
-std::vector<Category> Categories() {
-  std::vector<Category> categories;
-  std::vector<const Method*> others;
-  for (const Method& method : Catalogue()) {
-    if (method.category.empty()) {
-      others.push_back(&method);
-      continue;
-    }
-    auto found = std::find_if(categories.begin(), categories.end(),
-                              [&](const auto& each) { return each.first == method.category; });
-    if (found == categories.end()) found = categories.insert(found, Category(method.category, {}));
-    found->second.push_back(&method);
-  }
-  if (!others.empty()) categories.emplace_back("For programs", std::move(others));
-  return categories;
-}
-
-std::string Signature(const Method& method) {
-  std::string text(method.name);
-  text += '(';
-  for (const Parameter& parameter : method.parameters) {
-    if (&parameter != &method.parameters.front()) text += ", ";
-    text +=
-        parameter.optional ? "[" + std::string(parameter.name) + "]" : std::string(parameter.name);
-  }
-  return text + ")";
-}
 
 std::string_view First_Sentence(std::string_view text) {
   const auto end = text.find(". ");
@@ -114,38 +50,50 @@ std::string Argument_Lines(const Method& method) {
   return lines;
 }
 
-std::string In_Table(std::string_view text) {
-  std::string cell;
-  for (const char character : text) {
-    if (character == '|') cell += '\\';
-    cell += character;
-  }
-  return cell;
-}
-
-std::string Reference_Entry(cls_Quorvex& engine, const Method& method) {
-  std::string text = "### " + std::string(method.name) + "\n\n`" + Signature(method) + "`\n\n" +
-                     std::string(method.description) + "\n\n";
-  if (!method.parameters.empty()) {
-    text += "| Argument | Meaning |\n|---|---|\n";
-    for (const Parameter& parameter : method.parameters)
-      text += "| `" + std::string(parameter.name) + "` | " + In_Table(parameter.help) + " |\n";
-    text += '\n';
-  }
-  if (!method.example.empty()) {
-    text += "```\n" + std::string(method.example) + "\n" + Example_Result(engine, method.example) +
-            "```\n\n";
-  }
+// A heading, and below it lines that are broken where they are too long.
+template <typename Lines>
+std::string Block(std::string_view heading, const Lines& lines) {
+  std::string text = "\n" + std::string(heading) + "\n";
+  for (const std::string_view line : lines) text += "  " + Wrapped(line, 2) + "\n";
   return text;
 }
 
 }  // namespace
 
+std::string Signature(const Method& method) {
+  std::string text(method.name);
+  text += '(';
+  for (const Parameter& parameter : method.parameters) {
+    if (&parameter != &method.parameters.front()) text += ", ";
+    text +=
+        parameter.optional ? "[" + std::string(parameter.name) + "]" : std::string(parameter.name);
+  }
+  return text + ")";
+}
+
+std::vector<std::pair<std::string_view, std::vector<const Method*>>> Functions_By_Category() {
+  using Category = std::pair<std::string_view, std::vector<const Method*>>;
+  std::vector<Category> categories;
+  std::vector<const Method*> others;
+  for (const Method& method : Catalogue()) {
+    if (method.category.empty()) {
+      others.push_back(&method);
+      continue;
+    }
+    auto found = std::find_if(categories.begin(), categories.end(),
+                              [&](const auto& each) { return each.first == method.category; });
+    if (found == categories.end()) found = categories.insert(found, Category(method.category, {}));
+    found->second.push_back(&method);
+  }
+  if (!others.empty()) categories.emplace_back("For programs", std::move(others));
+  return categories;
+}
+
 std::string Function_List() {
   const std::size_t width =
       Widest(Catalogue(), [](const Method& method) { return method.name; }) + 4;
   std::string text;
-  for (const auto& [category, methods] : Categories()) {
+  for (const auto& [category, methods] : Functions_By_Category()) {
     if (!text.empty()) text += '\n';
     text.append(category).append("\n");
     for (const Method* method : methods) {
@@ -163,6 +111,8 @@ std::optional<std::string> Function_Help(cls_Quorvex& engine, std::string_view n
       Wrapped(Signature(*method), 4) + "\n\n" + Wrapped(method->description, 0) + "\n";
   if (!method->parameters.empty())
     text += "\nArguments (in brackets above: optional)\n" + Argument_Lines(*method);
+  text += Block("Returns", std::array{method->results.returns});
+  text += Block("Tokens and failures", method->results.failures);
   if (!method->example.empty()) {
     text += "\nExample\n  " + std::string(method->example) + "\n" +
             Indented_Lines(Example_Result(engine, method->example));
@@ -174,21 +124,6 @@ std::string No_Such_Function(std::string_view name) {
   const auto nearest = Nearest_Function(name);
   return "there is no function \"" + std::string(name) + "\"" +
          (nearest ? "; did you mean " + std::string(*nearest) + "?" : "");
-}
-
-std::string Function_Reference(cls_Quorvex& engine) {
-  std::string text =
-      "# Functions\n\n"
-      "Written by `quorvex functions --markdown`: change the catalogue, not this page. Arguments "
-      "in "
-      "brackets are optional. The examples are calculated with `.` as the decimal separator, `,` "
-      "between thousands and `$` as the currency symbol.\n\n";
-  for (const auto& [category, methods] : Categories()) {
-    text.append("## ").append(category).append("\n\n");
-    for (const Method* method : methods) text += Reference_Entry(engine, *method);
-  }
-  text.pop_back();
-  return text;
 }
 
 }  // namespace quorvex

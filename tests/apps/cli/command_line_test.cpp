@@ -114,6 +114,7 @@ TEST(CommandLine, ExplainsFunctions) {
   const Tool_Run one = Run_Tool({"functions", "qvxadd"});
   EXPECT_EQ(one.exit_code, 0);
   for (const char* words : {"qvxADD(number1, number2, [format_negative]", "  format_currency ",
+                            "Returns\n  The sum", "Tokens and failures\n  \"#VALUE!\" for",
                             "Example\n  qvxADD(\"12345678901234567890.5\", 1.25)\n"
                             "  12345678901234567891.75\n"})
     EXPECT_NE(one.output.find(words), std::string::npos) << one.output;
