@@ -66,7 +66,7 @@ NumberText Product_Of(const Factors& factors, double limit) {
   Step_Number product(Exact_Product(factors.part(0, exact)));
   for (std::int32_t place = exact; place < factors.count; ++place) {
     Yield();
-    product = Product(product, Step_Number(factors[place]), limit);
+    product.multiply_by(Step_Number(factors[place]), limit);
   }
   return product.text();
 }
@@ -109,7 +109,7 @@ NumberText FactDouble_Function(const HostValue& num, const Format_Arguments& for
 }
 
 NumberText Running_Factorial::next() {
-  if (next_ > 0) product_ = Product(product_, Step_Number(next_), Default_MaxSD());
+  if (next_ > 0) product_.multiply_by(Step_Number(next_), Default_MaxSD());
   ++next_;
   return Close(product_.text(), {});
 }

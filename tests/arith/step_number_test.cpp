@@ -20,7 +20,7 @@
 namespace quorvex {
 namespace {
 
-using Step = Step_Number (*)(const Step_Number&, const Step_Number&, double);
+using Step = Step_Number (*)(Step_Number, const Step_Number&, double);
 
 struct Operation {
   std::int16_t code;
