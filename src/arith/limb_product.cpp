@@ -9,24 +9,36 @@
 namespace quorvex::limbs {
 namespace {
 
-// A column, below 340 * 10^36, as three numbers that count for it, its neighbour and the next:
-// below 3.2 and 2.1 bases, and 340.
+// A column as three numbers that count for it, its neighbour and the next.
 struct Parted {
   Limb limb;
   Limb above;
   Limb far_above;
 };
 
+// Of a column below 2^(64 + shift) and 9.2 * 10^36: the first below 3.2 bases, the second
+// below 9.2.
+template <unsigned shift>
+Parted Part_In_Two(Wide column) {
+  constexpr auto reciprocal = static_cast<Limb>((Wide{1} << (64U + shift)) / base);
+  const auto above =
+      static_cast<Limb>(Wide{static_cast<Limb>(column >> shift)} * reciprocal >> 64U);
+  return {static_cast<Limb>(column) - above * base, above, 0};
+}
+
+// Of at most nine products.
+Parted Part_Few(Wide column) {
+  return Part_In_Two<59>(column);
+}
+
+// Of at most 340 products: the second below 2.1 bases, the third below 340.
 Parted Part(Wide column) {
   constexpr Wide square = Wide{base} * base;
   constexpr auto square_high = static_cast<Limb>(square >> 64U) + 1;
   const Limb far_above = static_cast<Limb>(column >> 64U) / square_high;
-  column -= far_above * square;
-  constexpr unsigned shift = 57;
-  constexpr auto reciprocal = static_cast<Limb>((Wide{1} << (64U + shift)) / base);
-  const auto above =
-      static_cast<Limb>(Wide{static_cast<Limb>(column >> shift)} * reciprocal >> 64U);
-  return {static_cast<Limb>(column) - above * base, above, far_above};
+  Parted parted = Part_In_Two<57>(column - far_above * square);
+  parted.far_above = far_above;
+  return parted;
 }
 
 // Adds parted columns from the lowest. They are parted before, so that none waits for the carries
@@ -86,7 +98,7 @@ void Multiply_Few(Limb* out, const Number& a, const Number& b, std::size_t first
   Column_Sum sum;
   for (std::size_t place = first; place + 1 < count; ++place) {
     out[place] =
-        sum.next(Part(Full_Column(a.data(), y + place, std::make_index_sequence<x_count>())));
+        sum.next(Part_Few(Full_Column(a.data(), y + place, std::make_index_sequence<x_count>())));
   }
   out[count - 1] = sum.next({});
 }
