@@ -107,6 +107,39 @@ def print_roots(times, peer):
             )
 
 
+ELEMENTARY_CALLS = {"sin": "qvxSIN", "atan": "qvxATAN", "ln": "qvxLN", "exp": "qvxEXP"}
+
+
+def print_elementary(times, peer):
+    """Whole calls of functions of 0.7; bc answers to as many decimals."""
+    print("| call | digits | mpmath / ours | bc / ours | MPFR / ours | ours | mpmath | bc | MPFR |")
+    print("|---|---:|---:|---:|---:|---:|---:|---:|---:|")
+    for name, call in ELEMENTARY_CALLS.items():
+        for size in sizes(times, f"Elementary/{name}"):
+            ours, mpfr = times[f"Elementary/{name}/{size}"], times[f"Mpfr/{name}/{size}"]
+            peers = [peer[f"mpmath/{name}/{size}"], peer[f"bc/{name}/{size}"], mpfr]
+            print(
+                f"| {call} | {int(size):,} | {' | '.join(f'{time / ours:.2f}' for time in peers)} "
+                f"| {unit(ours)} | {' | '.join(unit(time) for time in peers)} |"
+            )
+
+
+def print_factorials(times, peer):
+    """Whole calls with all digits, and a sum of probabilities at the default limit."""
+    print("| call | GMP / ours | decimal / ours | ours | GMP | decimal |")
+    print("|---|---:|---:|---:|---:|---:|")
+    for size in sizes(times, "Elementary/fact"):
+        ours, gmp = times[f"Elementary/fact/{size}"], times[f"Gmp/fact/{size}"]
+        dec = peer[f"decimal/fact/{size}"]
+        print(
+            f"| qvxFACT({size}) | {gmp / ours:.2f} | {dec / ours:.2f} "
+            f"| {unit(ours)} | {unit(gmp)} | {unit(dec)} |"
+        )
+    for size in sizes(times, "Elementary/poisson"):
+        spent = unit(times[f"Elementary/poisson/{size}"])
+        print(f"| qvxPOISSON({size}, 100, TRUE) | | | {spent} | | |")
+
+
 LIST_CALLS = {"sum": "qvxSUM2", "mixed sum": "qvxSUM2", "max": "qvxMAX", "product": "qvxPRODUCT"}
 
 
@@ -159,8 +192,10 @@ def sizes(times, name):
 def main():
     with open(sys.argv[1], encoding="utf-8") as file:
         native = json.load(file)
-    with open(sys.argv[2], encoding="utf-8") as file:
-        peer = json.load(file)
+    peer = {}
+    for path in sys.argv[2:]:
+        with open(path, encoding="utf-8") as file:
+            peer.update(json.load(file))
     times = {
         run["run_name"]: run["real_time"]
         for run in native["benchmarks"]
@@ -177,6 +212,10 @@ def main():
     print_powers(times, peer)
     print()
     print_roots(times, peer)
+    print()
+    print_elementary(times, peer)
+    print()
+    print_factorials(times, peer)
     print()
     print_lists(times, peer)
     print()

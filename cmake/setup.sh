@@ -4,7 +4,7 @@
 build_packages=(g++ cmake ninja-build pkg-config libcli11-dev nlohmann-json3-dev libedit-dev)
 test_packages=(git libgtest-dev libgmp-dev libmpfr-dev clang libclang-rt-14-dev clang-format clang-tidy
   locales dpkg-dev file)
-bench_packages=(libbenchmark-dev libgmp-dev libmpfr-dev libflint-dev python3)
+bench_packages=(libbenchmark-dev libgmp-dev libmpfr-dev libflint-dev python3 python3-mpmath bc)
 
 # Installs the Debian packages that are not there yet.
 need_packages() {

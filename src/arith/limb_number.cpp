@@ -16,18 +16,25 @@ bool Is_Canonical(const Decimal_Parts& parts, std::size_t length) {
   return parts.fraction.back() != '0';
 }
 
+// Adds `unit`, which is below the base, to a limb, and what runs over to those above it.
+void Raise(Raw_Number& raw, std::size_t place, Limb unit) {
+  raw.limbs[place] += unit;
+  if (raw.limbs[place] < base) [[likely]]
+    return;
+  raw.limbs[raw.count] = 0;
+  for (; raw.limbs[place] >= base; ++raw.limbs[place]) raw.limbs[place++] -= base;
+  raw.count += static_cast<std::size_t>(raw.limbs[raw.count] != 0);
+}
+
 // Rounds to the digits above the lowest `dropped` ones, and zeros only those of their limb: gives
 // the place of the limb from which on the number stands.
 std::size_t Cut(Raw_Number& raw, std::size_t dropped) {
   const std::size_t first = dropped / digits;
   const Limb unit = Ten_To(dropped % digits);
-  if (unit == 1) {
-    if (raw.limbs[first - 1] >= base / 2) Raise(raw, first, unit);
-    return first;
-  }
   const Limb rest = raw.limbs[first] % unit;
+  const bool up = unit == 1 ? raw.limbs[first - 1] >= base / 2 : rest >= unit / 2;
   raw.limbs[first] -= rest;
-  if (rest >= unit / 2) Raise(raw, first, unit);
+  Raise(raw, first, up ? unit : 0);
   return first;
 }
 
@@ -51,7 +58,9 @@ std::optional<Number> Read_Canonical(std::string_view text) {
   Scratch scratch(before + behind);
   Read_Fraction(parts.fraction, behind, scratch.data());
   Read_Number(parts.integer, scratch.data() + behind);
-  return Trimmed({scratch.data(), before + behind, -static_cast<std::int64_t>(behind), negative});
+  std::optional<Number> number(std::in_place);
+  Trim({scratch.data(), before + behind, -static_cast<std::int64_t>(behind), negative}, *number);
+  return number;
 }
 
 NumberText Text_Of(const Number& number) {
@@ -93,40 +102,28 @@ std::strong_ordering Compare_Magnitudes(const Number& a, const Number& b) {
   return a.count() <=> b.count();
 }
 
-Number Trimmed(const Raw_Number& raw) {
+void Trim(const Raw_Number& raw, Number& result) {
   std::size_t end = raw.count;
   std::size_t first = 0;
   while (end > 0 && raw.limbs[end - 1] == 0) --end;
-  if (end == 0) return {};
-  while (raw.limbs[first] == 0) ++first;
-  Number number;
-  std::copy(raw.limbs + first, raw.limbs + end, number.store.reset(end - first));
-  number.low = raw.low + static_cast<std::int64_t>(first);
-  number.negative = raw.negative;
-  return number;
+  while (first < end && raw.limbs[first] == 0) ++first;
+  result.store.fill(raw.limbs + first, end - first);
+  result.low = raw.low + static_cast<std::int64_t>(first);
+  result.negative = raw.negative && first < end;
 }
 
-void Raise(Raw_Number& raw, std::size_t place, Limb unit) {
-  raw.limbs[raw.count] = 0;
-  raw.limbs[place] += unit;
-  for (; raw.limbs[place] >= base; ++raw.limbs[place]) raw.limbs[place++] -= base;
-  raw.count += static_cast<std::size_t>(raw.limbs[raw.count] != 0);
-}
-
-Number Rounded(Raw_Number raw, std::size_t digits_kept) {
+void Round(Raw_Number& raw, std::size_t digits_kept, Number& result) {
   while (raw.count > 0 && raw.limbs[raw.count - 1] == 0) --raw.count;
-  if (raw.count == 0) return {};
-  const std::size_t length = (raw.count - 1) * digits + Count_Digits(raw.limbs[raw.count - 1]);
-  if (length <= digits_kept) return Trimmed(raw);
-  const std::size_t first = Cut(raw, length - digits_kept);
-  return Trimmed({raw.limbs + first, raw.count - first, raw.low + static_cast<std::int64_t>(first),
-                  raw.negative});
-}
-
-Number Rounded(const Number& number, std::size_t digits_kept) {
-  Scratch scratch(number.count() + 1);
-  std::copy_n(number.data(), number.count(), scratch.data());
-  return Rounded({scratch.data(), number.count(), number.low, number.negative}, digits_kept);
+  if (raw.count > 0) {
+    const std::size_t length = (raw.count - 1) * digits + Count_Digits(raw.limbs[raw.count - 1]);
+    if (length > digits_kept) {
+      const std::size_t first = Cut(raw, length - digits_kept);
+      raw.limbs += first;
+      raw.count -= first;
+      raw.low += static_cast<std::int64_t>(first);
+    }
+  }
+  Trim(raw, result);
 }
 
 }  // namespace quorvex::limbs

@@ -24,15 +24,15 @@ class Store {
   Store(Store&& other) noexcept { *this = std::move(other); }
   ~Store() = default;
   Store& operator=(const Store& other) {
-    if (this != &other) std::copy_n(other.data(), other.count_, reset(other.count_));
+    if (this != &other) fill(other.data(), other.count_);
     return *this;
   }
   Store& operator=(Store&& other) noexcept {
-    count_ = other.count_;
-    if (count_ > few_.size()) [[unlikely]] {
+    if (other.count_ > few_.size()) [[unlikely]] {
+      count_ = other.count_;
       many_.swap(other.many_);
-    } else {
-      std::copy_n(other.few_.data(), count_, few_.data());
+    } else if (this != &other) {
+      fill(other.few_.data(), other.count_);
     }
     return *this;
   }
@@ -40,12 +40,14 @@ class Store {
   std::size_t size() const { return count_; }
   const Limb* data() const { return count_ > few_.size() ? many_.data() : few_.data(); }
 
-  /// Room for `count` limbs, which hold nothing yet.
-  Limb* reset(std::size_t count) {
+  /// Takes `count` limbs, which are not its own.
+  void fill(const Limb* limbs, std::size_t count) {
     count_ = count;
-    if (count <= few_.size()) return few_.data();
-    many_.resize(count);
-    return many_.data();
+    if (count > few_.size()) [[unlikely]] {
+      many_.assign(limbs, limbs + count);
+      return;
+    }
+    Copy(limbs, count, few_.data());
   }
 
  private:
@@ -88,24 +90,22 @@ struct Raw_Number {
 };
 
 /// The number without the zeros around it.
-Number Trimmed(const Raw_Number& raw);
+void Trim(const Raw_Number& raw, Number& result);
 
-/// Adds `unit`, which is below the base, to a limb, and what runs over to those above it.
-void Raise(Raw_Number& raw, std::size_t place, Limb unit);
+/// Rounds to so many significant digits (1 or more), half up by the first dropped digit alone.
+void Round(Raw_Number& raw, std::size_t digits, Number& result);
 
-/// Rounded to so many significant digits (1 or more), half up by the first dropped digit alone.
-Number Rounded(Raw_Number raw, std::size_t digits);
-Number Rounded(const Number& number, std::size_t digits);
+// Operations. The result may be one of the operands.
 
 /// a + b, with a sign for b that stands in for its own.
-Number Sum(const Number& a, const Number& b, bool b_is_negative, std::size_t digits);
+void Add(const Number& a, const Number& b, bool b_is_negative, std::size_t digits, Number& result);
 
 /// a b. Long numbers are multiplied by the library of products, which must be there.
-Number Product(const Number& a, const Number& b, std::size_t digits);
+void Multiply(const Number& a, const Number& b, std::size_t digits, Number& result);
 
-/// `result` = a / b as division gives it to `digits` digits (not 0): the first ones of a times the
-/// reciprocal of b in three digits more. False where b is not one limb, and where digits are too
-/// close to a border for this way of telling them.
-bool Divide(Number& result, const Number& a, const Number& b, std::size_t digits);
+/// a / b as division gives it to `digits` digits (not 0): the first ones of a times the reciprocal
+/// of b in three digits more. False, and no result, where b is not one limb, and where digits are
+/// too close to a border for this way of telling them.
+bool Divide(const Number& a, const Number& b, std::size_t digits, Number& result);
 
 }  // namespace quorvex::limbs

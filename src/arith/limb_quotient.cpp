@@ -174,7 +174,7 @@ void Raise_Up(Limb* limb, Limb unit) {
 // The digits are those of a (1 - g 10^-s) / b, where g is what the reciprocal's digits times the
 // divisor's N significant ones leave of 10^s, s = p + N - 1. That takes less than ten units of
 // digit p off a / b, which is divided limb by limb, and so needs to be known to some digits only.
-bool Divide(Number& result, const Number& a, const Number& b, std::size_t digits_kept) {
+bool Divide(const Number& a, const Number& b, std::size_t digits_kept, Number& result) {
   if (b.count() != 1 || a.is_zero()) return false;
   const std::size_t p = digits_kept + guard_digits;
   const Significant k = Without_Zeros(*b.data());
@@ -209,11 +209,13 @@ bool Divide(Number& result, const Number& a, const Number& b, std::size_t digits
   }
 
   highest[last] -= rest;
-  if (up) Raise_Up(highest + last, Ten_To(cut));
+  Raise_Up(highest + last, up ? Ten_To(cut) : 0);
   Limb* const limbs = scratch.data() + count + 1;
-  std::reverse_copy(highest - 1, highest + last + 1, limbs);
-  result = Trimmed({limbs, last + 2, quotient.top - b.low - static_cast<std::int64_t>(last),
-                    a.negative != b.negative});
+  for (std::size_t place = 0; place < last + 2; ++place)
+    Copy(highest + last - place, 1, limbs + place);
+  Trim({limbs, last + 2, quotient.top - b.low - static_cast<std::int64_t>(last),
+        a.negative != b.negative},
+       result);
   return true;
 }
 

@@ -20,7 +20,7 @@ View View_Of(const Number& number) {
   return {number.data(), number.low, number.count()};
 }
 
-void Add(Limb* out, const View& b) {
+void Add_Limbs(Limb* out, const View& b) {
   Limb carry = 0;
   for (std::size_t place = 0; place < b.count; ++place) {
     const Limb sum = out[place] + b.limbs[place] + carry;
@@ -33,7 +33,7 @@ void Add(Limb* out, const View& b) {
 }
 
 // `out` stands for no less than b.
-void Subtract(Limb* out, const View& b) {
+void Subtract_Limbs(Limb* out, const View& b) {
   Limb borrow = 0;
   for (std::size_t place = 0; place < b.count; ++place) {
     const Limb less = b.limbs[place] + borrow;
@@ -56,15 +56,19 @@ void Shorten(View& smaller, const View& larger, std::size_t digits_kept) {
   if (smaller.top() <= above) smaller = {&trifle, above - 1, 1};
 }
 
+void Round_Copy(const Number& number, bool negative, std::size_t digits_kept, Number& result) {
+  Scratch scratch(number.count() + 1);
+  Copy(number.data(), number.count(), scratch.data());
+  Raw_Number raw{scratch.data(), number.count(), number.low, negative};
+  Round(raw, digits_kept, result);
+}
+
 }  // namespace
 
-Number Sum(const Number& a, const Number& b, bool b_is_negative, std::size_t digits_kept) {
-  if (b.is_zero()) return Rounded(a, digits_kept);
-  if (a.is_zero()) {
-    Number sum = Rounded(b, digits_kept);
-    sum.negative = b_is_negative;
-    return sum;
-  }
+void Add(const Number& a, const Number& b, bool b_is_negative, std::size_t digits_kept,
+         Number& result) {
+  if (b.is_zero()) return Round_Copy(a, a.negative, digits_kept, result);
+  if (a.is_zero()) return Round_Copy(b, b_is_negative, digits_kept, result);
   View larger = View_Of(a);
   View smaller = View_Of(b);
   bool negative = a.negative;
@@ -80,10 +84,11 @@ Number Sum(const Number& a, const Number& b, bool b_is_negative, std::size_t dig
   Limb* const out = scratch.data();
   const std::ptrdiff_t zeros = larger.low - low;
   std::fill_n(out, zeros, 0);
-  std::copy_n(larger.limbs, larger.count, out + zeros);
+  Copy(larger.limbs, larger.count, out + zeros);
   out[count - 1] = 0;
-  (a.negative == b_is_negative ? Add : Subtract)(out + (smaller.low - low), smaller);
-  return Rounded({out, count, low, negative}, digits_kept);
+  (a.negative == b_is_negative ? Add_Limbs : Subtract_Limbs)(out + (smaller.low - low), smaller);
+  Raw_Number raw{out, count, low, negative};
+  Round(raw, digits_kept, result);
 }
 
 }  // namespace quorvex::limbs

@@ -59,6 +59,16 @@ void Read_Fraction(std::string_view text, std::size_t count, Limb* out);
 /// out = a b, in the sum of their counts of limbs, for one of at most 9.
 void Multiply(Limb* out, const Limb* a, std::size_t a_count, const Limb* b, std::size_t b_count);
 
+/// Copies limbs one by one: they have mostly just been written so, and a wider load of them would
+/// wait until they are out of the processor's store buffer.
+inline void Copy(const Limb* from, std::size_t count, Limb* to) {
+  for (std::size_t place = 0; place < count; ++place) {
+    Limb limb = from[place];
+    __asm__("" : "+r"(limb));  // keeps compilers from joining copies
+    to[place] = limb;
+  }
+}
+
 /// Room for limbs: on the stack if they are few.
 class Scratch {
  public:

@@ -30,25 +30,8 @@ constexpr std::int64_t highest_power = 1'000'000;
 constexpr std::size_t formatted_beyond = 2;
 constexpr std::size_t divided_beyond = 1;
 
-bool Is_Near(const Number* number) {
-  return number != nullptr && number->low >= -highest_power && number->top() <= highest_power;
-}
-
-// Two numbers for a step in limbs, and the limit; or 0 for it where the step is left to texts.
-struct Operands {
-  Operands(const Step_Number& first, const Step_Number& second, double limit)
-      : a(first.in_limbs()), b(second.in_limbs()) {
-    const bool is_plain = limit >= 1 && limit <= highest_limit && std::trunc(limit) == limit;
-    if (is_plain && Is_Near(a) && Is_Near(b)) digits = static_cast<std::size_t>(limit);
-  }
-
-  const Number* a;
-  const Number* b;
-  std::size_t digits = 0;
-};
-
-Step_Number By_Text(std::int16_t code, const Step_Number& a, const Step_Number& b, double limit) {
-  return Step_Number(Intermediate(code, a.text(), b.text(), limit));
+bool Is_Near(const Number& number) {
+  return number.low >= -highest_power && number.top() <= highest_power;
 }
 
 }  // namespace
@@ -64,7 +47,7 @@ Step_Number::Step_Number(std::string_view text) {
 Step_Number::Step_Number(double number) {
   if (std::fabs(number) < plain_whole_numbers && std::trunc(number) == number) {
     auto limb = static_cast<limbs::Limb>(std::fabs(number));
-    number_ = limbs::Trimmed({&limb, 1, 0, number < 0});
+    limbs::Trim({&limb, 1, 0, number < 0}, number_);
   } else {
     *this = Step_Number(Number_To_Text(number));
   }
@@ -100,11 +83,17 @@ std::int64_t Step_Number::leading_power() const {
   return behind < parts.fraction.size() ? -static_cast<std::int64_t>(behind) - 1 : 0;
 }
 
+void Step_Number::negate() {
+  if (!text_) {
+    number_.negative = !number_.negative && !number_.is_zero();
+  } else if (!is_token() && !is_zero()) {
+    *this = Step_Number(text_->starts_with('-') ? text_->substr(1) : "-" + *text_);
+  }
+}
+
 Step_Number Step_Number::opposite() const {
-  if (is_token() || is_zero()) return *this;
-  if (text_) return Step_Number(text_->starts_with('-') ? text_->substr(1) : "-" + *text_);
   Step_Number other = *this;
-  other.number_.negative = !number_.negative;
+  other.negate();
   return other;
 }
 
@@ -115,41 +104,50 @@ Step_Number Step_Number::magnitude() const {
   return other;
 }
 
-Step_Number Sum(const Step_Number& a, const Step_Number& b, double limit) {
-  const Operands in(a, b, limit);
-  if (in.digits == 0) return By_Text(operation::add, a, b, limit);
-  return Step_Number(limbs::Sum(*in.a, *in.b, in.b->negative, in.digits + formatted_beyond));
+void Step_Number::by_text(std::int16_t code, const Step_Number& other, double limit) {
+  *this = Step_Number(Intermediate(code, text(), other.text(), limit));
 }
 
-Step_Number Difference(const Step_Number& a, const Step_Number& b, double limit) {
-  const Operands in(a, b, limit);
-  if (in.digits == 0) return By_Text(operation::subtract, a, b, limit);
-  return Step_Number(limbs::Sum(*in.a, *in.b, !in.b->negative, in.digits + formatted_beyond));
+// The limit where both numbers are such that a step is taken in limbs, otherwise 0.
+std::size_t Step_Number::digits_in_limbs(const Step_Number& other, double limit) const {
+  const bool is_plain = limit >= 1 && limit <= highest_limit && std::trunc(limit) == limit;
+  if (!is_plain || text_ || other.text_ || !Is_Near(number_) || !Is_Near(other.number_)) return 0;
+  return static_cast<std::size_t>(limit);
 }
 
-Step_Number Product(const Step_Number& a, const Step_Number& b, double limit) {
-  const Operands in(a, b, limit);
-  if (in.digits == 0 || !Can_Multiply()) return By_Text(operation::multiply, a, b, limit);
-  return Step_Number(limbs::Product(*in.a, *in.b, in.digits + formatted_beyond));
+void Step_Number::add(const Step_Number& other, double limit) {
+  const std::size_t digits = digits_in_limbs(other, limit);
+  if (digits == 0) return by_text(operation::add, other, limit);
+  limbs::Add(number_, other.number_, other.number_.negative, digits + formatted_beyond, number_);
 }
 
-Step_Number Quotient(const Step_Number& a, const Step_Number& b, double limit) {
-  const Operands in(a, b, limit);
-  Number quotient;
-  if (in.digits == 0 || !Can_Multiply() ||
-      !limbs::Divide(quotient, *in.a, *in.b, in.digits + divided_beyond)) {
-    return By_Text(operation::divide, a, b, limit);
+void Step_Number::subtract(const Step_Number& other, double limit) {
+  const std::size_t digits = digits_in_limbs(other, limit);
+  if (digits == 0) return by_text(operation::subtract, other, limit);
+  limbs::Add(number_, other.number_, !other.number_.negative, digits + formatted_beyond, number_);
+}
+
+void Step_Number::multiply_by(const Step_Number& other, double limit) {
+  const std::size_t digits = digits_in_limbs(other, limit);
+  if (digits == 0 || !Can_Multiply()) return by_text(operation::multiply, other, limit);
+  limbs::Multiply(number_, other.number_, digits + formatted_beyond, number_);
+}
+
+void Step_Number::divide_by(const Step_Number& other, double limit) {
+  const std::size_t digits = digits_in_limbs(other, limit);
+  if (digits == 0 || !Can_Multiply() ||
+      !limbs::Divide(number_, other.number_, digits + divided_beyond, number_)) {
+    by_text(operation::divide, other, limit);
   }
-  return Step_Number(std::move(quotient));
 }
 
 bool Is_Greater(const Step_Number& a, const Step_Number& b) {
-  const Number* const first = a.in_limbs();
-  const Number* const second = b.in_limbs();
-  if (first != nullptr && second != nullptr) {
-    if (first->negative != second->negative) return second->negative;
-    const auto order = limbs::Compare_Magnitudes(*first, *second);
-    return first->negative ? std::is_lt(order) : std::is_gt(order);
+  if (!a.text_ && !b.text_) {
+    const Number& first = a.number_;
+    const Number& second = b.number_;
+    if (first.negative != second.negative) return second.negative;
+    const auto order = limbs::Compare_Magnitudes(first, second);
+    return first.negative ? std::is_lt(order) : std::is_gt(order);
   }
   const HostValue answer = Compare_Numbers(a.text(), b.text(), false, true);
   if (answer.is_text()) {

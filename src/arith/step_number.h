@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
-#include <utility>
 
 #include "arith/limb_number.h"
 #include "host/host_value.h"
@@ -21,7 +20,6 @@ class Step_Number {
  public:
   explicit Step_Number(std::string_view text);
   explicit Step_Number(double number);
-  explicit Step_Number(limbs::Number&& number) : number_(std::move(number)) {}
 
   /// Plain number text with its sign, or the token.
   NumberText text() const;
@@ -37,19 +35,42 @@ class Step_Number {
   Step_Number opposite() const;
   Step_Number magnitude() const;
 
-  /// The number in limbs; null where it is held as text.
-  const limbs::Number* in_limbs() const { return text_ ? nullptr : &number_; }
+  /// Turns into the opposite number.
+  void negate();
+
+  // Turn into what the operations of these names give, without a copy.
+  void add(const Step_Number& other, double limit);
+  void subtract(const Step_Number& other, double limit);
+  void multiply_by(const Step_Number& other, double limit);
+  void divide_by(const Step_Number& other, double limit);
 
  private:
+  friend bool Is_Greater(const Step_Number& a, const Step_Number& b);
+
+  void by_text(std::int16_t code, const Step_Number& other, double limit);
+  std::size_t digits_in_limbs(const Step_Number& other, double limit) const;
+
   limbs::Number number_;
   std::optional<NumberText> text_;  // where the number is not in limbs
 };
 
 // What `Intermediate` gives for the texts at the limit, digit for digit.
-Step_Number Sum(const Step_Number& a, const Step_Number& b, double limit);
-Step_Number Difference(const Step_Number& a, const Step_Number& b, double limit);
-Step_Number Product(const Step_Number& a, const Step_Number& b, double limit);
-Step_Number Quotient(const Step_Number& a, const Step_Number& b, double limit);
+inline Step_Number Sum(Step_Number a, const Step_Number& b, double limit) {
+  a.add(b, limit);
+  return a;
+}
+inline Step_Number Difference(Step_Number a, const Step_Number& b, double limit) {
+  a.subtract(b, limit);
+  return a;
+}
+inline Step_Number Product(Step_Number a, const Step_Number& b, double limit) {
+  a.multiply_by(b, limit);
+  return a;
+}
+inline Step_Number Quotient(Step_Number a, const Step_Number& b, double limit) {
+  a.divide_by(b, limit);
+  return a;
+}
 
 /// True where a is the greater by value. Fails with type_mismatch where one is no number.
 bool Is_Greater(const Step_Number& a, const Step_Number& b);

@@ -14,8 +14,9 @@ NumberText ATan_Series(const NumberText& x, double maxSD) {
   const Series_End end(maxSD);
   do {
     k.step();
-    power = Product(power, square, maxSD).opposite();
-    sum = Sum(sum, Quotient(power, k.value(), maxSD), maxSD);
+    power.multiply_by(square, maxSD);
+    power.negate();
+    sum.add(Quotient(power, k.value(), maxSD), maxSD);
     // No later term can change this token, and nobody waits for 2,147,483,647 digits of them.
     if (sum.is_token() && sum.text() == value_token && !power.is_token()) break;
   } while (!end.is_reached(power));

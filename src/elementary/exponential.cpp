@@ -36,8 +36,8 @@ Step_Number Taylor_Series(const Step_Number& r, std::int32_t limit) {
   Step_Number term = r;
   for (std::int32_t k = 2; k <= last_factor; ++k) {
     Yield();
-    term = Product(term, Quotient(r, Step_Number(k), limit), limit);
-    sum = Sum(sum, term, limit);
+    term.multiply_by(Quotient(r, Step_Number(k), limit), limit);
+    sum.add(term, limit);
     // From a term that is 0 or a token on, all are, and change nothing more.
     if (term.is_token() || term.is_zero()) break;
     if (Ends_Series(term, -std::int64_t{limit} - 1)) break;
@@ -56,12 +56,12 @@ Step_Number Power_Of_E(const NumberText& magnitude, std::int32_t limit) {
   int halvings = 0;
   for (; !Is_Greater(tenth, r); ++halvings) {
     Yield();
-    r = Quotient(r, two, limit);
+    r.divide_by(two, limit);
   }
   Step_Number power = Taylor_Series(r, limit);
   for (; halvings > 0; --halvings) {
     Yield();
-    power = Product(power, power, limit);
+    power.multiply_by(power, limit);
   }
   if (n <= 0) return power;
   return Product(power, Step_Number(Intermediate(operation::power, "2", std::to_string(n), limit)),

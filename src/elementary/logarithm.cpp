@@ -91,9 +91,9 @@ Step_Number Area_Tangent(const Step_Number& t, const Precision& precision) {
   Step_Number sum = t;
   for (std::int32_t k = 3; k <= precision.last_factor(); k += 2) {
     Yield();
-    power = Product(power, square, limit);
+    power.multiply_by(square, limit);
     const Step_Number term = Quotient(power, Step_Number(k), limit);
-    sum = Sum(sum, term, limit);
+    sum.add(term, limit);
     // From a term that is 0 or a token on, all are, and change nothing more.
     if (term.is_token() || term.is_zero()) break;
     // Negative terms would go on to the last factor, since none of them ends the series.

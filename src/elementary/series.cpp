@@ -1,8 +1,6 @@
 #include "elementary/series.h"
 
 #include <cmath>
-#include <cstdint>
-#include <string>
 
 #include "host/conversions.h"
 #include "host/platform.h"
@@ -42,7 +40,7 @@ Step_Number Series_Counter::product_with_the_one_before() const {
 }
 
 Step_Number Series_Counter::Whole(double number) {
-  return Step_Number(std::to_string(static_cast<std::int64_t>(number)));
+  return Step_Number(number);
 }
 
 // The limit is read as its text has it, with 15 digits, and its sign is forced.

@@ -30,8 +30,9 @@ class Sine_Terms {
 
   void step() {
     k_.step();
-    const Step_Number product = Product(term_, square_, limit_);
-    term_ = Quotient(product, k_.product_with_the_one_before(), limit_).opposite();
+    term_.multiply_by(square_, limit_);
+    term_.divide_by(k_.product_with_the_one_before(), limit_);
+    term_.negate();
   }
 
  private:
@@ -46,7 +47,7 @@ NumberText Sum_Of(Sine_Terms terms, double limit) {
   Step_Number sum = terms.term();
   do {
     terms.step();
-    sum = Sum(sum, terms.term(), limit);
+    sum.add(terms.term(), limit);
   } while (!terms.is_at_end());
   return sum.text();
 }
@@ -68,8 +69,8 @@ NumberText Tan_Series(const NumberText& x, double maxSD) {
   Step_Number sine_by_x = terms.term();
   do {
     terms.step();
-    cosine = Sum(cosine, terms.term(), maxSD);
-    sine_by_x = Sum(sine_by_x, Quotient(terms.term(), terms.k().next(), maxSD), maxSD);
+    cosine.add(terms.term(), maxSD);
+    sine_by_x.add(Quotient(terms.term(), terms.k().next(), maxSD), maxSD);
   } while (!terms.is_at_end());
   return Quotient(Product(sine_by_x, Step_Number(x), maxSD), cosine, maxSD).text();
 }

@@ -20,7 +20,7 @@
 namespace quorvex {
 namespace {
 
-using Step = Step_Number (*)(const Step_Number&, const Step_Number&, double);
+using Step = Step_Number (*)(Step_Number, const Step_Number&, double);
 
 struct Operation {
   std::int16_t code;
@@ -174,24 +174,29 @@ TEST(StepNumber, GivesTokensAndOddTextsTheirWay) {
 TEST(StepNumber, RoundsAsTextsDo) {
   const std::string nines(60, '9');
   const std::string zeros(60, '0');
+  const std::string far_below_1 = "0." + zeros;
+  const std::string trifle = far_below_1 + zeros + "1";
   for (const double limit : {1, 4, 9, 16, 17, 33, 34, 35, 52, 58, 100}) {
     const auto kept = static_cast<std::size_t>(limit) + 2;
     for (const char* end :
          {"4", "5", "49", "499999999999999999999", "50", "500000000000000000001"}) {
-      const std::string digits = std::string(kept - 1, '9') + "9" + end;
+      const std::string digits = std::string(kept, '9').append(end);
       Expect_All_As_Text(digits, "1", limit);
-      Expect_All_As_Text(digits, "0." + zeros + zeros + "1", limit);
-      Expect_All_As_Text("0." + zeros + digits, "-0." + zeros + zeros + zeros + "1", limit);
-      Expect_All_As_Text("1." + zeros.substr(0, kept - 1) + end, "3", limit);
+      Expect_All_As_Text(digits, trifle, limit);
+      Expect_All_As_Text(far_below_1 + digits, "-" + trifle, limit);
+      Expect_All_As_Text(std::string("1.").append(kept - 1, '0').append(end), "3", limit);
     }
     for (const char* divisor : {"1", "2", "3", "7", "8", "9", "10", "20", "64", "99", "0.5",
                                 "0.001", "0.1", "1000", "123456789", "999999999999999999",
                                 "1000000000000000000", "100000000000000001", "31415.926535"}) {
       for (const char* dividend : {"1", "2", "4", "10", "20", "100", "0.01", "99", "1000000007"}) {
         Expect_All_As_Text(dividend, divisor, limit);
-        Expect_All_As_Text(std::string(dividend) + zeros, divisor, limit);
-        Expect_All_As_Text(std::string(dividend) + nines, divisor, limit);
-        Expect_All_As_Text("0." + zeros + dividend + nines + nines + "1", divisor, limit);
+        for (const std::string& tail : {zeros, nines, zeros + "1"}) {
+          std::string text = dividend;
+          text += tail;
+          Expect_All_As_Text(text, divisor, limit);
+          Expect_All_As_Text(far_below_1 + text, divisor, limit);
+        }
       }
     }
   }
