@@ -18,6 +18,14 @@ Parameters Compared_By_Value() {
   return {By_Value("number1", first_number), By_Value("number2", second_number)};
 }
 
+// Named, since in a list they would look like two sentences each.
+constexpr Sentence root_tokens =
+    "\"DIV/0!\", without a #, for a degree of 0. \"#NUM!\" for a negative number unless "
+    "the degree is an odd whole number, and where the approach never comes to rest.";
+constexpr Sentence power_tokens =
+    "\"#NUM!\" for a fractional power of a negative number, and for a power with more "
+    "integer digits than a text can hold.";
+
 }  // namespace
 
 std::vector<Method> Sum_Rows() {
@@ -76,9 +84,8 @@ std::vector<Method> Power_Rows() {
                                  "the degree: 2 for the square root, 3 for the cube root; it may "
                                  "be fractional or negative")}),
           {root,
-           {"\"DIV/0!\", without a #, for a degree of 0. \"#NUM!\" for a negative number unless "
-            "the degree is an odd whole number, and where the approach never comes to rest.",
-            no_number_is_num_or_value, token_passes, unread_option_is_value, restricted}}),
+           {root_tokens, no_number_is_num_or_value, token_passes, unread_option_is_value,
+            restricted}}),
       Row<&cls_Quorvex::qvxPOWER>(
           "qvxPOWER", "Power", operators,
           "Raises one number to the power of another number, with up to 32,767 significant digits "
@@ -87,9 +94,8 @@ std::vector<Method> Power_Rows() {
           With_Restriction({Operand_Parameter("number1", "the number to raise"),
                             Operand_Parameter("number2", "the power to raise it to")}),
           {"The power, formatted.",
-           {"\"#NUM!\" for a fractional power of a negative number, and for a power with more "
-            "integer digits than a text can hold.",
-            no_number_is_num_or_value, token_passes, unread_option_is_value, restricted}}),
+           {power_tokens, no_number_is_num_or_value, token_passes, unread_option_is_value,
+            restricted}}),
   };
 }
 
