@@ -212,10 +212,11 @@ Outcome Calculate_Arguments(Session& session, const std::vector<std::string>& fo
   const Outcome outcome = Calculate_All(session, formulas);
   const std::string& first = formulas.front();
   if (outcome == Outcome::wrong_usage && !first.empty() &&
-      std::all_of(first.begin(), first.end(), Is_Letter))
+      std::all_of(first.begin(), first.end(), Is_Letter)) {
     session.hint(
         "The commands are sheet, functions, batch, settings and about; \"quorvex --help\" tells "
         "more.");
+  }
   return outcome;
 }
 
@@ -239,9 +240,10 @@ Outcome Run_Command(Session& session, const std::shared_ptr<Call_Guard>& guard, 
   if (commands.empty() && Writes_For_Packages(session, app, arguments)) return Outcome::success;
   if (commands.empty()) return Run_Formulas(session, arguments);
   const std::string command = commands.front()->get_name();
-  if (command == "settings" && arguments.common.digits)
+  if (command == "settings" && arguments.common.digits) {
     throw Usage_Error(
         "--digits is for one run, and \"settings\" for all: give the one or the other");
+  }
   if (!arguments.formulas.empty())
     throw Usage_Error("a formula and the command \"" + command + "\" don't go together");
   if (command == "sheet") return Calculate_Sheet(session, arguments.sheet);

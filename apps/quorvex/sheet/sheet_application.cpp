@@ -128,9 +128,10 @@ class Sheet_Workbook final : public Host_Workbook {
 
   std::unique_ptr<Host_Items<Host_Name>> Names() override {
     std::vector<std::shared_ptr<Host_Name>> items;
-    for (const auto& sheet : book_->worksheets())
+    for (const auto& sheet : book_->worksheets()) {
       for (const auto& [capitals, name] : sheet->names())
         items.push_back(std::make_shared<Sheet_Name>(name));
+    }
     return std::make_unique<Listed_Items<Host_Name>>(std::move(items));
   }
 
