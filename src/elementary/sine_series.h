@@ -8,7 +8,7 @@ namespace quorvex {
 // Taylor's series, each step an operation at `maxSD` digits without any guard digits, up to the
 // first term whose leading digit stands behind the decimal place `maxSD`. The argument is a number
 // in any form that can be compared. There is no limit on the count of terms, but every one yields:
-// an argument of a thousand takes about a thousand terms before they get smaller.
+// an argument of a thousand has five hundred terms before they get smaller.
 //
 // Fails with too_complex where a term is 0 or a token, since then no term ends the series.
 

@@ -47,7 +47,8 @@ bool Is_Negative(const Ratio& ratio, const NumberText& quadrant) {
 // What the limit can't tell from 0 is 0.
 NumberText Without_Traces(NumberText value, const Text_Steps& steps) {
   const NumberText threshold = steps.power("10", Number_To_Text(0 - steps.limit));
-  return Is_Greater(threshold, Abs_Function(value)) ? "0" : value;
+  if (Is_Greater(threshold, Abs_Function(value))) value = "0";
+  return value;
 }
 
 NumberText Evaluate(const Ratio& ratio, const NumberText& angle, const Text_Steps& steps) {

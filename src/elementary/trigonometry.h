@@ -24,8 +24,8 @@ NumberText Sin_Function(const HostValue& num, const HostValue& maxSD = Missing);
 /// as *0.0*, give "1".
 HostValue Cos_Function(const HostValue& num, const HostValue& maxSD = Missing);
 
-/// The tangent as text; the number 0 for the text "0". It is 1 where the folded angle is 0 (*0.0*
-/// too), and 1 or -1 for a right angle.
+/// The tangent as text; the number 0 for the text "0". It is 1 where the folded angle is 0 as a
+/// float (*0.0* and 1E-400 too), and 1 or -1 for a right angle.
 HostValue Tan_Function(const HostValue& num, const HostValue& maxSD = Missing);
 
 }  // namespace quorvex

@@ -397,9 +397,10 @@ class QUORVEX_API cls_Quorvex {
   /// (`Default_MaxSD` if missing), so that the last digits carry the rounding of all steps, and
   /// more of them the more turns an angle has. What is below 10 to the minus `maxSD` is "0".
   ///
-  /// The text "0" gives "0", the cosine too; *0.0* gives a cosine and a tangent of 1. The tangent
-  /// of a right angle is 1 or -1. Negative angles whose count of quarter turns, rounded down, is
-  /// even have a tangent of the wrong sign, and where it is a multiple of 4 a sine as well.
+  /// The text "0" gives "0", the cosine too; what else is 0 as a 64-bit float, such as *0.0*, has
+  /// a cosine and a tangent of 1. The tangent of a right angle is 1 or -1. Negative angles whose
+  /// count of quarter turns, rounded down, is even have a tangent of the wrong sign, and where it
+  /// is a multiple of 4 a sine as well.
   ///
   /// Throws `Run_Time_Failure` 13 for an angle that is no number or blank, for a `maxSD` that can't
   /// be read and for one above 32768; 5 for one below -1; 16 for a series that would never end: the
