@@ -24,7 +24,7 @@ class Random_Lists {
     last_ = text;
     if (random_.one_in(8)) return Localized(with_exponent());
     if (random_.one_in(8)) text.insert(random_.below(text.size() + 1), 1, ',');
-    if (random_.one_in(8)) text = in_parentheses(std::move(text));
+    if (random_.one_in(8)) text = in_parentheses(text);
     if (random_.one_in(8)) text = "'" + text + "'";
     return Localized(text);
   }
@@ -36,9 +36,8 @@ class Random_Lists {
     return text + "E" + random_.one_of("+-") + std::to_string(random_.below(60));
   }
 
-  static std::string in_parentheses(std::string text) {
-    if (text.front() == '-') text.erase(0, 1);
-    return "(" + text + ")";
+  static std::string in_parentheses(const std::string& text) {
+    return "(" + text.substr(text.starts_with('-') ? 1 : 0) + ")";
   }
 
   std::string junk() {
