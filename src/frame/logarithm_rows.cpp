@@ -85,7 +85,9 @@ std::vector<Method> Probability_Rows() {
           {"The probability, as text, in E notation if wanted.",
            {"\"#NUM!\" for a negative number, a target above 9273 and more than 32,768 digits. "
             "\"#VALUE!\" for text that is no number and for a truth value given as anything else.",
-            "The call fails for an array and for digits beyond 32 bits."}}),
+            "The call fails for an array, for digits beyond 32 bits or below -1, and for a sum at "
+            "so few "
+            "digits that its count comes to rest."}}),
   };
 }
 
@@ -102,7 +104,10 @@ std::vector<Method> Logarithm_Rows() {
                                   "than the limit as it says. Left out, 10")}),
           {logarithm,
            {logarithm_of_negative,
-            "\"#NUM!\" also where limit and base together exceed 40,051, \"#DIV/0!\" for base 1.",
+            "\"#NUM!\" also for a base that is not above 0, or \"#VALUE!\" where it takes more "
+            "than "
+            "the digits of the limit away; \"#NUM!\" where limit and base together exceed 40,051; "
+            "\"#DIV/0!\" for base 1.",
             logarithm_fails}}),
       Row<&cls_Quorvex::qvxLN>(
           "qvxLN", "Logarithm", math,
@@ -120,7 +125,8 @@ std::vector<Method> Logarithm_Rows() {
           "qvxEXP(1, , 50)", With_Notation({Operand_Parameter("num", "the power to raise e to")}),
           {"The power, as text, in E notation if wanted; of 0 always 1.",
            {"\"#VALUE!\" for any failure: what is no number, an error token included, a power "
-            "above 1,488,522,236, more than 40,041 digits, an option that can't be read."}}),
+            "from about 1,488,522,236 on, more than 40,041 digits, an option that can't be "
+            "read."}}),
   };
 }
 

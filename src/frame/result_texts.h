@@ -112,10 +112,9 @@ inline constexpr Sentence text_unchecked =
     "No token: a result that is no number comes back unchecked.";
 
 inline constexpr Sentence factorial_fails =
-    "The call fails for what is no number, an error token and a blank cell included, and for an "
-    "option that can't be read.";
-inline constexpr Sentence logarithm_of_negative =
-    "\"#NUM!\" for a number or a base that is not above 0.";
+    "The call fails for what is no number, an error token and empty text included, and for an "
+    "option that can't be read. A blank cell is 0.";
+inline constexpr Sentence logarithm_of_negative = "\"#NUM!\" for a number that is not above 0.";
 inline constexpr Sentence logarithm_fails =
     "\"#VALUE!\" for any failure: what is no number, an error token included, a number beyond "
     "64-bit floats, an option that can't be read.";
