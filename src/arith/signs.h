@@ -14,9 +14,9 @@ namespace quorvex {
 /// The worker of `qvxABS`: the number without its sign. Empty text is 0.
 NumberText Abs_Function(std::string_view num, const Format_Arguments& format = {});
 
-/// The worker of `qvxNEG`: the number with a negative sign, whichever it had. This is no change of
-/// sign, and the series that count quadrants by it rely on that: -5 stays -5. Empty text gives
-/// "VALUE!"; without the mark of a token no later step takes it for an error.
+/// The worker of `qvxNEG`: the number with a negative sign, whichever it had: -5 stays -5. The
+/// folding of angles and the signs of their functions rely on that. Empty text gives "VALUE!";
+/// without the mark of a token no later step takes it for an error.
 NumberText Neg_Function(std::string_view num, const Format_Arguments& format = {});
 
 /// The worker of `qvxCHANGESIGN`: the number with the opposite sign. Empty text is 0.

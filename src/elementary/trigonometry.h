@@ -13,9 +13,9 @@ namespace quorvex {
 // and the tangent of the wrong sign: see `Reduce_To_90`.
 //
 // Fails with type_mismatch for an angle that is no number, blank ones among them, for a `maxSD`
-// that can't be read, and for one beyond the digits of pi; with invalid_call for one below -1; with
-// too_complex where a series would never end, such as the sine of *0.0*. The angle "0" is answered
-// before most of that.
+// that can't be read, and for one beyond the digits of pi or of -1, which has none; with
+// invalid_call for one whose nearest whole number is below -1; with too_complex where a series
+// would never end, such as the sine of *0.0*. The angle "0" is answered before most of that.
 
 /// The sine; "0" for the text "0".
 NumberText Sin_Function(const HostValue& num, const HostValue& maxSD = Missing);

@@ -1,4 +1,6 @@
 // The functions of angles, and the workers of them that macros reach.
+#include <utility>
+
 #include "elementary/inverse_trigonometry.h"
 #include "elementary/trigonometry.h"
 #include "frame/cls_Quorvex.h"
@@ -6,6 +8,18 @@
 #include "host/run_time_failure.h"
 
 namespace quorvex {
+namespace {
+
+// Workers give the number 0 for what needs no calculation, and else text.
+template <typename Worker>
+NumberText Text_From(const Worker& worker, const HostValue& num, const HostValue& maxSD) {
+  return With_Memory_Failures([&] {
+    HostValue result = worker(num, maxSD);
+    return result.is_text() ? std::move(result.mutable_text()) : To_Text(result);
+  });
+}
+
+}  // namespace
 
 HostValue cls_Quorvex::Cos_Function(const HostValue& num, const HostValue& maxSD) {
   return With_Memory_Failures([&] { return quorvex::Cos_Function(num, maxSD); });
@@ -32,23 +46,23 @@ NumberText cls_Quorvex::qvxSIN(const HostValue& num, const HostValue& maxSD) {
 }
 
 NumberText cls_Quorvex::qvxCOS(const HostValue& num, const HostValue& maxSD) {
-  return To_Text(Cos_Function(num, maxSD));
+  return Text_From(quorvex::Cos_Function, num, maxSD);
 }
 
 NumberText cls_Quorvex::qvxTAN(const HostValue& num, const HostValue& maxSD) {
-  return To_Text(Tan_Function(num, maxSD));
+  return Text_From(quorvex::Tan_Function, num, maxSD);
 }
 
 NumberText cls_Quorvex::qvxATAN(const HostValue& num, const HostValue& maxSD) {
-  return To_Text(ATan_Function(num, maxSD));
+  return Text_From(quorvex::ATan_Function, num, maxSD);
 }
 
 NumberText cls_Quorvex::qvxASIN(const HostValue& num, const HostValue& maxSD) {
-  return To_Text(ASin_Function(num, maxSD));
+  return Text_From(quorvex::ASin_Function, num, maxSD);
 }
 
 NumberText cls_Quorvex::qvxACOS(const HostValue& num, const HostValue& maxSD) {
-  return To_Text(ACos_Function(num, maxSD));
+  return Text_From(quorvex::ACos_Function, num, maxSD);
 }
 
 }  // namespace quorvex

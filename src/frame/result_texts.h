@@ -92,8 +92,7 @@ inline constexpr Sentence unread_digits_fail =
 
 inline constexpr Sentence angle_fails =
     "No token. The call fails for an angle that is no number, a blank cell included, and for a "
-    "maxSD "
-    "that can't be read or is not from -1 to 32768.";
+    "maxSD that can't be read or is not from 0 to 32768. The text 0 is answered at any.";
 inline constexpr Sentence endless_series_fails =
     "It fails, too, for 0.0 and other zeros than the text 0, whose series would never end.";
 inline constexpr Sentence near_1_fails =

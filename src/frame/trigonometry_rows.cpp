@@ -42,7 +42,7 @@ std::vector<Method> Angle_Worker_Rows() {
           "Returns the arc cosine of a number as qvxACOS does, but the number 0 for 1.",
           "ACos_Function(0.5, 30)", With_Limit(part_of_1),
           {"The angle in radians, not formatted; of 1 the number 0.",
-           {beyond_1, arc_beyond_pi, arc_fails}}),
+           {beyond_1, arc_beyond_pi, arc_fails, beyond_floats}}),
   };
 }
 
@@ -89,7 +89,7 @@ std::vector<Method> Arc_Rows() {
           "Returns the arc cosine of a number, with up to 32,767 significant digits of precision. "
           "The arc cosine is the angle, in radians, whose cosine is the number.",
           "qvxACOS(0.5, 50)", With_Limit(part_of_1),
-          {angle_in_radians, {beyond_1, arc_beyond_pi, arc_fails}}),
+          {angle_in_radians, {beyond_1, arc_beyond_pi, arc_fails, beyond_floats}}),
   };
 }
 
