@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "arith/limb_number.h"
 #include "host/host_value.h"
@@ -20,6 +21,7 @@ class Step_Number {
  public:
   explicit Step_Number(std::string_view text);
   explicit Step_Number(double number);
+  explicit Step_Number(limbs::Number number) : number_(std::move(number)) {}
 
   /// Plain number text with its sign, or the token.
   NumberText text() const;
@@ -30,6 +32,10 @@ class Step_Number {
 
   /// The power of ten of the leading digit: 2 for 123.4, -3 for 0.00123; 0 for 0. Not for tokens.
   std::int64_t leading_power() const;
+
+  /// Whether the number is held in limbs, and if so, these.
+  bool is_in_limbs() const { return !text_; }
+  const limbs::Number& in_limbs() const { return number_; }
 
   /// The opposite number, and the one without its sign. 0 has none.
   Step_Number opposite() const;

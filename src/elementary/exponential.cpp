@@ -9,6 +9,7 @@
 #include "arith/step_number.h"
 #include "elementary/constants.h"
 #include "elementary/logarithm_steps.h"
+#include "elementary/shortened_series.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
@@ -29,18 +30,27 @@ std::int32_t Multiple_Of_Ln2(const NumberText& number, const NumberText& ln2) {
   return To_Int32(std::floor(Text_To_Number(number) / divisor));
 }
 
+constexpr Series_Rule rule{.stride = 1,
+                           .divisor = [](std::uint64_t k) { return k; },
+                           .keeps_power = false,
+                           .ends_by_power = true,
+                           .alternates = false};
+
 // The sum of r^k / k!.
 Step_Number Taylor_Series(const Step_Number& r, std::int32_t limit) {
   const std::int32_t last_factor = 5 * limit;
   Step_Number sum = Sum(Step_Number(1), r, limit);
   Step_Number term = r;
+  const std::int64_t last_power = -std::int64_t{limit} - 1;
+  Shortened_Series shortened(rule, r, limit, last_power, static_cast<std::uint64_t>(last_factor));
   for (std::int32_t k = 2; k <= last_factor; ++k) {
     Yield();
     term.multiply_by(Quotient(r, Step_Number(k), limit), limit);
     sum.add(term, limit);
     // From a term that is 0 or a token on, all are, and change nothing more.
     if (term.is_token() || term.is_zero()) break;
-    if (Ends_Series(term, -std::int64_t{limit} - 1)) break;
+    if (Ends_Series(term, last_power)) break;
+    if (auto rest = shortened.sum_from({term, sum, static_cast<std::uint64_t>(k)})) return *rest;
   }
   return sum;
 }

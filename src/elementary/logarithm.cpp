@@ -13,6 +13,7 @@
 #include "arith/step_number.h"
 #include "elementary/constants.h"
 #include "elementary/logarithm_steps.h"
+#include "elementary/shortened_series.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
@@ -83,13 +84,22 @@ bool Adds_Nothing(const Step_Number& sum, const Step_Number& term, double limit)
   return term.is_negative() && term.leading_power() < sum.leading_power() - kept;
 }
 
+constexpr Series_Rule rule{.stride = 2,
+                           .divisor = [](std::uint64_t k) { return k; },
+                           .keeps_power = true,
+                           .ends_by_power = false,
+                           .alternates = false};
+
 // The sum of t^k / k over the odd k.
 Step_Number Area_Tangent(const Step_Number& t, const Precision& precision) {
   const double limit = precision.limit();
   const Step_Number square = Product(t, t, limit);
   Step_Number power = t;
   Step_Number sum = t;
-  for (std::int32_t k = 3; k <= precision.last_factor(); k += 2) {
+  const std::int32_t last_factor = precision.last_factor();
+  Shortened_Series shortened(rule, square, limit, precision.last_power(),
+                             static_cast<std::uint64_t>(last_factor));
+  for (std::int32_t k = 3; k <= last_factor; k += 2) {
     Yield();
     power.multiply_by(square, limit);
     const Step_Number term = Quotient(power, Step_Number(k), limit);
@@ -98,6 +108,7 @@ Step_Number Area_Tangent(const Step_Number& t, const Precision& precision) {
     if (term.is_token() || term.is_zero()) break;
     // Negative terms would go on to the last factor, since none of them ends the series.
     if (Ends_Series(term, precision.last_power()) || Adds_Nothing(sum, term, limit)) break;
+    if (auto rest = shortened.sum_from({power, sum, static_cast<std::uint64_t>(k)})) return *rest;
   }
   return sum;
 }

@@ -47,6 +47,11 @@ Step_Number Series_Counter::Whole(double number) {
 Series_End::Series_End(double limit)
     : lowest_power_(-std::fabs(To_Number(Number_To_Text(limit)))) {}
 
+std::int64_t Series_End::last_power() const {
+  constexpr double lowest = -1e15;  // of those that can be counted
+  return static_cast<std::int64_t>(std::fmax(lowest_power_, lowest)) - 1;
+}
+
 bool Series_End::is_reached(const Step_Number& term) const {
   Yield();
   if (term.is_token() || term.is_zero()) {

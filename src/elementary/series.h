@@ -1,6 +1,8 @@
 // The counter and the end that the series of all elementary functions share.
 #pragma once
 
+#include <cstdint>
+
 #include "arith/step_number.h"
 
 namespace quorvex {
@@ -13,6 +15,9 @@ class Series_Counter {
 
   /// k becomes k + 2.
   void step();
+
+  /// The count without its fraction, which limits of three digits or more leave it none of.
+  std::uint64_t whole() const { return static_cast<std::uint64_t>(k_); }
 
   // As operations at the limit give them.
   Step_Number value() const { return Whole(k_); }
@@ -36,6 +41,9 @@ class Series_End {
   /// the sum plays no part. Yields. Fails with too_complex for a term that is 0 or a token: so are
   /// all that follow, and none of them would end the series.
   bool is_reached(const Step_Number& term) const;
+
+  /// The highest power of ten whose terms end a series, for limits that are whole numbers.
+  std::int64_t last_power() const;
 
  private:
   double lowest_power_;

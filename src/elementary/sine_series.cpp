@@ -1,10 +1,12 @@
 #include "elementary/sine_series.h"
 
+#include <cstdint>
 #include <string_view>
 #include <utility>
 
 #include "arith/do_operation.h"
 #include "elementary/series.h"
+#include "elementary/shortened_series.h"
 #include "host/conversions.h"
 
 namespace quorvex {
@@ -13,6 +15,12 @@ namespace {
 bool Is_Zero_As_Float(const NumberText& x) {
   return To_Number(x) == 0;
 }
+
+constexpr Series_Rule rule{.stride = 2,
+                           .divisor = [](std::uint64_t k) { return k * (k - 1); },
+                           .keeps_power = false,
+                           .ends_by_power = true,
+                           .alternates = true};
 
 // The terms of sine or cosine, by what the first one is and how far the counter has come with it.
 class Sine_Terms {
@@ -26,6 +34,7 @@ class Sine_Terms {
 
   const Step_Number& term() const { return term_; }
   const Series_Counter& k() const { return k_; }
+  Shortened_Series shortened() const { return {rule, square_, limit_, end_.last_power()}; }
   bool is_at_end() const { return end_.is_reached(term_); }
 
   void step() {
@@ -45,10 +54,13 @@ class Sine_Terms {
 
 NumberText Sum_Of(Sine_Terms terms, double limit) {
   Step_Number sum = terms.term();
-  do {
+  Shortened_Series shortened = terms.shortened();
+  for (;;) {
     terms.step();
     sum.add(terms.term(), limit);
-  } while (!terms.is_at_end());
+    if (terms.is_at_end()) break;
+    if (auto rest = shortened.sum_from({terms.term(), sum, terms.k().whole()})) return rest->text();
+  }
   return sum.text();
 }
 
