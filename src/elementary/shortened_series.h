@@ -33,16 +33,20 @@ struct Series_State {
 /// says. The outcome is the sum that exact steps arrive at, to the last digit, or none: where a
 /// digit could turn out otherwise, exact steps have to go on.
 ///
-/// In a chain of exact steps, each rounds to its limit and two digits: terms have many more digits
-/// than matter to the sum, which takes no more of each than its own last place has room for,
-/// rounded. Here all terms are held in units of that place with 64 bits for the fraction. An exact
-/// product differs from that of its factors by less than half a unit of digit limit + 2, a quotient
-/// by less than a unit of digit limit + 1. So with each step a power departs by less than 2 *
-/// 10^-limit of its size from one that is not rounded, and what is cut off here is less than a unit
-/// of 2^-64 for each word, twice, with few for conversions; as each power is at most half the one
-/// before, all that has been cut off adds up to no more than double the most of a step. Where a
-/// term is farther than that from the middle between two units, it rounds to the same unit as the
-/// exact one.
+/// In a chain of exact steps, terms keep as many significant digits as the sum, and so many more
+/// places than the sum has room for. Here all are held in units of the sum's last place, with 64
+/// bits for the fraction. The bound of what a term can differ by has two parts.
+///
+/// - An exact step rounds a product by at most half a unit of digit limit + 2, and leaves less than
+/// a
+///   unit of digit limit + 1 off a quotient: together less than 2 * 10^-limit of the power's size.
+///   Sizes of powers are known from above, and after n steps n such parts have come together.
+/// - A step here cuts off less than a unit of 2^-64 for each word and five more; the conversions at
+///   the start less than 20. Since each power is at most half the one before, all that powers bring
+///   along is no more than twice that of one step.
+///
+/// A term that is farther than this from the middle between two units rounds as the exact one does,
+/// and one that is as far from the power of ten that ends the series ends it or not as that one.
 class Shortened_Series {
  public:
   static constexpr std::uint64_t endless = std::numeric_limits<std::int64_t>::max();
