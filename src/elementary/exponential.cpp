@@ -10,6 +10,7 @@
 #include "elementary/constants.h"
 #include "elementary/logarithm_steps.h"
 #include "elementary/shortened_series.h"
+#include "elementary/text_steps.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
@@ -85,7 +86,7 @@ NumberText Exp_Function(const HostValue& num, const HostValue& exponential_notat
   return With_Handler(
       [&] {
         const NumberText number = Normal_Form(num);
-        if (Equals(number, "0")) return NumberText("1");
+        if (Is_Equal(number, "0")) return NumberText("1");
         const HostValue digits = Limit_Or_Default(maxSD);
         const std::int32_t limit = To_Int32(To_Number(digits) + guard_digits);
         const bool is_negative = number.front() == '-';

@@ -14,6 +14,7 @@
 #include "elementary/constants.h"
 #include "elementary/logarithm_steps.h"
 #include "elementary/shortened_series.h"
+#include "elementary/text_steps.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
@@ -29,8 +30,8 @@ NumberText Value_Token(const Run_Time_Failure&) {
 
 // The logarithms that are known by a look at the number.
 std::optional<NumberText> Known_Logarithm(const NumberText& num) {
-  if (Equals(num, "1")) return "0";
-  if (Is_At_Most(num, "0")) return NumberText(num_token);
+  if (Is_Equal(num, "1")) return "0";
+  if (Is_At_Least("0", num)) return NumberText(num_token);
   return std::nullopt;
 }
 

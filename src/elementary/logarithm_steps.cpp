@@ -5,22 +5,10 @@
 
 #include "arith/do_operation.h"
 #include "host/conversions.h"
-#include "host/run_time_failure.h"
 #include "text/clean_up_number.h"
-#include "text/compare_numbers.h"
 #include "text/options.h"
 
 namespace quorvex {
-namespace {
-
-bool Truth(const HostValue& answer) {
-  if (answer.is_text()) {
-    throw Run_Time_Failure(Failure_Number::type_mismatch, "What is compared is no number.");
-  }
-  return answer.boolean();
-}
-
-}  // namespace
 
 NumberText Normal_Form(const HostValue& num) {
   std::string scratch;
@@ -29,14 +17,6 @@ NumberText Normal_Form(const HostValue& num) {
 
 HostValue Limit_Or_Default(const HostValue& maxSD) {
   return maxSD.is_missing() ? Default_MaxSD() : maxSD;
-}
-
-bool Equals(const NumberText& num, std::string_view other) {
-  return Truth(Compare_Numbers(num, other, true, false));
-}
-
-bool Is_At_Most(const NumberText& num, std::string_view other) {
-  return Truth(Compare_Numbers(other, num, true, true));
 }
 
 NumberText Finish(NumberText value, const HostValue& exponential_notation, const HostValue& maxSD) {

@@ -13,10 +13,6 @@ NumberText Normal_Form(const HostValue& num);
 /// The limit, the default one where it is missing.
 HostValue Limit_Or_Default(const HostValue& maxSD);
 
-// Comparisons with a number. Fail with type_mismatch where `num` is a token.
-bool Equals(const NumberText& num, std::string_view other);
-bool Is_At_Most(const NumberText& num, std::string_view other);
-
 /// Cuts a value to the limit of the call, in the notation that it asks for. Tokens stay. Fails with
 /// type_mismatch for an option that can't be read.
 NumberText Finish(NumberText value, const HostValue& exponential_notation, const HostValue& maxSD);
