@@ -230,21 +230,16 @@ NumberText Value_Token(const Run_Time_Failure&) {
 
 NumberText Do_Operation(std::int16_t Operation, const HostValue& number1, const HostValue& number2,
                         const Format_Arguments& format, const Operation_Flags& flags) {
-  return With_Handler(
-      [&] {
-        std::string scratch1;
-        std::string scratch2;
-        const std::string_view text1 = Operand_Text(number1, scratch1);
-        const std::string_view text2 = Operand_Text(number2, scratch2);
-        if (const auto token = Token_Of_Operands(text1, text2)) return NumberText(*token);
-        return Operate_On_Text(Operation, text1, text2, Restrictionator(format), flags);
-      },
-      [&](const Run_Time_Failure& failure) {
-        if (flags.lack_of_memory_fails && failure.number() == Failure_Number::out_of_memory) {
-          throw Run_Time_Failure(failure);
-        }
-        return NumberText(value_token);
-      });
+  const auto operate = [&] {
+    std::string scratch1;
+    std::string scratch2;
+    const std::string_view text1 = Operand_Text(number1, scratch1);
+    const std::string_view text2 = Operand_Text(number2, scratch2);
+    if (const auto token = Token_Of_Operands(text1, text2)) return NumberText(*token);
+    return Operate_On_Text(Operation, text1, text2, Restrictionator(format), flags);
+  };
+  return flags.lack_of_memory_fails ? With_Handler_But_For_Memory(operate, Value_Token)
+                                    : With_Handler(operate, Value_Token);
 }
 
 NumberText Intermediate(std::int16_t Operation, std::string_view number1, std::string_view number2,

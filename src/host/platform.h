@@ -181,6 +181,10 @@ inline void Yield() {
 /// How many digits a loop may treat between two calls of `Yield`.
 inline constexpr std::size_t digits_between_yields = std::size_t{1} << 20;
 
+/// The same for cells, list elements and comparisons: few enough for a break to be noticed, and too
+/// many for the asking to show.
+inline constexpr std::size_t steps_between_yields = 64;
+
 /// Fails with out_of_memory where `bytes` more can't be had. A system that promises memory which it
 /// doesn't have would end the whole process when the memory is touched, so a text whose size a few
 /// characters of input decide is asked for here first.

@@ -68,4 +68,14 @@ auto With_Handler(Body&& body, Handler&& handler) -> decltype(body()) {
   }
 }
 
+/// The same, but `out_of_memory` is thrown on as well: for callers to whom the handler's result
+/// would say something about the operand, such as that it is no number.
+template <typename Body, typename Handler>
+auto With_Handler_But_For_Memory(Body&& body, Handler&& handler) -> decltype(body()) {
+  return With_Handler(body, [&](const Run_Time_Failure& failure) {
+    if (failure.number() == Failure_Number::out_of_memory) throw Run_Time_Failure(failure);
+    return handler(failure);
+  });
+}
+
 }  // namespace quorvex

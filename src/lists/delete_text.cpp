@@ -5,23 +5,10 @@
 #include <vector>
 
 #include "host/platform.h"
+#include "lists/text_matching.h"
 
 namespace quorvex {
 namespace {
-
-// For each length of a matched part of the entry, the longest shorter part that ends the same way
-// (D. E. Knuth, J. H. Morris, V. R. Pratt, Fast pattern matching in strings, SIAM J. Comput. 6,
-// 1977).
-std::vector<std::size_t> Shorter_Matches(std::string_view entry) {
-  std::vector<std::size_t> shorter(entry.size() + 1, 0);
-  std::size_t matched = 0;
-  for (std::size_t i = 1; i < entry.size(); ++i) {
-    while (matched > 0 && entry[i] != entry[matched]) matched = shorter[matched];
-    if (entry[i] == entry[matched]) ++matched;
-    shorter[i + 1] = matched;
-  }
-  return shorter;
-}
 
 std::size_t Find_Byte(std::string_view text, char byte, std::size_t from) {
   const std::size_t place = text.find(byte, from);
@@ -35,12 +22,12 @@ std::size_t Find_Byte(std::string_view text, char byte, std::size_t from) {
 class Deletion {
  public:
   Deletion(std::string& text, std::string_view entry)
-      : text_(text), entry_(entry), shorter_(Shorter_Matches(entry)) {}
+      : text_(text), first_(entry.front()), table_(entry) {}
 
-  void run() {
-    std::size_t next = Find_Byte(text_, entry_.front(), 0);
+  // What stands ahead of `next` can't begin the entry.
+  void run(std::size_t next) {
     kept_ = next;
-    if (next == text_.size()) return;
+    Require_Memory(static_cast<double>(text_.size() + 1) * sizeof(Match_Table::Length));
     matches_.assign(text_.size() + 1, 0);
     std::size_t steps = 0;
     while (next < text_.size()) {
@@ -54,32 +41,33 @@ class Deletion {
  private:
   // Moves all that can't begin the entry at once.
   std::size_t keep_block(std::size_t next) {
-    const std::size_t end = Find_Byte(text_, entry_.front(), next);
+    const std::size_t end = Find_Byte(text_, first_, next);
     std::memmove(text_.data() + kept_, text_.data() + next, end - next);
     for (; next < end; ++next) matches_[++kept_] = 0;
     return end;
   }
 
   void put(char byte) {
-    std::size_t matched = matches_[kept_];
-    while (matched > 0 && byte != entry_[matched]) matched = shorter_[matched];
-    if (byte == entry_[matched]) ++matched;
+    const Match_Table::Length matched = table_.after(matches_[kept_], byte);
     text_[kept_++] = byte;
     matches_[kept_] = matched;
-    if (matched == entry_.size()) kept_ -= entry_.size();
+    if (matched == table_.entry_size()) kept_ -= matched;
   }
 
   std::string& text_;
-  std::string_view entry_;
-  std::vector<std::size_t> shorter_;
-  std::vector<std::size_t> matches_;  // how much of the entry ends at each height of the stack
+  char first_;
+  Match_Table table_;
+  std::vector<Match_Table::Length>
+      matches_;  // how much of the entry ends at each height of the stack
   std::size_t kept_ = 0;
 };
 
 }  // namespace
 
 void Delete_Every(std::string& text, std::string_view entry) {
-  if (entry.size() <= text.size()) Deletion(text, entry).run();
+  if (entry.size() > text.size()) return;
+  const std::size_t next = Find_Byte(text, entry.front(), 0);
+  if (next < text.size()) Deletion(text, entry).run(next);
 }
 
 }  // namespace quorvex

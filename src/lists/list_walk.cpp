@@ -15,11 +15,8 @@ namespace {
 
 using Kind = HostValue::Kind;
 
-// Short enough for a break to be noticed, and too long for the asking to show.
-constexpr std::size_t elements_between_yields = 64;
-
 void Yield_At(std::size_t element) {
-  if (element % elements_between_yields == 0) Yield();
+  if (element % steps_between_yields == 0) Yield();
 }
 
 template <typename Visit>

@@ -1,14 +1,13 @@
 #include "lists/max_min_function.h"
 
 #include <compare>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "lists/list_result.h"
 #include "lists/list_walk.h"
-#include "text/compare_numbers.h"
+#include "text/comparable_number.h"
 
 namespace quorvex {
 namespace {
@@ -21,15 +20,14 @@ class Best {
   void offer(std::string_view element) {
     if (!taken_) {
       take(element);
-      comparable_ = Read_For_Comparison(text_, number_);
+      comparable_ = number_.read(text_);
       return;
     }
-    std::optional<Operand> number;
-    if (!comparable_ || !Read_For_Comparison(element, number)) return;
-    const auto order = Compare_Values(*number, *number_);
+    if (!comparable_ || !other_.read(element)) return;
+    const auto order = other_ <=> number_;
     if (extreme_ == Extreme::greatest ? std::is_lteq(order) : std::is_gteq(order)) return;
     take(element);
-    Read_For_Comparison(text_, number_);
+    number_.read(text_);
   }
 
   NumberText text() && { return std::move(text_); }
@@ -44,7 +42,8 @@ class Best {
   bool taken_ = false;
   bool comparable_ = false;
   NumberText text_;
-  std::optional<Operand> number_;  // looks into the text
+  Comparable_Number number_;  // looks into the text
+  Comparable_Number other_;
 };
 
 }  // namespace

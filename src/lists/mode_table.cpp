@@ -2,39 +2,35 @@
 
 #include <algorithm>
 #include <numeric>
-#include <optional>
 #include <utility>
 
 #include "host/platform.h"
 #include "lists/position_tree.h"
-#include "text/compare_numbers.h"
-#include "text/digit_runs.h"
-#include "text/operand.h"
-#include "text/recognition.h"
+#include "text/comparable_number.h"
 
 namespace quorvex {
 namespace {
 
 // A text that is the same for equal numbers, and for no others.
-void Write_Value(const Operand& number, std::string& text) {
-  const Decimal_Parts& parts = number.parts();
+void Write_Value(const Comparable_Number& number, std::string& text) {
   text.clear();
-  if (Is_Zero(parts)) return;
-  if (!number.positive()) text += '-';
-  text += parts.integer.substr(Count_Leading_Zeros(parts.integer));
-  text += '.';
-  text += parts.fraction.substr(0, parts.fraction.size() - Count_Trailing_Zeros(parts.fraction));
+  if (number.sign() == 0) return;
+  if (number.sign() < 0) text += '-';
+  text += number.first_digits();
+  text += number.more_digits();
+  text += 'E';
+  text += std::to_string(number.power());
 }
 
 }  // namespace
 
 void Mode_Table::add(std::string_view element) {
-  std::optional<Operand> number;
-  if (!Read_For_Comparison(element, number)) {
-    if (Is_Number_Text(element)) columns_.push_back({NumberText(element)});
+  Comparable_Number number;
+  if (!number.read(element)) {
+    if (number.is_number()) columns_.push_back({NumberText(element)});
     return;
   }
-  Write_Value(*number, value_);
+  Write_Value(number, value_);
   if (const auto found = places_.find(std::string_view(value_)); found != places_.end()) {
     ++columns_[found->second].count;
     return;

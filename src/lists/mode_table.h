@@ -22,7 +22,7 @@ class Mode_Table {
   };
 
   /// Counts an element; text that is no number is passed over. A number that can't be compared
-  /// equals no other.
+  /// equals no other. Fails with out_of_memory for a number that has no room.
   void add(std::string_view element);
 
   const std::vector<Column>& columns() const { return columns_; }

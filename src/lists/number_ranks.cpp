@@ -4,47 +4,42 @@
 #include <array>
 #include <compare>
 #include <cstdint>
-#include <optional>
 
 #include "host/platform.h"
-#include "text/compare_numbers.h"
+#include "text/comparable_number.h"
 #include "text/digit_words.h"
-#include "text/operand.h"
-#include "text/recognition.h"
 
 namespace quorvex {
 namespace {
 
-constexpr std::size_t steps_between_yields = 64;
-
-// A number as far as it decides most comparisons: how many integer digits it has, and its first
-// digits. Both are turned round below zero.
+// A number as far as it decides most comparisons: its sign and size in one, and its first digits.
+// All are turned round below zero.
 struct Sort_Key {
   std::int64_t size;
   std::uint64_t first_digits;
   std::uint64_t next_digits;
-  const Operand* number;
+  const Comparable_Number* number;
   std::size_t text;
 };
 
-// The digits from the first one of the integer part, or from the separator, on.
-std::array<char, 2 * digit_words::size> Leading_Digits(std::string_view integer,
-                                                       std::string_view fraction) {
+// Beyond all powers of ten that numbers reach.
+constexpr std::int64_t far_above_powers = std::int64_t{1} << 62;
+
+std::array<char, 2 * digit_words::size> Leading_Digits(const Comparable_Number& number) {
   std::array<char, 2 * digit_words::size> digits{};
   digits.fill('0');
-  const std::size_t whole = integer.copy(digits.data(), digits.size());
-  fraction.copy(digits.data() + whole, digits.size() - whole);
+  const std::size_t first = number.first_digits().copy(digits.data(), digits.size());
+  number.more_digits().copy(digits.data() + first, digits.size() - first);
   return digits;
 }
 
-Sort_Key Key_Of(const Operand& number, std::size_t text) {
-  std::string_view integer = number.parts().integer;
-  integer.remove_prefix(std::min(integer.find_first_not_of('0'), integer.size()));
-  const auto digits = Leading_Digits(integer, number.parts().fraction);
-  Sort_Key key{static_cast<std::int64_t>(integer.size()), digit_words::Load(digits.data()),
+Sort_Key Key_Of(const Comparable_Number& number, std::size_t text) {
+  if (number.sign() == 0) return {0, 0, 0, &number, text};
+  const auto digits = Leading_Digits(number);
+  Sort_Key key{far_above_powers + number.power(), digit_words::Load(digits.data()),
                digit_words::Load(digits.data() + digit_words::size), &number, text};
-  if (!number.positive() && !Is_Zero(number.parts())) {
-    key.size = -1 - key.size;
+  if (number.sign() < 0) {
+    key.size = -key.size;
     key.first_digits = ~key.first_digits;
     key.next_digits = ~key.next_digits;
   }
@@ -55,7 +50,7 @@ std::strong_ordering Compare_Keys(const Sort_Key& a, const Sort_Key& b) {
   if (a.size != b.size) return a.size <=> b.size;
   if (a.first_digits != b.first_digits) return a.first_digits <=> b.first_digits;
   if (a.next_digits != b.next_digits) return a.next_digits <=> b.next_digits;
-  return Compare_Values(*a.number, *b.number);
+  return *a.number <=> *b.number;
 }
 
 void Sort_Keys(std::vector<Sort_Key>& keys) {
@@ -71,14 +66,14 @@ void Sort_Keys(std::vector<Sort_Key>& keys) {
 std::vector<std::size_t> Ranks_Of(const std::vector<std::string_view>& texts,
                                   Sort_Direction direction) {
   std::vector<std::size_t> ranks(texts.size(), no_number_rank);
-  std::vector<std::optional<Operand>> numbers(texts.size());
+  std::vector<Comparable_Number> numbers(texts.size());
   std::vector<Sort_Key> keys;
   keys.reserve(texts.size());
   for (std::size_t i = 0; i < texts.size(); ++i) {
     if (i % steps_between_yields == 0) Yield();
-    if (Read_For_Comparison(texts[i], numbers[i])) {
-      keys.push_back(Key_Of(*numbers[i], i));
-    } else if (Is_Number_Text(texts[i])) {
+    if (numbers[i].read(texts[i])) {
+      keys.push_back(Key_Of(numbers[i], i));
+    } else if (numbers[i].is_number()) {
       ranks[i] = uncompared_rank;
     }
   }

@@ -16,7 +16,8 @@ inline constexpr std::size_t no_number_rank = std::numeric_limits<std::size_t>::
 inline constexpr std::size_t uncompared_rank = no_number_rank - 1;
 
 /// The rank of each text, 0 for what a sort in that direction puts first. Equal numbers have the
-/// same rank, whatever their spelling. Each text is read once.
+/// same rank, whatever their spelling. Each text is read once. Fails with out_of_memory for a
+/// number that has no room.
 std::vector<std::size_t> Ranks_Of(const std::vector<std::string_view>& texts,
                                   Sort_Direction direction);
 

@@ -1,14 +1,13 @@
 #include "lists/rank_function.h"
 
 #include <compare>
-#include <optional>
 #include <string>
 
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "lists/number_block.h"
 #include "lists/sort_numbers.h"
-#include "text/compare_numbers.h"
+#include "text/comparable_number.h"
 #include "text/recognition.h"
 
 namespace quorvex {
@@ -17,18 +16,16 @@ namespace {
 // Whether cells equal one number, which is read once. What can't be compared equals nothing.
 class Equality {
  public:
-  explicit Equality(std::string_view num) { comparable_ = Read_For_Comparison(num, number_); }
+  explicit Equality(std::string_view num) : comparable_(number_.read(num)) {}
 
   bool holds(const HostValue& cell) {
-    if (!comparable_) return false;
-    std::optional<Operand> other;
-    return Read_For_Comparison(Text_Of(cell, scratch_), other) &&
-           std::is_eq(Compare_Values(*other, *number_));
+    return comparable_ && other_.read(Text_Of(cell, scratch_)) && std::is_eq(other_ <=> number_);
   }
 
  private:
-  std::optional<Operand> number_;
-  bool comparable_ = false;
+  Comparable_Number number_;
+  bool comparable_;
+  Comparable_Number other_;
   std::string scratch_;
 };
 

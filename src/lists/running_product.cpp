@@ -38,13 +38,9 @@ Whole_Number Whole(const Decimal_Parts& parts) {
 
 void Running_Product::multiply(std::string_view element, double msd) {
   std::optional<Operand> operand;
-  const bool is_number = With_Handler([&] { return operand.emplace(element).is_number(); },
-                                      [](const Run_Time_Failure& failure) {
-                                        if (failure.number() == Failure_Number::out_of_memory) {
-                                          throw Run_Time_Failure(failure);
-                                        }
-                                        return false;
-                                      });
+  const bool is_number =
+      With_Handler_But_For_Memory([&] { return operand.emplace(element).is_number(); },
+                                  [](const Run_Time_Failure&) { return false; });
   if (!is_number || zero_) return;
   Whole_Number factor = Whole(operand->parts());
   if (factor.digits.empty()) {

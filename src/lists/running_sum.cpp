@@ -29,14 +29,13 @@ std::size_t Digits_Never_Cut(double msd) {
 bool Running_Sum::add(std::string_view element, double msd) {
   if (in_chain_) return add_in_chain(element, msd);
   bool is_number = false;
-  const bool was_in_place = With_Handler(
+  const bool was_in_place = With_Handler_But_For_Memory(
       [&] {
         const Operand operand(element);
         is_number = operand.is_number();
         return !is_number || add_in_place(operand, msd);
       },
-      [&](const Run_Time_Failure& failure) {
-        if (failure.number() == Failure_Number::out_of_memory) throw Run_Time_Failure(failure);
+      [&](const Run_Time_Failure&) {
         is_number = false;
         return true;
       });

@@ -11,8 +11,6 @@
 namespace quorvex {
 namespace {
 
-constexpr std::size_t steps_between_yields = 64;
-
 std::vector<std::size_t> Compared_Only(std::vector<std::size_t> ranks) {
   for (std::size_t& rank : ranks) {
     if (rank >= uncompared_rank) rank = Position_Tree::nothing;

@@ -11,9 +11,10 @@ namespace quorvex {
 Array Sort_Function(const HostValue& numlist, const Sort_Options& options) {
   const auto direction =
       options.descending ? Sort_Direction::descending : Sort_Direction::ascending;
-  Array sorted = options.left_to_right ? Sort_Numbers_By_Row(Block_Of(numlist), direction)
-                                       : Sort_Numbers(Block_Of(numlist), direction);
-  const Block_Size size = Size_Of_Block(options.rows, options.columns, sorted);
+  Array block = Block_Of(numlist);
+  const Block_Size size = Size_Of_Block(options.rows, options.columns, block);
+  Array sorted = options.left_to_right ? Sort_Numbers_By_Row(std::move(block), direction)
+                                       : Sort_Numbers(std::move(block), direction);
   return options.fit_to_array
              ? Fit_Sort_Result(sorted, size, options.blank_text, options.left_to_right)
              : Copy_Sort_Result(std::move(sorted), size, options.blank_text);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <vector>
 
 #include "host/host_value.h"
 #include "lists/number_ranks.h"
@@ -11,7 +12,7 @@ namespace quorvex {
 /// Sorts the cells of an array, column by column, as a selection sort with swaps arranges them
 /// (`Selection_Order`): numbers first in either direction, each with its own spelling. Blanks come
 /// out as empty text; but where there are no numbers at all, a blank first cell stays blank. Fails
-/// with type_mismatch for a cell without text, such as an array.
+/// with type_mismatch for a cell without text, such as an array, and as `Ranks_Of` does.
 Array Sort_Numbers(Array numbers, Sort_Direction direction);
 
 /// The same row by row.

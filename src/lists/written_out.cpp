@@ -27,6 +27,8 @@ void Write_Out(NumberText& text) {
   cleaned = Expand_Exponent(cleaned);
   const bool positive = Is_Positive(cleaned);
   text = Strip_Sign(cleaned);
+  // Where only one parenthesis stands, the digit behind it may have gone with the sign.
+  if (text.empty() || text == Decimal_Separator()) text = "0";
   if (!positive) text.insert(0, 1, '-');
 }
 

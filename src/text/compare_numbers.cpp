@@ -18,14 +18,6 @@ bool Is_Comparable(const Operand& operand, std::string_view text) {
   return operand.is_number() && (operand.was_plain() || !Has_Two_Separators(text));
 }
 
-}  // namespace
-
-bool Read_For_Comparison(std::string_view text, std::optional<Operand>& number) {
-  if (Is_Lone_Mark(text)) return false;
-  return With_Handler([&] { return Is_Comparable(number.emplace(text), text); },
-                      [](const Run_Time_Failure&) { return false; });
-}
-
 std::strong_ordering Compare_Values(const Operand& number1, const Operand& number2) {
   const Decimal_Parts& parts1 = number1.parts();
   const Decimal_Parts& parts2 = number2.parts();
@@ -33,6 +25,17 @@ std::strong_ordering Compare_Values(const Operand& number1, const Operand& numbe
   const bool positive2 = number2.positive() || Is_Zero(parts2);
   if (positive1 != positive2) return positive1 <=> positive2;
   return positive1 ? Compare_Magnitudes(parts1, parts2) : Compare_Magnitudes(parts2, parts1);
+}
+
+}  // namespace
+
+bool Read_For_Comparison(std::string_view text, std::optional<Operand>& number,
+                         Exponent_Zeros zeros) {
+  number.reset();
+  if (Is_Lone_Mark(text)) return false;
+  return With_Handler_But_For_Memory(
+      [&] { return Is_Comparable(number.emplace(text, zeros), text); },
+      [](const Run_Time_Failure&) { return false; });
 }
 
 HostValue Compare_Numbers(std::string_view number1, std::string_view number2, bool testEqual,

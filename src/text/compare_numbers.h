@@ -1,7 +1,6 @@
 // The order of two numbers held as text, at any length.
 #pragma once
 
-#include <compare>
 #include <optional>
 #include <string_view>
 
@@ -16,12 +15,11 @@ namespace quorvex {
 HostValue Compare_Numbers(std::string_view number1, std::string_view number2, bool testEqual,
                           bool testGreater);
 
-/// Reads a number into `number` for comparisons with many others; `text` must outlive it. False for
-/// what `Compare_Numbers` takes for no number, a token among it.
-bool Read_For_Comparison(std::string_view text, std::optional<Operand>& number);
-
-/// The order of two numbers by value.
-std::strong_ordering Compare_Values(const Operand& number1, const Operand& number2);
+/// Reads a number into `number`, which looks into `text`. False for what `Compare_Numbers` takes
+/// for no number, a token among it. Fails with out_of_memory for one that has no room, which is a
+/// number all the same.
+bool Read_For_Comparison(std::string_view text, std::optional<Operand>& number,
+                         Exponent_Zeros zeros = Exponent_Zeros::all);
 
 /// Compares two digit strings of like scale, without leading zeros: the longer is the greater, and
 /// at equal lengths the first different character decides.

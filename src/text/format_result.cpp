@@ -49,11 +49,17 @@ void Set_Separator(std::string& digits, double position) {
   digits.insert(digits.size() - places, Decimal_Separator());
 }
 
+// A separator at the end is left of no digits: the text counts as having none, and the separator as
+// one more digit.
 void Group_Integer_Digits(std::string& text) {
-  const std::size_t separator = text.find(Decimal_Separator());
-  const auto integer = std::string_view(text).substr(0, separator);
+  const std::string& separator = Decimal_Separator();
+  const std::size_t place = text.find(separator);
+  std::string integer = text.substr(0, place);
+  const bool is_last = place != std::string::npos && place + separator.size() == text.size();
+  if (is_last) integer += '.';
   std::string grouped = Insert_Thousands_Separators(integer);
-  if (separator != std::string::npos) grouped.append(text, separator);
+  if (is_last) grouped.pop_back();
+  if (place != std::string::npos) grouped.append(text, place);
   text = std::move(grouped);
 }
 

@@ -65,8 +65,13 @@ void Operand::Clean_Up(std::string_view text, Exponent_Zeros zeros) {
   Remove_Currency_Symbol(cleaned_);
   Remove_Thousands_Separators(cleaned_);
   Exponent_Form form = Read_Exponent(cleaned_);
-  cleaned_ = zeros == Exponent_Zeros::all ? Write_Decimal(std::move(form))
-                                          : Write_Decimal(std::move(form), 1);
+  if (zeros == Exponent_Zeros::counted && form.has_exponent && !Has_Non_Digit(form.mantissa)) {
+    power_of_ten_ = form.exponent_is_positive ? form.exponent : -std::int64_t{form.exponent};
+    power_of_ten_ -= static_cast<std::int64_t>(form.mantissa.size()) - 1;
+    form.has_exponent = false;
+  }
+  cleaned_ = zeros == Exponent_Zeros::one ? Write_Decimal(std::move(form), 1)
+                                          : Write_Decimal(std::move(form));
   positive_ = Is_Positive(cleaned_);
   magnitude_ = Strip_Sign(cleaned_);
   parts_ = {};

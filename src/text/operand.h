@@ -3,6 +3,7 @@
 
 #include <compare>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -24,9 +25,10 @@ std::strong_ordering Compare_Magnitudes(const Decimal_Parts& a, const Decimal_Pa
 /// True if all digits are zeros, or there are none.
 bool Is_Zero(const Decimal_Parts& parts);
 
-/// How exponents are written out: with all their zeros, or with one that stands for any number of
-/// them, which is enough to tell a number from other text.
-enum class Exponent_Zeros { all, one };
+/// How exponents are written out: with all their zeros; with one that stands for any number of
+/// them, which is enough to tell a number from other text; or not at all, as a power of ten beside
+/// the digits of the mantissa. A mantissa with marks among its digits is always written out.
+enum class Exponent_Zeros { all, one, counted };
 
 /// Number text after clean-up: quote marks, currency symbol and thousands separators taken out, E
 /// notation written as decimals, the sign set apart.
@@ -51,6 +53,9 @@ class Operand {
   /// The digits of a number; of other text they mean nothing.
   const Decimal_Parts& parts() const { return parts_; }
 
+  /// What the parts are to be multiplied by; 0 unless the zeros of an exponent are counted.
+  std::int64_t power_of_ten() const { return power_of_ten_; }
+
   /// True if the text needed no clean-up.
   bool was_plain() const { return was_plain_; }
 
@@ -60,6 +65,7 @@ class Operand {
   std::string cleaned_;  // where clean-up had to write
   std::string_view magnitude_;
   Decimal_Parts parts_;
+  std::int64_t power_of_ten_ = 0;
   bool positive_ = true;
   bool is_number_ = false;
   bool was_plain_ = false;

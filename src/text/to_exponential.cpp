@@ -1,7 +1,9 @@
 #include "text/to_exponential.h"
 
+#include <cstdint>
 #include <string>
 
+#include "host/utf8.h"
 #include "text/digit_runs.h"
 #include "text/primitives.h"
 
@@ -21,7 +23,8 @@ NumberText Small_Number(std::string_view fraction, const std::string& separator)
 }
 
 // ddd.ddd: the separator moves behind the first digit. Zeros at the end go, but for one that
-// stands right behind the separator.
+// stands right behind the separator. Where the text begins with the separator, or is empty, the
+// separator that stands first then is its first character, too.
 NumberText Large_Number(std::string_view text, const std::string& separator) {
   const std::size_t place = text.find(separator);
   const std::string_view integer = text.substr(0, place);
@@ -29,14 +32,18 @@ NumberText Large_Number(std::string_view text, const std::string& separator) {
       place == std::string_view::npos ? std::string_view() : text.substr(place + separator.size());
   NumberText mantissa;
   mantissa.reserve(text.size() + separator.size() + 16);
-  mantissa.append(integer.substr(0, 1)).append(separator);
+  const std::string_view first = integer.empty()
+                                     ? std::string_view(separator)
+                                     : integer.substr(0, First_Character_Bytes(integer));
+  mantissa.append(first).append(separator);
   const std::size_t least = mantissa.size() + 1;
-  if (!integer.empty()) mantissa.append(integer.substr(1));
+  if (!integer.empty()) mantissa.append(integer.substr(first.size()));
   mantissa.append(fraction);
   std::size_t end = mantissa.size() - Count_Trailing_Zeros(mantissa);
   if (end < least && mantissa.size() >= least) end = least;
   mantissa.resize(end);
-  return mantissa.append("E+").append(std::to_string(integer.size() - (integer.empty() ? 0 : 1)));
+  const std::int64_t exponent = static_cast<std::int64_t>(integer.size()) - 1;
+  return mantissa.append("E+").append(std::to_string(exponent));
 }
 
 }  // namespace
@@ -44,7 +51,7 @@ NumberText Large_Number(std::string_view text, const std::string& separator) {
 NumberText To_Exponential(std::string_view text) {
   const std::string& separator = Decimal_Separator();
   const std::string_view digits = text.starts_with('-') ? text.substr(1) : text;
-  if (!digits.empty() && digits.substr(1).starts_with(separator)) {
+  if (!digits.empty() && digits.substr(First_Character_Bytes(digits)).starts_with(separator)) {
     if (digits.front() != '0') return NumberText(text);
     return Small_Number(digits.substr(1 + separator.size()), separator);
   }

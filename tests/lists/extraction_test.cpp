@@ -53,6 +53,12 @@ TEST(DeleteEvery, IsLinearWhereEveryDeletionBringsAnother) {
   EXPECT_EQ(text.size(), count);
 }
 
+TEST(DeleteEvery, AsksForItsMemory) {
+  const Memory_Guard poor(0);
+  std::string text(20'000'000, '1');
+  EXPECT_EQ(Failure_Of([&] { Delete_Every(text, "12"); }), Failure_Number::out_of_memory);
+}
+
 TEST(NumberFilter, KeepsWhatItsFlagsSay) {
   In_Each_Locale([] {
     for (unsigned seed = 0; seed < 4000; ++seed) {
@@ -90,6 +96,49 @@ TEST(Extraction, AgreesWithTheLoops) {
     ASSERT_EQ(engine.qvxEXTRACTNUM(list), shown(slow::Extracted(source, entries, true, ".")))
         << seed;
   }
+}
+
+// Entries so long that they are no longer compared at each place, and that nearly stand at many.
+TEST(Extraction, FindsLongEntries) {
+  for (unsigned seed = 0; seed < 150; ++seed) {
+    Random_Numbers random(seed);
+    const auto nearly_alike = [&](std::size_t length) {
+      std::string text(length, 'a');
+      for (std::size_t i = 1 + random.below(3); i > 0; --i) {
+        text.replace(random.below(length), 1, random.one_in(2) ? "b" : "\u00e9");
+      }
+      return text;
+    };
+    std::string source = nearly_alike(200 + random.below(200));
+    std::vector<std::string> entries;
+    for (int i = 0; i < 3; ++i) {
+      const std::size_t length = 60 + random.below(100);
+      std::string entry = random.one_in(2) ? nearly_alike(length) : std::string(length, 'a');
+      if (random.one_in(2)) source += entry + entry.substr(random.below(length));
+      entries.push_back(std::move(entry));
+    }
+    List list = {source};
+    list.insert(list.end(), entries.begin(), entries.end());
+    cls_Quorvex engine;
+    ASSERT_EQ(engine.qvxEXTRACT(list), slow::Extracted(source, entries, false, ".")) << seed;
+  }
+}
+
+// Read through at each place, the entry would take hours.
+TEST(Extraction, IsLinearWhereALongEntryNearlyStandsEverywhere) {
+  const std::string entry = std::string(2'000'000, '1') + "2";
+  List list = {std::string(8'000'000, '1'), entry};
+  cls_Quorvex engine;
+  EXPECT_EQ(engine.qvxEXTRACT(list), "");
+  list.front() = std::string(8'000'000, '1') + "23";
+  EXPECT_EQ(engine.qvxEXTRACT(list), entry);
+}
+
+TEST(Extraction, AsksForTheMemoryOfLongEntries) {
+  cls_Quorvex engine;
+  const List list = {std::string(20'000'001, '1'), std::string(20'000'000, '1') + "2"};
+  const Memory_Guard poor(0);
+  EXPECT_EQ(Failure_Of([&] { engine.qvxEXTRACT(list); }), Failure_Number::out_of_memory);
 }
 
 TEST(Extraction, AsksForTheMemoryThatOverlapsNeed) {

@@ -175,6 +175,40 @@ TEST(SortResult, AsksForTheMemoryOfTheCallersBlock) {
       Failure_Number::out_of_memory);
 }
 
+TEST(Order, HoldsHugeNumbersAtOnce) {
+  const Memory_Guard poor(0);
+  cls_Quorvex engine;
+  const HostValue row =
+      Array_Of(4, {"3E+300000000", "-2E+300000000", "1E+300000000", "0.3E+300000001"});
+  EXPECT_EQ(Shown(engine.qvxSORT(row, false, true).array()),
+            "1,1: 3-2E+300000000|31E+300000000|33E+300000000|30.3E+300000001|");
+  EXPECT_EQ(engine.qvxLARGE(row, "3"), "1E+300000000");
+  EXPECT_EQ(engine.qvxSMALL(row, "1"), "-2E+300000000");
+  EXPECT_EQ(engine.qvxRANK("3.0E+300000000", row, false, true), "1.5");
+}
+
+// Passed over as if it were no number, one that has no room would make the result wrong.
+TEST(Order, FailsWhereANumberHasNoRoom) {
+  const Memory_Guard poor(0);
+  cls_Quorvex engine;
+  const HostValue row = Array_Of(3, {"3", "(5E+300000000", "1"});
+  const auto fails = [](const auto& call) {
+    EXPECT_EQ(Failure_Of(call), Failure_Number::out_of_memory);
+  };
+  fails([&] { engine.qvxSORT(row); });
+  fails([&] { engine.qvxLARGE(row, "1"); });
+  fails([&] { engine.qvxRANK("3", row); });
+  fails([&] { engine.qvxRANK("(5E+300000000", Array_Of(2, {1, 2})); });
+  fails([&] { engine.qvxMEDIAN({row}); });
+  fails([&] { engine.qvxMODE({row}); });
+  fails([&] { engine.qvxMAX({row}); });
+  // These are found, and have no room when they are written out.
+  const HostValue huge = Array_Of(3, {"3E+300000000", "3E+300000000", "1"});
+  fails([&] { engine.qvxMEDIAN({huge}); });
+  fails([&] { engine.qvxMODE({huge}); });
+  fails([&] { engine.qvxMAX({huge}); });
+}
+
 // The functions of places read the sorted block as its bounds say.
 TEST(LargeAndSmall, CountPlacesByTheUpperBounds) {
   cls_Quorvex engine;
