@@ -95,7 +95,7 @@ std::vector<std::string> Declared_Interface() {
   std::string text = File_Text(source / "src/frame/cls_Quorvex.h");
   text = std::regex_replace(text, std::regex("//[^\n]*"), "");
   text = std::regex_replace(text, std::regex("\\s+"), " ");
-  const std::regex declaration("([\\w:]+) (\\w+)\\(([^()]*)\\);");
+  const std::regex declaration("(\\w+) (\\w+)\\(([^()]*)\\);");
   const std::regex parameter("(?:const )?([\\w:]+(?:<\\w+>)?)&? (\\w+)( = [^,]+)?(?:, |$)");
   std::vector<std::string> declared;
   const std::sregex_iterator end;
