@@ -9,6 +9,8 @@
 #include "elementary/sine_series.h"
 #include "elementary/text_steps.h"
 #include "host/conversions.h"
+#include "host/run_time_failure.h"
+#include "text/tokens.h"
 
 namespace quorvex {
 namespace {
@@ -51,8 +53,17 @@ NumberText Without_Traces(NumberText value, const Text_Steps& steps) {
   return value;
 }
 
+NumberText Pi_Of(const Text_Steps& steps) {
+  NumberText pi = To_Text(Pi_Digits(steps.limit));
+  if (Has_Token_Mark(pi)) {
+    throw Run_Time_Failure(Failure_Number::type_mismatch,
+                           "More digits of pi are asked for than are stored.");
+  }
+  return pi;
+}
+
 NumberText Evaluate(const Ratio& ratio, const NumberText& angle, const Text_Steps& steps) {
-  const NumberText pi = To_Text(Pi_Digits(steps.limit));
+  const NumberText pi = Pi_Of(steps);
   const NumberText halfpi = steps.quotient(pi, "2");
   const type_Reduce90 folded = Reduce_To_90(angle, halfpi, steps);
   // Up to an eighth of a turn the series takes the angle, and beyond it what is left to a quarter.

@@ -2,13 +2,18 @@
 #include "host/settings_text.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
+#include <utility>
 
 namespace quorvex {
 
 namespace {
 
 constexpr std::string_view blanks = " \t\r";
+
+/// Some editors put it before the first line.
+constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 
 bool Is_Plain(char c, std::string_view special) {
   return !(c >= '\0' && c < ' ') && c != '\x7F' && c != '%' &&
@@ -69,20 +74,57 @@ std::string_view Take_Line(std::string_view& contents) {
   return line;
 }
 
-/// The value as it is written; nothing if the line isn't that setting.
-std::optional<std::string_view> Written_Value(std::string_view line, const Setting_Name& name) {
+char Lower(char letter) {
+  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
+bool Same_Name(std::string_view a, std::string_view b) {
+  return std::ranges::equal(a, b, {}, Lower, Lower);
+}
+
+/// A line with the three parts of its name, unescaped.
+struct Written_Setting {
+  std::array<std::string, 3> name;
+  std::string_view value;  // as it is written
+};
+
+bool Is_Comment(std::string_view line) {
+  return Trimmed(line).starts_with('#');
+}
+
+std::optional<Written_Setting> Setting_In(std::string_view line) {
   if (line.ends_with('\n')) line.remove_suffix(1);
   const std::size_t equals = line.find('=');
-  if (equals == std::string_view::npos || Trimmed(line).starts_with('#')) return std::nullopt;
+  if (equals == std::string_view::npos || Is_Comment(line)) return std::nullopt;
+  Written_Setting setting;
   std::string_view left = Trimmed(line.substr(0, equals));
-  const std::string_view parts[] = {name.application, name.section, name.key};
   for (std::size_t i = 0; i < 3; ++i) {
     const std::size_t end = i < 2 ? left.find('/') : left.size();
-    if (end == std::string_view::npos || Unescaped(left.substr(0, end)) != parts[i])
-      return std::nullopt;
+    if (end == std::string_view::npos) return std::nullopt;
+    auto part = Unescaped(left.substr(0, end));
+    if (!part || left.substr(0, end).find('/') != std::string_view::npos) return std::nullopt;
+    setting.name[i] = std::move(*part);
     left.remove_prefix(std::min(end + 1, left.size()));
   }
-  return Trimmed(line.substr(equals + 1));
+  setting.value = Trimmed(line.substr(equals + 1));
+  return setting;
+}
+
+/// The value as it is written; nothing if the line isn't that setting.
+std::optional<std::string_view> Written_Value(std::string_view line, const Setting_Name& name) {
+  const auto setting = Setting_In(line);
+  if (!setting || !Same_Name(setting->name[0], name.application) ||
+      !Same_Name(setting->name[1], name.section) || !Same_Name(setting->name[2], name.key))
+    return std::nullopt;
+  return setting->value;
+}
+
+/// Takes off the mark before the first line.
+std::string_view Take_Mark(std::string_view& contents) {
+  const std::size_t length = contents.starts_with(byte_order_mark) ? byte_order_mark.size() : 0;
+  const std::string_view mark = contents.substr(0, length);
+  contents.remove_prefix(length);
+  return mark;
 }
 
 std::string Setting_Line(const Setting_Name& name, std::string_view value) {
@@ -93,17 +135,29 @@ std::string Setting_Line(const Setting_Name& name, std::string_view value) {
 }  // namespace
 
 std::optional<std::string> Find_Setting(std::string_view contents, const Setting_Name& name) {
+  Take_Mark(contents);
   while (!contents.empty()) {
     const auto written = Written_Value(Take_Line(contents), name);
-    if (!written) continue;
-    if (auto value = Unescaped(*written)) return value;
+    if (written) return Unescaped(*written).value_or(std::string(*written));
   }
   return std::nullopt;
 }
 
+bool Holds_No_Setting(std::string_view contents) {
+  Take_Mark(contents);
+  bool has_text = false;
+  while (!contents.empty()) {
+    std::string_view line = Take_Line(contents);
+    if (Setting_In(line)) return false;
+    if (line.ends_with('\n')) line.remove_suffix(1);
+    has_text = has_text || !(Trimmed(line).empty() || Is_Comment(line));
+  }
+  return has_text;
+}
+
 std::string With_Setting(std::string_view contents, const Setting_Name& name,
                          std::string_view value) {
-  std::string result;
+  std::string result(Take_Mark(contents));
   bool set = false;
   while (!contents.empty()) {
     const std::string_view line = Take_Line(contents);

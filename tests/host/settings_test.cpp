@@ -67,14 +67,42 @@ TEST(SettingsText, AnyTextSurvives) {
 TEST(SettingsText, ForeignAndBrokenLinesAreKeptAndHarmNothing) {
   const std::string contents =
       "# a/b/c = comment\n\nno equals sign\na/b = two levels\na/b/c/d = four\na/b/%zz = 1\n"
-      "a/b/c = %4\n  a/b/c=\tfirst \r\na/b/c = second\n\xFF\xFE\nlast/line/here = 7";
+      "  A/b/c=\tfirst \r\na/b/c = second\n\xFF\xFE\nlast/line/here = 7";
   EXPECT_EQ(Find_Setting(contents, {"a", "b", "c"}), "first");
   EXPECT_EQ(Find_Setting(contents, {"last", "line", "here"}), "7");
   EXPECT_EQ(Find_Setting(contents, {"# a", "b", "c"}), std::nullopt);
-  EXPECT_EQ(Find_Setting(contents, {"a", "b", "C"}), std::nullopt);
+  EXPECT_EQ(Find_Setting(contents, {"a", "b/c", "d"}), std::nullopt);
   EXPECT_EQ(With_Setting(contents, {"a", "b", "c"}, "new"),
             "# a/b/c = comment\n\nno equals sign\na/b = two levels\na/b/c/d = four\na/b/%zz = 1\n"
             "a/b/c = new\n\xFF\xFE\nlast/line/here = 7\n");
+}
+
+TEST(SettingsText, AValueThatCannotBeReadCountsAsItIsWritten) {
+  for (const char* value : {"50%", "%4", "%zz", "100 %"})
+    EXPECT_EQ(Find_Setting(std::string("a/b/c = ") + value + "\na/b/c = 7\n", {"a", "b", "c"}),
+              value);
+}
+
+TEST(SettingsText, AMarkBeforeTheFirstLineIsPassedOver) {
+  EXPECT_EQ(Find_Setting("\xEF\xBB\xBF"
+                         "a/b/c = 5\n",
+                         {"a", "b", "c"}),
+            "5");
+  EXPECT_EQ(With_Setting("\xEF\xBB\xBF"
+                         "a/b/c = 5\n",
+                         {"a", "b", "c"}, "6"),
+            "\xEF\xBB\xBF"
+            "a/b/c = 6\n");
+}
+
+TEST(SettingsText, TextWithoutASettingIsTold) {
+  for (const char* text : {"garbage", "50\n", "MaxSD = 50", "a/b/c: 50", "a/b = 1", "a/b/c/d = 1",
+                           "# comment\nx\n", "a/b/%zz = 1"})
+    EXPECT_TRUE(Holds_No_Setting(text)) << text;
+  for (const char* text : {"", "\n \n", "# comment", "x\na/b/c = 1",
+                           "\xEF\xBB\xBF"
+                           "a/b/c = 50%"})
+    EXPECT_FALSE(Holds_No_Setting(text)) << text;
 }
 
 TEST(SettingsFile, IsMadeWhenFirstWrittenAndReadByTheNextProcess) {

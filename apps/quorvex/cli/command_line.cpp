@@ -21,10 +21,12 @@
 #include "cli/function_reference.h"
 #include "cli/manual_page.h"
 #include "cli/prompt.h"
+#include "cli/quiet_face.h"
 #include "cli/session.h"
 #include "cli/settings_command.h"
 #include "cli/sheet_command.h"
 #include "cli/shell_completion.h"
+#include "cli/terminal_face.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "quorvex_version.h"
@@ -194,6 +196,7 @@ Outcome Run_Functions(Session& session, const Arguments& arguments) {
 
 Outcome Run_Batch(Session& session, const std::shared_ptr<Call_Guard>& guard,
                   const Arguments& arguments) {
+  Show_No_Forms();   // answers stand alone on the output
   session.engine();  // tells what is wrong with the settings
   Answerer answerer(guard);
   const Answer_Function answer = [&answerer](std::string& out, std::string_view line) {
@@ -220,7 +223,17 @@ Outcome Calculate_Arguments(Session& session, const std::vector<std::string>& fo
   return outcome;
 }
 
+// Formulas can open forms, which must not get into results that go to a file or another program.
+void Choose_Face(Session& session) {
+  if (::isatty(STDOUT_FILENO) != 0) {
+    Show_Forms(session);
+  } else {
+    Show_No_Forms();
+  }
+}
+
 Outcome Run_Formulas(Session& session, const Arguments& arguments) {
+  Choose_Face(session);
   if (!arguments.formulas.empty()) return Calculate_Arguments(session, arguments.formulas);
   const bool is_dialogue = ::isatty(STDIN_FILENO) != 0 && ::isatty(STDOUT_FILENO) != 0;
   return is_dialogue ? Run_Prompt(session) : Calculate_Input(session);
@@ -246,7 +259,10 @@ Outcome Run_Command(Session& session, const std::shared_ptr<Call_Guard>& guard, 
   }
   if (!arguments.formulas.empty())
     throw Usage_Error("a formula and the command \"" + command + "\" don't go together");
-  if (command == "sheet") return Calculate_Sheet(session, arguments.sheet);
+  if (command == "sheet") {
+    Choose_Face(session);
+    return Calculate_Sheet(session, arguments.sheet);
+  }
   if (command == "functions") return Run_Functions(session, arguments);
   if (command == "settings") return Run_Settings(session, arguments.settings);
   if (command == "about") return Run_About(session);

@@ -36,7 +36,10 @@ Outcome Calculate(Session& session, std::string_view formula, std::string_view p
   const std::string before(place);
   try {
     session.guard().begin_call();
-    return Show(session, Evaluate_Alone(session.engine(), Parse_Formula(formula)));
+    const Evaluation evaluation = Evaluate_Alone(session.engine(), Parse_Formula(formula));
+    const Outcome outcome = Show(session, evaluation.result);
+    if (!evaluation.reason.empty()) session.error(before + evaluation.reason);
+    return outcome;
   } catch (const Syntax_Error& syntax) {
     session.error_at(before + syntax.what(), formula, syntax.position());
     return Outcome::wrong_usage;

@@ -11,6 +11,7 @@
 #include "cli/formulas.h"
 #include "cli/function_reference.h"
 #include "cli/open_sheet.h"
+#include "cli/settings_command.h"
 #include "cli/terminal_face.h"
 #include "formula/literals.h"
 #include "frame/catalogue.h"
@@ -25,9 +26,9 @@ namespace {
 constexpr std::string_view prompt_help =
     "Type a formula, as in a spreadsheet:  qvxADD(\"12345678901234567890.5\", 1.25)\n"
     "  functions    lists all functions\n"
-    "  help NAME    explains one of them\n"
+    "  help NAME    explains one of them; so does functions NAME\n"
     "  sheet FILE   opens a worksheet, a CSV file, and calculates it; sheet alone does so again\n"
-    "  settings     changes the default limit of significant digits\n"
+    "  settings     changes the default limit of significant digits; so does settings max-sd N\n"
     "  about        tells what Quorvex is\n"
     "  quit         leaves; so do exit and Ctrl-D\n"
     "Tab completes names, arrow keys go back to earlier lines, and Ctrl-C ends a calculation.\n";
@@ -91,7 +92,22 @@ void Open(Session& session, std::string_view file, std::unique_ptr<Open_Sheet>& 
   }
 }
 
-void Open_Settings(Session& session, const std::unique_ptr<Open_Sheet>& sheet) {
+// "max-sd" and "max-sd N" do what they do on the command line.
+Settings_Words Words_Of(std::string_view rest) {
+  const std::string_view name = rest.substr(0, rest.find(' '));
+  const std::string_view value = Trimmed(rest.substr(name.size()));
+  Settings_Words words;
+  words.name = name;
+  if (!value.empty()) words.value = value;
+  return words;
+}
+
+void Open_Settings(Session& session, std::string_view rest,
+                   const std::unique_ptr<Open_Sheet>& sheet) {
+  if (!rest.empty()) {
+    Run_Settings(session, Words_Of(rest));
+    return;
+  }
   Show_MaxSD();
   session.output().flush();
   if (sheet != nullptr) sheet->update();
@@ -100,15 +116,15 @@ void Open_Settings(Session& session, const std::unique_ptr<Open_Sheet>& sheet) {
 void Obey_Word(Session& session, std::string_view line, std::unique_ptr<Open_Sheet>& sheet) {
   const std::string_view word = line.substr(0, line.find(' '));
   const std::string_view rest = Trimmed(line.substr(word.size()));
-  if (Same_Word(word, "help") && !rest.empty()) {
+  const bool is_help = Same_Word(word, "help") || word == "?";
+  if ((is_help || Same_Word(word, "functions")) && !rest.empty()) {
     Explain(session, rest);
-  } else if (Same_Word(line, "help") || Same_Word(line, "functions")) {
-    session.output().buffer() +=
-        Same_Word(line, "help") ? std::string(prompt_help) : Function_List();
+  } else if (is_help || Same_Word(word, "functions")) {
+    session.output().buffer() += is_help ? std::string(prompt_help) : Function_List();
   } else if (Same_Word(word, "sheet")) {
     Open(session, rest, sheet);
-  } else if (Same_Word(line, "settings")) {
-    Open_Settings(session, sheet);
+  } else if (Same_Word(word, "settings")) {
+    Open_Settings(session, rest, sheet);
   } else if (Same_Word(line, "about")) {
     session.engine().qvxABOUT();
   } else {
@@ -120,6 +136,8 @@ void Obey_Word(Session& session, std::string_view line, std::unique_ptr<Open_She
 void Obey(Session& session, std::string_view line, std::unique_ptr<Open_Sheet>& sheet) {
   try {
     Obey_Word(session, line, sheet);
+  } catch (const Usage_Error& error) {
+    session.error(error.what(), error.detail());
   } catch (const File_Error& error) {
     session.error(error.what());
   } catch (const Run_Time_Failure& failure) {
@@ -136,8 +154,14 @@ bool Begins_Like(std::string_view name, std::string_view typed) {
   return name.size() >= typed.size() && Same_Word(name.substr(0, typed.size()), typed);
 }
 
-std::vector<std::string> Candidates(std::string_view word, bool is_first, bool is_help) {
+std::vector<std::string> Candidates(std::string_view word, std::string_view before_word) {
+  const bool is_first = before_word.empty();
+  const bool is_help = Same_Word(before_word, "help") || Same_Word(before_word, "functions");
   std::vector<std::string> candidates;
+  if (Same_Word(before_word, "settings")) {
+    if (Begins_Like("max-sd", word)) candidates.emplace_back("max-sd ");
+    return candidates;
+  }
   if (is_first) {
     for (const std::string_view command : commands)
       if (Begins_Like(command, word)) candidates.emplace_back(command);
@@ -158,6 +182,18 @@ std::string Common_Beginning(const std::vector<std::string>& texts) {
   return common;
 }
 
+// What completes the word to the only candidate, or as far as all of them agree.
+Completion Completion_Of(std::string_view word, std::vector<std::string> candidates) {
+  Completion completion;
+  completion.typed = word.size();
+  if (candidates.empty()) return completion;
+  completion.replacement = Common_Beginning(candidates);
+  // Names that differ in their first letters leave the word as it was typed.
+  if (completion.replacement.size() < word.size()) completion.replacement = word;
+  if (candidates.size() > 1) completion.candidates = std::move(candidates);
+  return completion;
+}
+
 }  // namespace
 
 Completion Complete_Word(std::string_view before_cursor) {
@@ -165,16 +201,7 @@ Completion Complete_Word(std::string_view before_cursor) {
   while (begin > 0 && Is_Word_Character(before_cursor[begin - 1])) --begin;
   const std::string_view word = before_cursor.substr(begin);
   const std::string_view before_word = Trimmed(before_cursor.substr(0, begin));
-  Completion completion;
-  completion.typed = word.size();
-  const bool is_help = Same_Word(before_word, "help");
-  completion.candidates = Candidates(word, before_word.empty(), is_help);
-  if (completion.candidates.empty()) return completion;
-  completion.replacement = Common_Beginning(completion.candidates);
-  // Names that differ in their first letters leave the word as it was typed.
-  if (completion.replacement.size() < word.size()) completion.replacement = word;
-  if (completion.candidates.size() == 1) completion.candidates.clear();
-  return completion;
+  return Completion_Of(word, Candidates(word, before_word));
 }
 
 Outcome Run_Prompt(Session& session) {

@@ -1,8 +1,6 @@
 // Results as people read them.
 #include "cli/result_text.h"
 
-#include <algorithm>
-#include <array>
 #include <cstdint>
 #include <sstream>
 #include <string_view>
@@ -56,14 +54,6 @@ void Append_Result_Lines(std::string& out, const Call_Result& result) {
   } else if (const auto* value = std::get_if<HostValue>(&result)) {
     Append_Value(out, *value);
   }
-}
-
-bool Is_Error_Result(const Call_Result& result) {
-  constexpr std::array<std::string_view, 4> tokens = {"#VALUE!", "#NUM!", "#DIV/0!", "#EXPR!"};
-  const auto* value = std::get_if<HostValue>(&result);
-  if (value == nullptr) return false;
-  if (value->kind() == HostValue::Kind::error) return true;
-  return value->is_text() && std::find(tokens.begin(), tokens.end(), value->text()) != tokens.end();
 }
 
 }  // namespace quorvex

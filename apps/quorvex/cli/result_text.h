@@ -12,7 +12,4 @@ namespace quorvex {
 /// line.
 void Append_Result_Lines(std::string& out, const Call_Result& result);
 
-/// True for an error value and for an error token as the whole text.
-bool Is_Error_Result(const Call_Result& result);
-
 }  // namespace quorvex

@@ -39,8 +39,7 @@ Outcome Open_Dialog(Session& session) {
   } catch (const Usage_Error& error) {
     session.error(error.what());  // and the dialog can mend it
   }
-  const auto face = std::make_shared<Terminal_Face>(session);
-  Set_Form_Face(face);
+  const auto face = Show_Forms(session);
   Show_MaxSD();
   return face->has_failed() ? Outcome::wrong_usage : Outcome::success;
 }
@@ -63,9 +62,9 @@ Outcome Run_Settings(Session& session, const Settings_Words& words) {
 }
 
 Outcome Run_About(Session& session) {
-  Set_Form_Face(std::make_shared<Terminal_Face>(session));
+  const auto face = Show_Forms(session);
   session.engine().qvxABOUT();
-  return Outcome::success;
+  return face->has_failed() ? Outcome::wrong_usage : Outcome::success;
 }
 
 }  // namespace quorvex

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <utility>
 
+#include "cli/quiet_face.h"
 #include "cli/wrapped.h"
 #include "host/conversions.h"
 #include "host/platform.h"
@@ -33,23 +34,21 @@ std::optional<std::string> Typed_Line() {
   }
 }
 
+// Whether somebody is there to press the buttons.
+bool Is_Dialogue() {
+  return ::isatty(STDIN_FILENO) != 0 && ::isatty(STDOUT_FILENO) != 0;
+}
+
 // Answers No to every question, as long as it stands in the place of the platform's message box.
 class Unasked {
  public:
-  Unasked() : before_(std::exchange(Current_Platform().message_box, std::make_shared<Box>())) {}
+  Unasked()
+      : before_(std::exchange(Current_Platform().message_box, std::make_shared<Quiet_Box>())) {}
   ~Unasked() { Current_Platform().message_box = before_; }
   Unasked(const Unasked&) = delete;
   Unasked& operator=(const Unasked&) = delete;
 
  private:
-  class Box final : public Message_Box {
-   public:
-    Message_Answer show(std::string_view /*title*/, std::string_view /*text*/,
-                        Message_Icon /*icon*/, Message_Buttons /*buttons*/) override {
-      return Message_Answer::no;
-    }
-  };
-
   std::shared_ptr<Message_Box> before_;
 };
 
@@ -63,7 +62,34 @@ std::string Wrapped_Paragraphs(std::string_view text) {
   return wrapped;
 }
 
+// The platform's box behind the output so far, its text in lines of the page's width.
+class Orderly_Box final : public Message_Box {
+ public:
+  Orderly_Box(Session& session, std::shared_ptr<Message_Box> box)
+      : session_(session), box_(std::move(box)) {}
+
+  Message_Answer show(std::string_view title, std::string_view text, Message_Icon icon,
+                      Message_Buttons buttons) override {
+    session_.output().flush();
+    std::string wrapped = Wrapped_Paragraphs(text);
+    if (!wrapped.empty()) wrapped.pop_back();
+    return box_->show(title, wrapped, icon, buttons);
+  }
+
+ private:
+  Session& session_;
+  std::shared_ptr<Message_Box> box_;
+};
+
 }  // namespace
+
+std::shared_ptr<Terminal_Face> Show_Forms(Session& session) {
+  auto face = std::make_shared<Terminal_Face>(session);
+  Set_Form_Face(face);
+  std::shared_ptr<Message_Box>& box = Current_Platform().message_box;
+  box = std::make_shared<Orderly_Box>(session, box);
+  return face;
+}
 
 void Terminal_Face::write(const std::string& text) {
   session_.output().buffer() += text;
@@ -72,9 +98,19 @@ void Terminal_Face::write(const std::string& text) {
 
 void Terminal_Face::show(frmAbout& form) {
   write(form.Caption + "\n\n" + Wrapped_Paragraphs(form.RichTextBox1.Text) + "\n" +
-        form.lblMaxSD.Caption +
-        "\n(\"quorvex settings\" changes it, as \"settings\" does at the prompt.)\n");
-  form.cmdOK_Click();
+        form.lblMaxSD.Caption + "\n");
+  if (!Is_Dialogue()) {
+    write("(\"quorvex settings\" changes it.)\n");
+    return form.cmdOK_Click();
+  }
+  Call_Guard::forget_interruption();
+  while (form.is_loaded()) {
+    write("[Enter] " + form.cmdOK.Caption + "  [s] " + form.cmdMaxSD.Caption + ": ");
+    const auto line = Typed_Line();
+    if (!line) write("\n");
+    if (!line || line->empty()) return form.cmdOK_Click();
+    if (*line == "s" || *line == "S") form.cmdMaxSD_Click();
+  }
 }
 
 void Terminal_Face::show(frmMaxSD& form) {

@@ -1,14 +1,17 @@
 // The forms on a terminal.
 #pragma once
 
+#include <memory>
+
 #include "cli/session.h"
 #include "shell/form_face.h"
 
 namespace quorvex {
 
-/// Shows About as text. Of the dialog that sets the limit, a line that is typed replaces what
-/// stands in the box, and OK is pressed if the box takes it; an empty line presses OK alone, and
-/// the end of the input, or Ctrl-C where that doesn't end the tool, presses Cancel.
+/// Shows About as text, and on a terminal asks which of its buttons to press. Of the dialog that
+/// sets the limit, a line that is typed replaces what stands in the box, and OK is pressed if the
+/// box takes it; an empty line presses OK alone, and the end of the input, or Ctrl-C where that
+/// doesn't end the tool, presses Cancel.
 class Terminal_Face final : public Form_Face {
  public:
   explicit Terminal_Face(Session& session) : session_(session) {}
@@ -30,5 +33,9 @@ class Terminal_Face final : public Form_Face {
   bool has_sheet_ = false;
   bool has_failed_ = false;
 };
+
+/// Has forms drawn by such a face, and questions asked behind the output so far. The session has to
+/// last as long as forms can be shown.
+std::shared_ptr<Terminal_Face> Show_Forms(Session& session);
 
 }  // namespace quorvex

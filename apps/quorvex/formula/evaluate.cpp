@@ -1,6 +1,10 @@
 #include "formula/evaluate.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <optional>
+#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -8,6 +12,7 @@
 #include "formula/literals.h"
 #include "host/conversions.h"
 #include "host/platform.h"
+#include "host/run_time_failure.h"
 #include "text/options.h"
 
 namespace quorvex {
@@ -47,10 +52,29 @@ HostValue Negated(cls_Quorvex& engine, const HostValue& value) {
   }
 }
 
+// Whether the user has broken the calculation off, or there is no memory to go on with.
+bool Ends_All(const Run_Time_Failure& failure) {
+  return failure.number() == Failure_Number::interrupted ||
+         failure.number() == Failure_Number::out_of_memory;
+}
+
 class Evaluator {
  public:
   Evaluator(cls_Quorvex& engine, const Formula& formula, Reference_Source& source)
       : engine_(engine), formula_(formula), source_(source) {}
+
+  // Where an inner call has failed first, that tells more than what became of it further out.
+  Evaluation evaluate() {
+    try {
+      Evaluation evaluation{std::visit(*this, formula_.root.node), {}};
+      if (inner_failure_ && Is_Error_Result(evaluation.result))
+        evaluation.reason = inner_failure_->what();
+      return evaluation;
+    } catch (const Run_Time_Failure& failure) {
+      if (!inner_failure_ || Ends_All(failure)) throw;
+      throw Run_Time_Failure(*inner_failure_);
+    }
+  }
 
   Call_Result operator()(const Omitted& /*argument*/) { return HostValue(); }
   Call_Result operator()(const HostValue& constant) { return constant; }
@@ -76,15 +100,22 @@ class Evaluator {
   }
 
  private:
+  // A call that fails hands an error value to the function around it.
   HostValue value_of(const Expression& expression) {
-    Call_Result result = std::visit(*this, expression.node);
-    if (auto* value = std::get_if<HostValue>(&result)) return std::move(*value);
+    try {
+      Call_Result result = std::visit(*this, expression.node);
+      if (auto* value = std::get_if<HostValue>(&result)) return std::move(*value);
+    } catch (const Run_Time_Failure& failure) {
+      if (Ends_All(failure)) throw;
+      if (!inner_failure_) inner_failure_ = failure;
+    }
     return Error_Code::value;
   }
 
   cls_Quorvex& engine_;
   const Formula& formula_;
   Reference_Source& source_;
+  std::optional<Run_Time_Failure> inner_failure_;
 };
 
 class No_Worksheet final : public Reference_Source {
@@ -128,11 +159,19 @@ std::string Rendered_List(const List& list) {
 
 Reference_Source::~Reference_Source() = default;
 
-Call_Result Evaluate(cls_Quorvex& engine, const Formula& formula, Reference_Source& source) {
-  return std::visit(Evaluator(engine, formula, source), formula.root.node);
+bool Is_Error_Result(const Call_Result& result) {
+  constexpr std::array<std::string_view, 4> tokens = {"#VALUE!", "#NUM!", "#DIV/0!", "#EXPR!"};
+  const auto* value = std::get_if<HostValue>(&result);
+  if (value == nullptr) return false;
+  if (value->kind() == HostValue::Kind::error) return true;
+  return value->is_text() && std::find(tokens.begin(), tokens.end(), value->text()) != tokens.end();
 }
 
-Call_Result Evaluate_Alone(cls_Quorvex& engine, const Formula& formula) {
+Evaluation Evaluate(cls_Quorvex& engine, const Formula& formula, Reference_Source& source) {
+  return Evaluator(engine, formula, source).evaluate();
+}
+
+Evaluation Evaluate_Alone(cls_Quorvex& engine, const Formula& formula) {
   No_Worksheet source;
   return Evaluate(engine, formula, source);
 }

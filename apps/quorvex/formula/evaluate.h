@@ -23,13 +23,24 @@ class Reference_Source {
   virtual HostValue name(const Name_Use& use) = 0;
 };
 
-/// Calculates a formula. A function that gives a record, or nothing, gives #VALUE! to the function
-/// that it is an argument of. The result may be a range. A method's `Run_Time_Failure` is let
-/// through.
-Call_Result Evaluate(cls_Quorvex& engine, const Formula& formula, Reference_Source& source);
+/// What a formula gives.
+struct Evaluation {
+  Call_Result result;
+  /// Where the result is an error and a function within had failed: why. Else empty.
+  std::string reason;
+};
+
+/// Calculates a formula. A function that fails, or gives a record, or nothing, gives #VALUE! to the
+/// function that it is an argument of. The result may be a range. The `Run_Time_Failure` of the
+/// outermost function is let through, or of the function within that failed first; and from any of
+/// them a break and a lack of memory.
+Evaluation Evaluate(cls_Quorvex& engine, const Formula& formula, Reference_Source& source);
 
 /// Calculates a formula where there is no worksheet: a cell or a name in it is a `Syntax_Error`.
-Call_Result Evaluate_Alone(cls_Quorvex& engine, const Formula& formula);
+Evaluation Evaluate_Alone(cls_Quorvex& engine, const Formula& formula);
+
+/// Whether that is an error value, or a token that stands for one.
+bool Is_Error_Result(const Call_Result& result);
 
 /// A value as it is shown: text as it is, numbers in the user's locale, TRUE and FALSE, #N/A and
 /// its like, blank as empty text, arrays as {1,2;3,4}.

@@ -102,10 +102,13 @@ Outcome Cell_Outcome(const Call_Result& result) {
 }
 
 // A name may stand for a range, which the formulas that use it read.
-Outcome Outcome_For(const Calculation& calculation, const Call_Result& result) {
-  const auto* value = std::get_if<HostValue>(&result);
-  if (calculation.name.empty() || value == nullptr) return Cell_Outcome(result);
-  return {*value, {}};
+Outcome Outcome_For(const Calculation& calculation, const Evaluation& evaluation) {
+  const auto* value = std::get_if<HostValue>(&evaluation.result);
+  const bool is_whole = !calculation.name.empty() && value != nullptr;
+  Outcome outcome = is_whole ? Outcome{*value, {}} : Cell_Outcome(evaluation.result);
+  if (!evaluation.reason.empty())
+    outcome.problem = Cell_Problem{Cell_Problem::Kind::failure, evaluation.reason};
+  return outcome;
 }
 
 std::string Obstacle_Text(Cell_Address obstacle) {

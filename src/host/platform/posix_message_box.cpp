@@ -56,7 +56,10 @@ class Terminal_Box final : public Message_Box {
     for (char c = 0; c != '\n';) {
       const ssize_t got = read(input_, &c, 1);
       if (got < 0 && errno == EINTR && !is_broken_off()) continue;
-      if (got <= 0) return line;
+      if (got <= 0) {
+        write_all("\n");  // which nobody typed
+        return line;
+      }
       if (c != '\n') line += c;
     }
     return line;

@@ -75,6 +75,10 @@ class Settings_File final : public Settings_Store {
     if (unread != 0) return Sentence(Unreadable(*path_), unread);
     // Every file that was written holds a setting.
     if (contents.empty()) return "The settings file " + path_->string() + " is empty.";
+    if (Holds_No_Setting(contents)) {
+      return "The settings file " + path_->string() +
+             " holds no setting: its lines have to be like Quorvex/Options/MaxSD = 100.";
+    }
     return std::nullopt;
   }
 

@@ -19,10 +19,16 @@ TEST(Prompt, CompletesNames) {
     std::size_t candidates;
   };
   const std::vector<Completion_Case> cases = {
-      {"qvxad", "qvxADD(", 0},       {"=qvxADD(QVXSUB", "qvxSUBTRACT(", 0},
-      {"help qvxad", "qvxADD", 0},   {"qvxis", "qvxIS", 10},
-      {"qvxisg", "qvxISGREATER", 2}, {"fun", "functions", 0},
-      {"qvxADD(fun", "", 0},         {"nothing", "", 0},
+      {"qvxad", "qvxADD(", 0},
+      {"=qvxADD(QVXSUB", "qvxSUBTRACT(", 0},
+      {"help qvxad", "qvxADD", 0},
+      {"qvxis", "qvxIS", 10},
+      {"qvxisg", "qvxISGREATER", 2},
+      {"fun", "functions", 0},
+      {"qvxADD(fun", "", 0},
+      {"nothing", "", 0},
+      {"functions qvxad", "qvxADD", 0},
+      {"settings m", "max-sd ", 0},
   };
   for (const auto& [typed, replacement, candidates] : cases) {
     const Completion completion = Complete_Word(typed);
@@ -50,6 +56,20 @@ TEST(Prompt, CalculatesExplainsAndLeaves) {
   EXPECT_TRUE(terminal.shows("\n\xE2\x82\xAC")) << terminal.shown();
   terminal.type_at_prompt("about\n");
   EXPECT_TRUE(terminal.shows("About Quorvex 3.1")) << terminal.shown();
+  terminal.type_at("[s] Set Default Max SD: ", "s\n");
+  terminal.type_at("Digits [100]: ", "7\n");
+  terminal.type_at("[s] Set Default Max SD: ", "\n");
+  terminal.type_at_prompt("functions qvxSIGN\n");
+  EXPECT_TRUE(terminal.shows("qvxSIGN(-273.15)")) << terminal.shown();
+  terminal.type_at_prompt("?\n");
+  EXPECT_TRUE(terminal.shows("Type a formula")) << terminal.shown();
+  terminal.type_at_prompt("settings max-sd\n");
+  EXPECT_TRUE(terminal.shows("\n7\r\n")) << terminal.shown();
+  terminal.type_at_prompt("settings max-sd 9\n");
+  terminal.type_at_prompt("qvxDEFAULTMAXSD()\n");
+  EXPECT_TRUE(terminal.shows("\n9\r\n")) << terminal.shown();
+  terminal.type_at_prompt("settings 5\n");
+  EXPECT_TRUE(terminal.shows("there is no setting \"5\"")) << terminal.shown();
   terminal.type_at_prompt("sheet\n");
   EXPECT_TRUE(terminal.shows("no worksheet is open")) << terminal.shown();
   terminal.type_at_prompt("sheet /nowhere.csv\n");
@@ -78,6 +98,7 @@ TEST(Prompt, RecalculatesTheOpenWorksheetOnYesAlone) {
   terminal.type_at_prompt("settings\n");
   terminal.type_at("Digits [3]: ", "\n");
   terminal.type_at("[y/N] ", "\x03");  // agrees to nothing
+  EXPECT_TRUE(terminal.shows("^C\r\nThe default limit")) << terminal.shown();
   terminal.type_at_prompt("settings\n");
   terminal.type_at("Digits [3]: ", "\n");
   EXPECT_EQ(terminal.shown().find("0.3333"), std::string::npos) << terminal.shown();

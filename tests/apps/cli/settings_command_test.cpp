@@ -83,7 +83,7 @@ TEST_F(Settings, OfOneRunLeaveTheStoredOnesAlone) {
 }
 
 TEST_F(Settings, ThatAreNoNumberAreToldAndCanBeMended) {
-  for (const char* bad : {"nonsense", "", "1E+999"}) {
+  for (const char* bad : {"nonsense", "", "1E+999", "50%"}) {
     const std::string text = std::string("Quorvex/Options/MaxSD = ") + bad + "\n";
     put(text);
     for (const std::vector<std::string>& words :
@@ -120,6 +120,13 @@ TEST_F(Settings, OfAnEmptyFileAreToldAndSetAnew) {
   put("");
   EXPECT_NE(run({"1"}).errors.find("is empty. The default limit is 100."), std::string::npos);
   EXPECT_EQ(run({"1"}).errors, "");
+}
+
+TEST_F(Settings, OfAFileThatHoldsNoneAreTold) {
+  put("MaxSD = 50\n");
+  EXPECT_NE(run({"settings", "max-sd"}).errors.find("holds no setting"), std::string::npos);
+  EXPECT_EQ(File_Text(file()), "MaxSD = 50\n");
+  EXPECT_NE(run({"1"}).errors.find("holds no setting"), std::string::npos);
 }
 
 TEST_F(Settings, WithoutAFolderToStoreThemInDoNoHarm) {

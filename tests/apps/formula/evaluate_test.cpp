@@ -6,14 +6,16 @@
 #include <string>
 
 #include "host/run_time_failure.h"
+#include "support/failures.h"
 #include "support/locales.h"
+#include "support/surroundings.h"
 
 namespace quorvex {
 namespace {
 
 std::string Shown(const std::string& formula) {
   cls_Quorvex engine;
-  return Render(std::get<HostValue>(Evaluate_Alone(engine, Parse_Formula(formula))));
+  return Render(std::get<HostValue>(Evaluate_Alone(engine, Parse_Formula(formula)).result));
 }
 
 TEST(EvaluateAlone, GivesWhatTheFunctionsGive) {
@@ -74,7 +76,8 @@ TEST(EvaluateAlone, NegatesTextWithoutTouchingItsDigits) {
 TEST(EvaluateAlone, PassesRecordsThroughAtTheTopOnly) {
   const Locale_Guard locale(Point_Locale());
   cls_Quorvex engine;
-  const Call_Result record = Evaluate_Alone(engine, Parse_Formula("Restrictionator(2,TRUE,,,7)"));
+  const Call_Result record =
+      Evaluate_Alone(engine, Parse_Formula("Restrictionator(2,TRUE,,,7)")).result;
   ASSERT_TRUE(std::holds_alternative<Record>(record));
   EXPECT_EQ(std::get<Record>(record).fields[4].second.number(), 7);
   EXPECT_EQ(Shown("qvxADD(Restrictionator(),1)"), "#VALUE!");
@@ -99,6 +102,48 @@ TEST(EvaluateAlone, LetsFailuresThrough) {
   const Locale_Guard locale(Point_Locale());
   cls_Quorvex engine;
   EXPECT_THROW(Evaluate_Alone(engine, Parse_Formula("qvxISEQUAL({1,2},1)")), Run_Time_Failure);
+}
+
+TEST(EvaluateAlone, HandsAnInnerFailureOnAsAnErrorValue) {
+  const Locale_Guard locale(Point_Locale());
+  cls_Quorvex engine;
+  const char* const why = "The divisor is no number.";
+  struct {
+    const char* formula;
+    const char* shown;
+    const char* reason;
+  } const cases[] = {
+      {"qvxISERROR(qvxMOD(1,\"x\"))", "TRUE", ""},
+      {"qvxSUM2(qvxMOD(1,\"x\"),3)", "3", ""},
+      {"qvxADD(qvxMOD(1,\"x\"),1)", "#VALUE!", why},
+      {"qvxADD(qvxMOD(1,\"x\"),qvxFACT(\"y\"))", "#VALUE!", why},
+      {"-qvxMOD(1,\"x\")", "#VALUE!", why},
+  };
+  for (const auto& [formula, shown, reason] : cases) {
+    const Evaluation evaluation = Evaluate_Alone(engine, Parse_Formula(formula));
+    EXPECT_EQ(Render(std::get<HostValue>(evaluation.result)), shown) << formula;
+    EXPECT_EQ(evaluation.reason, reason) << formula;
+  }
+  // The outer call fails only because the inner one has.
+  try {
+    Evaluate_Alone(engine, Parse_Formula("qvxMOD(1,qvxFACT(qvxMOD(1,\"x\")))"));
+    ADD_FAILURE();
+  } catch (const Run_Time_Failure& failure) {
+    EXPECT_STREQ(failure.what(), why);
+  }
+}
+
+TEST(EvaluateAlone, LetsABreakAndALackOfMemoryThroughEveryFunction) {
+  cls_Quorvex engine;
+  const auto fails_with = [&](const char* formula) {
+    return Failure_Of([&] { Evaluate_Alone(engine, Parse_Formula(formula)); });
+  };
+  {
+    const Interruption_Guard impatient;
+    EXPECT_EQ(fails_with("qvxISERROR(qvxSIN(1))"), Failure_Number::interrupted);
+  }
+  const Memory_Guard poor(0);
+  EXPECT_EQ(fails_with("qvxISERROR(qvxFORMAT(5,,,,,,2000000000))"), Failure_Number::out_of_memory);
 }
 
 TEST(Render, ShowsNumbersInTheLocale) {
