@@ -74,7 +74,7 @@ std::vector<Method> Order_Rows() {
           "qvxLARGE({1, 3; \"12345678901234567890\", 2}, 2)",
           Place_Parameters("the place, from the largest number on: 1 for the largest"),
           {"The number as it is written, not formatted.",
-           {place_is_num, block_fails, "It fails, too, for a k that is no number."}}),
+           {place_is_num, block_fails, place_fails}}),
       Row<&cls_Quorvex::qvxSMALL>(
           "qvxSMALL", "Order", statistical,
           "Returns the k-th smallest number of a range, with up to 32,767 significant digits of "
@@ -82,7 +82,7 @@ std::vector<Method> Order_Rows() {
           "qvxSMALL({1, 3; \"-0.00000000000000000001\", 2}, 1)",
           Place_Parameters("the place, from the smallest number on: 1 for the smallest"),
           {"The number as it is written, not formatted.",
-           {place_is_num, block_fails, "It fails, too, for a k that is no number."}}),
+           {place_is_num, block_fails, place_fails}}),
       Row<&cls_Quorvex::qvxRANK>(
           "qvxRANK", "Order", statistical,
           "Returns the rank of a number among the numbers of a range, with up to 32,767 "
@@ -92,7 +92,9 @@ std::vector<Method> Order_Rows() {
           {Operand_Parameter("num", first_number), Operand_Parameter("numlist", block),
            Optional("ascending", "TRUE ranks the smallest number first"),
            Optional("tie_compensation", "TRUE gives equal numbers the mean of their ranks")},
-          {"The place, as text; the count of cells for a number that is not among them.",
+          {"The place, as text; for a number that is not among them the count of cells, less a "
+           "half "
+           "with tie_compensation.",
            {"\"NUM!\", without a #, for a num that is no number.", block_fails}}),
   };
 }

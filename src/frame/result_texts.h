@@ -56,8 +56,7 @@ inline constexpr Sentence no_number_is_value =
 
 inline constexpr Sentence restricted =
     "\"#NUM!\" for operands that restrict_input_lengths refuses; the call fails where that "
-    "argument "
-    "can't be read.";
+    "argument can't be read.";
 inline constexpr Sentence parity_of_no_number =
     "\"#NUM!\" for what is no number; a blank cell is even.";
 inline constexpr Sentence rounding_of_no_number =
@@ -74,7 +73,8 @@ inline constexpr Sentence root_fails =
     "The call fails for an error value, an array and an option that can't be read.";
 
 inline constexpr Sentence list_fails =
-    "The call fails for MSD= without digits right behind it and for a list within the list.";
+    "The call fails for MSD= without digits right behind it or with more of them than a 64-bit "
+    "float reaches, for a list within the list and for an array within an array.";
 inline constexpr Sentence first_element_stays =
     "A first element that is no number is the result, in capitals, and an error value there is "
     "\"#VALUE!\".";
@@ -96,8 +96,8 @@ inline constexpr Sentence angle_fails =
 inline constexpr Sentence endless_series_fails =
     "It fails, too, for 0.0 and other zeros than the text 0, whose series would never end.";
 inline constexpr Sentence near_1_fails =
-    "It fails, too, for a number so near to 1 or -1 that maxSD digits can't tell its square from "
-    "1.";
+    "It fails, too, for a number so near to 1 or -1 that maxSD digits can't tell its square "
+    "from 1.";
 inline constexpr Sentence beyond_1 = "\"#NUM!\" for a number above 1 or below -1.";
 inline constexpr Sentence arc_beyond_pi = "\"#NUM!\" beyond 32,768 digits where pi is needed.";
 inline constexpr Sentence arc_fails =
@@ -107,8 +107,12 @@ inline constexpr Sentence block_fails =
     "The call fails for a single cell or value and for an array within the block.";
 inline constexpr Sentence place_is_num =
     "\"#NUM!\" for an empty k, one beyond the block, and a place without a number.";
+inline constexpr Sentence place_fails =
+    "It fails, too, for a k that is no number or beyond 64-bit floats, and for one that is rounded "
+    "to place 0, such as 0.5.";
 inline constexpr Sentence text_unchecked =
-    "No token: a result that is no number comes back unchecked.";
+    "A result that is no number comes back unchecked; but \"#VALUE!\" where it has more characters "
+    "than MSD= allows digits and can't be rounded.";
 
 inline constexpr Sentence factorial_fails =
     "The call fails for what is no number, an error token and empty text included, and for an "

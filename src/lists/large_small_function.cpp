@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstddef>
+#include <string>
 #include <utility>
 
 #include "host/conversions.h"
@@ -18,10 +19,11 @@ double Upper_Bound(int lower, std::size_t count) {
   return static_cast<double>(lower) + static_cast<double>(count) - 1;
 }
 
-std::size_t Offset(double index, int lower, std::size_t count) {
+std::size_t Offset(const std::string& what, double index, int lower, std::size_t count) {
   if (index < lower || index > Upper_Bound(lower, count)) {
     throw Run_Time_Failure(Failure_Number::subscript_out_of_range,
-                           "There is no such place in the sorted block.");
+                           "Rounded to a whole number, k stands for " + what + " " +
+                               Number_To_Text(index) + ", which the sorted block doesn't have.");
   }
   return static_cast<std::size_t>(index - lower);
 }
@@ -42,8 +44,8 @@ NumberText LargeSmall_Function(const HostValue& numlist, std::string_view k,
   const double column = std::trunc(place / rows) + (ends_column ? 0 : 1);
   const double row = Nearest(place - (column - 1) * rows);
   NumberText text =
-      To_Text(sorted.values[Offset(row, sorted.lower_row, sorted.rows) * sorted.columns +
-                            Offset(column, sorted.lower_column, sorted.columns)]);
+      To_Text(sorted.values[Offset("row", row, sorted.lower_row, sorted.rows) * sorted.columns +
+                            Offset("column", column, sorted.lower_column, sorted.columns)]);
   return Is_Number_Text(text) ? text : NumberText(num_token);
 }
 

@@ -9,10 +9,9 @@
 namespace quorvex {
 namespace {
 
-// What is left without its last characters.
-std::size_t Bytes_Without_Last(std::string_view text, int characters) {
-  for (; characters > 0; --characters) text.remove_suffix(Last_Character_Bytes(text));
-  return text.size();
+std::string_view Without_Last_Character(std::string_view text) {
+  text.remove_suffix(Last_Character_Bytes(text));
+  return text;
 }
 
 }  // namespace
@@ -90,8 +89,8 @@ void Number_Filter::write_exponent(std::string_view text) {
 
 void Number_Filter::finish() {
   if (result_.ends_with('E')) result_.pop_back();
-  const std::size_t one_less = Bytes_Without_Last(result_, 1);
-  if (std::string_view(result_).substr(0, one_less).ends_with('E')) result_.resize(one_less - 1);
+  const std::string_view one_less = Without_Last_Character(result_);
+  if (one_less.ends_with('E')) result_.resize(one_less.size() - 1);
   if (paren_closed_) result_.insert(0, 1, '-');
 }
 

@@ -19,7 +19,9 @@ class Number_Filter {
 
   void take(std::string_view character);
 
-  /// Drops an exponent that has no digits, and puts a minus before a number in parentheses.
+  /// Drops a last "E", then the last two characters where the first of them is "E" (an exponent
+  /// without digits), and puts a minus before a number in parentheses. It is the end of the whole
+  /// result that is looked at, with whatever others have appended to it.
   void finish();
 
  private:

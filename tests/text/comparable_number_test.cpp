@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <compare>
+#include <iterator>
 #include <string>
 
 #include "support/failures.h"
