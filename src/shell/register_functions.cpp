@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <limits>
 #include <memory>
 #include <string>
@@ -36,7 +37,8 @@ std::int32_t Leading_Number(const std::string& text) {
   const std::size_t start = std::min(text.find_first_not_of(' '), text.size());
   double number = 0;
   std::from_chars(text.data() + start, text.data() + text.size(), number);
-  return To_Int32(number);
+  // A number may also be spelt "inf" or "nan" there, which no version is.
+  return To_Int32(std::isfinite(number) ? number : 0);
 }
 
 void Show_Work(Host_Application& application, bool on) {

@@ -198,7 +198,8 @@ TEST_F(Registering, LeavesAHostOfVersionTenAloneOnceItFails) {
     const char* version;
     bool is_left_alone;
   } cases[] = {{"10.0", true}, {" 10", true},   {"10.0.2627", true}, {"1E1", true},
-               {"9.0", false}, {"11.0", false}, {"x10", false},      {"", false}};
+               {"9.0", false}, {"11.0", false}, {"x10", false},      {"", false},
+               {"inf", false}, {"-nan", false}};
   for (const auto& c : cases) {
     Shell() = Shell_State();
     host_->version_text = c.version;

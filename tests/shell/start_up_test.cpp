@@ -6,6 +6,7 @@
 #include "frame/add_in.h"
 #include "frame/catalogue.h"
 #include "frame/cls_Quorvex.h"
+#include "quorvex_version.h"
 #include "shell/scripted_host.h"
 #include "shell/shell_fixture.h"
 #include "support/failures.h"
@@ -96,6 +97,7 @@ TEST_F(Start_Up, AnApplicationIsNoValue) {
 TEST_F(Start_Up, TellsItsVersionAndWhereItsHelpBelongs) {
   cls_Quorvex engine;
   EXPECT_EQ(engine.qvxVERSION(), "3.1");
+  EXPECT_EQ(std::string(version).rfind(engine.qvxVERSION() + ".", 0), 0U) << version;
   EXPECT_EQ(engine.qvxTEST(), "Welcome to Quorvex 3.1!");
   // In this program the engine is no library of its own.
   const auto program = std::filesystem::read_symlink("/proc/self/exe").parent_path();

@@ -2,6 +2,7 @@
 #include "cli/manual_page.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <string_view>
 #include <vector>
 
@@ -53,7 +54,8 @@ std::string Options_Of(const CLI::App& app) {
   std::string text;
   for (const CLI::Option* option : app.get_options()) {
     if (option->get_group().empty()) continue;
-    text += ".TP\n" + Option_Names(*option) + "\n" + Plain(option->get_description()) + "\n";
+    text.append(".TP\n").append(Option_Names(*option)).append("\n");
+    text.append(Plain(option->get_description())).append("\n");
   }
   return text;
 }
@@ -61,20 +63,36 @@ std::string Options_Of(const CLI::App& app) {
 std::string Commands_Of(const CLI::App& app) {
   std::string text;
   for (const CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; })) {
-    text += ".SS quorvex " + Plain(command->get_name()) + "\n" + Plain(command->get_description()) +
-            ".\n" + Options_Of(*command);
+    text.append(".SS quorvex ").append(Plain(command->get_name())).append("\n");
+    text.append(Plain(command->get_description())).append(".\n").append(Options_Of(*command));
     if (!command->get_footer().empty())
-      text += ".PP\n.EX\n" + Plain(command->get_footer()) + "\n.EE\n";
+      text.append(".PP\n.EX\n").append(Plain(command->get_footer())).append("\n.EE\n");
   }
   return text;
+}
+
+// The lines that are set in: what stands around them is told elsewhere on the page.
+std::string Example_Lines(std::string_view footer) {
+  constexpr std::string_view indent = "  ";
+  std::string lines;
+  while (!footer.empty()) {
+    std::string_view line = footer.substr(0, footer.find('\n'));
+    footer.remove_prefix(std::min(line.size() + 1, footer.size()));
+    if (!line.starts_with(indent)) continue;
+    line.remove_prefix(indent.size());
+    lines.append(line).append("\n");
+  }
+  return lines;
 }
 
 std::string Functions() {
   std::string text;
   for (const auto& [category, methods] : Functions_By_Category()) {
-    text += ".SS " + Plain(category) + "\n";
-    for (const Method* method : methods)
-      text += ".TP\n" + Bold(method->name) + "\n" + Plain(method->description) + "\n";
+    text.append(".SS ").append(Plain(category)).append("\n");
+    for (const Method* method : methods) {
+      text.append(".TP\n").append(Bold(method->name)).append("\n");
+      text.append(Plain(method->description)).append("\n");
+    }
   }
   return text;
 }
@@ -101,7 +119,7 @@ std::string Manual_Page(const CLI::App& app) {
          "The stored default limit of significant digits; below ~/.config where the variable is "
          "not set.\n"
          ".SH EXAMPLES\n.EX\n" +
-         Plain(app.get_footer()) + "\n.EE\n";
+         Plain(Example_Lines(app.get_footer())) + ".EE\n";
 }
 
 }  // namespace quorvex

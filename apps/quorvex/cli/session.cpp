@@ -8,8 +8,11 @@
 #include <utility>
 
 #include "formula/formula.h"
+#include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "shell/frmMaxSD.h"
+#include "text/options.h"
 
 namespace quorvex {
 namespace {
@@ -56,6 +59,11 @@ void Session::start_engine() {
     throw Usage_Error(failure.what(), Bad_Setting_Advice());
   }
   if (problem) warning(*problem + " The default limit is 100.");
+  const std::string limit = Number_To_Text(Default_MaxSD());
+  if (MaxSD_Problem(limit)) {
+    warning("The stored default limit is " + limit +
+            ", and should be a whole number from 0 to 2147483648. " + Bad_Setting_Advice());
+  }
 }
 
 void Session::write_message(std::string_view label, std::string_view colour,

@@ -78,7 +78,12 @@ class Watch {
   }
 
   void follow_limit() {
-    if (!limit_) return;
+    if (!limit_) {
+      const auto problem = Current_Platform().settings->problem();
+      session_.warning(problem.value_or("The default limit is no longer stored.") + " It stays " +
+                       Number_To_Text(Default_MaxSD()) + " here.");
+      return;
+    }
     Load_Default_MaxSD();
     session_.hint("The default limit is " + Number_To_Text(Default_MaxSD()) + " now.");
     Recalculate_Formulas();

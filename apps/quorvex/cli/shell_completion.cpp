@@ -2,6 +2,7 @@
 #include "cli/shell_completion.h"
 
 #include <CLI/CLI.hpp>
+#include <set>
 #include <string_view>
 #include <vector>
 
@@ -40,19 +41,26 @@ std::string Function_Names() {
 std::string Option_Names(const CLI::App& app) {
   std::string names;
   for (const CLI::Option* option : Options_Of(app)) {
-    for (const std::string& name : Names_Of(*option)) names += name + " ";
+    for (const std::string& name : Names_Of(*option)) names.append(name).append(" ");
   }
   return names;
 }
 
-// The options behind which a value follows, as a pattern of `case`.
+// The options behind which a value follows that can't be completed, as a pattern of `case`.
 std::string Options_With_Values(const CLI::App& app) {
-  std::string pattern;
-  for (const CLI::Option* option : Options_Of(app)) {
-    if (!Takes_Value(*option)) continue;
-    for (const std::string& name : Names_Of(*option))
-      pattern += (pattern.empty() ? "" : "|") + name;
+  std::set<std::string> names;
+  std::vector<const CLI::App*> all = Commands_Of(app);
+  all.push_back(&app);
+  for (const CLI::App* each : all) {
+    for (const CLI::Option* option : Options_Of(*each)) {
+      if (!Takes_Value(*option)) continue;
+      for (const std::string& name : Names_Of(*option)) names.insert(name);
+    }
   }
+  for (const char* completed : {"-o", "--output", "--locale", "--currency-side", "--completion"})
+    names.erase(completed);
+  std::string pattern;
+  for (const std::string& name : names) pattern.append(pattern.empty() ? "" : "|").append(name);
   return pattern;
 }
 
@@ -86,10 +94,11 @@ std::string Zsh_Options(const CLI::App& app) {
   std::string lines;
   for (const CLI::Option* option : Options_Of(app)) {
     for (const std::string& name : Names_Of(*option)) {
-      lines += " \\\n    '" + name + "[" + Quoted(option->get_description()) + "]";
+      lines.append(" \\\n    '").append(name).append("[");
+      lines.append(Quoted(option->get_description())).append("]");
       if (Takes_Value(*option)) {
         const std::string type = option->get_type_name();
-        lines += ":" + Quoted(type) + ":" + Zsh_Values(type);
+        lines.append(":").append(Quoted(type)).append(":").append(Zsh_Values(type));
       }
       lines += "'";
     }
@@ -105,9 +114,10 @@ std::string Bash_Completion(const CLI::App& app) {
   std::string options;
   for (const CLI::App* command : Commands_Of(app)) {
     const std::string& name = command->get_name();
-    names += name + " ";
-    pattern += (pattern.empty() ? "" : "|") + name;
-    options += "    " + name + ") options='" + Option_Names(*command) + "' ;;\n";
+    names.append(name).append(" ");
+    pattern.append(pattern.empty() ? "" : "|").append(name);
+    options.append("    ").append(name).append(") options='");
+    options.append(Option_Names(*command)).append("' ;;\n");
   }
   return "# Completion of quorvex for bash, written by `quorvex --completion bash`.\n"
          "_quorvex() {\n"
@@ -145,6 +155,7 @@ std::string Bash_Completion(const CLI::App& app) {
          "  esac\n"
          "  case $command in\n"
          "    sheet) mapfile -t COMPREPLY < <(compgen -f -- \"$current\") ;;\n"
+         "    settings) mapfile -t COMPREPLY < <(compgen -W max-sd -- \"$current\") ;;\n"
          "    functions) mapfile -t COMPREPLY < <(compgen -W \"$functions\" -- \"$current\") ;;\n"
          "    '') mapfile -t COMPREPLY < <(compgen -W \"" +
          names +
@@ -159,11 +170,14 @@ std::string Zsh_Completion(const CLI::App& app) {
   std::string cases;
   for (const CLI::App* command : Commands_Of(app)) {
     const std::string& name = command->get_name();
-    commands += "    '" + name + ":" + Quoted(command->get_description()) + "'\n";
+    commands.append("    '").append(name).append(":");
+    commands.append(Quoted(command->get_description())).append("'\n");
     std::string positional;
     if (name == "sheet") positional = " \\\n    '1:CSV file:_files'";
     if (name == "functions") positional = " \\\n    '1:function:($functions)'";
-    cases += "  " + name + ")\n  _arguments" + Zsh_Options(*command) + positional + "\n  ;;\n";
+    if (name == "settings") positional = " \\\n    '1:setting:(max-sd)'";
+    cases.append("  ").append(name).append(")\n  _arguments");
+    cases.append(Zsh_Options(*command)).append(positional).append("\n  ;;\n");
   }
   return "#compdef quorvex\n"
          "# Completion of quorvex for zsh, written by `quorvex --completion zsh`.\n"

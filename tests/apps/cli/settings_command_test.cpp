@@ -100,6 +100,18 @@ TEST_F(Settings, ThatAreNoNumberAreToldAndCanBeMended) {
   }
 }
 
+TEST_F(Settings, BeyondTheBoundsAreTold) {
+  for (const char* odd : {"-3", "1E+20", "1.5"}) {
+    put(std::string("Quorvex/Options/MaxSD = ") + odd + "\n");
+    const Tool_Run told = run({"1"});
+    EXPECT_EQ(told.exit_code, 0);
+    EXPECT_NE(told.errors.find("from 0 to 2147483648"), std::string::npos) << told.errors;
+    EXPECT_NE(told.errors.find(file().string()), std::string::npos) << told.errors;
+  }
+  put("Quorvex/Options/MaxSD = 2147483648\n");
+  EXPECT_EQ(run({"1"}).errors, "");
+}
+
 TEST_F(Settings, ThatCantBeReadAreToldAndNeverOverwritten) {
   fs::create_directories(file());  // a folder in the place of the file
   const Tool_Run calculated = run({"qvxDEFAULTMAXSD()"});
@@ -182,6 +194,26 @@ TEST_F(Settings_Dialog, TakesTheCeilingThatItOffersAndCanBeCancelled) {
   EXPECT_EQ(limit(), "2147483648\n");
 }
 
+TEST_F(Settings_Dialog, AboutStandsBetweenTheResultsAndLeadsThere) {
+  Terminal terminal(folder_.path(), {"qvxADD(1,2)", "qvxABOUT()", "qvxDEFAULTMAXSD()"});
+  EXPECT_TRUE(terminal.shows("3\r\nAbout Quorvex")) << terminal.shown();
+  terminal.type_at("[s] Set Default Max SD: ", "s\n");
+  terminal.type_at(std::string(question) + "100]: ", "12\n");
+  terminal.type_at("[s] Set Default Max SD: ", "\n");
+  EXPECT_TRUE(terminal.shows("\n12\r\n")) << terminal.shown();
+  EXPECT_EQ(terminal.end(), 0);
+}
+
+TEST_F(Settings_Dialog, NoFormGetsIntoTheAnswersOfABatch) {
+  Terminal terminal(folder_.path(), {"batch"});
+  terminal.type("{\"call\":\"qvxABOUT\"}\n");
+  EXPECT_TRUE(terminal.shows("{\"value\":{\"missing\":true}}\r\n")) << terminal.shown();
+  terminal.type("{\"call\":\"qvxTEST\"}\n");
+  EXPECT_TRUE(terminal.shows("}\r\n{\"value\":\"Welcome")) << terminal.shown();
+  terminal.type("\x04");
+  EXPECT_EQ(terminal.end(), 0);
+}
+
 TEST_F(Settings_Dialog, MendsASettingThatIsNoNumber) {
   put("Quorvex/Options/MaxSD = nonsense\n");
   Terminal terminal(folder_.path(), {"settings"});
@@ -207,6 +239,8 @@ TEST_F(Settings, AreFollowedByAWorksheetThatIsWatched) {
   EXPECT_TRUE(terminal.shows("The default limit is 4 now.\r\n0.33333\r\n")) << terminal.shown();
   folder_.write("thirds.csv", "\"=qvxADD(40,2)\"\n");
   EXPECT_TRUE(terminal.shows("has changed.\r\n42\r\n")) << terminal.shown();
+  fs::remove(file());
+  EXPECT_TRUE(terminal.shows("no longer stored. It stays 4 here.")) << terminal.shown();
   terminal.type("\x03");
   EXPECT_EQ(terminal.end(), -SIGINT);
 }
