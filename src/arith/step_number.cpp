@@ -91,19 +91,6 @@ void Step_Number::negate() {
   }
 }
 
-Step_Number Step_Number::opposite() const {
-  Step_Number other = *this;
-  other.negate();
-  return other;
-}
-
-Step_Number Step_Number::magnitude() const {
-  if (text_) return text_->starts_with('-') ? Step_Number(text_->substr(1)) : *this;
-  Step_Number other = *this;
-  other.number_.negative = false;
-  return other;
-}
-
 void Step_Number::by_text(std::int16_t code, const Step_Number& other, double limit) {
   *this = Step_Number(Intermediate(code, text(), other.text(), limit));
 }

@@ -37,10 +37,6 @@ class Step_Number {
   bool is_in_limbs() const { return !text_; }
   const limbs::Number& in_limbs() const { return number_; }
 
-  /// The opposite number, and the one without its sign. 0 has none.
-  Step_Number opposite() const;
-  Step_Number magnitude() const;
-
   /// Turns into the opposite number.
   void negate();
 

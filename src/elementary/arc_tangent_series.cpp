@@ -31,7 +31,8 @@ NumberText ATan_Series(const NumberText& x, double maxSD) {
     power.negate();
     sum.add(Quotient(power, k.value(), maxSD), maxSD);
     // No later term can change this token, and nobody waits for 2,147,483,647 digits of them.
-    if (sum.is_token() && sum.text() == value_token && !power.is_token()) break;
+    const bool goes_on = !power.is_token() && !power.is_zero();
+    if (sum.is_token() && sum.text() == value_token && goes_on) break;
     if (end.is_reached(power)) break;
     if (auto rest = shortened.sum_from({power, sum, k.whole()})) return rest->text();
   }

@@ -44,8 +44,7 @@ bool Takes_Too_Long(const Operation& operation, double limit) {
 
 void Expect_As_Text(const Operation& operation, const std::string& a, const std::string& b,
                     double limit) {
-  if (operation.code == operation::divide && !(limit <= 10'000))
-    return;  // as many digits are formed
+  if (Takes_Too_Long(operation, limit)) return;
   const Step_Number result = operation.step(Step_Number(a), Step_Number(b), limit);
   EXPECT_EQ(result.text(), Intermediate(operation.code, a, b, limit))
       << Call_Text(operation, a, b, limit);
@@ -250,17 +249,15 @@ TEST(StepNumber, TellsAboutItself) {
   for (int round = 0; round < 2000; ++round) {
     const std::string a = Clean_Up_Number(operands.number(), true, true).NumClean;
     const std::string b = Clean_Up_Number(operands.number_beside(a), true, true).NumClean;
-    const Step_Number number(a);
+    Step_Number number(a);
     EXPECT_EQ(number.text(), a);
     EXPECT_EQ(number.is_zero(), a == "0");
     EXPECT_EQ(number.is_negative(), a.front() == '-');
-    EXPECT_EQ(number.magnitude().text(), a.front() == '-' ? a.substr(1) : a);
-    EXPECT_EQ(number.opposite().opposite().text(), a);
     EXPECT_EQ(Is_Greater(number, Step_Number(b)), Is_True(Compare_Numbers(a, b, false, true)))
         << a << " " << b;
+    number.negate();
+    EXPECT_EQ(number.text(), a == "0" ? a : a.front() == '-' ? a.substr(1) : "-" + a);
   }
-  EXPECT_EQ(Step_Number("-12.5").opposite().text(), "12.5");
-  EXPECT_EQ(Step_Number("0").opposite().text(), "0");
   EXPECT_TRUE(Step_Number("#NUM!").is_token());
   EXPECT_EQ(Failure_Of([] { Is_Greater(Step_Number("#NUM!"), Step_Number("1")); }),
             Failure_Number::type_mismatch);
