@@ -74,9 +74,9 @@ class Default_Guard {
 
 void Common_Divisor(benchmark::State& state) {
   const auto digits = static_cast<std::size_t>(state.range(0));
-  const Default_Guard guard(static_cast<double>(digits));
   const List list = {bench::Digits(digits, 1), bench::Digits(digits, 2)};
-  cls_Quorvex engine;
+  cls_Quorvex engine;  // takes the stored limit, so the guard comes after it
+  const Default_Guard guard(static_cast<double>(digits));
   for (auto step : state) benchmark::DoNotOptimize(engine.qvxGCD(list));
 }
 
