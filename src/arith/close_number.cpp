@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "text/clean_up_number.h"
 #include "text/format_result.h"
 
 namespace quorvex {
@@ -20,6 +21,11 @@ NumberText Close_In_Full(NumberText digits, double position, bool positive,
   return Close_Number(std::move(digits), position, positive,
                       {format.format_negative, format.format_thousands, format.format_currency,
                        format.exponential_notation, all});
+}
+
+NumberText Close_Text(std::string_view number, const Format_Arguments& format) {
+  type_CleanUp clean = Clean_Up_Number(number, false, false);
+  return Close_Number(std::move(clean.NumClean), clean.DecPos, clean.Positive, format);
 }
 
 }  // namespace quorvex

@@ -1,6 +1,8 @@
 // The step that every function of one number ends with.
 #pragma once
 
+#include <string_view>
+
 #include "host/host_value.h"
 #include "text/options.h"
 
@@ -16,5 +18,8 @@ NumberText Close_Number(NumberText digits, double position, bool positive,
 /// The same without a cut: whatever the default limit, all digits stay.
 NumberText Close_In_Full(NumberText digits, double position, bool positive,
                          const Format_Arguments& format);
+
+/// `Close_Number` of a number as text, with its sign and separator.
+NumberText Close_Text(std::string_view number, const Format_Arguments& format);
 
 }  // namespace quorvex

@@ -11,7 +11,6 @@
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "host/shown_text.h"
-#include "text/clean_up_number.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
 
@@ -77,16 +76,11 @@ NumberText Product_Of(const Factors& factors, double limit) {
   return Plain_Text(product);
 }
 
-NumberText Close(std::string_view product, const Format_Arguments& format) {
-  type_CleanUp clean = Clean_Up_Number(product, false, false);
-  return Close_Number(std::move(clean.NumClean), clean.DecPos, clean.Positive, format);
-}
-
 // The product as the call asks for it.
 NumberText Formatted_Product(const Factors& factors, const Format_Arguments& format) {
   const double limit =
       Restrictionator({.maximum_significant_digits = format.maximum_significant_digits}).maxSD;
-  return Close(Product_Of(factors, limit), format);
+  return Close_Text(Product_Of(factors, limit), format);
 }
 
 // The whole part as a float. Arithmetic takes fewer texts for numbers than a cell does: no blanks
@@ -128,7 +122,7 @@ NumberText FactDouble_Function(const HostValue& num, const Format_Arguments& for
 NumberText Running_Factorial::next() {
   if (next_ > 0) product_ = Times(product_, next_, Default_MaxSD());
   ++next_;
-  return Close(Plain_Text(product_), {});
+  return Close_Text(Plain_Text(product_), {});
 }
 
 }  // namespace quorvex

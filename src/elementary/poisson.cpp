@@ -15,7 +15,6 @@
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
-#include "text/clean_up_number.h"
 #include "text/options.h"
 #include "text/primitives.h"
 #include "text/recognition.h"
@@ -160,15 +159,12 @@ NumberText Poisson_Function(const HostValue& target_num, const HostValue& averag
   const auto restricted = Read_Truth(restrict_input_lengths, true);
   if (!limit || !restricted) return NumberText(value_token);
 
-  type_CleanUp clean =
-      Clean_Up_Number(Poisson_Core({Trunc_Function(target.number), std::move(average.number),
-                                    *cumulative, *restricted, *limit}),
-                      false, false);
+  const NumberText probability = Poisson_Core(
+      {Trunc_Function(target.number), std::move(average.number), *cumulative, *restricted, *limit});
   const HostValue shown_notation = *notation;
   const HostValue shown_limit = *limit;
-  return Close_Number(
-      std::move(clean.NumClean), clean.DecPos, clean.Positive,
-      {.exponential_notation = shown_notation, .maximum_significant_digits = shown_limit});
+  return Close_Text(probability, {.exponential_notation = shown_notation,
+                                  .maximum_significant_digits = shown_limit});
 }
 
 }  // namespace quorvex

@@ -25,22 +25,18 @@ void Series_Counter::step() {
   if (k_ + 2 < exact_below_) {
     k_ += 2;
   } else {
-    k_ = To_Number(Sum(value(), Whole(2), limit_).text());
+    k_ = To_Number(Sum(value(), Step_Number(2), limit_).text());
   }
 }
 
 Step_Number Series_Counter::next() const {
-  return k_ + 1 < exact_below_ ? Whole(k_ + 1) : Sum(value(), Whole(1), limit_);
+  return k_ + 1 < exact_below_ ? Step_Number(k_ + 1) : Sum(value(), Step_Number(1), limit_);
 }
 
 Step_Number Series_Counter::product_with_the_one_before() const {
   const double product = k_ * (k_ - 1);
-  if (product < exact_below_) return Whole(product);
-  return Product(value(), Difference(value(), Whole(1), limit_), limit_);
-}
-
-Step_Number Series_Counter::Whole(double number) {
-  return Step_Number(number);
+  if (product < exact_below_) return Step_Number(product);
+  return Product(value(), Difference(value(), Step_Number(1), limit_), limit_);
 }
 
 // The limit is read as its text has it, with 15 digits, and its sign is forced.

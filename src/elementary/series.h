@@ -20,13 +20,11 @@ class Series_Counter {
   std::uint64_t whole() const { return static_cast<std::uint64_t>(k_); }
 
   // As operations at the limit give them.
-  Step_Number value() const { return Whole(k_); }
+  Step_Number value() const { return Step_Number(k_); }
   Step_Number next() const;                         // k + 1
   Step_Number product_with_the_one_before() const;  // k (k - 1)
 
  private:
-  static Step_Number Whole(double number);
-
   double k_;
   double limit_;
   double exact_below_;

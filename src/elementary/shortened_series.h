@@ -38,9 +38,8 @@ struct Series_State {
 /// bits for the fraction. The bound of what a term can differ by has two parts.
 ///
 /// - An exact step rounds a product by at most half a unit of digit limit + 2, and leaves less than
-/// a
-///   unit of digit limit + 1 off a quotient: together less than 2 * 10^-limit of the power's size.
-///   Sizes of powers are known from above, and after n steps n such parts have come together.
+///   a unit of digit limit + 1 off a quotient: together less than 2 * 10^-limit of the power's
+///   size. Sizes of powers are known from above, and after n steps n such parts have come together.
 /// - A step here cuts off less than a unit of 2^-64 for each word and five more; the conversions at
 ///   the start less than 20. Since each power is at most half the one before, all that powers bring
 ///   along is no more than twice that of one step.

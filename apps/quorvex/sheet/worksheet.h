@@ -65,7 +65,6 @@ struct Cell {
   const Cell_Problem* trouble() const {
     return calculation ? calculation->problem.get() : problem.get();
   }
-  bool is_formula() const { return calculation || problem; }
 };
 
 /// The value as shown; #CIRCULAR! on a circular reference, #SPILL! for an array without room.
