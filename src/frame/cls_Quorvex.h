@@ -5,7 +5,7 @@
 #include <memory>
 #include <optional>
 
-#include "arith/reciprocal.h"
+#include "arith/division/reciprocal.h"
 #include "host/application.h"
 #include "host/export.h"
 #include "host/host_value.h"

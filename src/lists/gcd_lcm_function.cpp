@@ -4,14 +4,14 @@
 #include <string_view>
 #include <utility>
 
-#include "arith/do_operation.h"
-#include "arith/reduce_fraction.h"
-#include "arith/round_function.h"
+#include "arith/fractions/reduce_fraction.h"
+#include "arith/operation/do_operation.h"
 #include "lists/list_result.h"
 #include "lists/list_walk.h"
 #include "text/compare_numbers.h"
 #include "text/options.h"
 #include "text/primitives.h"
+#include "text/round_function.h"
 #include "text/tokens.h"
 
 namespace quorvex {

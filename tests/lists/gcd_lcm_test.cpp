@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "arith/do_operation.h"
+#include "arith/operation/do_operation.h"
 #include "lists/gcd_lcm_function.h"
 #include "support/random_numbers.h"
 
