@@ -156,11 +156,12 @@ std::vector<Method> List_Rows() {
           "precision.  \"format:negative,thousands,currency,exponent,MSD=n\"",
           "qvxSUM2({1, 2; 3, \"no number\"}, \"99999999999999999999\", \"format:thousands\")",
           Number_List(), {"The sum, formatted; 0 where there is no number.", {list_fails}}),
-      Row<&cls_Quorvex::qvxCOUNT>("qvxCOUNT", "List", statistical,
-                                  "Returns how many of the arguments are numbers.  "
-                                  "\"format:negative,thousands,currency,exponent,MSD=n\"",
-                                  "qvxCOUNT(1, \"2\", \"two\", TRUE, \"3.00000000000000000001\")",
-                                  Number_List(), {"The count, formatted.", {list_fails}}),
+      Row<&cls_Quorvex::qvxCOUNT>(
+          "qvxCOUNT", "List", statistical,
+          "Returns how many of the arguments are numbers, with up to 32,767 significant digits of "
+          "precision.  \"format:negative,thousands,currency,exponent,MSD=n\"",
+          "qvxCOUNT(1, \"2\", \"two\", TRUE, \"3.00000000000000000001\")", Number_List(),
+          {"The count, formatted.", {list_fails}}),
       Row<&cls_Quorvex::qvxMAX>(
           "qvxMAX", "List", statistical,
           "Returns the largest of the numeric arguments, with up to 32,767 significant digits of "

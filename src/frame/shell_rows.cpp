@@ -13,7 +13,7 @@ std::vector<Method> Host_Rows() {
           {"Nothing.", {"The call fails for a value that is no application of a host."}}),
       Row<&cls_Quorvex::qvxHelpfilePath>(
           "qvxHelpfilePath", "Shell", not_offered, "Returns where the help file belongs.", "", {},
-          {"The path, beside the library; nobody looks whether the file is there.",
+          {"The whole path, beside the library; nobody looks whether the file is there.",
            {nothing_fails}}),
   };
 }

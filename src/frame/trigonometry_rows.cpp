@@ -58,8 +58,7 @@ std::vector<Method> Sine_Rows() {
           "qvxCOS", "Trigonometry", math,
           "Returns the cosine of an angle, with up to 32,767 significant digits of precision. For "
           "any given angle in a right triangle, the angle's cosine is the length of the side "
-          "adjacent to the angle divided by the length of the side opposite the right angle. The "
-          "angle 0 gives 0.",
+          "adjacent to the angle divided by that of the hypotenuse. The angle 0 gives 0.",
           "qvxCOS(1, 50)", With_Limit(angle), {angle_value, {angle_fails}}),
       Row<&cls_Quorvex::qvxTAN>(
           "qvxTAN", "Trigonometry", math,

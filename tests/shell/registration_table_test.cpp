@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <map>
 #include <set>
 #include <sstream>
@@ -70,6 +72,25 @@ TEST(RegistrationTable, HoldsEveryMethodThatIsOfferedInADialog) {
     if (const Method* method = Find_Method(row.macro)) there.insert(method->name);
   for (const Method& method : Catalogue())
     EXPECT_EQ(there.contains(method.name), !method.category.empty()) << method.name;
+}
+
+/// The length as hosts count it: in words of 16 bits.
+std::ptrdiff_t Count_Words(std::string_view utf8) {
+  return std::ranges::count_if(utf8, [](char byte) { return (byte & 0xC0) != 0x80; }) +
+         std::ranges::count_if(utf8, [](char byte) { return (byte & 0xF8) == 0xF0; });
+}
+
+TEST(RegistrationTable, DescribesInWhatAHostTakesAndTellsThePrecision) {
+  const std::set<std::string> without_numbers = {"qvxISERROR", "qvxFORMAT", "qvxVERSION", "qvxXLA",
+                                                 "More_Information"};
+  for (const Registration& row : Registration_Table()) {
+    // A host refuses the whole description where it is longer.
+    EXPECT_LE(Count_Words(row.description), 255) << row.macro;
+    EXPECT_EQ(row.description.find(", with up to 32,767 significant digits of precision.") !=
+                  std::string::npos,
+              !without_numbers.contains(row.macro))
+        << row.macro;
+  }
 }
 
 TEST(RegistrationTable, DescribesTheFunctionsInTheWordsThatUsersKnow) {
