@@ -1,4 +1,5 @@
-// Where the library says that it stands, however it was loaded.
+// Where the engine's library says that it stands, however it was loaded. This program knows nothing
+// else of that library, so that the copies it loads are the only ones.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -6,35 +7,45 @@
 
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <string>
 
-#include "apps/cli/run_tool.h"
 #include "host/platform.h"
+#include "support/environment.h"
 
 namespace quorvex {
 namespace {
 
 namespace fs = std::filesystem;
 
+/// Asks a library that was loaded.
+#ifdef QUORVEX_SANITIZED
+__attribute__((no_sanitize("vptr", "function")))  // that would need the library at hand
+#endif
+std::string
+Folder_Of(void* library) {
+  const auto platform =
+      reinterpret_cast<Platform& (*)()>(::dlsym(library, "_ZN7quorvex16Process_PlatformEv"));
+  return platform().libraries->folder();
+}
+
 /// What a copy of the library tells of its folder. A process of its own loads it by that name from
 /// within `from`, and asks when it is somewhere else.
 std::string Told_Folder(const fs::path& name, const fs::path& from) {
   const Temporary_Folder answers;
-  const std::string answer = answers.write("answer", "");
+  const fs::path answer = answers.path() / "answer";
   const pid_t process = ::fork();
   if (process == 0) {
     fs::current_path(from);
     void* const library = ::dlopen(name.c_str(), RTLD_NOW | RTLD_LOCAL);
     fs::current_path("/");
-    if (library == nullptr) ::_exit(1);
-    const auto platform =
-        reinterpret_cast<Platform& (*)()>(::dlsym(library, "_ZN7quorvex16Process_PlatformEv"));
-    std::ofstream(answer) << platform().libraries->folder();
+    if (library != nullptr) std::ofstream(answer) << Folder_Of(library);
     ::_exit(0);
   }
-  int status = 0;
-  ::waitpid(process, &status, 0);
-  return status == 0 ? File_Text(answer) : "not loaded";
+  ::waitpid(process, nullptr, 0);
+  std::ostringstream text;
+  text << std::ifstream(answer).rdbuf();
+  return text.str();
 }
 
 TEST(LibraryFolder, IsAbsoluteAndNormalHoweverTheLibraryWasLoaded) {
