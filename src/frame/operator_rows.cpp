@@ -21,10 +21,12 @@ Parameters Compared_By_Value() {
 // Named, since in a list they would look like two sentences each.
 constexpr Sentence root_tokens =
     "\"DIV/0!\", without a #, for a degree of 0. \"#NUM!\" for a negative number unless "
-    "the degree is an odd whole number, and where the approach never comes to rest.";
+    "the degree is an odd whole number, and where the approach never comes to rest. \"#VALUE!\" "
+    "where it can be seen to take longer than anybody waits.";
 constexpr Sentence power_tokens =
     "\"#NUM!\" for a fractional power of a negative number, and for a power with more "
-    "integer digits than a text can hold.";
+    "integer digits than a text can hold. \"#VALUE!\" for a fractional power whose root can be "
+    "seen to take longer than anybody waits.";
 
 }  // namespace
 
