@@ -21,12 +21,18 @@ namespace {
 using Worker = HostValue(const HostValue&, const HostValue&);
 using Oracle = int(mpfr_ptr, mpfr_srcptr, mpfr_rnd_t);
 
-double Distance(Worker* worker, Oracle* oracle, const std::string& text, double limit) {
+// In units of the last of `places` digits, of which the first stands before the separator.
+double Distance(Worker* worker, Oracle* oracle, const std::string& text, double limit,
+                double places) {
   const mpfr_prec_t bits = Bits_For(2 * limit + 2 * static_cast<double>(text.size()));
   const Real_Number argument(text, bits);
   Real_Number exact(bits);
   oracle(exact.value(), argument.value(), MPFR_RNDN);
-  return exact.distance(To_Text(worker(text, limit)), limit);
+  return exact.distance(To_Text(worker(text, limit)), places);
+}
+
+double Distance(Worker* worker, Oracle* oracle, const std::string& text, double limit) {
+  return Distance(worker, oracle, text, limit, limit);
 }
 
 std::size_t Random_Limit(Random_Numbers& random) {
@@ -66,6 +72,19 @@ TEST(InverseTrigonometry, ArcSinesAndCosinesAgreeWithAnIndependentLibrary) {
     EXPECT_LE(Distance(ASin_Function, mpfr_asin, text, digits), error) << text << " at " << limit;
     EXPECT_LE(Distance(ACos_Function, mpfr_acos, text, digits), error + 1)
         << text << " at " << limit;
+  }
+}
+
+// 1 less such a square has a root next to 1, whose text is as short as that of its first guess.
+TEST(InverseTrigonometry, ArcSinesOfPowersOfTenAgreeWithAnIndependentLibrary) {
+  for (std::size_t places = 1; places <= 60; ++places) {
+    const std::string text = "0." + std::string(places - 1, '0') + "1";
+    for (double limit = 10; limit <= 120; limit += 11) {
+      // The limit counts from the first digit of the number.
+      EXPECT_LE(
+          Distance(ASin_Function, mpfr_asin, text, limit, limit + static_cast<double>(places)), 20)
+          << text << " at " << limit;
+    }
   }
 }
 
