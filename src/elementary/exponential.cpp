@@ -5,12 +5,12 @@
 #include <string>
 #include <utility>
 
-#include "arith/do_operation.h"
-#include "arith/step_number.h"
+#include "arith/operation/do_operation.h"
+#include "arith/operation/step_number.h"
 #include "elementary/constants.h"
-#include "elementary/logarithm_steps.h"
-#include "elementary/shortened_series.h"
-#include "elementary/text_steps.h"
+#include "elementary/series/shortened_series.h"
+#include "elementary/steps/logarithm_steps.h"
+#include "elementary/steps/text_steps.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"

@@ -4,13 +4,13 @@
 #include <string>
 #include <utility>
 
-#include "arith/close_number.h"
-#include "arith/multiply_digits.h"
-#include "arith/whole_part.h"
+#include "arith/digits/multiply_digits.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "host/shown_text.h"
+#include "numbers/whole_part.h"
+#include "text/close_number.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
 

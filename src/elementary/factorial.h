@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "arith/scaled_number.h"
+#include "arith/operation/scaled_number.h"
 #include "host/host_value.h"
 #include "text/options.h"
 

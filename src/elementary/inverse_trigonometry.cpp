@@ -2,11 +2,11 @@
 
 #include <string_view>
 
-#include "arith/signs.h"
-#include "elementary/arc_tangent_series.h"
 #include "elementary/constants.h"
-#include "elementary/text_steps.h"
+#include "elementary/series/arc_tangent_series.h"
+#include "elementary/steps/text_steps.h"
 #include "host/conversions.h"
+#include "numbers/signs.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
 

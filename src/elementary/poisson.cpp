@@ -5,16 +5,16 @@
 #include <string>
 #include <utility>
 
-#include "arith/close_number.h"
-#include "arith/do_operation.h"
-#include "arith/signs.h"
-#include "arith/step_number.h"
-#include "arith/whole_part.h"
+#include "arith/operation/do_operation.h"
+#include "arith/operation/step_number.h"
 #include "elementary/constants.h"
 #include "elementary/factorial.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "numbers/signs.h"
+#include "numbers/whole_part.h"
+#include "text/close_number.h"
 #include "text/options.h"
 #include "text/primitives.h"
 #include "text/recognition.h"

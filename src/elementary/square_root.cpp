@@ -3,7 +3,7 @@
 #include <cmath>
 #include <utility>
 
-#include "arith/do_operation.h"
+#include "arith/operation/do_operation.h"
 #include "elementary/constants.h"
 #include "host/conversions.h"
 #include "text/format_result.h"

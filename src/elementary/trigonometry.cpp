@@ -3,13 +3,13 @@
 #include <string_view>
 #include <utility>
 
-#include "arith/signs.h"
 #include "elementary/constants.h"
-#include "elementary/reduce_to_90.h"
-#include "elementary/sine_series.h"
-#include "elementary/text_steps.h"
+#include "elementary/series/sine_series.h"
+#include "elementary/steps/reduce_to_90.h"
+#include "elementary/steps/text_steps.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
+#include "numbers/signs.h"
 #include "text/tokens.h"
 
 namespace quorvex {

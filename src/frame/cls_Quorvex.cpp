@@ -1,7 +1,7 @@
 // Methods of the public class that belong to no family of their own.
 #include "frame/cls_Quorvex.h"
 
-#include "arith/recip_divide.h"
+#include "arith/division/recip_divide.h"
 #include "elementary/angle_units.h"
 #include "elementary/constants.h"
 #include "elementary/square_root.h"

@@ -1,7 +1,7 @@
 // The worksheet functions of lists and of fractions.
 #include "frame/cls_Quorvex.h"
 
-#include "arith/reduce_fraction.h"
+#include "arith/fractions/reduce_fraction.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "lists/gcd_lcm_function.h"

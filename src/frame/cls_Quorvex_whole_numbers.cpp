@@ -1,15 +1,15 @@
 // The worksheet functions of whole numbers, their parts and signs, and of rounding.
 #include "frame/cls_Quorvex.h"
 
-#include "arith/mod_function.h"
-#include "arith/parity.h"
-#include "arith/round_function.h"
-#include "arith/signs.h"
-#include "arith/whole_part.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
-#include "lists/even_odd.h"
-#include "lists/frac_function.h"
+#include "numbers/even_odd.h"
+#include "numbers/frac_function.h"
+#include "numbers/mod_function.h"
+#include "numbers/parity.h"
+#include "numbers/signs.h"
+#include "numbers/whole_part.h"
+#include "text/round_function.h"
 
 namespace quorvex {
 namespace {

@@ -51,7 +51,7 @@ std::vector<Method> Reduction_Rows() {
                     "what stands between numerator and divisor; a slash if left out")},
           {"An array of text of four rows and columns, whose first row and first column hold the "
            "fraction, its numerator, its divisor and the number it was reduced by; or one of these "
-           "alone, as text.",
+           "alone, as text. All with all their digits, whatever the default limit is.",
            {no_number_is_num_or_value, token_passes,
             "The call fails where both numbers have decimals and the numerator has more digits on "
             "either side of its separator."}}),

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "lists/long_characters.h"
-#include "lists/written_out.h"
+#include "numbers/long_characters.h"
+#include "numbers/written_out.h"
 #include "text/format_result.h"
 #include "text/primitives.h"
 #include "text/tokens.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "arith/digit_spans.h"
+#include "arith/digits/digit_spans.h"
 #include "host/platform.h"
 
 namespace quorvex {

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "arith/do_operation.h"
+#include "arith/operation/do_operation.h"
 #include "host/run_time_failure.h"
 #include "lists/list_result.h"
 #include "lists/list_walk.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "arith/multiply_digits.h"
+#include "arith/digits/multiply_digits.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "lists/running_sum.h"

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "arith/do_operation.h"
-#include "arith/subtract_digits.h"
+#include "arith/digits/subtract_digits.h"
+#include "arith/operation/do_operation.h"
 #include "host/run_time_failure.h"
 #include "text/digit_runs.h"
 #include "text/format_result.h"

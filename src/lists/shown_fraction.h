@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "arith/reduce_fraction.h"
+#include "arith/fractions/reduce_fraction.h"
 #include "host/host_value.h"
 
 namespace quorvex {

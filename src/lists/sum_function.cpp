@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "arith/do_operation.h"
+#include "arith/operation/do_operation.h"
 #include "host/conversions.h"
 #include "lists/list_result.h"
 #include "lists/list_walk.h"

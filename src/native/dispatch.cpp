@@ -1,5 +1,5 @@
 // Which instructions this machine has, asked once.
-#include "native/kernels.h"
+#include "native/generic/kernels.h"
 #include "native/multiply.h"
 
 namespace quorvex::native {

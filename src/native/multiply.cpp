@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "native/kernels.h"
+#include "native/generic/kernels.h"
 #include "native/stair.h"
 
 namespace quorvex::native {

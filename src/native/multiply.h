@@ -5,13 +5,9 @@
 #include <cstddef>
 #include <string_view>
 
+#include "native/generic/instructions.h"
+
 namespace quorvex::native {
-
-/// The kinds of machine instructions that the kernels are written for.
-enum class Instructions { portable, avx2, avx512 };
-
-/// The best kind that this machine has.
-Instructions Best_Instructions() noexcept;
 
 /// Writes the product, without a leading zero, to the front of `out` and returns its count of
 /// digits; the rest of `out` stays as it is. Returns 0 and writes nothing if an operand is empty or

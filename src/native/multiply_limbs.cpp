@@ -1,11 +1,11 @@
 // Short and middling operands by the portable kernels.
 #include <cstring>
 
-#include "native/karatsuba.h"
-#include "native/limb_division.h"
-#include "native/limbs.h"
-#include "native/schoolbook_portable.h"
-#include "native/scratch.h"
+#include "native/generic/karatsuba.h"
+#include "native/generic/limb_division.h"
+#include "native/generic/limbs.h"
+#include "native/generic/schoolbook_portable.h"
+#include "native/generic/scratch.h"
 #include "native/stair.h"
 
 namespace quorvex::native {

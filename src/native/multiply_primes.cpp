@@ -1,9 +1,9 @@
 // The longest operands by transforms over two primes.
 #include <algorithm>
 
-#include "native/kernels.h"
-#include "native/points.h"
-#include "native/scratch.h"
+#include "native/generic/kernels.h"
+#include "native/generic/points.h"
+#include "native/generic/scratch.h"
 #include "native/stair.h"
 
 namespace quorvex::native {

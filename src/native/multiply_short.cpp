@@ -1,6 +1,6 @@
 // Short operands by the kernel of their own that some machines have.
-#include "native/kernels.h"
-#include "native/scratch.h"
+#include "native/generic/kernels.h"
+#include "native/generic/scratch.h"
 #include "native/stair.h"
 
 namespace quorvex::native {

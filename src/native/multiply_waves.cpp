@@ -22,8 +22,8 @@
 #include <bit>
 #include <optional>
 
-#include "native/kernels.h"
-#include "native/scratch.h"
+#include "native/generic/kernels.h"
+#include "native/generic/scratch.h"
 #include "native/stair.h"
 
 namespace quorvex::native {

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "native/kernels.h"
+#include "native/generic/kernels.h"
 
 namespace quorvex::native {
 

@@ -7,14 +7,14 @@
 #include <string>
 #include <utility>
 
-#include "arith/add_digits.h"
-#include "arith/do_operation.h"
-#include "arith/multiply_digits.h"
-#include "arith/round_function.h"
-#include "arith/subtract_digits.h"
+#include "arith/digits/add_digits.h"
+#include "arith/digits/multiply_digits.h"
+#include "arith/digits/subtract_digits.h"
+#include "arith/operation/do_operation.h"
 #include "elementary/digits/digits.h"
 #include "support/failures.h"
 #include "support/locales.h"
+#include "text/round_function.h"
 
 namespace quorvex {
 namespace {

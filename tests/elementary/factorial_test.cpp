@@ -6,12 +6,12 @@
 
 #include <string>
 
-#include "arith/close_number.h"
-#include "arith/do_operation.h"
+#include "arith/operation/do_operation.h"
 #include "support/failures.h"
 #include "support/random_numbers.h"
 #include "support/surroundings.h"
 #include "support/without_libraries.h"
+#include "text/close_number.h"
 #include "text/format_result.h"
 
 namespace quorvex {

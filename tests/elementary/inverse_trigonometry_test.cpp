@@ -7,7 +7,7 @@
 #include <string>
 
 #include "elementary/constants.h"
-#include "elementary/text_steps.h"
+#include "elementary/steps/text_steps.h"
 #include "elementary/trigonometry.h"
 #include "host/conversions.h"
 #include "support/failures.h"

@@ -9,8 +9,7 @@
 #include <string>
 #include <utility>
 
-#include "arith/do_operation.h"
-#include "arith/round_to_sd.h"
+#include "arith/operation/do_operation.h"
 #include "elementary/constants.h"
 #include "elementary/exponential.h"
 #include "host/conversions.h"
@@ -20,6 +19,7 @@
 #include "support/random_numbers.h"
 #include "support/surroundings.h"
 #include "support/without_libraries.h"
+#include "text/round_to_sd.h"
 
 namespace quorvex {
 namespace {

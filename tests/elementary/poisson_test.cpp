@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "arith/do_operation.h"
+#include "arith/operation/do_operation.h"
 #include "elementary/constants.h"
 #include "elementary/factorial.h"
 #include "host/conversions.h"

@@ -9,10 +9,10 @@
 #include <string>
 #include <utility>
 
-#include "arith/do_operation.h"
-#include "elementary/reduce_to_90.h"
-#include "elementary/series.h"
-#include "elementary/text_steps.h"
+#include "arith/operation/do_operation.h"
+#include "elementary/series/series.h"
+#include "elementary/steps/reduce_to_90.h"
+#include "elementary/steps/text_steps.h"
 #include "host/conversions.h"
 #include "support/failures.h"
 #include "support/random_numbers.h"

@@ -8,8 +8,8 @@
 #include <string_view>
 
 #include "batch/answer.h"
-#include "batch/call_guard.h"
 #include "host/platform.h"
+#include "io/call_guard.h"
 
 namespace quorvex {
 namespace {

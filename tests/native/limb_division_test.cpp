@@ -1,5 +1,5 @@
 // Columns fall apart into a limb and a carry, at the edges where an estimate is off.
-#include "native/limb_division.h"
+#include "native/generic/limb_division.h"
 
 #include <gtest/gtest.h>
 

@@ -6,10 +6,10 @@
 #include <numbers>
 #include <string>
 
-#include "native/kernels.h"
+#include "native/generic/kernels.h"
+#include "native/generic/wave_length.h"
+#include "native/generic/wave_roots.h"
 #include "native/stair.h"
-#include "native/wave_length.h"
-#include "native/wave_roots.h"
 #include "products.h"
 
 namespace quorvex::native {

@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "batch/call_guard.h"
 #include "frame/cls_Quorvex.h"
 #include "host/run_time_failure.h"
+#include "io/call_guard.h"
 
 namespace quorvex {
 

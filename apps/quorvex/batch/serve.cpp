@@ -2,8 +2,8 @@
 #include "batch/serve.h"
 
 #include "batch/answer.h"
-#include "batch/line_io.h"
 #include "batch/request.h"
+#include "io/line_io.h"
 
 namespace quorvex {
 

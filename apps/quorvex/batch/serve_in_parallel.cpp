@@ -8,10 +8,10 @@
 #include <utility>
 
 #include "batch/answer.h"
-#include "batch/line_io.h"
 #include "batch/request.h"
 #include "batch/serve.h"
 #include "batch/worker.h"
+#include "io/line_io.h"
 
 namespace quorvex {
 namespace {

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "batch/call_guard.h"
+#include "io/call_guard.h"
 
 namespace CLI {
 class App;

@@ -7,10 +7,10 @@
 #include <optional>
 
 #include "batch/request.h"
-#include "cli/result_text.h"
 #include "formula/evaluate.h"
 #include "formula/formula.h"
 #include "host/run_time_failure.h"
+#include "sheet/result_text.h"
 
 namespace quorvex {
 namespace {

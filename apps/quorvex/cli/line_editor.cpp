@@ -12,7 +12,7 @@
 #include <system_error>
 #include <utility>
 
-#include "batch/call_guard.h"
+#include "io/call_guard.h"
 
 namespace quorvex {
 namespace {

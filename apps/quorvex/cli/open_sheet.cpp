@@ -4,10 +4,10 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "cli/progress_bar.h"
 #include "formula/formula.h"
 #include "formula/reference.h"
 #include "host/run_time_failure.h"
+#include "io/progress_bar.h"
 #include "sheet/csv.h"
 #include "sheet/grid.h"
 #include "sheet/workbook.h"

@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "cli/formulas.h"
-#include "cli/function_reference.h"
+#include "cli/help/function_reference.h"
 #include "cli/open_sheet.h"
 #include "cli/settings_command.h"
 #include "cli/terminal_face.h"

@@ -9,9 +9,9 @@
 #include <string_view>
 #include <utility>
 
-#include "batch/call_guard.h"
-#include "batch/line_io.h"
 #include "frame/cls_Quorvex.h"
+#include "io/call_guard.h"
+#include "io/line_io.h"
 
 namespace quorvex {
 

@@ -10,9 +10,9 @@
 #include <utility>
 
 #include "cli/quiet_face.h"
-#include "cli/wrapped.h"
 #include "host/conversions.h"
 #include "host/platform.h"
+#include "io/wrapped.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMaxSD.h"
 #include "text/options.h"

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "apps/cli/run_tool.h"
-#include "cli/example_result.h"
+#include "cli/help/example_result.h"
 #include "formula/reference.h"
 #include "frame/catalogue.h"
 #include "sheet/csv.h"

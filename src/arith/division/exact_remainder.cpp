@@ -1,0 +1,140 @@
+#include "arith/division/exact_remainder.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+#include <utility>
+
+#include "arith/digits/multiply_digits.h"
+#include "arith/digits/subtract_digits.h"
+#include "arith/division/limb_remainder.h"
+#include "arith/division/recip_divide.h"
+#include "arith/limbs/limbs.h"
+#include "host/platform.h"
+#include "host/run_time_failure.h"
+#include "text/compare_numbers.h"
+#include "text/digit_runs.h"
+#include "text/tokens.h"
+
+namespace quorvex {
+namespace {
+
+// Why the three operations leave the exact remainder.
+//
+// Let A, a and B, b be the digits, without zeros in front, and decimals of dividend and divisor, L
+// the length of both texts, D the divisor as a whole number, both operands scaled by the same power
+// of ten, and I the integer digits of the quotient Q (below 1, less by the zeros behind the point).
+// I is A - a - (B - b) + 1 at most, and log10 D is B - b + max(a, b) at most: together, L + 1 at
+// most. The quotient is asked for to s = L + 6 digits, so that a unit of its last place, 10^(I-s),
+// is at most 10^-5 / D.
+//
+// 1. It is the dividend times s + 3 digits of the reciprocal, which are right, or where the
+//    reciprocal ends those of a number just below it. So it lies below Q, by less than 11 units of
+//    digit s + 3, before it is rounded to s digits by the first dropped one.
+// 2. Q whole: it has I digits, fewer than s. What is dropped begins with a nine, also for a power
+//    of ten, whose digits begin one place later then: rounding gives Q.
+// 3. Q not whole: it is 1/D or more from any whole number, and rounding moves it by less than
+//    10^-5 / D. Its whole part stays, whichever way it is cut.
+// 4. Divisors of 1 and quotients of 1, answered without a reciprocal, are exact.
+//
+// The product has fewer digits than its limit, so that the difference is exact as well.
+
+// Up to here, of divisor or quotient, long division costs less than products.
+constexpr std::size_t few_limbs = 48;
+constexpr std::size_t guard_digits = 7;
+
+std::string_view Without_Leading_Zeros(std::string_view digits) {
+  return digits.substr(Count_Leading_Zeros(digits));
+}
+
+std::size_t Decimals(const Decimal_Parts& parts) {
+  return parts.fraction.size() - Count_Trailing_Zeros(parts.fraction);
+}
+
+// A number without its separator, as if it had so many decimals; no leading zeros.
+class Scaled_Digits {
+ public:
+  Scaled_Digits(const Decimal_Parts& parts, std::size_t decimals)
+      : digits_(Without_Leading_Zeros(parts.integer)) {
+    if (decimals == 0) return;
+    Require_Memory(static_cast<double>(digits_.size()) + static_cast<double>(decimals));
+    const auto fraction = parts.fraction.substr(0, std::min(decimals, parts.fraction.size()));
+    text_.reserve(digits_.size() + decimals);
+    text_.append(digits_).append(fraction).append(decimals - fraction.size(), '0');
+    digits_ = Without_Leading_Zeros(text_);
+  }
+  Scaled_Digits(const Scaled_Digits&) = delete;
+  Scaled_Digits& operator=(const Scaled_Digits&) = delete;
+
+  std::string_view digits() const { return digits_; }
+
+ private:
+  NumberText text_;
+  std::string_view digits_;
+};
+
+NumberText Checked(NumberText digits) {
+  if (!Has_Token_Mark(digits)) return digits;
+  throw Run_Time_Failure(Failure_Number::invalid_call, "A product can't be formed.");
+}
+
+// The whole part of x / d, or a number at most two from it.
+NumberText Near_Quotient(std::string_view x, std::string_view d) {
+  // What the divisor has more digits than the quotient changes it by next to nothing.
+  const std::size_t length = x.size() - d.size() + 1;
+  const std::size_t dropped = d.size() - std::min(d.size(), length + guard_digits);
+  x.remove_suffix(dropped);
+  d.remove_suffix(dropped);
+  const std::size_t precision = std::max(length, d.size()) + guard_digits;
+  type_Division_Recip quotient = Divide_Digits(x, d, static_cast<std::int32_t>(precision));
+  NumberText digits = Checked(std::move(quotient.digits));
+  if (quotient.powerOfTen >= 0) {
+    return digits.append(static_cast<std::size_t>(quotient.powerOfTen), '0');
+  }
+  const auto decimals = static_cast<std::size_t>(-std::int64_t{quotient.powerOfTen});
+  digits.resize(digits.size() - std::min(digits.size(), decimals));
+  return digits;
+}
+
+NumberText Remainder_By_Products(std::string_view x, std::string_view d) {
+  const NumberText product = Checked(Multiply_Digits(Near_Quotient(x, d), d));
+  type_Subtraction rest = Subtract_Digits(x, product, false);
+  while (rest.NegativeSubtraction) rest = Subtract_Digits(d, rest.Difference, false);
+  while (Compare_Digit_Strings(rest.Difference, d, true, true)) {
+    rest = Subtract_Digits(rest.Difference, d, false);
+  }
+  return std::move(rest.Difference);
+}
+
+bool Is_Below(std::string_view x, std::string_view d) {
+  return Compare_Digit_Strings(d, x, false, true);
+}
+
+// x modulo d, of digits without leading zeros; "0" or empty for 0.
+NumberText Remainder_Of_Digits(std::string_view x, std::string_view d) {
+  if (Is_Below(x, d)) return NumberText(x);
+  const std::size_t shorter = std::min(d.size(), x.size() - d.size() + 1);
+  if (limbs::Count_For(shorter) <= few_limbs) return limbs::Remainder(x, d);
+  return Remainder_By_Products(x, d);
+}
+
+}  // namespace
+
+Exact_Remainder Remainder_Of(const Operand& dividend, const Operand& divisor, Quotient_Cut cut) {
+  if (Is_Zero(dividend.parts())) return {"0"};
+  if (!Can_Multiply()) {
+    throw Run_Time_Failure(Failure_Number::invalid_call, "The library of products is missing.");
+  }
+  const std::size_t decimals = std::max(Decimals(dividend.parts()), Decimals(divisor.parts()));
+  const Scaled_Digits x(dividend.parts(), decimals);
+  const Scaled_Digits d(divisor.parts(), decimals);
+  NumberText rest = Remainder_Of_Digits(x.digits(), d.digits());
+  if (rest.empty() || rest == "0") return {"0"};
+  // Cut down, the quotient is one less than towards zero where it is negative.
+  const bool crosses = cut == Quotient_Cut::down && dividend.positive() != divisor.positive();
+  if (crosses) rest = Subtract_Digits(d.digits(), rest, false).Difference;
+  const bool positive = crosses ? divisor.positive() : dividend.positive();
+  return {std::move(rest), static_cast<double>(decimals) + 1, !positive};
+}
+
+}  // namespace quorvex

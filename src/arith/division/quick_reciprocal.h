@@ -1,0 +1,43 @@
+// The digits that the iteration for a reciprocal arrives at, without the iteration.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+#include "arith/limbs/limb_division.h"
+#include "host/host_value.h"
+
+namespace quorvex {
+
+/// The `p` digits that `Iterated_Reciprocal` gives for a digit string `k` above 1 without leading
+/// zeros, or nothing where that can't be told beforehand. The decimal point of the digits stands
+/// as many places to their left as `k` has digits but one.
+///
+/// Let N be the length of k. The digits are floor((10^(p+N-1) - 1) / k): those of 1/k, and where
+/// 1/k ends, those of a number just below it. The proof and its conditions stand with the code.
+std::optional<NumberText> Quick_Reciprocal(const NumberText& k, std::int32_t p);
+
+/// Divisors of up to one limb are divided by directly.
+inline constexpr std::size_t short_divisor_digits = limbs::digits;
+
+/// For such a divisor of `length` digits: 10^s less k times those digits, s = p + length - 1, a
+/// number from 1 to k; nothing where the digits can't be told.
+std::optional<limbs::Limb> Missing_From_Power(const limbs::Divisor& k, std::size_t length,
+                                              std::size_t p);
+
+/// From this count of digits on the proof holds.
+inline constexpr std::int32_t least_quick_precision = 8;
+
+/// How many digits behind the first one must not all be zeros for the first to be right.
+inline constexpr std::size_t Digits_Behind_First(std::size_t p) {
+  return p / 4 - 1;
+}
+
+/// True if no digit that the iteration drops can reach those that it keeps.
+inline constexpr bool Ends_Beyond_Doubt(std::size_t length, std::size_t p) {
+  return length + 2 <= p;
+}
+
+}  // namespace quorvex

@@ -1,0 +1,160 @@
+#include "arith/division/recip_divide.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "arith/digits/multiply_digits.h"
+#include "arith/division/quick_quotient.h"
+#include "host/conversions.h"
+#include "host/run_time_failure.h"
+#include "text/clean_up_number.h"
+#include "text/compare_numbers.h"
+#include "text/digit_runs.h"
+#include "text/round_to_sd.h"
+#include "text/tokens.h"
+
+namespace quorvex {
+namespace {
+
+constexpr std::int32_t guard_digits = 3;
+
+std::int32_t In_32_Bits(std::int64_t number) {
+  if (number > std::numeric_limits<std::int32_t>::max() ||
+      number < std::numeric_limits<std::int32_t>::min()) {
+    throw Run_Time_Failure(Failure_Number::overflow, "A precision or a power of ten is too large.");
+  }
+  return static_cast<std::int32_t>(number);
+}
+
+// Digits without leading zeros are clean as they are, which is what arithmetic passes.
+bool Is_Clean(const NumberText& text) {
+  return !text.empty() && text.front() != '0' && !Has_Non_Digit(text);
+}
+
+// What is done when no digits need to be worked out: true if `quotient` is final.
+bool Is_Answered_At_Once(std::string_view X, std::string_view Y, type_Division_Recip& quotient) {
+  // Clean text is 0 only as "0".
+  if (Y == "0") {
+    quotient.digits = div0_token;
+  } else if (X.starts_with('0')) {
+    quotient.digits = "0";
+  } else if (Y == "1") {
+    quotient.digits = X;
+  } else if (Y == X) {
+    quotient.digits = "1";
+  } else {
+    return false;
+  }
+  return true;
+}
+
+// The dividend times `p` digits of the divisor's reciprocal: the first `p` digits of it.
+struct Product {
+  Leading_Digits leading;
+  std::int32_t power_of_inverse = 0;
+};
+
+// What is no digits gives what the digit routines make of it.
+enum class Operands { digits, texts };
+
+Product Multiply_By_Reciprocal(std::string_view X, std::string_view Y, Operands operands,
+                               std::int32_t p) {
+  if (operands == Operands::digits && Can_Multiply()) {
+    auto quick = Quick_Quotient(X, Y, p);
+    if (quick) return {std::move(*quick), Power_Of_Reciprocal(Y.size(), p)};
+  }
+  const type_Division_Recip inverse = myInverse5(NumberText(Y), p);
+  NumberText product = Multiply_Digits(NumberText(X), inverse.digits);
+  const std::size_t length = product.size();
+  product.resize(std::min(length, static_cast<std::size_t>(std::max(p, 0))));
+  return {{std::move(product), length}, inverse.powerOfTen};
+}
+
+// Works in `quotient`, which is the result also where a failure ends it early.
+void Divide(std::string_view X, std::string_view Y, Operands operands, std::int32_t sd,
+            type_Division_Recip& quotient) {
+  const std::int32_t p = In_32_Bits(std::int64_t{sd} + guard_digits);
+  Product product = Multiply_By_Reciprocal(X, Y, operands, p);
+  const auto length = static_cast<std::int64_t>(product.leading.length);
+  quotient.digits = std::move(product.leading.digits);
+  quotient.powerOfTen =
+      In_32_Bits(product.power_of_inverse - std::min<std::int64_t>(sd, length) + length);
+  const std::size_t before = quotient.digits.size();
+  if (sd < 1 || Has_Token_Mark(quotient.digits)) {
+    // A copy: a token that was cut can't be rounded, and is then what there is.
+    quotient.digits = To_Text(Round_To_SD(quotient.digits, sd));
+  } else {
+    Round_Digits(quotient.digits, sd);
+  }
+  if (quotient.digits.size() == before + 1) {
+    quotient.powerOfTen = In_32_Bits(std::int64_t{quotient.powerOfTen} + 1);
+  }
+  if (sd < 0) {
+    throw Run_Time_Failure(Failure_Number::invalid_call, "There are no digits to keep.");
+  }
+  if (quotient.digits.size() > static_cast<std::size_t>(sd)) {
+    quotient.digits.resize(static_cast<std::size_t>(sd));
+  }
+}
+
+type_Division_Recip Quotient(std::string_view X, std::string_view Y, Operands operands,
+                             std::int32_t sd) {
+  type_Division_Recip quotient;
+  if (Is_Answered_At_Once(X, Y, quotient)) return quotient;
+  With_Handler([&] { Divide(X, Y, operands, sd, quotient); },
+               [&](const Run_Time_Failure& failure) {
+                 // What there is then would be taken for a number.
+                 if (failure.number() == Failure_Number::out_of_memory) {
+                   quotient = {NumberText(value_token), 0};
+                 }
+               });
+  return quotient;
+}
+
+}  // namespace
+
+type_Division_Recip Recip_Divide(NumberText& X, NumberText& Y, std::int32_t sd) {
+  if (!Is_Clean(X) || !Is_Clean(Y)) {
+    type_CleanUp dividend = Clean_Up_Number(X, true, true);
+    if (dividend.IsError) return {std::move(dividend.NumClean), 0};
+    type_CleanUp divisor = Clean_Up_Number(Y, true, true);
+    if (divisor.IsError) return {std::move(divisor.NumClean), 0};
+    X = std::move(dividend.NumClean);
+    Y = std::move(divisor.NumClean);
+  }
+  return Quotient(X, Y, Has_Non_Digit(X) || Has_Non_Digit(Y) ? Operands::texts : Operands::digits,
+                  sd);
+}
+
+type_Division_Recip Divide_Digits(std::string_view X, std::string_view Y, std::int32_t sd) {
+  return Quotient(X, Y, Operands::digits, sd);
+}
+
+double DivisionDecimalPosition(const NumberText& divisor, const NumberText& dividend) {
+  const auto divided = static_cast<double>(divisor.size());
+  const auto by = static_cast<double>(dividend.size());
+  if (Compare_Digit_Strings(dividend, divisor, false, true)) {
+    const NumberText leading = dividend.substr(0, divisor.size());
+    return Compare_Digit_Strings(leading, divisor, true, true) ? 1 - divided + by : by - divided;
+  }
+  if (by > divided) return 0;
+  return Compare_Digit_Strings(dividend, divisor, true, true) ? 1 : 0;
+}
+
+HostValue Min(const HostValue& num1, const HostValue& num2) {
+  return To_Number(num1) < To_Number(num2) ? num1 : num2;
+}
+
+HostValue Max(const HostValue& num1, const HostValue& num2) {
+  return To_Number(num1) > To_Number(num2) ? num1 : num2;
+}
+
+HostValue GetHalfofLong(std::int32_t num_as_long) {
+  return std::floor(static_cast<double>(num_as_long) / 2.0);
+}
+
+}  // namespace quorvex

@@ -1,0 +1,167 @@
+// Products of numbers in limbs, of which only so many digits are wanted.
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "arith/digits/multiply_digits.h"
+#include "arith/limbs/limb_number.h"
+
+namespace quorvex::limbs {
+namespace {
+
+// A column as three numbers that count for it, its neighbour and the next.
+struct Parted {
+  Limb limb;
+  Limb above;
+  Limb far_above;
+};
+
+// Of a column below 2^(64 + shift) and 9.2 * 10^36: the first below 3.2 bases, the second
+// below 9.2.
+template <unsigned shift>
+Parted Part_In_Two(Wide column) {
+  constexpr auto reciprocal = static_cast<Limb>((Wide{1} << (64U + shift)) / base);
+  const auto above =
+      static_cast<Limb>(Wide{static_cast<Limb>(column >> shift)} * reciprocal >> 64U);
+  return {static_cast<Limb>(column) - above * base, above, 0};
+}
+
+// Of at most nine products.
+Parted Part_Few(Wide column) {
+  return Part_In_Two<59>(column);
+}
+
+// Of at most 340 products: the second below 2.1 bases, the third below 340.
+Parted Part(Wide column) {
+  constexpr Wide square = Wide{base} * base;
+  constexpr auto square_high = static_cast<Limb>(square >> 64U) + 1;
+  const Limb far_above = static_cast<Limb>(column >> 64U) / square_high;
+  Parted parted = Part_In_Two<57>(column - far_above * square);
+  parted.far_above = far_above;
+  return parted;
+}
+
+// Adds parted columns from the lowest. They are parted before, so that none waits for the carries
+// of those below it.
+class Column_Sum {
+ public:
+  Limb next(const Parted& parted) {
+    const Limb sum = parted.limb + from_below_;
+    const Limb bases = sum / base;
+    const Limb limb = sum - bases * base + carry_;
+    const auto runs_over = static_cast<Limb>(limb >= base);
+    carry_ = bases + runs_over;
+    from_below_ = parted.above + from_far_below_;
+    from_far_below_ = parted.far_above;
+    return limb - runs_over * base;
+  }
+
+ private:
+  Limb from_below_ = 0;
+  Limb from_far_below_ = 0;
+  Limb carry_ = 0;
+};
+
+// Limbs of the columns from `first` on: those below are left out.
+void Multiply_From(Limb* out, const Number& a, const Number& b, std::size_t first) {
+  const std::size_t x_count = a.count();
+  const std::size_t y_count = b.count();
+  Column_Sum sum;
+  for (std::size_t place = first; place + 1 < x_count + y_count; ++place) {
+    const std::size_t begin = place < y_count ? 0 : place - y_count + 1;
+    const std::size_t end = std::min(place + 1, x_count);
+    const Limb* const x = a.data();
+    const Limb* const y = b.data() + place;
+    Wide column = 0;
+    for (std::size_t i = begin; i < end; ++i) column += Wide{x[i]} * *(y - i);
+    out[place] = sum.next(Part(column));
+  }
+  out[x_count + y_count - 1] = sum.next({});
+}
+
+// So many limbs in each factor are multiplied in columns of equal length, filled up with zeros:
+// more products, but no branch that has to be guessed.
+constexpr std::size_t few_limbs = 8;
+
+template <std::size_t... i>
+Wide Full_Column(const Limb* x, const Limb* y, std::index_sequence<i...> /*limbs*/) {
+  return (... + (Wide{x[i]} * *(y - i)));
+}
+
+template <std::size_t x_count>
+void Multiply_Few(Limb* out, const Number& a, const Number& b, std::size_t first) {
+  const std::size_t count = x_count + b.count();
+  std::array<Limb, 3 * few_limbs> padded;
+  std::fill_n(padded.data(), x_count + count, 0);
+  Limb* const y = padded.data() + x_count;
+  Copy(b.data(), b.count(), y);
+  Column_Sum sum;
+  for (std::size_t place = first; place + 1 < count; ++place) {
+    out[place] =
+        sum.next(Part_Few(Full_Column(a.data(), y + place, std::make_index_sequence<x_count>())));
+  }
+  out[count - 1] = sum.next({});
+}
+
+template <std::size_t... i>
+constexpr auto Routines_For_Few(std::index_sequence<i...> /*counts*/) {
+  return std::array{&Multiply_Few<i + 1>...};
+}
+
+void Multiply_Columns(Limb* out, const Number& a, const Number& b, std::size_t first) {
+  constexpr auto for_few = Routines_For_Few(std::make_index_sequence<few_limbs>());
+  if (a.count() > few_limbs || b.count() > few_limbs) return Multiply_From(out, a, b, first);
+  for_few[a.count() - 1](out, a, b, first);
+}
+
+// Of so many limbs in the shorter factor, products by the library cost less than those of limbs.
+constexpr std::size_t long_factor = 100;
+
+// The lowest column to begin with. What those below it add stays below a unit for each limb of the
+// shorter factor in the limb above it: that limb guards those above, one of which holds the first
+// digit that is dropped.
+std::size_t First_Column(std::size_t count, std::size_t digits_kept) {
+  const std::size_t needed = Count_For(digits_kept) + 4;
+  return count > needed + 2 ? count - needed : 0;
+}
+
+// All digits of the limbs, from the first that is not 0.
+NumberText Digits_Of(const Number& number) {
+  NumberText text(number.count() * digits, '0');
+  for (std::size_t place = 0; place < number.count(); ++place) {
+    Write(text.data() + text.size() - (place + 1) * digits, number.data()[place]);
+  }
+  return text.erase(0, digits - Count_Digits(number.data()[number.count() - 1]));
+}
+
+// By the library of products.
+void Multiply_Long(const Number& a, const Number& b, std::size_t digits_kept, Number& result) {
+  const NumberText product = Multiply_Digits(Digits_Of(a), Digits_Of(b));
+  const std::size_t count = Count_For(product.size());
+  Scratch scratch(count + 1);
+  Read_Number(product, scratch.data());
+  Raw_Number raw{scratch.data(), count, a.low + b.low, a.negative != b.negative};
+  Round(raw, digits_kept, result);
+}
+
+}  // namespace
+
+void Multiply(const Number& a, const Number& b, std::size_t digits_kept, Number& result) {
+  if (a.is_zero() || b.is_zero()) return Trim({}, result);
+  const std::size_t shorter = std::min(a.count(), b.count());
+  if (shorter >= long_factor) return Multiply_Long(a, b, digits_kept, result);
+  const std::size_t count = a.count() + b.count();
+  Scratch scratch(count + 1);
+  Limb* const out = scratch.data();
+  std::size_t first = First_Column(count, digits_kept);
+  Multiply_Columns(out, a, b, first);
+  if (first > 0 && out[first + 1] >= base - shorter - 1) {
+    first = 0;
+    Multiply_Columns(out, a, b, first);
+  }
+  Raw_Number raw{out + first, count - first, a.low + b.low + static_cast<std::int64_t>(first),
+                 a.negative != b.negative};
+  Round(raw, digits_kept, result);
+}
+
+}  // namespace quorvex::limbs

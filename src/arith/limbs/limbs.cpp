@@ -1,0 +1,63 @@
+#include "arith/limbs/limbs.h"
+
+#include <algorithm>
+
+#include "native/generic/digit_words.h"
+
+namespace quorvex::limbs {
+namespace {
+
+constexpr std::size_t word_digits = 8;
+
+Limb Read_Full(const char* text) {
+  const Limb pair = native::Join_Digits(native::Load_Word(text)) * native::ten_to_8 +
+                    native::Join_Digits(native::Load_Word(text + word_digits));
+  return pair * 100 + static_cast<Limb>(text[16] - '0') * 10 + static_cast<Limb>(text[17] - '0');
+}
+
+}  // namespace
+
+Limb Read(std::string_view text) {
+  if (text.size() == digits) return Read_Full(text.data());
+  Limb limb = 0;
+  if (text.size() >= word_digits) {
+    limb = native::Join_Digits(native::Load_Word(text.data()));
+    text.remove_prefix(word_digits);
+  }
+  if (text.size() >= word_digits) {
+    limb = limb * native::ten_to_8 + native::Join_Digits(native::Load_Word(text.data()));
+    text.remove_prefix(word_digits);
+  }
+  if (text.empty()) return limb;
+  return limb * powers_of_ten[text.size()] +
+         native::Join_Digits(native::Load_Short(text.data(), text.size()));
+}
+
+void Write(char* out, Limb limb) {
+  const Limb pair = limb / 100;
+  const auto last = static_cast<unsigned>(limb - pair * 100);
+  const Limb high = pair / native::ten_to_8;
+  native::Store_Word(out, native::Part_Digits(high));
+  native::Store_Word(out + word_digits, native::Part_Digits(pair - high * native::ten_to_8));
+  out[16] = static_cast<char>('0' + last / 10);
+  out[17] = static_cast<char>('0' + last % 10);
+}
+
+void Read_Number(std::string_view text, Limb* out) {
+  for (std::size_t place = 0; !text.empty(); ++place) {
+    const std::size_t count = std::min(text.size(), digits);
+    out[place] = Read(text.substr(text.size() - count));
+    text.remove_suffix(count);
+    if (place % between_yields == between_yields - 1) Yield();
+  }
+}
+
+void Read_Fraction(std::string_view text, std::size_t count, Limb* out) {
+  for (std::size_t place = count; place-- > 0;) {
+    const auto piece = text.substr(0, digits);
+    out[place] = piece.empty() ? 0 : Read(piece) * powers_of_ten[digits - piece.size()];
+    text.remove_prefix(piece.size());
+  }
+}
+
+}  // namespace quorvex::limbs

@@ -1,0 +1,13 @@
+// Products of a number by one of few limbs.
+#pragma once
+
+#include <cstddef>
+
+#include "arith/limbs/limbs.h"
+
+namespace quorvex::limbs {
+
+/// out = a b, in the sum of their counts of limbs, for one of at most 9.
+void Multiply(Limb* out, const Limb* a, std::size_t a_count, const Limb* b, std::size_t b_count);
+
+}  // namespace quorvex::limbs

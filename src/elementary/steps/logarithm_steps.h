@@ -1,0 +1,25 @@
+// What the logarithms and the exponential begin and end with.
+#pragma once
+
+#include "arith/operation/step_number.h"
+#include "host/host_value.h"
+
+namespace quorvex {
+
+/// The number in normal form with its sign, or the token of what is none. Fails with type_mismatch
+/// for a value that has no text.
+NumberText Normal_Form(const HostValue& num);
+
+/// The limit, the default one where it is missing.
+HostValue Limit_Or_Default(const HostValue& maxSD);
+
+/// Cuts a value to the limit of the call, in the notation that it asks for. Tokens stay. Fails with
+/// type_mismatch for an option that can't be read.
+NumberText Finish(NumberText value, const HostValue& exponential_notation, const HostValue& maxSD);
+
+/// True where a series is to end after the term: its power of ten is `last` or less. A negative
+/// term never ends one: its power is taken from its text, where the minus counts as a digit before
+/// the separator.
+bool Ends_Series(const Step_Number& term, std::int64_t last);
+
+}  // namespace quorvex

@@ -1,0 +1,23 @@
+// Angles folded into the first quadrant.
+#pragma once
+
+#include "elementary/steps/text_steps.h"
+#include "host/host_value.h"
+
+namespace quorvex {
+
+struct type_Reduce90 {
+  NumberText Alpha;     // 0 to pi/2; the opposite of that for negative even quarter turns
+  NumberText Quadrant;  // "1" to "4"
+};
+
+/// Folds an angle, given a quarter turn, `halfpi`, at the limit of the steps. The quotient by the
+/// whole turns comes before the difference, which cancels as many digits as the count of turns has:
+/// the further the angle, the fewer digits of `Alpha` are right.
+///
+/// An angle of so many turns that the limit can't count them gives any quadrant, and then an
+/// `Alpha` of "0". Fails with type_mismatch for an angle or a `halfpi` that is no number.
+type_Reduce90 Reduce_To_90(const NumberText& num, const NumberText& halfpi,
+                           const Text_Steps& steps);
+
+}  // namespace quorvex

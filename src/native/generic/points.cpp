@@ -1,0 +1,60 @@
+#include "native/generic/points.h"
+
+#include <cstring>
+
+#include "native/generic/digit_words.h"
+
+namespace quorvex::native {
+namespace {
+
+// Ten or twelve digits are the last eight and those before them.
+template <std::size_t digits>
+double Read_Whole(const char* text, std::uint64_t& bad) {
+  const std::uint64_t head = Load_Word(text);
+  const std::uint64_t tail = Load_Word(text + digits - 8);
+  bad |= Non_Digits(head) | Non_Digits(tail);
+  const std::uint64_t high =
+      Join_Digits((head << (128 - 8 * digits)) | 0x3030303030303030U >> (8 * (digits - 8)));
+  return static_cast<double>(high * ten_to_8 + Join_Digits(tail));
+}
+
+template <std::size_t digits>
+bool Read_All(const char* text, std::size_t count, double* points) {
+  std::uint64_t bad = 0;
+  for (; count >= digits; ++points) {
+    count -= digits;
+    *points = Read_Whole<digits>(text + count, bad);
+  }
+  if (count > 0) {
+    char whole[digits];
+    std::memset(whole, '0', digits);
+    std::memcpy(whole + digits - count, text, count);
+    *points = Read_Whole<digits>(whole, bad);
+  }
+  return bad == 0;
+}
+
+// The last eight digits overwrite what the others leave behind them.
+void Write_Whole(char* out, double point, std::size_t digits) {
+  const auto number = static_cast<std::uint64_t>(point);
+  const std::uint64_t high = number / ten_to_8;
+  const std::uint64_t head = Part_Digits(high);
+  Store_Word(out, head >> (8 * (16 - digits)));
+  Store_Word(out + digits - 8, Part_Digits(number - high * ten_to_8));
+}
+
+}  // namespace
+
+bool Read_Points(const char* text, std::size_t count, const Cut& cut, double* points) {
+  return cut.digits == 12 ? Read_All<12>(text, count, points) : Read_All<10>(text, count, points);
+}
+
+std::size_t Write_Points(const double* points, std::size_t count, std::size_t digits, char* out) {
+  while (points[count - 1] == 0) --count;
+  std::size_t written = Write_Number(out, static_cast<std::uint64_t>(points[count - 1]));
+  for (std::size_t i = count - 1; i-- > 0; written += digits)
+    Write_Whole(out + written, points[i], digits);
+  return written;
+}
+
+}  // namespace quorvex::native

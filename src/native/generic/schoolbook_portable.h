@@ -1,0 +1,20 @@
+// Products of short operands, limb by limb: n * m multiplications of 64 by 64 bits.
+#pragma once
+
+#include "native/generic/limbs.h"
+
+namespace quorvex::native {
+
+/// The most limbs that the shorter operand may have: so many products of two limbs fit a sum of
+/// 128 bits, 340 * (10^18 - 1)^2 + 2^69 < 2^128.
+inline constexpr std::size_t schoolbook_ceiling = 340;
+
+/// Writes all a_count + b_count limbs of the product. `out` overlaps neither operand; either count
+/// may be the smaller one, which must not pass the ceiling, and neither may be 0.
+void Multiply_Schoolbook(Limb* out, const Limb* a, std::size_t a_count, const Limb* b,
+                         std::size_t b_count);
+
+/// The same for a * a, with half the multiplications.
+void Square_Schoolbook(Limb* out, const Limb* a, std::size_t count);
+
+}  // namespace quorvex::native

@@ -1,0 +1,266 @@
+// The reciprocal against its iteration, and quotients against exact remainders.
+#include "arith/division/reciprocal.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "arith/digits/multiply_digits.h"
+#include "arith/division/quick_quotient.h"
+#include "arith/division/quick_reciprocal.h"
+#include "arith/division/recip_divide.h"
+#include "support/locales.h"
+#include "support/surroundings.h"
+#include "support/without_libraries.h"
+
+namespace quorvex {
+namespace {
+
+TEST(Reciprocal, GivesTheKnownDigits) {
+  struct Case {
+    const char* k;
+    std::int32_t p;
+    const char* digits;
+    std::int32_t power;
+  };
+  const std::vector<Case> cases = {
+      {"3", 20, "33333333333333333333", -20},
+      {"7", 20, "14285714285714285714", -20},
+      {"2", 20, "49999999999999999999", -20},
+      {"10", 20, "99999999999999999999", -21},
+      {"123456789", 20, "81000000737100006707", -28},
+      {"8", 30, "124999999999999999999999999999", -30},
+      {"1000", 25, "9999999999999999999999999", -28},
+      {"2", 2, "49", -2},
+      {"11", 2, "#EXPR!", 0},  // the rounds come back to where they were
+      {"7", 1, "", -1},
+      {"7", 0, "", 0},
+      {"1", 5, "1", 0},
+      {"0", 5, "99999", 2147483647},
+      {"0", 0, "9", 2147483647},
+      {"abc", 5, "", 0},
+      {"", 5, "", 0},
+  };
+  for (const auto& [k, p, digits, power] : cases) {
+    const type_Division_Recip reciprocal = myInverse5(k, p);
+    EXPECT_EQ(reciprocal.digits, digits) << k << " to " << p;
+    EXPECT_EQ(reciprocal.powerOfTen, power) << k << " to " << p;
+  }
+}
+
+// Where digits are found without the iteration, they are those of the iteration.
+class Quick_Reciprocals {
+ public:
+  void check(const NumberText& k, std::int32_t p) {
+    if (k == "1" || k == "0") return;
+    ++asked_;
+    const auto quick = Quick_Reciprocal(k, p);
+    if (!quick) return;
+    ++found_;
+    const type_Division_Recip iterated = Iterated_Reciprocal(k, p);
+    ASSERT_EQ(*quick, iterated.digits) << k << " to " << p;
+    ASSERT_EQ(-(p + static_cast<std::int32_t>(k.size()) - 1), iterated.powerOfTen) << k;
+  }
+  // Else the test would look at nothing.
+  void expect_most_found() const {
+    EXPECT_GT(found_ * 10, asked_ * 8) << found_ << " of " << asked_;
+  }
+
+ private:
+  int asked_ = 0;
+  int found_ = 0;
+};
+
+NumberText Times(NumberText number, int factor) {
+  int carry = 0;
+  for (std::size_t place = number.size(); place-- > 0;) {
+    const int product = (number[place] - '0') * factor + carry;
+    number[place] = static_cast<char>('0' + product % 10);
+    carry = product / 10;
+  }
+  return carry == 0 ? number : std::to_string(carry) + number;
+}
+
+// Digits of many kinds: random, sparse, nearly all nines, zeros and nines, fives, two far apart.
+NumberText Odd_Digits(std::mt19937& random, std::size_t length) {
+  const auto any = [&] { return static_cast<char>('0' + random() % 10); };
+  const auto kind = random() % 6;
+  NumberText digits(length, kind == 2 ? '9' : '0');
+  for (char& digit : digits) {
+    if (kind == 0 || (kind < 3 && random() % 8 == 0)) digit = any();
+    if (kind == 3) digit = random() % 2 == 0 ? '0' : '9';
+    if (kind == 4) digit = random() % 2 == 0 ? '0' : '5';
+  }
+  if (kind == 5) digits.back() = any();
+  if (digits.front() == '0') digits.front() = static_cast<char>('1' + random() % 9);
+  return digits;
+}
+
+TEST(Reciprocal, AgreesWithItsIteration) {
+  Quick_Reciprocals reciprocals;
+  for (int k = 2; k < 1200; ++k) {
+    for (const int p : {8, 9, 10, 11, 12, 14, 17, 20, 24, 25, 31, 104}) {
+      reciprocals.check(std::to_string(k), p);
+    }
+  }
+  std::mt19937 random(20);
+  for (int round = 0; round < 6000; ++round) {
+    const NumberText k = Odd_Digits(random, 1 + random() % 60);
+    reciprocals.check(k, static_cast<std::int32_t>(8 + random() % 100));
+  }
+  for (int round = 0; round < 300; ++round) {
+    const NumberText k = Odd_Digits(random, 1 + random() % 300);
+    reciprocals.check(k, static_cast<std::int32_t>(200 + random() % 400));
+  }
+  for (int round = 0; round < 15; ++round) {
+    const NumberText k = Odd_Digits(random, 1 + random() % 3000);
+    reciprocals.check(k, static_cast<std::int32_t>(24 + random() % 3000));
+  }
+  reciprocals.expect_most_found();
+}
+
+TEST(Reciprocal, EndsInNinesWhereTheFractionEnds) {
+  Quick_Reciprocals reciprocals;
+  NumberText by_two = "2";
+  for (int twos = 1; twos < 60; ++twos, by_two = Times(by_two, 2)) {
+    NumberText k = by_two;
+    for (int fives = 0; fives < 30; fives += 3) {
+      reciprocals.check(k, 8 + (twos * 7 + fives) % 76);
+      k = Times(Times(Times(k, 5), 5), 5);
+    }
+  }
+  reciprocals.expect_most_found();
+}
+
+// Where the first digits of a dividend times a reciprocal are found without the product, they are
+// its first digits.
+TEST(Reciprocal, QuickQuotientsAreProductsWithTheIteration) {
+  std::mt19937 random(21);
+  int found = 0;
+  const auto check = [&](const NumberText& X, const NumberText& k, std::int32_t p) {
+    const auto quick = Quick_Quotient(X, k, p);
+    if (!quick) return;
+    ++found;
+    NumberText product = Multiply_Digits(X, Iterated_Reciprocal(k, p).digits);
+    ASSERT_EQ(quick->length, product.size()) << X << " by " << k << " to " << p;
+    product.resize(std::min(product.size(), static_cast<std::size_t>(p)));
+    ASSERT_EQ(quick->digits, product) << X << " by " << k << " to " << p;
+  };
+  for (int round = 0; round < 8000; ++round) {
+    const std::size_t longest_divisor = round % 2 == 0 ? 18 : 130;
+    NumberText k = Odd_Digits(random, 1 + random() % longest_divisor);
+    if (round % 5 == 0) k.append(random() % 4, '0');
+    if (k == "1") continue;
+    check(Odd_Digits(random, 1 + random() % 130), k, static_cast<std::int32_t>(8 + random() % 122));
+  }
+  for (int round = 0; round < 40; ++round) {
+    check(Odd_Digits(random, 1 + random() % 2000), Odd_Digits(random, 2 + random() % 17),
+          static_cast<std::int32_t>(8 + random() % 1000));
+  }
+  EXPECT_GT(found, 5000);
+}
+
+TEST(RecipDivide, AnswersAsToldByItsCases) {
+  struct Case {
+    const char* X;
+    const char* Y;
+    std::int32_t sd;
+    const char* digits;
+    std::int32_t power;
+  };
+  const std::vector<Case> cases = {
+      {"1", "3", 8, "33333333", -8},
+      {"1", "8", 10, "1250000000", -10},
+      {"125", "5", 10, "2500000000", -8},
+      {"2", "7", 2, "28", -2},  // cut, not rounded: a zero at the end moves the rounding place
+      {"12345", "1", 2, "12345", 0},
+      {"77", "77", 2, "1", 0},
+      {"0", "3", 8, "0", 0},
+      {"1", "0", 8, "#DIV/0!", 0},
+      {"0", "0", 8, "#DIV/0!", 0},
+      {"abc", "2", 8, "#NUM!", 0},
+      {"2", "1E5", 8, "#VALUE!", 0},
+      {"#NUM!", "2", 8, "#NUM!", 0},
+      {"1", "3", 2147483646, "", 0},  // three digits more pass 32 bits
+  };
+  for (const auto& [X, Y, sd, digits, power] : cases) {
+    NumberText dividend = X;
+    NumberText divisor = Y;
+    const type_Division_Recip quotient = Recip_Divide(dividend, divisor, sd);
+    EXPECT_EQ(quotient.digits, digits) << X << " by " << Y;
+    EXPECT_EQ(quotient.powerOfTen, power) << X << " by " << Y;
+  }
+}
+
+// A token takes part in what is done to digits: it is cut, and cut again.
+TEST(RecipDivide, CutsATokenLikeDigits) {
+  const std::vector<std::pair<std::int32_t, const char*>> cases = {
+      {1, "#VAL"}, {2, "#VALU"}, {3, "#VALUE"}, {4, "#VAL"}, {6, "#VALUE"}, {7, "#VALUE!"}};
+  for (const auto& [sd, digits] : cases) {
+    NumberText dividend = "12.5";
+    NumberText divisor = "3";
+    EXPECT_EQ(Recip_Divide(dividend, divisor, sd).digits, digits) << sd;
+    dividend = "2";
+    divisor = "12.5";
+    EXPECT_EQ(Recip_Divide(dividend, divisor, sd).digits, digits) << sd;
+  }
+}
+
+TEST(RecipDivide, IsATokenWhereThereIsNoRoomForIt) {
+  const Memory_Guard poor(1000);
+  for (const char* divisor : {"7", "12345678901234567890123"}) {
+    NumberText X = "22";
+    NumberText Y = divisor;
+    EXPECT_EQ(Recip_Divide(X, Y, 2'000'000'000).digits, "#VALUE!") << divisor;
+    EXPECT_EQ(myInverse5(divisor, 2'000'000'000).digits, "#VALUE!") << divisor;
+  }
+}
+
+TEST(RecipDivide, HasNoDigitsWithoutTheLibraryOfProducts) {
+  const Without_Libraries without;
+  for (const char* k : {"7", "12345678901234567890123"}) {
+    for (const std::int32_t p : {7, 20, 400}) EXPECT_EQ(myInverse5(k, p).digits, "#VALUE!") << k;
+  }
+  for (const char* divisor : {"7", "70000"}) {
+    for (const std::int32_t sd : {1, 30, 400}) {
+      NumberText X = "22";
+      NumberText Y = divisor;
+      EXPECT_EQ(Recip_Divide(X, Y, sd).digits, sd == 1 ? "#VAL" : "#VALUE!") << divisor;
+    }
+  }
+}
+
+TEST(RecipDivide, CleansItsOperandsInPlace) {
+  NumberText dividend = "$1,000";
+  NumberText divisor = "(8)";
+  Recip_Divide(dividend, divisor, 8);
+  EXPECT_EQ(dividend, "1000");
+  EXPECT_EQ(divisor, "-8");
+}
+
+TEST(Division, PlacesItsPointByLengths) {
+  const std::vector<std::tuple<const char*, const char*, double>> cases = {
+      {"1", "3", 1}, {"1", "30", 2}, {"5", "30", 1}, {"30", "5", 0}, {"7", "7", 1}, {"8", "7", 0}};
+  for (const auto& [divided, by, place] : cases) {
+    EXPECT_EQ(DivisionDecimalPosition(divided, by), place) << divided << " by " << by;
+  }
+}
+
+TEST(Division, HalvesRoundDown) {
+  const std::vector<std::pair<std::int32_t, double>> cases = {
+      {7, 3}, {-7, -4}, {0, 0}, {2147483647, 1073741823}};
+  for (const auto& [number, half] : cases) EXPECT_EQ(GetHalfofLong(number).number(), half);
+}
+
+TEST(Division, LeastAndGreatestGiveTheSecondOfEquals) {
+  EXPECT_EQ(Min("2", 10).text(), "2");
+  EXPECT_EQ(Max("2", 10).number(), 10);
+  EXPECT_EQ(Min("2", 2).number(), 2);
+  EXPECT_EQ(Max(2, "2").text(), "2");
+}
+
+}  // namespace
+}  // namespace quorvex

@@ -1,0 +1,111 @@
+// Numbers in limbs at the edges of what a limb and a column hold, against exact identities.
+#include "arith/limbs/limbs.h"
+#include "arith/limbs/short_product.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "arith/digits/multiply_digits.h"
+#include "arith/division/limb_reciprocal.h"
+#include "arith/limbs/limb_division.h"
+#include "text/primitives.h"
+
+namespace quorvex {
+namespace {
+
+using limbs::Limb;
+using limbs::Wide;
+
+const std::vector<Limb> edges = {0,
+                                 1,
+                                 2,
+                                 9,
+                                 10,
+                                 (Limb{1} << 32U) - 1,
+                                 Limb{1} << 32U,
+                                 limbs::base / 2,
+                                 limbs::base - 2,
+                                 limbs::base - 1};
+
+NumberText Text_Of(const std::vector<Limb>& number) {
+  NumberText text(number.size() * limbs::digits, '0');
+  for (std::size_t place = 0; place < number.size(); ++place) {
+    limbs::Write(text.data() + (number.size() - 1 - place) * limbs::digits, number[place]);
+  }
+  Strip_Leading_Zeros(text);
+  return text;
+}
+
+TEST(Limbs, DividesByOneLimb) {
+  for (const Limb number : edges) {
+    if (number == 0) continue;
+    const limbs::Divisor divisor(number);
+    for (const Limb limb : edges) {
+      for (const Limb before : {Limb{0}, number / 2, number - 1}) {
+        Limb rest = before;
+        const Limb quotient = divisor.divide(rest, limb);
+        EXPECT_LT(rest, number);
+        EXPECT_TRUE(Wide{quotient} * number + rest == Wide{before} * limbs::base + limb)
+            << before << " " << limb << " by " << number;
+      }
+    }
+  }
+}
+
+TEST(Limbs, TakesALimbOffTheFullestColumn) {
+  for (const Limb limb : edges) {
+    Wide column = Wide{limbs::base - 1} * (limbs::base - 1) * 9 - limb;
+    const Wide before = column;
+    const Limb taken = limbs::Take_Limb(column);
+    EXPECT_LT(taken, limbs::base);
+    EXPECT_TRUE(column * limbs::base + taken == before) << limb;
+  }
+}
+
+TEST(Limbs, MultipliesFullLimbs) {
+  for (std::size_t count = 1; count <= 9; ++count) {
+    const std::vector<Limb> a(count, limbs::base - 1);
+    std::vector<Limb> b(count + 2, limbs::base - 1);
+    b.front() = 1;
+    std::vector<Limb> product(2 * count + 2);
+    limbs::Multiply(product.data(), a.data(), a.size(), b.data(), b.size());
+    EXPECT_EQ(Text_Of(product), Multiply_Digits(Text_Of(a), Text_Of(b))) << count;
+  }
+}
+
+// The quotient is the one for which q k <= base^n base^(count-1) < (q + 1) k.
+TEST(Limbs, DividesByManyIntoOne) {
+  const auto check = [](const std::vector<Limb>& k) {
+    const std::size_t n = k.size();
+    const std::size_t count = n + 2;
+    std::vector<Limb> quotient(count);
+    std::vector<std::int64_t> rest(n);
+    limbs::Divide_Into_One(k.data(), n, quotient.data(), count, rest.data());
+    const NumberText divisor = Text_Of(k);
+    std::vector<Limb> q(quotient.rbegin(), quotient.rend());
+    const std::size_t power = (n + count - 1) * limbs::digits;  // a 1 and so many zeros
+    const NumberText product = Multiply_Digits(Text_Of(q), divisor);
+    EXPECT_TRUE(product.size() <= power || product == "1" + NumberText(power, '0')) << divisor;
+    for (Limb& limb : q) {
+      if (++limb < limbs::base) break;
+      limb = 0;
+    }
+    EXPECT_GT(Multiply_Digits(Text_Of(q), divisor).size(), power) << divisor;
+  };
+  const Limb least = limbs::base / 10;
+  for (std::size_t n = 2; n <= 15; ++n) {
+    for (const Limb top : {least, least + 1, 2 * least, 5 * least, limbs::base - 1}) {
+      for (const Limb below : edges) {
+        std::vector<Limb> k(n, below);
+        k.back() = top;
+        k.front() = k.front() == 0 ? 1 : k.front();  // no power of ten
+        check(k);
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quorvex

@@ -1,0 +1,193 @@
+// Roots against exact powers of whole numbers, and the ways their iterations end.
+#include "arith/powers/root_function.h"
+
+#include <gmp.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "arith/operation/do_operation.h"
+#include "arith/powers/mean_root.h"
+#include "arith/powers/newton_root.h"
+#include "support/failures.h"
+#include "support/localized.h"
+#include "support/random_numbers.h"
+#include "support/surroundings.h"
+
+namespace quorvex {
+namespace {
+
+NumberText Root(const NumberText& radicand, const NumberText& degree, double limit) {
+  const HostValue digits = limit;
+  return Do_Operation(operation::root, radicand, degree, {.maximum_significant_digits = digits},
+                      {.intermediate = true});
+}
+
+// A number as a whole one and a count of decimals.
+class Whole {
+ public:
+  explicit Whole(std::string text) {
+    const std::size_t place = text.find('.');
+    if (place != std::string::npos) {
+      decimals = text.size() - place - 1;
+      text.erase(place, 1);
+    }
+    digits = text.size() - std::min(text.find_first_not_of('0'), text.size());
+    mpz_init_set_str(number, text.c_str(), 10);
+  }
+  Whole(const Whole&) = delete;
+  Whole& operator=(const Whole&) = delete;
+  ~Whole() { mpz_clear(number); }
+
+  mpz_t number;
+  std::size_t decimals = 0;
+  std::size_t digits = 0;  // without zeros at the left
+};
+
+// Whether the root lies within one unit of the place `count` of a positive result.
+bool Is_Root_To(const std::string& result, const std::string& radicand, unsigned long degree,
+                std::size_t count) {
+  const Whole root(result);
+  const Whole given(radicand);
+  mpz_t unit;
+  mpz_t low;
+  mpz_t high;
+  mpz_t exact;
+  mpz_inits(unit, low, high, exact, nullptr);
+  // All at the scale of degree times the result's decimals and those of the radicand.
+  mpz_ui_pow_ui(unit, 10, root.digits > count ? root.digits - count : 0);
+  mpz_sub(low, root.number, unit);
+  mpz_add(high, root.number, unit);
+  mpz_t scale;
+  mpz_init(scale);
+  mpz_ui_pow_ui(scale, 10, given.decimals);
+  for (mpz_ptr bound : {low, high}) {
+    mpz_pow_ui(bound, bound, degree);
+    mpz_mul(bound, bound, scale);
+  }
+  mpz_ui_pow_ui(exact, 10, root.decimals * degree);
+  mpz_mul(exact, exact, given.number);
+  const bool within = mpz_cmp(low, exact) <= 0 && mpz_cmp(exact, high) <= 0;
+  mpz_clears(unit, low, high, exact, scale, nullptr);
+  return within;
+}
+
+std::string Random_Radicand(Random_Numbers& random) {
+  std::string text = std::to_string(1 + random.below(9)) + random.digits(random.below(40));
+  if (random.one_in(3)) text += "." + random.digits(1 + random.below(20));
+  if (random.one_in(6)) text = "0." + std::string(random.below(50), '0') + "3" + random.digits(12);
+  return text;
+}
+
+TEST(Roots, AreRightToThePlaceBeforeTheLimit) {
+  Random_Numbers random(71);
+  for (int round = 0; round < 1500; ++round) {
+    const std::string radicand = Random_Radicand(random);
+    const unsigned long degree = random.one_in(2) ? 2 : 3 + random.below(12);
+    const std::size_t limit = 4 + random.below(random.one_in(8) ? 300 : 40);
+    const NumberText root = Root(radicand, std::to_string(degree), static_cast<double>(limit));
+    ASSERT_TRUE(Is_Root_To(root, radicand, degree, limit - 1))
+        << radicand << " degree " << degree << " at " << limit << ": " << root;
+    if (degree % 2 == 0 || radicand.front() == '0') continue;
+    // The minus takes the place of a digit where values are compared; and below 1 so does every
+    // zero behind the separator.
+    const NumberText opposite =
+        Root("-" + radicand, std::to_string(degree), static_cast<double>(limit));
+    ASSERT_EQ(opposite.front(), '-') << radicand << " degree " << degree << " at " << limit;
+    ASSERT_TRUE(Is_Root_To(opposite.substr(1), radicand, degree, limit - 2))
+        << radicand << " degree " << degree << " at " << limit << ": " << opposite;
+  }
+}
+
+// Floats begin with the very root where one by the degree is a float, so that nothing moves.
+TEST(Roots, OfPowersWithShortRootsAreExact) {
+  Random_Numbers random(72);
+  mpz_t power;
+  mpz_init(power);
+  for (int round = 0; round < 600; ++round) {
+    const std::string root = std::to_string(2 + random.below(8)) + random.digits(random.below(11));
+    const unsigned long degree = 2UL << random.below(3);
+    mpz_set_str(power, root.c_str(), 10);
+    mpz_pow_ui(power, power, degree);
+    std::string text(mpz_sizeinbase(power, 10) + 2, '\0');
+    mpz_get_str(text.data(), 10, power);
+    text.resize(text.find('\0'));
+    const auto limit = static_cast<double>(root.size() + 1 + random.below(30));
+    ASSERT_EQ(Root(text, std::to_string(degree), limit), root) << text << " degree " << degree;
+  }
+  mpz_clear(power);
+}
+
+TEST(Roots, AreTheSameInEveryLocale) {
+  Random_Numbers random(73);
+  for (int round = 0; round < 60; ++round) {
+    const std::string radicand = Random_Radicand(random);
+    const std::string degree = random.one_in(2) ? "2" : random.one_in(2) ? "3" : "1.5";
+    const auto limit = static_cast<double>(2 + random.below(30));
+    const NumberText expected = Root(radicand, degree, limit);
+    In_Each_Locale([&] {
+      ASSERT_EQ(Root(Localized(radicand), Localized(degree), limit), Localized(expected))
+          << radicand << " degree " << degree << " at " << limit;
+    });
+    // A separator of several bytes is one character all the same.
+    const Locale_Guard guard({"\u066B", "\u066C", "$", Currency_Side::before});
+    ASSERT_EQ(Root(Localized(radicand), Localized(degree), limit), Localized(expected));
+  }
+}
+
+TEST(Roots, TakeTheirGuardDigitsFromTheCaller) {
+  const HostValue limit = 5;
+  const auto root = [&](const HostValue& working_digits, bool restricted) {
+    return Do_Operation(operation::root, "7", "3", {.maximum_significant_digits = limit},
+                        {.restrict_input_lengths = restricted, .working_digits = working_digits});
+  };
+  EXPECT_EQ(root(Missing, true), "1.912931");
+  constexpr double half_the_ceiling = 1073741824;
+  EXPECT_EQ(root(half_the_ceiling + 1, true), "#NUM!");
+  EXPECT_EQ(root(-3, false), "1.913");
+}
+
+class Fixed_Clock final : public Clock {
+ public:
+  explicit Fixed_Clock(double time) : time_(time) {}
+  double time_of_day() override { return time_; }
+
+ private:
+  double time_;
+};
+
+TEST(NewtonRoot, BeginsAnewFromTheTimeOfDay) {
+  // (0.5 - 1) 1 + 0.5 / 1^-0.5 is 0.
+  const auto root_at = [](double time) {
+    const auto before =
+        std::exchange(Current_Platform().clock, std::make_shared<Fixed_Clock>(time));
+    NumberText root = Newton_Root("0.5", "0.5", "1", {10, 20});
+    Current_Platform().clock = before;
+    return root;
+  };
+  EXPECT_EQ(root_at(0.2).substr(0, 10), "0.24999999");
+  EXPECT_EQ(root_at(0.25), "0.25");
+  EXPECT_EQ(root_at(0), "#DIV/0!");
+}
+
+TEST(NewtonRoot, OfWhatHasNoneEndsWhereValuesComeBack) {
+  // A fourth root of -1 is nowhere on the line: the values leap about until one comes back.
+  EXPECT_EQ(Newton_Root("-1", "4", "0.5", {4, 3}), "#NUM!");
+  EXPECT_EQ(Failure_Of([] {
+              Newton_Root("-1", "4", "0.5", {20, 2});
+            }),
+            Failure_Number::too_complex);
+}
+
+TEST(Roots, CanBeBrokenOff) {
+  const Interruption_Guard guard;
+  EXPECT_EQ(Failure_Of([] { Root("2", "2", 10); }), Failure_Number::interrupted);
+  EXPECT_EQ(Failure_Of([] { Root("2", "3", 10); }), Failure_Number::interrupted);
+  EXPECT_EQ(Failure_Of([] { Mean_Root("2", "1", 100000); }), Failure_Number::interrupted);
+}
+
+}  // namespace
+}  // namespace quorvex

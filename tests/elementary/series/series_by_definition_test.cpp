@@ -1,0 +1,176 @@
+// The series digit for digit as chains of plain operations give them, in which nothing is shortened
+// and nothing left out.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+
+#include "arith/operation/do_operation.h"
+#include "elementary/constants.h"
+#include "elementary/exponential.h"
+#include "elementary/logarithm.h"
+#include "elementary/series/arc_tangent_series.h"
+#include "elementary/series/sine_series.h"
+#include "host/conversions.h"
+#include "support/random_numbers.h"
+#include "text/compare_numbers.h"
+
+namespace quorvex {
+namespace {
+
+// Operations at a limit, on texts.
+struct Chain {
+  double limit;
+
+  NumberText add(const NumberText& a, const NumberText& b) const {
+    return Intermediate(operation::add, a, b, limit);
+  }
+  NumberText multiply(const NumberText& a, const NumberText& b) const {
+    return Intermediate(operation::multiply, a, b, limit);
+  }
+  NumberText divide(const NumberText& a, const NumberText& b) const {
+    return Intermediate(operation::divide, a, b, limit);
+  }
+  NumberText two_to(int n) const {
+    return Intermediate(operation::power, "2", std::to_string(n), limit);
+  }
+  NumberText result(const NumberText& value, double digits) const {
+    return Do_Operation(operation::add, value, 0, {.maximum_significant_digits = digits});
+  }
+};
+
+NumberText Opposite(const NumberText& number) {
+  if (number == "0") return number;
+  return number.starts_with('-') ? number.substr(1) : "-" + number;
+}
+
+// The power of ten of a term's first digit, for which a minus is a digit before the separator.
+long Power_As_Text(const NumberText& term) {
+  const auto separator = term.find('.');
+  if (term.starts_with("0.")) return 1 - static_cast<long>(term.find_first_not_of('0', 2));
+  if (term == "0") return -1;
+  return static_cast<long>(separator == NumberText::npos ? term.size() : separator) - 1;
+}
+
+NumberText Logarithm(const NumberText& number, int limit) {
+  const Chain chain{static_cast<double>(limit)};
+  const int n =
+      static_cast<int>(std::floor(std::log(To_Number(HostValue(number))) / std::log(2.0)));
+  const NumberText power = chain.two_to(std::abs(n));
+  const NumberText y = n < 0 ? chain.multiply(number, power) : chain.divide(number, power);
+  NumberText term = chain.divide(chain.add(y, "-1"), chain.add(y, "1"));
+  const NumberText square = chain.multiply(term, term);
+  NumberText sum = term;
+  for (int k = 3; k <= 5 * limit; k += 2) {
+    term = chain.multiply(term, square);
+    const NumberText added = chain.divide(term, std::to_string(k));
+    sum = chain.add(sum, added);
+    if (Power_As_Text(added) < -limit) break;
+  }
+  const NumberText shift =
+      chain.multiply(std::to_string(n), To_Text(Ln2_Digits(static_cast<double>(limit))));
+  return chain.result(chain.add(chain.multiply("2", sum), shift), limit);
+}
+
+NumberText Exponential(const NumberText& number, int digits) {
+  const int limit = digits + 10;
+  const Chain chain{static_cast<double>(limit)};
+  const bool is_negative = number.starts_with('-');
+  const NumberText magnitude = is_negative ? number.substr(1) : number;
+  const NumberText ln2 = To_Text(Ln2_Digits(chain.limit));
+  const int n =
+      static_cast<int>(std::floor(To_Number(HostValue(magnitude)) / To_Number(HostValue(ln2))));
+  NumberText rest = chain.add(magnitude, Opposite(chain.multiply(std::to_string(n), ln2)));
+  int halvings = 0;
+  for (; !Is_True(Compare_Numbers("0.1", rest, false, true)); ++halvings) {
+    rest = chain.divide(rest, "2");
+  }
+  NumberText sum = chain.add("1", rest);
+  NumberText term = rest;
+  for (int k = 2; k <= 5 * limit; ++k) {
+    term = chain.multiply(term, chain.divide(rest, std::to_string(k)));
+    sum = chain.add(sum, term);
+    if (Power_As_Text(term) < -limit) break;
+  }
+  for (; halvings > 0; --halvings) sum = chain.multiply(sum, sum);
+  if (n > 0) sum = chain.multiply(sum, chain.two_to(n));
+  if (is_negative) sum = chain.divide("1", sum);
+  return chain.result(chain.multiply("1", sum), digits);
+}
+
+NumberText Sine(const NumberText& x, int limit) {
+  const Chain chain{static_cast<double>(limit)};
+  const NumberText square = Intermediate(operation::power, x, "2", chain.limit);
+  NumberText term = x;
+  NumberText sum = x;
+  for (int k = 3;; k += 2) {
+    const NumberText divisor = chain.multiply(std::to_string(k), std::to_string(k - 1));
+    term = Opposite(chain.divide(chain.multiply(term, square), divisor));
+    sum = chain.add(sum, term);
+    if (Power_As_Text(term.starts_with('-') ? term.substr(1) : term) < -limit) return sum;
+  }
+}
+
+NumberText Arc_Tangent(const NumberText& x, int limit) {
+  const Chain chain{static_cast<double>(limit)};
+  const NumberText square = chain.multiply(x, x);
+  NumberText power = x;
+  NumberText sum = x;
+  for (int k = 3;; k += 2) {
+    power = Opposite(chain.multiply(power, square));
+    sum = chain.add(sum, chain.divide(power, std::to_string(k)));
+    if (Power_As_Text(power.starts_with('-') ? power.substr(1) : power) < -limit) return sum;
+  }
+}
+
+int Random_Limit(Random_Numbers& random) {
+  return static_cast<int>(2 + random.below(random.one_in(8) ? 200 : 40));
+}
+
+// Numbers of all sizes, and such as lie just below powers of two, whose terms are negative.
+NumberText Random_Positive(Random_Numbers& random) {
+  const NumberText digits = random.digits(1 + random.below(30)) + "3";
+  switch (random.below(3)) {
+    case 0:
+      return std::to_string((1ULL << random.below(50)) - 1) + ".9999999999999999999999" + digits;
+    case 1:
+      return "0." + NumberText(random.below(30), '0') + digits;
+    default:
+      return "1" + digits + "." + digits;
+  }
+}
+
+TEST(SeriesByDefinition, Logarithms) {
+  Random_Numbers random(20);
+  for (int round = 0; round < 150; ++round) {
+    const NumberText number = Random_Positive(random);
+    const int limit = Random_Limit(random);
+    ASSERT_EQ(Ln_Function(number, Missing, limit), Logarithm(number, limit))
+        << number << " at " << limit;
+  }
+}
+
+TEST(SeriesByDefinition, Exponentials) {
+  Random_Numbers random(21);
+  for (int round = 0; round < 150; ++round) {
+    const NumberText number = (random.one_in(2) ? "-" : "") + std::to_string(random.below(400)) +
+                              "." + random.digits(random.below(40)) + "7";
+    const int limit = Random_Limit(random);
+    ASSERT_EQ(Exp_Function(number, Missing, limit), Exponential(number, limit))
+        << number << " at " << limit;
+  }
+}
+
+TEST(SeriesByDefinition, SinesAndArcTangents) {
+  Random_Numbers random(22);
+  for (int round = 0; round < 150; ++round) {
+    const NumberText number = NumberText(random.one_in(2) ? "-" : "") + "0." +
+                              random.one_of("0123") + random.digits(random.below(60)) + "9";
+    const int limit = Random_Limit(random);
+    ASSERT_EQ(Sin_Series(number, limit), Sine(number, limit)) << number << " at " << limit;
+    ASSERT_EQ(ATan_Series(number, limit), Arc_Tangent(number, limit)) << number << " at " << limit;
+  }
+}
+
+}  // namespace
+}  // namespace quorvex

@@ -1,0 +1,138 @@
+// Series summed up on shortened terms against the same series by exact steps.
+#include "elementary/series/shortened_series.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <iterator>
+#include <optional>
+#include <string>
+
+#include "elementary/exponential.h"
+#include "elementary/logarithm.h"
+#include "elementary/series/arc_tangent_series.h"
+#include "elementary/series/sine_series.h"
+#include "host/conversions.h"
+#include "support/failures.h"
+#include "support/random_numbers.h"
+
+namespace quorvex {
+namespace {
+
+// Errors that are taken for larger by so many units of the sum's last place.
+class Doubt {
+ public:
+  explicit Doubt(double doubt) : before_(Shortened_Series::Add_Doubt(doubt)) {}
+  ~Doubt() { Shortened_Series::Add_Doubt(before_); }
+  Doubt(const Doubt&) = delete;
+  Doubt& operator=(const Doubt&) = delete;
+
+ private:
+  double before_;
+};
+
+constexpr double always_in_doubt = 1;
+
+struct Series {
+  const char* name;
+  NumberText (*sum)(const NumberText& x, double limit);
+  const char* whole_parts;  // what arguments begin with, one of these characters
+  bool has_negative_arguments;
+};
+
+NumberText Logarithm(const NumberText& x, double limit) {
+  return Ln_Function(x, Missing, limit);
+}
+
+NumberText Exponential(const NumberText& x, double limit) {
+  return Exp_Function(x, Missing, limit);
+}
+
+constexpr Series all_series[] = {{"sine", Sin_Series, "0001", true},
+                                 {"cosine", Cos_Series, "0001", true},
+                                 {"arc tangent", ATan_Series, "0", true},
+                                 {"logarithm", Logarithm, "000123456789", false},
+                                 {"exponential", Exponential, "000123456789", true}};
+
+// Random digits behind a few random zeros, at times so many that the terms vanish at once.
+std::string Random_Argument(Random_Numbers& random, const Series& series, std::size_t digits) {
+  std::string text(1, random.one_of(series.whole_parts));
+  text +=
+      "." + std::string(random.one_in(4) ? random.below(random.one_in(4) ? digits : 5) : 0, '0');
+  // Half a unit and more would be beyond the series of the arc tangent.
+  text += random.one_of("1234");
+  const std::size_t length = random.one_in(3) ? random.below(5) : random.below(digits + 5);
+  for (std::size_t place = 0; place < length; ++place) text += random.one_of("0123456789");
+  text += random.one_of("123456789");
+  return (series.has_negative_arguments && random.one_in(3) ? "-" : "") + text;
+}
+
+TEST(Shortened_Series, Sums_Up_As_Exact_Steps_Do) {
+  Random_Numbers random(4711);
+  constexpr double doubts[] = {0, 0, 0, 0.003, 0.1};  // the greater ones break most runs off
+  constexpr int cases = 3000;
+  for (int i = 0; i < cases; ++i) {
+    const Series& series = all_series[random.below(std::size(all_series))];
+    const std::size_t most = random.one_in(300) ? 2200 : random.one_in(10) ? 300 : 60;
+    const auto limit = static_cast<double>(1 + random.below(most));
+    const NumberText x = Random_Argument(random, series, static_cast<std::size_t>(limit));
+    NumberText exact;
+    {
+      const Doubt doubt(always_in_doubt);
+      exact = series.sum(x, limit);
+    }
+    const Doubt doubt(doubts[random.below(std::size(doubts))]);
+    EXPECT_EQ(series.sum(x, limit), exact) << series.name << " of " << x << " at " << limit;
+  }
+}
+
+// What differs is that some divisors are exact, and that powers are halved at least.
+constexpr Series_Rule geometric{.stride = 1,
+                                .divisor = [](std::uint64_t) { return std::uint64_t{1}; },
+                                .keeps_power = true,
+                                .ends_by_power = true,
+                                .alternates = false};
+
+std::optional<Step_Number> Geometric_Sum(const std::string& power, const std::string& sum,
+                                         const std::string& factor, double limit) {
+  const Step_Number ratio(factor);
+  Shortened_Series series(geometric, ratio, limit, -static_cast<std::int64_t>(limit) - 1);
+  return series.sum_from({Step_Number(power), Step_Number(sum), 1});
+}
+
+TEST(Shortened_Series, Begins_Where_All_Digits_Can_Be_Told) {
+  struct Case {
+    const char* power;
+    const char* sum;
+    const char* factor;
+    double limit;
+    bool is_told;
+  };
+  constexpr Case cases[] = {
+      {"0.000012", "2", "0.1", 30, true},
+      {"0.0012", "2", "0.1", 30, true},
+      {"0.012", "2", "0.1", 30, false},           // terms are too large still
+      {"0.000012", "9.99999", "0.1", 30, false},  // the leading digit might move
+      {"0.000012", "2", "0.6", 30, false},        // errors would add up
+      {"0.000012", "2", "-0.1", 30, false},       // signs of another kind
+      {"-0.000012", "2", "0.1", 30, false},       // terms that never end it
+      {"0.000012", "2", "0.1", 14, false},        // few digits
+      {"0.000012", "2", "0.1", 30.5, false},      // no count of digits
+      {"0.000012", "2", "0.1", 2001, false},      // many digits
+      // The first term added ends in half a unit and a hundred thousandth, then in a tenth more.
+      {"0.00001200000000000000000000000050001", "2", "0.1", 30, false},
+      {"0.00001200000000000000000000000060001", "2", "0.1", 30, true},
+      {"0.00001", "2", "0.1", 30, false},  // next to the end
+      {"#NUM!", "2", "0.1", 30, false},
+      {"0.000012", "#NUM!", "0.1", 30, false},
+      {"0.000012", "2", "#NUM!", 30, false},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(Geometric_Sum(c.power, c.sum, c.factor, c.limit).has_value(), c.is_told)
+        << c.power << " " << c.sum << " " << c.factor << " " << c.limit;
+  }
+  EXPECT_EQ(Geometric_Sum("0.000012", "2", "0.1", 20)->text(), "2.000001333333333333333");
+}
+
+}  // namespace
+}  // namespace quorvex
