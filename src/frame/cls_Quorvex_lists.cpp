@@ -2,8 +2,8 @@
 #include "frame/cls_Quorvex.h"
 
 #include "arith/fractions/reduce_fraction.h"
+#include "frame/outer_call.h"
 #include "host/conversions.h"
-#include "host/run_time_failure.h"
 #include "lists/gcd_lcm_function.h"
 #include "lists/max_min_function.h"
 #include "lists/product_function.h"
@@ -17,34 +17,34 @@ NumberText cls_Quorvex::qvxSUM(const HostValue& rngArray, const HostValue& forma
                                const HostValue& format_thousands, const HostValue& format_currency,
                                const HostValue& exponential_notation,
                                const HostValue& maximum_significant_digits) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     return Sum_Array(rngArray, {format_negative, format_thousands, format_currency,
                                 exponential_notation, maximum_significant_digits});
   });
 }
 
 NumberText cls_Quorvex::qvxAVERAGE(const List& numlist) {
-  return With_Memory_Failures([&] { return Sum_Function(numlist, Sum_Kind::average); });
+  return Outer_Call([&] { return Sum_Function(numlist, Sum_Kind::average); });
 }
 
 NumberText cls_Quorvex::qvxPRODUCT(const List& numlist) {
-  return With_Memory_Failures([&] { return Product_Function(numlist); });
+  return Outer_Call([&] { return Product_Function(numlist); });
 }
 
 NumberText cls_Quorvex::qvxSUM2(const List& numlist) {
-  return With_Memory_Failures([&] { return Sum_Function(numlist, Sum_Kind::sum); });
+  return Outer_Call([&] { return Sum_Function(numlist, Sum_Kind::sum); });
 }
 
 NumberText cls_Quorvex::qvxCOUNT(const List& numlist) {
-  return With_Memory_Failures([&] { return Sum_Function(numlist, Sum_Kind::count); });
+  return Outer_Call([&] { return Sum_Function(numlist, Sum_Kind::count); });
 }
 
 NumberText cls_Quorvex::qvxMAX(const List& numlist) {
-  return With_Memory_Failures([&] { return MaxMin_Function(numlist, Extreme::greatest); });
+  return Outer_Call([&] { return MaxMin_Function(numlist, Extreme::greatest); });
 }
 
 NumberText cls_Quorvex::qvxMIN(const List& numlist) {
-  return With_Memory_Failures([&] { return MaxMin_Function(numlist, Extreme::least); });
+  return Outer_Call([&] { return MaxMin_Function(numlist, Extreme::least); });
 }
 
 HostValue cls_Quorvex::qvxREDUCEFRACTION(const HostValue& Numerator, const HostValue& divisor,
@@ -52,7 +52,7 @@ HostValue cls_Quorvex::qvxREDUCEFRACTION(const HostValue& Numerator, const HostV
                                          bool return_numerator, bool return_divisor,
                                          bool return_reduced_by,
                                          const std::optional<NumberText>& fraction_separator) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch1;
     std::string scratch2;
     return Shown_Fraction(Reduce_Fraction(Text_Of(Numerator, scratch1), Text_Of(divisor, scratch2),
@@ -63,19 +63,19 @@ HostValue cls_Quorvex::qvxREDUCEFRACTION(const HostValue& Numerator, const HostV
 }
 
 HostValue cls_Quorvex::qvxGCD(const List& numlist) {
-  return With_Memory_Failures([&] { return GCD_Function(numlist, Element_Form::truncated); });
+  return Outer_Call([&] { return GCD_Function(numlist, Element_Form::truncated); });
 }
 
 HostValue cls_Quorvex::qvxGCD2(const List& numlist) {
-  return With_Memory_Failures([&] { return GCD_Function(numlist, Element_Form::whole); });
+  return Outer_Call([&] { return GCD_Function(numlist, Element_Form::whole); });
 }
 
 HostValue cls_Quorvex::qvxLCM(const List& numlist) {
-  return With_Memory_Failures([&] { return LCM_Function(numlist, Element_Form::truncated); });
+  return Outer_Call([&] { return LCM_Function(numlist, Element_Form::truncated); });
 }
 
 HostValue cls_Quorvex::qvxLCM2(const List& numlist) {
-  return With_Memory_Failures([&] { return LCM_Function(numlist, Element_Form::whole); });
+  return Outer_Call([&] { return LCM_Function(numlist, Element_Form::whole); });
 }
 
 }  // namespace quorvex

@@ -2,8 +2,8 @@
 #include "frame/cls_Quorvex.h"
 
 #include "arith/operation/do_operation.h"
+#include "frame/outer_call.h"
 #include "host/conversions.h"
-#include "host/run_time_failure.h"
 #include "text/compare_numbers.h"
 #include "text/tokens.h"
 
@@ -17,7 +17,7 @@ HostValue Shown(const HostValue& answer) {
 
 HostValue Compare(const HostValue& number1, const HostValue& number2, bool testEqual,
                   bool testGreater) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch1;
     std::string scratch2;
     return Compare_Numbers(Text_Of(number1, scratch1), Text_Of(number2, scratch2), testEqual,
@@ -38,9 +38,11 @@ NumberText cls_Quorvex::qvxADD(const HostValue& number1, const HostValue& number
                                const HostValue& maximum_significant_digits,
                                const HostValue& format_decimal_place,
                                const HostValue& preserve_decimal_place) {
-  return Do_Operation(operation::add, number1, number2,
-                      {format_negative, format_thousands, format_currency, exponential_notation,
-                       maximum_significant_digits, format_decimal_place, preserve_decimal_place});
+  return Outer_Call([&] {
+    return Do_Operation(operation::add, number1, number2,
+                        {format_negative, format_thousands, format_currency, exponential_notation,
+                         maximum_significant_digits, format_decimal_place, preserve_decimal_place});
+  });
 }
 
 NumberText cls_Quorvex::qvxSUBTRACT(
@@ -48,9 +50,11 @@ NumberText cls_Quorvex::qvxSUBTRACT(
     const HostValue& format_thousands, const HostValue& format_currency,
     const HostValue& exponential_notation, const HostValue& maximum_significant_digits,
     const HostValue& format_decimal_place, const HostValue& preserve_decimal_place) {
-  return Do_Operation(operation::subtract, number1, number2,
-                      {format_negative, format_thousands, format_currency, exponential_notation,
-                       maximum_significant_digits, format_decimal_place, preserve_decimal_place});
+  return Outer_Call([&] {
+    return Do_Operation(operation::subtract, number1, number2,
+                        {format_negative, format_thousands, format_currency, exponential_notation,
+                         maximum_significant_digits, format_decimal_place, preserve_decimal_place});
+  });
 }
 
 NumberText cls_Quorvex::qvxMULTIPLY(
@@ -58,9 +62,11 @@ NumberText cls_Quorvex::qvxMULTIPLY(
     const HostValue& format_thousands, const HostValue& format_currency,
     const HostValue& exponential_notation, const HostValue& maximum_significant_digits,
     const HostValue& format_decimal_place, const HostValue& preserve_decimal_place) {
-  return Do_Operation(operation::multiply, number1, number2,
-                      {format_negative, format_thousands, format_currency, exponential_notation,
-                       maximum_significant_digits, format_decimal_place, preserve_decimal_place});
+  return Outer_Call([&] {
+    return Do_Operation(operation::multiply, number1, number2,
+                        {format_negative, format_thousands, format_currency, exponential_notation,
+                         maximum_significant_digits, format_decimal_place, preserve_decimal_place});
+  });
 }
 
 NumberText cls_Quorvex::qvxDIVIDE(
@@ -68,9 +74,11 @@ NumberText cls_Quorvex::qvxDIVIDE(
     const HostValue& format_thousands, const HostValue& format_currency,
     const HostValue& exponential_notation, const HostValue& maximum_significant_digits,
     const HostValue& format_decimal_place, const HostValue& preserve_decimal_place) {
-  return Do_Operation(operation::divide, number1, number2,
-                      {format_negative, format_thousands, format_currency, exponential_notation,
-                       maximum_significant_digits, format_decimal_place, preserve_decimal_place});
+  return Outer_Call([&] {
+    return Do_Operation(operation::divide, number1, number2,
+                        {format_negative, format_thousands, format_currency, exponential_notation,
+                         maximum_significant_digits, format_decimal_place, preserve_decimal_place});
+  });
 }
 
 NumberText cls_Quorvex::qvxROOT(const HostValue& number1, const HostValue& number2,
@@ -81,10 +89,12 @@ NumberText cls_Quorvex::qvxROOT(const HostValue& number1, const HostValue& numbe
                                 const HostValue& restrict_input_lengths,
                                 const HostValue& format_decimal_place,
                                 const HostValue& preserve_decimal_place) {
-  return Do_Operation(operation::root, number1, number2,
-                      {format_negative, format_thousands, format_currency, exponential_notation,
-                       maximum_significant_digits, format_decimal_place, preserve_decimal_place},
-                      {.restrict_input_lengths = Is_Restricted(restrict_input_lengths)});
+  return Outer_Call([&] {
+    return Do_Operation(operation::root, number1, number2,
+                        {format_negative, format_thousands, format_currency, exponential_notation,
+                         maximum_significant_digits, format_decimal_place, preserve_decimal_place},
+                        {.restrict_input_lengths = Is_Restricted(restrict_input_lengths)});
+  });
 }
 
 NumberText cls_Quorvex::qvxPOWER(
@@ -93,10 +103,12 @@ NumberText cls_Quorvex::qvxPOWER(
     const HostValue& exponential_notation, const HostValue& maximum_significant_digits,
     const HostValue& restrict_input_lengths, const HostValue& format_decimal_place,
     const HostValue& preserve_decimal_place) {
-  return Do_Operation(operation::power, number1, number2,
-                      {format_negative, format_thousands, format_currency, exponential_notation,
-                       maximum_significant_digits, format_decimal_place, preserve_decimal_place},
-                      {.restrict_input_lengths = Is_Restricted(restrict_input_lengths)});
+  return Outer_Call([&] {
+    return Do_Operation(operation::power, number1, number2,
+                        {format_negative, format_thousands, format_currency, exponential_notation,
+                         maximum_significant_digits, format_decimal_place, preserve_decimal_place},
+                        {.restrict_input_lengths = Is_Restricted(restrict_input_lengths)});
+  });
 }
 
 HostValue cls_Quorvex::qvxISEQUAL(const HostValue& number1, const HostValue& number2) {
@@ -110,9 +122,11 @@ HostValue cls_Quorvex::qvxISNOTEQUAL(const HostValue& number1, const HostValue& 
 }
 
 HostValue cls_Quorvex::qvxISGREATER(HostValue& number1, HostValue& number2) {
-  if (!number1.is_text()) number1 = To_Text(number1);
-  if (!number2.is_text()) number2 = To_Text(number2);
-  return Shown(Compare_Numbers(number1.text(), number2.text(), false, true));
+  return Outer_Call([&] {
+    if (!number1.is_text()) number1 = To_Text(number1);
+    if (!number2.is_text()) number2 = To_Text(number2);
+    return Shown(Compare_Numbers(number1.text(), number2.text(), false, true));
+  });
 }
 
 HostValue cls_Quorvex::qvxISGREATEROREQUAL(const HostValue& number1, const HostValue& number2) {
@@ -128,7 +142,7 @@ HostValue cls_Quorvex::qvxISLESSOREQUAL(const HostValue& number1, const HostValu
 }
 
 HostValue cls_Quorvex::qvxSIGN(const HostValue& num) {
-  return With_Memory_Failures([&] { return Sign_Function(num); });
+  return Outer_Call([&] { return Sign_Function(num); });
 }
 
 }  // namespace quorvex

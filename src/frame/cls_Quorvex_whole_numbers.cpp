@@ -1,8 +1,8 @@
 // The worksheet functions of whole numbers, their parts and signs, and of rounding.
 #include "frame/cls_Quorvex.h"
 
+#include "frame/outer_call.h"
 #include "host/conversions.h"
-#include "host/run_time_failure.h"
 #include "numbers/even_odd.h"
 #include "numbers/frac_function.h"
 #include "numbers/mod_function.h"
@@ -16,7 +16,7 @@ namespace {
 
 NumberText Round(const HostValue& num, const HostValue& num_digits, Rounding_Direction direction,
                  const Format_Arguments& format) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Round_Function(Text_Of(num, scratch), Places_Of(num_digits), direction, format);
   });
@@ -25,14 +25,14 @@ NumberText Round(const HostValue& num, const HostValue& num_digits, Rounding_Dir
 }  // namespace
 
 HostValue cls_Quorvex::qvxISODD(const HostValue& num) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return IsOdd_Function(Text_Of(num, scratch));
   });
 }
 
 HostValue cls_Quorvex::qvxISEVEN(const HostValue& num) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return IsEven_Function(Text_Of(num, scratch));
   });
@@ -42,7 +42,7 @@ NumberText cls_Quorvex::qvxEVEN(const HostValue& num, bool RoundNegTowardZero,
                                 const HostValue& format_negative, const HostValue& format_thousands,
                                 const HostValue& format_currency,
                                 const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Even_Function(
         Text_Of(num, scratch), Parity::even, RoundNegTowardZero,
@@ -54,7 +54,7 @@ NumberText cls_Quorvex::qvxODD(const HostValue& num, bool RoundNegTowardZero,
                                const HostValue& format_negative, const HostValue& format_thousands,
                                const HostValue& format_currency,
                                const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Even_Function(
         Text_Of(num, scratch), Parity::odd, RoundNegTowardZero,
@@ -67,7 +67,7 @@ NumberText cls_Quorvex::qvxEVEN2(const HostValue& num, bool RoundNegAwayFromZero
                                  const HostValue& format_thousands,
                                  const HostValue& format_currency,
                                  const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Odd_Function(Text_Of(num, scratch), Parity::even, RoundNegAwayFromZero,
                         {format_negative, format_thousands, format_currency, exponential_notation});
@@ -78,7 +78,7 @@ NumberText cls_Quorvex::qvxODD2(const HostValue& num, bool RoundNegAwayFromZero,
                                 const HostValue& format_negative, const HostValue& format_thousands,
                                 const HostValue& format_currency,
                                 const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Odd_Function(Text_Of(num, scratch), Parity::odd, RoundNegAwayFromZero,
                         {format_negative, format_thousands, format_currency, exponential_notation});
@@ -88,7 +88,7 @@ NumberText cls_Quorvex::qvxODD2(const HostValue& num, bool RoundNegAwayFromZero,
 NumberText cls_Quorvex::qvxINT(const HostValue& num, const HostValue& format_negative,
                                const HostValue& format_thousands, const HostValue& format_currency,
                                const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Int_Function(Text_Of(num, scratch),
                         {format_negative, format_thousands, format_currency, exponential_notation});
@@ -100,7 +100,7 @@ NumberText cls_Quorvex::qvxTRUNC(const HostValue& num, const HostValue& num_digi
                                  const HostValue& format_thousands,
                                  const HostValue& format_currency,
                                  const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Trunc_Function(
         Text_Of(num, scratch), num_digits,
@@ -113,7 +113,7 @@ NumberText cls_Quorvex::qvxFRAC(const HostValue& num, const HostValue& as_int,
                                 const HostValue& format_thousands, const HostValue& format_currency,
                                 const HostValue& exponential_notation,
                                 const HostValue& maximum_significant_digits) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     return Frac_Function(num, as_int, sign,
                          {format_negative, format_thousands, format_currency, exponential_notation,
                           maximum_significant_digits});
@@ -125,7 +125,7 @@ NumberText cls_Quorvex::qvxMOD(const HostValue& dividend, const HostValue& divis
                                const HostValue& format_thousands, const HostValue& format_currency,
                                const HostValue& exponential_notation,
                                const HostValue& maximum_significant_digits) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     return Mod_Function(dividend, divisor, false, sign,
                         {format_negative, format_thousands, format_currency, exponential_notation,
                          maximum_significant_digits});
@@ -138,7 +138,7 @@ NumberText cls_Quorvex::qvxMODTRUNC(const HostValue& dividend, const HostValue& 
                                     const HostValue& format_currency,
                                     const HostValue& exponential_notation,
                                     const HostValue& maximum_significant_digits) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     return Mod_Function(dividend, divisor, true, sign,
                         {format_negative, format_thousands, format_currency, exponential_notation,
                          maximum_significant_digits});
@@ -152,7 +152,7 @@ NumberText cls_Quorvex::qvxREMAINDER(const HostValue& dividend, const HostValue&
                                      const HostValue& exponential_notation,
                                      const HostValue& maximum_significant_digits) {
   // Every argument goes one place to the left. That is how the function has always read them.
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     return Mod_Function(
         dividend, divisor, sign, format_negative,
         {format_thousands, format_currency, exponential_notation, maximum_significant_digits});
@@ -162,7 +162,7 @@ NumberText cls_Quorvex::qvxREMAINDER(const HostValue& dividend, const HostValue&
 NumberText cls_Quorvex::qvxABS(const HostValue& num, const HostValue& format_negative,
                                const HostValue& format_thousands, const HostValue& format_currency,
                                const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Abs_Function(Text_Of(num, scratch),
                         {format_negative, format_thousands, format_currency, exponential_notation});
@@ -172,7 +172,7 @@ NumberText cls_Quorvex::qvxABS(const HostValue& num, const HostValue& format_neg
 NumberText cls_Quorvex::qvxNEG(const HostValue& num, const HostValue& format_negative,
                                const HostValue& format_thousands, const HostValue& format_currency,
                                const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Neg_Function(Text_Of(num, scratch),
                         {format_negative, format_thousands, format_currency, exponential_notation});
@@ -183,7 +183,7 @@ NumberText cls_Quorvex::qvxCHANGESIGN(const HostValue& num, const HostValue& for
                                       const HostValue& format_thousands,
                                       const HostValue& format_currency,
                                       const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return ChangeSign_Function(Text_Of(num, scratch), {format_negative, format_thousands,
                                                        format_currency, exponential_notation});

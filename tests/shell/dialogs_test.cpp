@@ -3,6 +3,9 @@
 
 #include "frame/add_in.h"
 #include "frame/cls_Quorvex.h"
+#include "shell/form_face.h"
+#include "shell/frmAbout.h"
+#include "shell/frmMaxSD.h"
 #include "shell/scripted_host.h"
 #include "shell/shell_fixture.h"
 #include "support/failures.h"
