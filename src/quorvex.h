@@ -15,7 +15,7 @@
 #pragma once
 
 #include "frame/catalogue.h"
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "host/conversions.h"
 #include "host/deadline.h"
 #include "host/host_value.h"

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <new>
 
-#include "frame/add_in.h"
+#include "frame/class/add_in.h"
 
 namespace quorvex {
 

@@ -2,7 +2,7 @@
 // the two stands here, above both.
 #include "shell/show_forms.h"
 
-#include "frame/add_in.h"
+#include "frame/class/add_in.h"
 #include "host/platform.h"
 #include "shell/form_face.h"
 #include "shell/frmAbout.h"

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "shell/form_face.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMaxSD.h"
