@@ -3,9 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
-#include <utility>
 
 #include "host/platform.h"
 #include "support/random_numbers.h"
@@ -115,34 +113,25 @@ TEST(DigitSpans, DoAsDigitByDigitAtEveryPhase) {
   }
 }
 
-// Counts the calls of the host's yield.
-class Counting_Yielder final : public Yielder {
- public:
-  void yield() override { ++calls; }
-  int calls = 0;
-};
-
 TEST(DigitSpans, CarryAcrossTheWholeLengthAndYieldOnTheWay) {
-  const auto yielder = std::make_shared<Counting_Yielder>();
-  const auto before = std::exchange(Current_Platform().yielder, yielder);
   for (const std::size_t length : {digits_between_yields - 1, digits_between_yields,
                                    digits_between_yields + 1, 2 * digits_between_yields + 5}) {
     const std::string zeros(length, '0');
     const std::string nines(length, '9');
     const std::string one = std::string(length - 1, '0') + "1";
     std::string out(length, '#');
-    yielder->calls = 0;
-    EXPECT_TRUE(digit_spans::Add(out.data(), nines.data(), one.data(), length, false));
-    EXPECT_TRUE(out == zeros) << length;
-    EXPECT_TRUE(digit_spans::Subtract(out.data(), zeros.data(), one.data(), length, false));
-    EXPECT_TRUE(out == nines) << length;
-    EXPECT_TRUE(digit_spans::Add_Carry(out.data(), nines.data(), length, true));
-    EXPECT_TRUE(out == zeros) << length;
-    EXPECT_TRUE(digit_spans::Subtract_Borrow(out.data(), zeros.data(), length, true));
-    EXPECT_TRUE(out == nines) << length;
-    EXPECT_GE(yielder->calls, length > digits_between_yields + 1 ? 4 : 0) << length;
+    const std::size_t yields = Yields_Of([&] {
+      EXPECT_TRUE(digit_spans::Add(out.data(), nines.data(), one.data(), length, false));
+      EXPECT_TRUE(out == zeros) << length;
+      EXPECT_TRUE(digit_spans::Subtract(out.data(), zeros.data(), one.data(), length, false));
+      EXPECT_TRUE(out == nines) << length;
+      EXPECT_TRUE(digit_spans::Add_Carry(out.data(), nines.data(), length, true));
+      EXPECT_TRUE(out == zeros) << length;
+      EXPECT_TRUE(digit_spans::Subtract_Borrow(out.data(), zeros.data(), length, true));
+      EXPECT_TRUE(out == nines) << length;
+    });
+    EXPECT_GE(yields, length > digits_between_yields + 1 ? 4U : 0U) << length;
   }
-  Current_Platform().yielder = before;
 }
 
 }  // namespace

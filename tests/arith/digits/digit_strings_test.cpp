@@ -4,7 +4,6 @@
 #include "arith/digits/add_digits.h"
 #include "arith/digits/subtract_digits.h"
 #include "support/failures.h"
-#include "support/localized.h"
 
 namespace quorvex {
 namespace {

@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <utility>
+#include <vector>
 
+#include "support/cells.h"
 #include "support/failures.h"
 #include "support/surroundings.h"
 
@@ -55,21 +55,8 @@ TEST(DoOperation, LetsABreakPassItsHandler) {
   EXPECT_EQ(Do_Operation(operation::add, "1", "1", {}), "2");
 }
 
-// A range of one cell, for operands that are references.
-class Cell final : public Range {
- public:
-  explicit Cell(HostValue value, std::size_t rows = 1) : value_(std::move(value)), rows_(rows) {}
-  std::size_t rows() const override { return rows_; }
-  std::size_t columns() const override { return 1; }
-  HostValue cell(std::size_t, std::size_t) const override { return value_; }
-
- private:
-  HostValue value_;
-  std::size_t rows_;
-};
-
 HostValue Reference(const HostValue& value, std::size_t rows = 1) {
-  return std::shared_ptr<const Range>(std::make_shared<Cell>(value, rows));
+  return Range_Of_Cells(1, std::vector<HostValue>(rows, value));
 }
 
 TEST(DoOperation, ReadsARangeOfOneCellAsThatCell) {
