@@ -54,27 +54,6 @@ TEST(Primitives, StripTrailingZeros) {
                                         {"1.0.0", "1.0"}});
 }
 
-TEST(Primitives, RemoveMarks) {
-  Expect_Changed(Remove_Decimal_Separator,
-                 {{"12.5", "125"}, {".5", "5"}, {"5.", "5"}, {"1.2.3", "12.3"}, {"7", "7"}});
-  Expect_Changed(Remove_Thousands_Separators,
-                 {{"1,2,3", "123"}, {",,", ""}, {",5,", "5"}, {"12.5", "12.5"}});
-  Expect_Changed(Remove_Currency_Symbol, {{"$5$", "5"}, {"-$5", "-5"}, {"$$", ""}, {"5", "5"}});
-}
-
-TEST(Primitives, InsertThousandsSeparators) {
-  const Pair cases[] = {{"", ""},
-                        {"1", "1"},
-                        {"123", "123"},
-                        {"1234", "1,234"},
-                        {"123456", "123,456"},
-                        {"1234567", "1,234,567"}};
-  In_Each_Locale([&] {
-    for (const Pair& c : cases)
-      EXPECT_EQ(Insert_Thousands_Separators(c.text), Localized(c.expected));
-  });
-}
-
 TEST(Primitives, Signs) {
   const struct {
     const char* text;
