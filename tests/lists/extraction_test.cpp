@@ -121,6 +121,15 @@ TEST(Extraction, IsLinearWhereALongEntryNearlyStandsEverywhere) {
   EXPECT_EQ(engine.qvxEXTRACT(list), entry);
 }
 
+TEST(Extraction, CanBeBrokenOff) {
+  cls_Quorvex engine;
+  const List list = {std::string(3 * digits_between_yields, 'x'), "xy"};
+  const Interruption_Guard impatient;
+  EXPECT_EQ(Failure_Of([&] { engine.qvxEXTRACT(list); }), Failure_Number::interrupted);
+  EXPECT_EQ(Failure_Of([&] { engine.qvxEXCLUDE(list); }), Failure_Number::interrupted);
+  EXPECT_EQ(Failure_Of([&] { engine.qvxEXCLUDENOTNUM(list); }), Failure_Number::interrupted);
+}
+
 TEST(Extraction, AsksForTheMemoryOfLongEntries) {
   cls_Quorvex engine;
   const List list = {std::string(20'000'001, '1'), std::string(20'000'000, '1') + "2"};
