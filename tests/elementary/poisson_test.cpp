@@ -92,10 +92,12 @@ TEST(Poisson, OfCountsBeyondFactorialsIsATokenAtOnce) {
   const auto yields_of_one = Yields_Of([] { Poisson(0, "1", false, 10); });
   for (const bool cumulative : {false, true}) {
     for (const int target : {9274, 2000000000}) {
-      NumberText result;
-      const auto yields = Yields_Of([&] { result = Poisson(target, "1", cumulative, 10); });
-      EXPECT_EQ(result, "#NUM!") << target;
-      EXPECT_LE(yields, yields_of_one) << target;
+      for (const double limit : {2.0, 10.0}) {
+        NumberText result;
+        const auto yields = Yields_Of([&] { result = Poisson(target, "1", cumulative, limit); });
+        EXPECT_EQ(result, "#NUM!") << target << " at " << limit;
+        EXPECT_LE(yields, yields_of_one) << target << " at " << limit;
+      }
     }
   }
 }
