@@ -188,16 +188,5 @@ TEST(Platform, HasAWorkingDefaultOfEverything) {
   EXPECT_TRUE(ran);
 }
 
-TEST(Platform, ALocaleInForceEndsWithItsScope) {
-  const std::string before = Current_Locale().decimal_separator;
-  {
-    const Locale_Guard outer(Comma_Locale());
-    EXPECT_EQ(Current_Locale().decimal_separator, ",");
-    const Locale_Guard inner(Apostrophe_Locale());
-    EXPECT_EQ(Current_Locale().thousands_separator, "\u2019");
-  }
-  EXPECT_EQ(Current_Locale().decimal_separator, before);
-}
-
 }  // namespace
 }  // namespace quorvex
