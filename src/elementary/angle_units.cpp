@@ -1,6 +1,6 @@
 #include "elementary/angle_units.h"
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "elementary/constants.h"
 #include "host/conversions.h"
 #include "text/options.h"

@@ -5,8 +5,8 @@
 #include <string>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
 #include "arith/operation/step_number.h"
+#include "arith/powers/power_function.h"
 #include "elementary/constants.h"
 #include "elementary/series/shortened_series.h"
 #include "elementary/steps/logarithm_steps.h"
@@ -75,8 +75,7 @@ Step_Number Power_Of_E(const NumberText& magnitude, std::int32_t limit) {
     power.multiply_by(power, limit);
   }
   if (n <= 0) return power;
-  return Product(power, Step_Number(Intermediate(operation::power, "2", std::to_string(n), limit)),
-                 limit);
+  return Product(power, Step_Number(Power_Step("2", std::to_string(n), limit)), limit);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "arith/digits/multiply_digits.h"
+#include "arith/operation/decimal_product.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
@@ -60,16 +61,17 @@ std::int32_t Count_Of_Exact(const Factors& factors, double limit) {
 }
 
 // A step of a product. At a limit that leaves no digits there is no product.
-Scaled_Number Times(const Scaled_Number& product, std::int32_t factor, double limit) {
-  return With_Handler([&] { return Product(product, Scaled(std::to_string(factor)), limit); },
-                      [](const Run_Time_Failure&) { return Scaled_Token(value_token); });
+Decimal Times(const Decimal& product, std::int32_t factor, double limit) {
+  return With_Handler(
+      [&] { return Product(product, Significant_Digits(std::to_string(factor)), limit); },
+      [](const Run_Time_Failure&) { return Decimal_Token(value_token); });
 }
 
 // The product, each step of it cut to the limit. The zeros of cut ones are not written out.
 NumberText Product_Of(const Factors& factors, double limit) {
   if (factors.count > 0 && !Can_Multiply()) return NumberText(value_token);
   const std::int32_t exact = Count_Of_Exact(factors, limit);
-  Scaled_Number product = Scaled(Exact_Product(factors.part(0, exact)));
+  Decimal product = Significant_Digits(Exact_Product(factors.part(0, exact)));
   for (std::int32_t place = exact; place < factors.count; ++place) {
     product = Times(product, factors[place], limit);
   }

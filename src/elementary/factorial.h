@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
-#include "arith/operation/scaled_number.h"
 #include "host/host_value.h"
+#include "text/decimal.h"
 #include "text/options.h"
 
 namespace quorvex {
@@ -33,7 +33,7 @@ class Running_Factorial {
 
  private:
   std::int32_t next_ = 0;
-  Scaled_Number product_ = Scaled("1");
+  Decimal product_{"1"};
 };
 
 }  // namespace quorvex

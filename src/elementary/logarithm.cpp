@@ -7,8 +7,10 @@
 #include <string>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "arith/operation/step_number.h"
+#include "arith/powers/power_function.h"
 #include "elementary/constants.h"
 #include "elementary/series/shortened_series.h"
 #include "elementary/steps/logarithm_steps.h"
@@ -51,9 +53,7 @@ class Precision {
   // Fails where the limit can't be read, by the host or by arithmetic.
   explicit Precision(const HostValue& maxSD)
       : limit_(Restrictionator({.maximum_significant_digits = maxSD}).maxSD),
-        last_factor_(
-            To_Int32(Do_Operation(operation::multiply, 5, maxSD,
-                                  {.maximum_significant_digits = maxSD}, {.intermediate = true}))),
+        last_factor_(To_Int32(Intermediate(operation::multiply, "5", To_Text(maxSD), limit_))),
         last_power_(Greatest_Below(ChangeSign_Function(To_Text(maxSD)))) {}
 
   double limit() const { return limit_; }
@@ -126,7 +126,7 @@ NumberText Value_Of_Logarithm(const NumberText& num, const HostValue& ln2, const
   const double limit = precision.limit();
 
   const Step_Number number(num);
-  const Step_Number power(Intermediate(operation::power, "2", std::to_string(std::abs(n)), limit));
+  const Step_Number power(Power_Step("2", std::to_string(std::abs(n)), limit));
   const Step_Number y = n < 0 ? Product(number, power, limit) : Quotient(number, power, limit);
   const Step_Number one(1);
   const Step_Number t = Quotient(Difference(y, one, limit), Sum(y, one, limit), limit);

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "arith/operation/step_number.h"
 #include "elementary/constants.h"
 #include "elementary/factorial.h"

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "elementary/constants.h"
 #include "host/conversions.h"
 #include "text/format_result.h"
@@ -34,9 +34,7 @@ NumberText Sqrt_Function(const HostValue& num, Radicand radicand, const Format_A
   const type_Restrictionator options =
       Restrictionator({Missing, format.format_thousands, format.format_currency,
                        format.exponential_notation, limit});
-  const double position = Decimal_Position_Of(root);
-  Remove_Decimal_Separator(root);
-  return Format_Result(std::move(root), position, true, options, false);
+  return Format_Result(Read_Decimal(std::move(root)), options, false);
 }
 
 }  // namespace quorvex

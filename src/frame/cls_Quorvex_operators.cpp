@@ -1,7 +1,7 @@
 // The worksheet functions of two operands, of comparison and of sign.
 #include "frame/cls_Quorvex.h"
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "text/compare_numbers.h"

@@ -10,7 +10,7 @@
 #include "arith/digits/add_digits.h"
 #include "arith/digits/multiply_digits.h"
 #include "arith/digits/subtract_digits.h"
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "elementary/digits/digits.h"
 #include "support/failures.h"
 #include "support/locales.h"
@@ -33,6 +33,10 @@ struct Fraction {
   NumberText power;
 };
 
+NumberText Sum_Of(const NumberText& a, const NumberText& b) {
+  return Add_Decimals({a, {}}, {b, {}});
+}
+
 // The sum of 1 / ((2 j + 1) x^(2 (j - begin))) over j, with alternating signs unless hyperbolic.
 Fraction Sum_Of_Odd_Terms(int begin, int end, const NumberText& square, bool hyperbolic) {
   if (end - begin == 1) return {square, std::to_string(2 * begin + 1), square};
@@ -43,7 +47,7 @@ Fraction Sum_Of_Odd_Terms(int begin, int end, const NumberText& square, bool hyp
       Multiply_Digits(Multiply_Digits(left.numerator, right.denominator), right.power);
   const NumberText b = Multiply_Digits(right.numerator, left.denominator);
   const bool adds = hyperbolic || (middle - begin) % 2 == 0;
-  return {adds ? Add_Digits(a, b) : Subtract_Digits(a, b, false).Difference,
+  return {adds ? Sum_Of(a, b) : Subtract_Decimals({a, {}}, {b, {}}).Difference,
           Multiply_Digits(left.denominator, right.denominator),
           Multiply_Digits(left.power, right.power)};
 }
@@ -70,7 +74,7 @@ std::pair<NumberText, NumberText> Sum_Of_Reciprocal_Factorials(int begin, int en
   const int middle = (begin + end) / 2;
   const auto left = Sum_Of_Reciprocal_Factorials(begin, middle);
   const auto right = Sum_Of_Reciprocal_Factorials(middle, end);
-  return {Add_Digits(Multiply_Digits(left.first, right.second), right.first),
+  return {Sum_Of(Multiply_Digits(left.first, right.second), right.first),
           Multiply_Digits(left.second, right.second)};
 }
 

@@ -6,7 +6,8 @@
 
 #include <string>
 
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "support/failures.h"
 #include "support/random_numbers.h"
 #include "support/surroundings.h"
@@ -51,7 +52,7 @@ NumberText By_Definition(int first, int last, int step, double limit) {
     product = Intermediate(operation::multiply, product, std::to_string(factor), limit);
   }
   const HostValue digits = limit;
-  return Close_Number(product, 0, true, {.maximum_significant_digits = digits});
+  return Close_Number({product}, {.maximum_significant_digits = digits});
 }
 
 TEST(Factorials, AreExactWhereTheLimitCutsNothing) {
@@ -82,8 +83,7 @@ TEST(Factorials, AtFewDigitsAreProductsOfWhatWasCut) {
   EXPECT_EQ(Factorial(100, 4), By_Definition(1, 100, 1, 4));
   type_Restrictionator four_digits;
   four_digits.maxSD = 4;
-  EXPECT_NE(Factorial(100, 4),
-            Format_Result(Exact_Factorial(100, false), 0, true, four_digits, false));
+  EXPECT_NE(Factorial(100, 4), Format_Result({Exact_Factorial(100, false)}, four_digits, false));
 }
 
 TEST(Factorials, OfOneNumberAfterTheOtherAreTheSame) {

@@ -9,7 +9,9 @@
 #include <string>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
+#include "arith/powers/power_function.h"
 #include "elementary/constants.h"
 #include "elementary/exponential.h"
 #include "host/conversions.h"
@@ -172,7 +174,7 @@ TEST(Logarithm, OfAPowerIsTheExponent) {
   for (int round = 0; round < 100; ++round) {
     const std::string base = std::to_string(2 + random.below(30));
     const std::string exponent = std::to_string(1 + random.below(60));
-    const NumberText power = Intermediate(operation::power, base, exponent, 200);
+    const NumberText power = Power_Step(base, exponent, 200);
     const auto limit = static_cast<double>(10 + random.below(60));
     High_Precision exact(1000, exponent);
     ASSERT_LT(exact.distance(Log(power, base, limit), -static_cast<long>(limit) + 2),

@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "elementary/series/series.h"
 #include "elementary/steps/reduce_to_90.h"
 #include "elementary/steps/text_steps.h"

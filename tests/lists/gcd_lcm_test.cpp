@@ -3,7 +3,8 @@
 
 #include <string>
 
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "lists/gcd_lcm_function.h"
 #include "support/random_numbers.h"
 

@@ -7,7 +7,8 @@
 
 #include "arith/fractions/fraction_scale.h"
 #include "arith/fractions/whole_divisor.h"
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "host/conversions.h"
 #include "text/clean_up_number.h"
 #include "text/operand.h"

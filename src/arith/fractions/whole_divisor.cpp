@@ -6,7 +6,8 @@
 #include <utility>
 
 #include "arith/fractions/exact_divisor.h"
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "host/platform.h"
 #include "text/clean_up_number.h"
 #include "text/digit_runs.h"
@@ -35,12 +36,12 @@ NumberText Remainder(const NumberText& dividend, const NumberText& divisor, doub
   const NumberText whole = Floor(quotient);
   const NumberText product = Intermediate(operation::multiply, divisor, whole,
                                           length + static_cast<double>(whole.size()) + spare);
-  type_CleanUp clean =
-      Clean_Up_Number(Intermediate(operation::subtract, dividend, product, maxSD), false, false);
+  Decimal difference = Read_Decimal(
+      Clean_Up_Number(Intermediate(operation::subtract, dividend, product, maxSD), false, false));
+  difference.negative = !Is_Positive(divisor);
   type_Restrictionator options;
   options.maxSD = maxSD;
-  return Format_Result(std::move(clean.NumClean), clean.DecPos, Is_Positive(divisor), options,
-                       false);
+  return Format_Result(std::move(difference), options, false);
 }
 
 std::string_view Digits_Of(const NumberText& number) {

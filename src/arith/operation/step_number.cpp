@@ -6,7 +6,8 @@
 
 #include "arith/digits/multiply_digits.h"
 #include "arith/division/limb_quotient.h"
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "text/compare_numbers.h"

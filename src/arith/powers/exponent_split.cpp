@@ -6,7 +6,8 @@
 #include <string>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "text/compare_numbers.h"
@@ -21,7 +22,7 @@ class Calculation {
   explicit Calculation(double maxSD) : limit_(maxSD) {}
 
   NumberText operator()(std::int16_t code, const NumberText& a, const NumberText& b) const {
-    return Do_Operation(code, a, b, {.maximum_significant_digits = limit_}, {.intermediate = true});
+    return Intermediate(code, a, b, limit_);
   }
 
   NumberText whole_quotient(const NumberText& a, const NumberText& b) const {
@@ -29,7 +30,7 @@ class Calculation {
   }
 
  private:
-  HostValue limit_;
+  double limit_;
 };
 
 bool Is_Greater(const NumberText& a, const NumberText& b) {

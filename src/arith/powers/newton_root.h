@@ -1,9 +1,16 @@
 // Roots of any degree by Newton's iteration.
 #pragma once
 
+#include <string_view>
+
 #include "host/host_value.h"
 
 namespace quorvex {
+
+/// What a power is worked out with at a limit. Roots are handed it, since a power whose exponent is
+/// a fraction is a root in its turn.
+using Power_At_Limit = NumberText (*)(std::string_view base, std::string_view exponent,
+                                      double limit);
 
 struct Newton_Limits {
   double maxSD = 0;  // how many digits must stand still
@@ -15,6 +22,6 @@ struct Newton_Limits {
 /// somewhere. A token of a step is the result, and so is "#NUM!" where values come back too often
 /// among the last ten. Fails with too_complex where they come back in a longer circle.
 NumberText Newton_Root(const NumberText& radicand, const NumberText& degree, NumberText start,
-                       const Newton_Limits& limits);
+                       const Newton_Limits& limits, Power_At_Limit power);
 
 }  // namespace quorvex

@@ -1,8 +1,11 @@
 // Powers.
 #pragma once
 
-#include "arith/operation/scaled_number.h"
+#include <string_view>
+
 #include "arith/operation/step_options.h"
+#include "host/host_value.h"
+#include "text/decimal.h"
 #include "text/operand.h"
 
 namespace quorvex {
@@ -17,7 +20,11 @@ namespace quorvex {
 /// integer digits than a text can have. Fails with type_mismatch for an exponent that is no number,
 /// and with too_complex for one whose splits are split more than a thousand deep. An exponent that
 /// is longer than the limit can take any time, but yields.
-Scaled_Number Power_Function(const Operand& base, const Operand& exponent,
-                             const Step_Options& options);
+Decimal Power_Function(const Operand& base, const Operand& exponent, const Step_Options& options);
+
+// Intermediate values at a limit, as `Do_Operation` gives them to a worker that passes no options.
+// A fractional power is one of a root, and a root is worked out by powers.
+NumberText Power_Step(std::string_view base, std::string_view exponent, double limit);
+NumberText Root_Step(std::string_view radicand, std::string_view degree, double limit);
 
 }  // namespace quorvex

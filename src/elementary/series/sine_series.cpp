@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/powers/power_function.h"
 #include "elementary/series/series.h"
 #include "elementary/series/shortened_series.h"
 #include "host/conversions.h"
@@ -28,7 +28,7 @@ class Sine_Terms {
   Sine_Terms(std::string_view first, double k, const NumberText& x, double limit)
       : term_(first),
         k_(k, limit),
-        square_(Intermediate(operation::power, x, "2", limit)),
+        square_(Power_Step(x, "2", limit)),
         limit_(limit),
         end_(limit) {}
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "host/conversions.h"
 #include "text/clean_up_number.h"
 #include "text/options.h"

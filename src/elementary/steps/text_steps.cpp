@@ -2,7 +2,9 @@
 
 #include <cmath>
 
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
+#include "arith/powers/power_function.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "text/compare_numbers.h"
@@ -41,11 +43,11 @@ NumberText Text_Steps::quotient(std::string_view a, std::string_view b) const {
 }
 
 NumberText Text_Steps::root(std::string_view a, std::string_view degree) const {
-  return Intermediate(operation::root, a, degree, limit);
+  return Root_Step(a, degree, limit);
 }
 
 NumberText Text_Steps::power(std::string_view a, std::string_view exponent) const {
-  return Intermediate(operation::power, a, exponent, limit);
+  return Power_Step(a, exponent, limit);
 }
 
 bool Is_Equal(std::string_view a, std::string_view b) {

@@ -8,7 +8,8 @@
 #include <limits>
 #include <string>
 
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "host/conversions.h"
 #include "support/failures.h"
 #include "support/localized.h"

@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "arith/powers/exponent_split.h"
 #include "support/failures.h"
 #include "support/localized.h"
