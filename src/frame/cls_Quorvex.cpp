@@ -9,6 +9,7 @@
 #include "host/run_time_failure.h"
 #include "lists/is_error.h"
 #include "text/format_result.h"
+#include "text/limits.h"
 #include "text/recognition.h"
 
 namespace quorvex {

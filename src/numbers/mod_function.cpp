@@ -12,6 +12,7 @@
 #include "text/compare_numbers.h"
 #include "text/decimal.h"
 #include "text/format_result.h"
+#include "text/limits.h"
 #include "text/operand.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
@@ -68,8 +69,7 @@ bool Is_Shown_Positive(const HostValue& sign, const Decimal& remainder, const Ho
 NumberText Mod_Function(const HostValue& dividend, const HostValue& divisor,
                         const HostValue& truncate, const HostValue& sign,
                         const Format_Arguments& format) {
-  const HostValue& digits = format.maximum_significant_digits;
-  const double limit = digits.is_missing() ? Default_MaxSD() : To_Number(digits);
+  const double limit = Limit_As_Number(format.maximum_significant_digits);
   const Quotient_Cut cut = To_Boolean(truncate) ? Quotient_Cut::towards_zero : Quotient_Cut::down;
   std::string dividend_scratch;
   std::string divisor_scratch;

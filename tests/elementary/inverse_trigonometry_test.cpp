@@ -7,13 +7,13 @@
 #include <string>
 
 #include "elementary/constants.h"
-#include "elementary/steps/text_steps.h"
 #include "elementary/trigonometry.h"
 #include "host/conversions.h"
 #include "support/failures.h"
 #include "support/random_numbers.h"
 #include "support/real_number.h"
 #include "support/surroundings.h"
+#include "support/text_steps.h"
 
 namespace quorvex {
 namespace {

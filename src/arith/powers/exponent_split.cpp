@@ -33,14 +33,6 @@ class Calculation {
   double limit_;
 };
 
-bool Is_Greater(const NumberText& a, const NumberText& b) {
-  const HostValue answer = Compare_Numbers(a, b, false, true);
-  if (answer.is_text()) {
-    throw Run_Time_Failure(Failure_Number::type_mismatch, "An exponent can't be split.");
-  }
-  return answer.boolean();
-}
-
 // The exponent's own digits, a half of it, and what divisions need so that they never round up to
 // a whole number: the fraction of n / a is at most 1 - 1/a.
 bool Is_Exact(const NumberText& n, double maxSD) {

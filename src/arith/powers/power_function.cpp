@@ -142,13 +142,14 @@ bool Is_Too_Long(const Decimal& number) {
 
 // An intermediate value of an operation at the limit.
 template <typename Operation>
-NumberText Step(std::string_view a, std::string_view b, double limit, const Operation& operation) {
+NumberText Step(std::string_view a, std::string_view b, double limit, bool restricted,
+                const Operation& operation) {
   return With_Handler(
       [&] {
         if (const auto token = Token_Of_Operands(a, b)) return NumberText(*token);
         type_Restrictionator options;
         options.maxSD = std::fmin(limit, maximum_digits) + 1;
-        Decimal result = operation(Operand(a), Operand(b), {options.maxSD});
+        Decimal result = operation(Operand(a), Operand(b), {options.maxSD, restricted});
         if (Has_Token_Mark(result.digits)) return std::move(result.digits);
         return Format_Result(std::move(result), options, true);
       },
@@ -175,12 +176,21 @@ Decimal Power_Function(const Operand& base, const Operand& exponent, const Step_
   return Is_Too_Long(result) ? Decimal_Token(num_token) : result;
 }
 
+Step_Number Power(const Step_Number& base, const Step_Number& exponent, const Steps& steps,
+                  bool restricted) {
+  return Step_Number(Step(base.text(), exponent.text(), steps.limit(), restricted, Power_Function));
+}
+
+Step_Number Root(const Step_Number& radicand, const Step_Number& degree, const Steps& steps) {
+  return Step_Number(Root_Step(radicand.text(), degree.text(), steps.limit()));
+}
+
 NumberText Power_Step(std::string_view base, std::string_view exponent, double limit) {
-  return Step(base, exponent, limit, Power_Function);
+  return Step(base, exponent, limit, false, Power_Function);
 }
 
 NumberText Root_Step(std::string_view radicand, std::string_view degree, double limit) {
-  return Step(radicand, degree, limit,
+  return Step(radicand, degree, limit, false,
               [](const Operand& a, const Operand& b, const Step_Options& options) {
                 return Root_Function(a, b, options, Power_Step);
               });

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "arith/operation/step_options.h"
+#include "arith/operation/steps.h"
 #include "host/host_value.h"
 #include "text/decimal.h"
 #include "text/operand.h"
@@ -21,6 +22,12 @@ namespace quorvex {
 /// and with too_complex for one whose splits are split more than a thousand deep. An exponent that
 /// is longer than the limit can take any time, but yields.
 Decimal Power_Function(const Operand& base, const Operand& exponent, const Step_Options& options);
+
+/// The power and the root at the limit of the steps. With `restricted`, "#NUM!" for operands that
+/// have more than half the ceiling of digits together.
+Step_Number Power(const Step_Number& base, const Step_Number& exponent, const Steps& steps,
+                  bool restricted = false);
+Step_Number Root(const Step_Number& radicand, const Step_Number& degree, const Steps& steps);
 
 // Intermediate values at a limit, as `Do_Operation` gives them to a worker that passes no options.
 // A fractional power is one of a root, and a root is worked out by powers.

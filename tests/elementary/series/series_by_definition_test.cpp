@@ -167,8 +167,11 @@ TEST(SeriesByDefinition, SinesAndArcTangents) {
     const NumberText number = NumberText(random.one_in(2) ? "-" : "") + "0." +
                               random.one_of("0123") + random.digits(random.below(60)) + "9";
     const int limit = Random_Limit(random);
-    ASSERT_EQ(Sin_Series(number, limit), Sine(number, limit)) << number << " at " << limit;
-    ASSERT_EQ(ATan_Series(number, limit), Arc_Tangent(number, limit)) << number << " at " << limit;
+    const Step_Number x(number);
+    const Steps steps(limit);
+    ASSERT_EQ(Sin_Series(x, steps).text(), Sine(number, limit)) << number << " at " << limit;
+    ASSERT_EQ(ATan_Series(x, steps).text(), Arc_Tangent(number, limit))
+        << number << " at " << limit;
   }
 }
 
