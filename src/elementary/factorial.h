@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
+#include "arith/operation/step_number.h"
 #include "host/host_value.h"
-#include "text/decimal.h"
 #include "text/options.h"
 
 namespace quorvex {
@@ -33,7 +33,7 @@ class Running_Factorial {
 
  private:
   std::int32_t next_ = 0;
-  Decimal product_{"1"};
+  Step_Number product_{1};
 };
 
 }  // namespace quorvex

@@ -125,6 +125,16 @@ std::int64_t Leading_Power(const Number& number) {
   return below + static_cast<std::int64_t>(Count_Digits(number.data()[number.count() - 1])) - 1;
 }
 
+std::int64_t Plain_Length(const Number& number) {
+  if (number.is_zero()) return 1;
+  const std::int64_t leading = Leading_Power(number);
+  std::int64_t last = number.low * static_cast<std::int64_t>(digits);
+  for (Limb limb = *number.data(); limb % 10 == 0; limb /= 10) ++last;
+  // At least one digit stands before the separator.
+  const std::int64_t before = std::max<std::int64_t>(leading + 1, 1);
+  return (number.negative ? 1 : 0) + before + std::max<std::int64_t>(-last, 0);
+}
+
 Number Floor(const Number& number) {
   if (number.low >= 0 || number.is_zero()) return number;
   // Something stands behind the point.

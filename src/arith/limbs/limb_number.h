@@ -87,6 +87,9 @@ NumberText Digits_Of(const Number& number);
 /// The power of ten of the leading digit of a number that is not 0.
 std::int64_t Leading_Power(const Number& number);
 
+/// The length of the number's text without the separator, its sign among it.
+std::int64_t Plain_Length(const Number& number);
+
 /// The greatest whole number that is not above.
 Number Floor(const Number& number);
 

@@ -53,7 +53,7 @@ Step_Number::Step_Number(const Decimal& number) {
 }
 
 Decimal Step_Number::decimal() const {
-  return text_ ? Read_Decimal(*text_) : limbs::Decimal_Of(number_);
+  return text_ ? Significant_Digits(*text_) : limbs::Decimal_Of(number_);
 }
 
 NumberText Step_Number::text() const {
@@ -92,6 +92,11 @@ void Step_Number::negate() {
   } else if (!is_token() && !is_zero()) {
     *this = Step_Number(text_->starts_with('-') ? text_->substr(1) : "-" + *text_);
   }
+}
+
+std::int64_t Plain_Length(const Step_Number& number) {
+  return number.is_in_limbs() ? limbs::Plain_Length(number.in_limbs())
+                              : Plain_Length(number.decimal());
 }
 
 bool Is_Equal(const Step_Number& a, const Step_Number& b) {

@@ -27,7 +27,8 @@ class Step_Number {
   /// Plain number text with its sign, or the token.
   NumberText text() const;
 
-  /// The number's digits without zeros around them, or what stands in its place.
+  /// The number's digits without zeros around them ("0" for 0), or the token. Fails as `Operand`
+  /// does for text that is read otherwise.
   Decimal decimal() const;
 
   bool is_token() const;
@@ -50,6 +51,9 @@ class Step_Number {
   limbs::Number number_;
   std::optional<NumberText> text_;  // where the number is not in limbs
 };
+
+/// The length of the number's text without the separator, its sign among it. Not for tokens.
+std::int64_t Plain_Length(const Step_Number& number);
 
 // Comparisons by value. Fail with type_mismatch where an operand is a token or no number.
 bool Is_Equal(const Step_Number& a, const Step_Number& b);

@@ -29,9 +29,7 @@ Step_Number Power(const Step_Number& base, const Step_Number& exponent, const St
                   bool restricted = false);
 Step_Number Root(const Step_Number& radicand, const Step_Number& degree, const Steps& steps);
 
-// Intermediate values at a limit, as `Do_Operation` gives them to a worker that passes no options.
-// A fractional power is one of a root, and a root is worked out by powers.
+/// `Power` for texts, which roots are handed.
 NumberText Power_Step(std::string_view base, std::string_view exponent, double limit);
-NumberText Root_Step(std::string_view radicand, std::string_view degree, double limit);
 
 }  // namespace quorvex
