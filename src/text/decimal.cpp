@@ -84,6 +84,7 @@ void Strip_Zeros(Decimal& number) {
   const std::size_t zeros = Count_Trailing_Zeros(number.digits);
   number.digits.resize(number.digits.size() - zeros);
   number.power_of_ten += static_cast<std::int64_t>(zeros);
+  if (number.digits.starts_with('0')) number.digits.erase(0, Count_Leading_Zeros(number.digits));
 }
 
 void Round(Decimal& number, double count) {

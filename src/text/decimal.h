@@ -43,10 +43,11 @@ Decimal Significant_Digits(bool negative, const Decimal_Parts& parts);
 /// The same for a plain number as arithmetic gives it. A token stays.
 Decimal Significant_Digits(std::string_view text);
 
+/// Takes the zeros at both ends off, and counts those behind. None is left of 0.
+void Strip_Zeros(Decimal& number);
+
 // Of numbers without zeros at both ends.
 
-/// Takes the zeros behind off, and counts them.
-void Strip_Zeros(Decimal& number);
 
 /// Rounds to so many significant digits, half up in magnitude by the first dropped digit. Fails
 /// with invalid_call for a count that leaves none. Tokens stay.

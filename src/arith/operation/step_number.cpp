@@ -45,7 +45,7 @@ Step_Number::Step_Number(double number) {
 }
 
 Step_Number::Step_Number(const Decimal& number) {
-  if (number.digits.empty() || Has_Non_Digit(number.digits)) {
+  if (Has_Non_Digit(number.digits)) {
     text_ = number.digits;
   } else {
     number_ = limbs::Number_Of(number);

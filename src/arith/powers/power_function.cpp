@@ -208,9 +208,10 @@ Step_Number Take_Step(const Step_Number& a, const Step_Number& b, double limit,
         options.maxSD = std::fmin(limit, maximum_digits) + 1;
         Decimal result = operation(options.maxSD);
         if (Has_Token_Mark(result.digits)) return Step_Number(std::string_view(result.digits));
-        if (Has_Non_Digit(result.digits)) {
+        if (result.digits.empty() || Has_Non_Digit(result.digits)) {
           return Step_Number(Format_Result(std::move(result), options, true));
         }
+        Strip_Zeros(result);
         Round(result, options.maxSD + 1);
         return Step_Number(result);
       },
