@@ -24,7 +24,7 @@ void Running_Product::multiply(std::string_view element, double msd) {
                                   [](const Run_Time_Failure&) { return false; });
   if (!is_number || zero_) return;
   Decimal factor = Significant_Digits(!operand->positive(), operand->parts());
-  if (factor.digits.empty()) {
+  if (factor.digits == "0") {
     zero_ = true;
     return;
   }

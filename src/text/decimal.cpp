@@ -85,6 +85,7 @@ void Strip_Zeros(Decimal& number) {
   number.digits.resize(number.digits.size() - zeros);
   number.power_of_ten += static_cast<std::int64_t>(zeros);
   if (number.digits.starts_with('0')) number.digits.erase(0, Count_Leading_Zeros(number.digits));
+  if (number.digits.empty()) number = {"0"};
 }
 
 void Round(Decimal& number, double count) {

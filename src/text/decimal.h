@@ -37,13 +37,13 @@ Decimal Read_Magnitude(NumberText text);
 /// A number in normal form without its separator, or the token that clean-up gave.
 Decimal Read_Decimal(type_CleanUp clean);
 
-/// The digits of a number without the zeros at both ends, none for 0.
+/// The digits of a number without the zeros at both ends, "0" for 0.
 Decimal Significant_Digits(bool negative, const Decimal_Parts& parts);
 
 /// The same for a plain number as arithmetic gives it. A token stays.
 Decimal Significant_Digits(std::string_view text);
 
-/// Takes the zeros at both ends off, and counts those behind. None is left of 0.
+/// Takes the zeros at both ends off, and counts those behind; "0" for 0.
 void Strip_Zeros(Decimal& number);
 
 // Of numbers without zeros at both ends.

@@ -69,8 +69,10 @@ NumberText Text_Of(const Number& number) {
   const std::int64_t end = std::min<std::int64_t>(number.low, 0);
   const std::string& separator = Decimal_Separator();
   NumberText text;
-  text.reserve(static_cast<std::size_t>(std::max<std::int64_t>(top, 0) - end) * digits + 2 +
-               separator.size());
+  const std::size_t room = static_cast<std::size_t>(std::max<std::int64_t>(top, 0) - end) * digits +
+                           2 + separator.size();
+  if (room > longest_text) Require_Memory(texts_at_once * static_cast<double>(room));
+  text.reserve(room);
   if (number.negative) text += '-';
   if (top <= 0) {
     text.append("0").append(separator).append(static_cast<std::size_t>(-top) * digits, '0');
