@@ -27,7 +27,7 @@ namespace quorvex {
 /// For logarithms and the exponential, which read it in the course of their work.
 HostValue Limit_As_Given(const HostValue& maxSD);
 
-/// For remainders, fractions and the units of angles.
+/// For remainders and the units of angles.
 double Limit_As_Number(const HostValue& maxSD);
 
 /// For the functions of angles. There is no lower bound.
