@@ -1,8 +1,11 @@
 #include "elementary/angle_units.h"
 
-#include "arith/operation/do_operation.h"
+#include <cmath>
+
+#include "arith/operation/steps.h"
 #include "elementary/constants.h"
 #include "host/conversions.h"
+#include "text/limits.h"
 #include "text/options.h"
 
 namespace quorvex {
@@ -10,29 +13,27 @@ namespace {
 
 constexpr double half_turn = 180;
 
-HostValue Digits(const HostValue& maxSD) {
-  return maxSD.is_missing() ? Default_MaxSD() : To_Number(maxSD);
+Step_Number Pi_Of(double digits) {
+  return Step_Number(To_Text(Pi_Digits(digits)));
 }
 
 // `angle` times `numerator` / `denominator`.
-NumberText Convert(const NumberText& angle, const HostValue& numerator,
-                   const HostValue& denominator, const HostValue& digits) {
-  const Format_Arguments format{.maximum_significant_digits = digits};
-  constexpr Operation_Flags flags{.intermediate = true};
-  const HostValue unit = Do_Operation(operation::divide, numerator, denominator, format, flags);
-  return Do_Operation(operation::multiply, unit, angle, format, flags);
+NumberText Convert(const NumberText& angle, const Step_Number& numerator,
+                   const Step_Number& denominator, double digits) {
+  const Steps steps(std::fmin(digits, maximum_digits));
+  return steps.product(steps.quotient(numerator, denominator), Step_Number(angle)).text();
 }
 
 }  // namespace
 
 NumberText Radians_Function(const NumberText& degrees, const HostValue& maxSD) {
-  const HostValue digits = Digits(maxSD);
-  return Convert(degrees, Pi_Digits(digits), half_turn, digits);
+  const double digits = Limit_As_Number(maxSD);
+  return Convert(degrees, Pi_Of(digits), Step_Number(half_turn), digits);
 }
 
 NumberText Degrees_Function(const NumberText& radians, const HostValue& maxSD) {
-  const HostValue digits = Digits(maxSD);
-  return Convert(radians, half_turn, Pi_Digits(digits), digits);
+  const double digits = Limit_As_Number(maxSD);
+  return Convert(radians, Step_Number(half_turn), Pi_Of(digits), digits);
 }
 
 }  // namespace quorvex

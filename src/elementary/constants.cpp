@@ -7,7 +7,7 @@
 #include "elementary/digits/digits.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
-#include "text/options.h"
+#include "text/limits.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
 
@@ -25,19 +25,8 @@ constexpr double limit_of_pi_and_e = 32768;
 // shorter one's limit is that of both.
 constexpr double limit_of_logarithms = 40051;
 
-// A count of digits. Text that is no number counts as above all numbers.
-double Count(const HostValue& digits) {
-  return With_Handler([&] { return To_Number(digits); },
-                      [&](const Run_Time_Failure& failure) {
-                        if (!digits.is_text()) throw failure;
-                        const bool is_number = failure.number() == Failure_Number::overflow;
-                        const bool is_small = is_number && !Is_Positive(digits.text());
-                        return is_small ? -maximum_digits : 2 * maximum_digits;
-                      });
-}
-
 HostValue Serve(const Constant& constant, const HostValue& digits) {
-  const double count = Count(digits);
+  const double count = Count_Of_Digits(digits);
   if (count > constant.limit) return num_token;
   // The separator is a character too.
   const std::int32_t characters = To_Int32(count + 1);
@@ -71,12 +60,6 @@ HostValue Ln2_Digits(const HostValue& digits) {
 
 HostValue Ln10_Digits(const HostValue& digits) {
   return Serve({'2', quorvex::digits::ln10, limit_of_logarithms}, digits);
-}
-
-HostValue Constant_Digits(const HostValue& digits) {
-  if (digits.is_missing()) return Default_MaxSD();
-  const double count = Count(digits);
-  return count > maximum_digits ? maximum_digits : count;
 }
 
 }  // namespace quorvex

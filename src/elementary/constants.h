@@ -17,8 +17,4 @@ HostValue E_Digits(const HostValue& digits);
 HostValue Ln2_Digits(const HostValue& digits);
 HostValue Ln10_Digits(const HostValue& digits);
 
-/// The digits that `qvxPi` and `qvxE` are asked for: `Default_MaxSD` where missing, the ceiling for
-/// more and for text that is no number.
-HostValue Constant_Digits(const HostValue& digits);
-
 }  // namespace quorvex

@@ -2,18 +2,18 @@
 
 #include <cmath>
 #include <cstdint>
-#include <string>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
-#include "arith/operation/step_number.h"
+#include "arith/operation/steps.h"
+#include "arith/powers/power_function.h"
 #include "elementary/constants.h"
 #include "elementary/series/shortened_series.h"
 #include "elementary/steps/logarithm_steps.h"
-#include "elementary/steps/text_steps.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "text/compare_numbers.h"
+#include "text/limits.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
 
@@ -39,15 +39,16 @@ constexpr Series_Rule rule{.stride = 1,
 
 // The sum of r^k / k!.
 Step_Number Taylor_Series(const Step_Number& r, std::int32_t limit) {
+  const Steps steps(limit);
   const std::int32_t last_factor = 5 * limit;
-  Step_Number sum = Sum(Step_Number(1), r, limit);
+  Step_Number sum = steps.sum(Step_Number(1), r);
   Step_Number term = r;
   const std::int64_t last_power = -std::int64_t{limit} - 1;
   Shortened_Series shortened(rule, r, limit, last_power, static_cast<std::uint64_t>(last_factor));
   for (std::int32_t k = 2; k <= last_factor; ++k) {
     Yield();
-    term.multiply_by(Quotient(r, Step_Number(k), limit), limit);
-    sum.add(term, limit);
+    steps.multiply(term, steps.quotient(r, Step_Number(k)));
+    steps.add(sum, term);
     // From a term that is 0 or a token on, all are, and change nothing more.
     if (term.is_token() || term.is_zero()) break;
     if (Ends_Series(term, last_power)) break;
@@ -58,25 +59,25 @@ Step_Number Taylor_Series(const Step_Number& r, std::int32_t limit) {
 
 // e to a number of 0 or more, which is shown without its sign.
 Step_Number Power_Of_E(const NumberText& magnitude, std::int32_t limit) {
+  const Steps steps(limit);
   const NumberText ln2 = To_Text(Ln2_Digits(limit));
   const std::int32_t n = Multiple_Of_Ln2(magnitude, ln2);
   Step_Number r =
-      Difference(Step_Number(magnitude), Product(Step_Number(n), Step_Number(ln2), limit), limit);
+      steps.difference(Step_Number(magnitude), steps.product(Step_Number(n), Step_Number(ln2)));
   const Step_Number tenth("0" + Decimal_Separator() + "1");
   const Step_Number two(2);
   int halvings = 0;
   for (; !Is_Greater(tenth, r); ++halvings) {
     Yield();
-    r.divide_by(two, limit);
+    steps.divide(r, two);
   }
   Step_Number power = Taylor_Series(r, limit);
   for (; halvings > 0; --halvings) {
     Yield();
-    power.multiply_by(power, limit);
+    steps.multiply(power, power);
   }
   if (n <= 0) return power;
-  return Product(power, Step_Number(Intermediate(operation::power, "2", std::to_string(n), limit)),
-                 limit);
+  return steps.product(power, Power(two, Step_Number(n), steps));
 }
 
 }  // namespace
@@ -87,12 +88,12 @@ NumberText Exp_Function(const HostValue& num, const HostValue& exponential_notat
       [&] {
         const NumberText number = Normal_Form(num);
         if (Is_Equal(number, "0")) return NumberText("1");
-        const HostValue digits = Limit_Or_Default(maxSD);
+        const HostValue digits = Limit_As_Given(maxSD);
         const std::int32_t limit = To_Int32(To_Number(digits) + guard_digits);
         const bool is_negative = number.front() == '-';
         Step_Number power = Power_Of_E(is_negative ? number.substr(1) : number, limit);
-        if (is_negative) power = Quotient(Step_Number(1), power, limit);
-        return Finish(power.text(), exponential_notation, digits);
+        if (is_negative) power = Steps(limit).quotient(Step_Number(1), power);
+        return Finish(power, exponential_notation, digits);
       },
       [](const Run_Time_Failure&) { return NumberText(value_token); });
 }

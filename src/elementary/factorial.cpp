@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "arith/digits/multiply_digits.h"
+#include "arith/operation/steps.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
@@ -59,28 +60,26 @@ std::int32_t Count_Of_Exact(const Factors& factors, double limit) {
   return factors.count;
 }
 
-// A step of a product. At a limit that leaves no digits there is no product.
-Scaled_Number Times(const Scaled_Number& product, std::int32_t factor, double limit) {
-  return With_Handler([&] { return Product(product, Scaled(std::to_string(factor)), limit); },
-                      [](const Run_Time_Failure&) { return Scaled_Token(value_token); });
-}
-
 // The product, each step of it cut to the limit. The zeros of cut ones are not written out.
-NumberText Product_Of(const Factors& factors, double limit) {
-  if (factors.count > 0 && !Can_Multiply()) return NumberText(value_token);
+Decimal Product_Of(const Factors& factors, double limit) {
+  if (factors.count > 0 && !Can_Multiply()) return Decimal_Token(value_token);
   const std::int32_t exact = Count_Of_Exact(factors, limit);
-  Scaled_Number product = Scaled(Exact_Product(factors.part(0, exact)));
+  Decimal product = Significant_Digits(Exact_Product(factors.part(0, exact)));
+  if (exact == factors.count) return product;
+  const Steps steps(limit);
+  Step_Number cut(product);
   for (std::int32_t place = exact; place < factors.count; ++place) {
-    product = Times(product, factors[place], limit);
+    Yield();
+    steps.multiply(cut, Step_Number(factors[place]));
   }
-  return Plain_Text(product);
+  return cut.decimal();
 }
 
 // The product as the call asks for it.
 NumberText Formatted_Product(const Factors& factors, const Format_Arguments& format) {
   const double limit =
       Restrictionator({.maximum_significant_digits = format.maximum_significant_digits}).maxSD;
-  return Close_Text(Product_Of(factors, limit), format);
+  return Close_Number(Product_Of(factors, limit), format);
 }
 
 // The whole part as a float. Arithmetic takes fewer texts for numbers than a cell does: no blanks
@@ -120,9 +119,9 @@ NumberText FactDouble_Function(const HostValue& num, const Format_Arguments& for
 }
 
 NumberText Running_Factorial::next() {
-  if (next_ > 0) product_ = Times(product_, next_, Default_MaxSD());
+  if (next_ > 0) Steps(Default_MaxSD()).multiply(product_, Step_Number(next_));
   ++next_;
-  return Close_Text(Plain_Text(product_), {});
+  return Close_Number(product_.decimal(), {});
 }
 
 }  // namespace quorvex

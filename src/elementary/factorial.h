@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "arith/operation/scaled_number.h"
+#include "arith/operation/step_number.h"
 #include "host/host_value.h"
 #include "text/options.h"
 
@@ -33,7 +33,7 @@ class Running_Factorial {
 
  private:
   std::int32_t next_ = 0;
-  Scaled_Number product_ = Scaled("1");
+  Step_Number product_{1};
 };
 
 }  // namespace quorvex

@@ -7,16 +7,17 @@
 #include <string>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
-#include "arith/operation/step_number.h"
+#include "arith/operation/steps.h"
+#include "arith/powers/power_function.h"
 #include "elementary/constants.h"
 #include "elementary/series/shortened_series.h"
 #include "elementary/steps/logarithm_steps.h"
-#include "elementary/steps/text_steps.h"
+#include "elementary/steps/step_functions.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
-#include "numbers/signs.h"
+#include "text/compare_numbers.h"
+#include "text/limits.h"
 #include "text/options.h"
 #include "text/round_to_sd.h"
 #include "text/tokens.h"
@@ -50,13 +51,11 @@ class Precision {
  public:
   // Fails where the limit can't be read, by the host or by arithmetic.
   explicit Precision(const HostValue& maxSD)
-      : limit_(Restrictionator({.maximum_significant_digits = maxSD}).maxSD),
-        last_factor_(
-            To_Int32(Do_Operation(operation::multiply, 5, maxSD,
-                                  {.maximum_significant_digits = maxSD}, {.intermediate = true}))),
-        last_power_(Greatest_Below(ChangeSign_Function(To_Text(maxSD)))) {}
+      : steps_(Restrictionator({.maximum_significant_digits = maxSD}).maxSD),
+        last_factor_(To_Int32(steps_.product(Step_Number(5), Step_Number(To_Text(maxSD))).text())),
+        last_power_(Greatest_Below(Opposite_Of(Step_Number(To_Text(maxSD))))) {}
 
-  double limit() const { return limit_; }
+  const Steps& steps() const { return steps_; }
 
   // Of k, in the terms t^k / k.
   std::int32_t last_factor() const { return last_factor_; }
@@ -66,13 +65,13 @@ class Precision {
 
  private:
   // The greatest whole number that is less. Text can name more digits than a float has.
-  static std::int64_t Greatest_Below(const NumberText& number) {
-    double whole = std::ceil(Text_To_Number(number)) + 1;
-    while (!Is_Greater(Step_Number(number), Step_Number(whole))) --whole;
+  static std::int64_t Greatest_Below(const Step_Number& number) {
+    double whole = std::ceil(Text_To_Number(number.text())) + 1;
+    while (!Is_Greater(number, Step_Number(whole))) --whole;
     return static_cast<std::int64_t>(whole);
   }
 
-  double limit_;
+  Steps steps_;
   std::int32_t last_factor_;
   std::int64_t last_power_;
 };
@@ -93,47 +92,47 @@ constexpr Series_Rule rule{.stride = 2,
 
 // The sum of t^k / k over the odd k.
 Step_Number Area_Tangent(const Step_Number& t, const Precision& precision) {
-  const double limit = precision.limit();
-  const Step_Number square = Product(t, t, limit);
+  const Steps& steps = precision.steps();
+  const Step_Number square = steps.product(t, t);
   Step_Number power = t;
   Step_Number sum = t;
   const std::int32_t last_factor = precision.last_factor();
-  Shortened_Series shortened(rule, square, limit, precision.last_power(),
+  Shortened_Series shortened(rule, square, steps.limit(), precision.last_power(),
                              static_cast<std::uint64_t>(last_factor));
   for (std::int32_t k = 3; k <= last_factor; k += 2) {
     Yield();
-    power.multiply_by(square, limit);
-    const Step_Number term = Quotient(power, Step_Number(k), limit);
-    sum.add(term, limit);
+    steps.multiply(power, square);
+    const Step_Number term = steps.quotient(power, Step_Number(k));
+    steps.add(sum, term);
     // From a term that is 0 or a token on, all are, and change nothing more.
     if (term.is_token() || term.is_zero()) break;
     // Negative terms would go on to the last factor, since none of them ends the series.
-    if (Ends_Series(term, precision.last_power()) || Adds_Nothing(sum, term, limit)) break;
+    if (Ends_Series(term, precision.last_power()) || Adds_Nothing(sum, term, steps.limit())) break;
     if (auto rest = shortened.sum_from({power, sum, static_cast<std::uint64_t>(k)})) return *rest;
   }
   return sum;
 }
 
 // The logarithm of a number above 0 that is not 1.
-NumberText Value_Of_Logarithm(const NumberText& num, const HostValue& ln2, const HostValue& maxSD) {
+Step_Number Value_Of_Logarithm(const NumberText& num, const HostValue& ln2,
+                               const HostValue& maxSD) {
   const std::int32_t n = Power_Of_Two(num);
   if (ln2.text() == num_token) {
     // Too many digits, or a limit that is no number: then this fails.
     To_Number(maxSD);
-    return ln2.text();
+    return Step_Number(ln2.text());
   }
   const Precision precision(maxSD);
-  const double limit = precision.limit();
+  const Steps& steps = precision.steps();
 
   const Step_Number number(num);
-  const Step_Number power(Intermediate(operation::power, "2", std::to_string(std::abs(n)), limit));
-  const Step_Number y = n < 0 ? Product(number, power, limit) : Quotient(number, power, limit);
+  const Step_Number power = Power(Step_Number(2), Step_Number(std::abs(n)), steps);
+  const Step_Number y = n < 0 ? steps.product(number, power) : steps.quotient(number, power);
   const Step_Number one(1);
-  const Step_Number t = Quotient(Difference(y, one, limit), Sum(y, one, limit), limit);
-  const Step_Number twice = Product(Step_Number(2), Area_Tangent(t, precision), limit);
+  const Step_Number t = steps.quotient(steps.difference(y, one), steps.sum(y, one));
+  const Step_Number twice = steps.product(Step_Number(2), Area_Tangent(t, precision));
   // At a digit or less the text of ln 2 is no more than "0.", "0" or nothing.
-  const Step_Number shift(Intermediate(operation::multiply, std::to_string(n), ln2.text(), limit));
-  return Sum(twice, shift, limit).text();
+  return steps.sum(twice, steps.product(Step_Number(n), Step_Number(ln2.text())));
 }
 
 // The natural logarithm as `close` makes it of its value; known ones are not closed.
@@ -152,8 +151,9 @@ NumberText Natural_Logarithm(const HostValue& num, const HostValue& maxSD, const
 
 // The natural logarithm as a part of another one: rounded to the limit, and not formatted.
 NumberText Rounded_Logarithm(const HostValue& num, double limit) {
-  return Natural_Logarithm(
-      num, limit, [&](NumberText value) { return To_Text(Round_To_SD(std::move(value), limit)); });
+  return Natural_Logarithm(num, limit, [&](const Step_Number& value) {
+    return To_Text(Round_To_SD(value.text(), limit));
+  });
 }
 
 NumberText Logarithm_Of_Base(const HostValue& num_base, double base, double limit) {
@@ -166,9 +166,9 @@ NumberText Logarithm_Of_Base(const HostValue& num_base, double base, double limi
 
 NumberText Ln_Function(const HostValue& num, const HostValue& exponential_notation,
                        const HostValue& maxSD) {
-  const HostValue digits = Limit_Or_Default(maxSD);
-  return Natural_Logarithm(num, digits, [&](NumberText value) {
-    return Finish(std::move(value), exponential_notation, digits);
+  const HostValue digits = Limit_As_Given(maxSD);
+  return Natural_Logarithm(num, digits, [&](const Step_Number& value) {
+    return Finish(value, exponential_notation, digits);
   });
 }
 
@@ -178,15 +178,14 @@ NumberText Log_Function(const HostValue& num, const HostValue& num_base,
       [&] {
         const NumberText number = Normal_Form(num);
         if (auto known = Known_Logarithm(number)) return *std::move(known);
-        const HostValue digits = Limit_Or_Default(maxSD);
+        const HostValue digits = Limit_As_Given(maxSD);
         // The base itself is the count of guard digits. The last digits of results depend on it,
         // and so does the greatest base that there are digits for, so it stays.
         const double base = num_base.is_missing() ? 10 : To_Number(num_base);
         const double limit = To_Int32(base + To_Number(digits));
-        const NumberText below = Logarithm_Of_Base(num_base, base, limit);
-        const NumberText above = Rounded_Logarithm(number, limit);
-        return Finish(Intermediate(operation::divide, above, below, limit), exponential_notation,
-                      digits);
+        const Step_Number below(Logarithm_Of_Base(num_base, base, limit));
+        const Step_Number above(Rounded_Logarithm(number, limit));
+        return Finish(Steps(limit).quotient(above, below), exponential_notation, digits);
       },
       Value_Token);
 }

@@ -5,16 +5,17 @@
 #include <string>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
-#include "arith/operation/step_number.h"
+#include "arith/operation/steps.h"
+#include "arith/powers/power_function.h"
 #include "elementary/constants.h"
 #include "elementary/factorial.h"
+#include "elementary/steps/step_functions.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
-#include "numbers/signs.h"
 #include "numbers/whole_part.h"
 #include "text/close_number.h"
+#include "text/limits.h"
 #include "text/options.h"
 #include "text/primitives.h"
 #include "text/recognition.h"
@@ -24,39 +25,38 @@ namespace quorvex {
 namespace {
 
 struct Events {
-  NumberText target;
-  NumberText average;
-  bool cumulative = false;
-  bool restricted = true;
-  std::int32_t limit = 0;
+  Step_Number target;
+  Step_Number average;
+  bool cumulative;
+  bool restricted;
+  Steps steps;
 };
 
-NumberText Power(const NumberText& base, const NumberText& exponent, const Events& events) {
-  const HostValue limit = events.limit;
-  return Do_Operation(operation::power, base, exponent, {.maximum_significant_digits = limit},
-                      {.intermediate = true, .restrict_input_lengths = events.restricted});
+Step_Number Power_Of(const Step_Number& base, const Step_Number& exponent, const Events& events) {
+  return Power(base, exponent, events.steps, events.restricted);
 }
 
 Step_Number Poisson_Exp_Term(const Events& events) {
-  const HostValue e = E_Digits(Constant_Digits(events.limit));
-  return Step_Number(Power(To_Text(e), ChangeSign_Function(events.average), events));
+  const Step_Number e(To_Text(E_Digits(Constant_Digits(events.steps.limit()))));
+  return Power_Of(e, Opposite_Of(events.average), events);
 }
 
 // The factorial is a parameter because a sum has it from the term before.
-Step_Number Poisson_Term(const NumberText& k, const Step_Number& factorial,
+Step_Number Poisson_Term(const Step_Number& k, const Step_Number& factorial,
                          const Step_Number& exp_term, const Events& events) {
+  const Steps& steps = events.steps;
   // A token decides the term, whatever the power.
-  if (factorial.is_token()) return Quotient(exp_term, factorial, events.limit);
-  const Step_Number power(Power(events.average, k, events));
-  return Quotient(Product(exp_term, power, events.limit), factorial, events.limit);
+  if (factorial.is_token()) return steps.quotient(exp_term, factorial);
+  const Step_Number power = Power_Of(events.average, k, events);
+  return steps.quotient(steps.product(exp_term, power), factorial);
 }
 
 // A step from k to the number that follows. At few digits there comes a k that stays the same.
 Step_Number Next_Count(const Step_Number& k, const Events& events) {
-  Step_Number next = Sum(k, Step_Number(1), events.limit);
+  Step_Number next = events.steps.sum(k, Step_Number(1));
   if (!Is_Greater(next, k)) {
     throw Run_Time_Failure(Failure_Number::too_complex,
-                           "With " + std::to_string(events.limit) +
+                           "With " + Number_To_Text(events.steps.limit()) +
                                " significant digits events can't be counted beyond " + k.text() +
                                ".");
   }
@@ -66,20 +66,21 @@ Step_Number Next_Count(const Step_Number& k, const Events& events) {
 // The term of a count too great for factorials is a token, and a sum that came to it stays it.
 bool Reaches_Token(const Step_Number& target, const Events& events) {
   constexpr std::int32_t enough_to_count = 2;  // two more are kept, and 9999 suffices
-  return events.limit >= enough_to_count && Is_Greater(target, Step_Number(largest_factorial));
+  return events.steps.limit() >= enough_to_count &&
+         Is_Greater(target, Step_Number(largest_factorial));
 }
 
 Step_Number Poisson_Sum(const Step_Number& exp_term, const Events& events) {
-  const Step_Number target(events.target);
+  const Step_Number& target = events.target;
   if (Reaches_Token(target, events)) {
-    return Quotient(exp_term, Step_Number(num_token), events.limit);
+    return events.steps.quotient(exp_term, Step_Number(num_token));
   }
   Running_Factorial factorials;
   Step_Number sum(0);
   for (Step_Number k(0); !Is_Greater(k, target); k = Next_Count(k, events)) {
     Yield();
     const Step_Number factorial(factorials.next());
-    sum = Sum(sum, Poisson_Term(k.text(), factorial, exp_term, events), events.limit);
+    events.steps.add(sum, Poisson_Term(k, factorial, exp_term, events));
     if (sum.is_token()) break;
   }
   return sum;
@@ -90,7 +91,7 @@ NumberText Poisson_Core(const Events& events) {
   if (events.cumulative) return Poisson_Sum(exp_term, events).text();
   // At the default limit, and not at that of the call: longer results are wrong behind those
   // digits, but sheets that hold them compare with them, so it stays.
-  const Step_Number factorial(Fact_Function(events.target, {}));
+  const Step_Number factorial(Fact_Function(events.target.text(), {}));
   return Poisson_Term(events.target, factorial, exp_term, events).text();
 }
 
@@ -124,24 +125,6 @@ std::optional<bool> Read_Truth(const HostValue& argument, bool otherwise) {
   return argument.is_missing() ? otherwise : Read_Truth(argument);
 }
 
-// Nothing for text that is no number.
-std::optional<std::int32_t> Read_Limit(const HostValue& argument) {
-  const HostValue& value = Is_Single_Cell(argument) ? Cell_Of(argument) : argument;
-  const bool is_absent =
-      value.is_missing() || value.is_empty() || (value.is_text() && value.text().empty());
-  if (is_absent) return To_Int32(Default_MaxSD());
-  if (value.is_text()) {
-    const auto number =
-        With_Handler([&] { return std::optional<double>(Text_To_Number(value.text())); },
-                     [](const Run_Time_Failure& failure) -> std::optional<double> {
-                       if (failure.number() == Failure_Number::type_mismatch) return std::nullopt;
-                       throw Run_Time_Failure(failure);
-                     });
-    if (!number) return std::nullopt;
-  }
-  return To_Int32(value);
-}
-
 }  // namespace
 
 NumberText Poisson_Function(const HostValue& target_num, const HostValue& average_num,
@@ -155,12 +138,13 @@ NumberText Poisson_Function(const HostValue& target_num, const HostValue& averag
   const auto cumulative = Read_Truth(is_cumulative);
   const auto notation = Read_Truth(exponential_notation, false);
   if (!cumulative || !notation) return NumberText(value_token);
-  const auto limit = Read_Limit(maximum_significant_digits);
+  const auto limit = Whole_Limit(maximum_significant_digits);
   const auto restricted = Read_Truth(restrict_input_lengths, true);
   if (!limit || !restricted) return NumberText(value_token);
 
-  const NumberText probability = Poisson_Core(
-      {Trunc_Function(target.number), std::move(average.number), *cumulative, *restricted, *limit});
+  const NumberText probability =
+      Poisson_Core({Step_Number(Trunc_Function(target.number)), Step_Number(average.number),
+                    *cumulative, *restricted, Steps(*limit)});
   const HostValue shown_notation = *notation;
   const HostValue shown_limit = *limit;
   return Close_Text(probability, {.exponential_notation = shown_notation,

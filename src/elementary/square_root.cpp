@@ -1,29 +1,19 @@
 #include "elementary/square_root.h"
 
-#include <cmath>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "elementary/constants.h"
 #include "host/conversions.h"
 #include "text/format_result.h"
+#include "text/limits.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
 
 namespace quorvex {
-namespace {
-
-double Limit_Of(const HostValue& maxSD) {
-  if (Is_Single_Cell(maxSD)) return Limit_Of(Cell_Of(maxSD));
-  const bool is_absent =
-      maxSD.is_missing() || maxSD.is_empty() || (maxSD.is_text() && maxSD.text().empty());
-  return is_absent ? Default_MaxSD() : std::fmin(To_Number(maxSD), maximum_digits);
-}
-
-}  // namespace
 
 NumberText Sqrt_Function(const HostValue& num, Radicand radicand, const Format_Arguments& format) {
-  const HostValue limit = Limit_Of(format.maximum_significant_digits);
+  const HostValue limit = Limit_Unless_Blank(format.maximum_significant_digits);
   if (!Is_Positive(num)) return NumberText(num_token);
   const Format_Arguments plain{.maximum_significant_digits = limit};
   NumberText root =
@@ -34,9 +24,7 @@ NumberText Sqrt_Function(const HostValue& num, Radicand radicand, const Format_A
   const type_Restrictionator options =
       Restrictionator({Missing, format.format_thousands, format.format_currency,
                        format.exponential_notation, limit});
-  const double position = Decimal_Position_Of(root);
-  Remove_Decimal_Separator(root);
-  return Format_Result(std::move(root), position, true, options, false);
+  return Format_Result(Read_Decimal(std::move(root)), options, false);
 }
 
 }  // namespace quorvex

@@ -6,7 +6,8 @@
 #include <utility>
 
 #include "arith/fractions/reduce_fraction.h"
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "lists/list_result.h"
 #include "lists/list_walk.h"
 #include "text/compare_numbers.h"

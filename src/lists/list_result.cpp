@@ -4,6 +4,7 @@
 
 #include "numbers/long_characters.h"
 #include "numbers/written_out.h"
+#include "text/decimal.h"
 #include "text/format_result.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
@@ -24,14 +25,12 @@ NumberText Finish_Text(NumberText text, const List_Options& options) {
   const type_Restrictionator resolved =
       Restrictionator({negative, thousands, currency, exponent, msd});
 
-  const bool positive = Is_Positive(text);
-  if (text.starts_with('-')) text.erase(0, 1);
-  const double position = Decimal_Position_Of(text);
-  Remove_Decimal_Separator(text);
+  Decimal number = Read_Decimal(std::move(text));
+  NumberText& digits = number.digits;
   // A thousands separator among zeros at the left is known as such only while it is whole.
-  if (!text.empty() && !Has_Token_Mark(text)) Strip_Leading_Zeros(text);
-  const Long_Characters long_characters(text);
-  NumberText result = Format_Result(std::move(text), position, positive, resolved, false);
+  if (!digits.empty() && !Has_Token_Mark(digits)) Strip_Leading_Zeros(digits);
+  const Long_Characters long_characters(digits);
+  NumberText result = Format_Result(std::move(number), resolved, false);
   long_characters.restore(result);
   return result;
 }

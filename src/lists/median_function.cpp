@@ -5,7 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "host/run_time_failure.h"
 #include "lists/list_result.h"
 #include "lists/list_walk.h"

@@ -1,10 +1,11 @@
 #include "lists/running_sum.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
 #include "arith/digits/subtract_digits.h"
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "host/run_time_failure.h"
 #include "text/digit_runs.h"
 #include "text/format_result.h"
@@ -59,25 +60,26 @@ bool Running_Sum::add_in_chain(std::string_view element, double msd) {
     chain_ = text();
     in_chain_ = true;
   }
-  const HostValue limit = msd;
-  NumberText sum =
-      Do_Operation(operation::add, chain_, element, {.maximum_significant_digits = limit},
-                   {.intermediate = true, .lack_of_memory_fails = true});
+  type_Restrictionator options;
+  options.maxSD = std::min(msd, maximum_digits);
+  NumberText sum = Do_Operation_On_Texts(operation::add, chain_, element, options,
+                                         {.intermediate = true, .lack_of_memory_fails = true});
   if (Has_Token_Mark(sum)) return false;
   chain_ = std::move(sum);
   return true;
 }
 
 NumberText Running_Sum::text() {
-  if (in_chain_) return chain_.text();
+  if (in_chain_) return chain_;
   const Decimal_Parts positive = Without_Leading_Zeros(positive_.parts());
   const Decimal_Parts negative = Without_Leading_Zeros(negative_.parts());
   type_Subtraction sum = Subtract_Decimals(positive, negative);
   const std::size_t fraction = std::max(positive.fraction.size(), negative.fraction.size());
   type_Restrictionator options;
   options.maxSD = maximum_digits;
-  return Format_Result(std::move(sum.Difference), static_cast<double>(fraction) + 1,
-                       !sum.NegativeSubtraction, options, true);
+  return Format_Result(
+      {std::move(sum.Difference), -static_cast<std::int64_t>(fraction), sum.NegativeSubtraction},
+      options, true);
 }
 
 }  // namespace quorvex

@@ -31,7 +31,7 @@ class Running_Sum {
   Magnitude_Sum positive_;
   Magnitude_Sum negative_;
   bool in_chain_ = false;
-  HostValue chain_;  // the sum as text, once it is a chain
+  NumberText chain_;  // the sum as text, once it is a chain
 };
 
 /// A limit as a count of digits that no operation under it cuts.

@@ -2,7 +2,8 @@
 
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "host/conversions.h"
 #include "lists/list_result.h"
 #include "lists/list_walk.h"
@@ -13,9 +14,7 @@ namespace {
 
 NumberText Mean(NumberText sum, double count, double msd) {
   if (Text_To_Number(sum) == 0 || count == 0) return sum;
-  const HostValue limit = msd;
-  return Do_Operation(operation::divide, std::move(sum), count,
-                      {.maximum_significant_digits = limit}, {.intermediate = true});
+  return Intermediate(operation::divide, sum, Number_To_Text(count), msd);
 }
 
 }  // namespace

@@ -4,7 +4,8 @@
 #include <string>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "numbers/parity.h"
 #include "text/close_number.h"
 #include "text/primitives.h"
@@ -19,7 +20,7 @@ namespace {
 NumberText Close(NumberText whole, const Format_Arguments& format) {
   const bool positive = Is_Positive(whole);
   if (!positive) whole.erase(0, 1);
-  return Close_In_Full(std::move(whole), 0, positive, format);
+  return Close_In_Full({std::move(whole), 0, !positive}, format);
 }
 
 // `step` tells by whether the whole number is positive where the next one lies.
@@ -30,11 +31,8 @@ NumberText Next(std::string_view num, Parity wanted, Rounding_Direction directio
   if (Has_Token_Mark(base) || Ends_Odd(base) == (wanted == Parity::odd)) {
     return Close(std::move(base), format);
   }
-  const HostValue all = maximum_digits;
   const std::int16_t operation = step(Is_Positive(base));
-  return Close(Do_Operation(operation, std::move(base), 1, {.maximum_significant_digits = all},
-                            {.intermediate = true}),
-               format);
+  return Close(Intermediate(operation, base, "1", maximum_digits), format);
 }
 
 }  // namespace

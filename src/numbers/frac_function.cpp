@@ -38,13 +38,13 @@ NumberText Frac_Function(const HostValue& num, const HostValue& as_int, const Ho
 
   const std::string& separator = Decimal_Separator();
   const std::size_t place = text.find(separator);
-  if (place == std::string::npos) return Close_Number("0", 0, positive, format);
+  if (place == std::string::npos) return Close_Number({"0", 0, !positive}, format);
   text.erase(0, place + separator.size());
   // A thousands separator among zeros at the left is known as such only while it is whole.
   if (is_whole && !text.empty() && !Has_Token_Mark(text)) Strip_Leading_Zeros(text);
   const Long_Characters long_characters(text);
   if (!is_whole) text.insert(0, separator);
-  NumberText result = Close_Number(std::move(text), 0, positive, format);
+  NumberText result = Close_Number({std::move(text), 0, !positive}, format);
   long_characters.restore(result);
   return result;
 }

@@ -8,10 +8,11 @@
 #include "arith/division/exact_remainder.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
-#include "text/clean_up_number.h"
 #include "text/close_number.h"
 #include "text/compare_numbers.h"
+#include "text/decimal.h"
 #include "text/format_result.h"
+#include "text/limits.h"
 #include "text/operand.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
@@ -34,42 +35,30 @@ double Wanted_Sign(const HostValue& sign) {
                       [](const Run_Time_Failure&) { return of_divisor; });
 }
 
-// The difference before formatting; a token has no place and is positive.
-struct Raw_Remainder {
-  NumberText digits;
-  double position = 0;
-  bool positive = true;
-};
-
 // The operation that forms the difference keeps two digits more than the limit. What that does not
 // cut need not be written out and read again.
-Raw_Remainder As_Operation_Gives(Exact_Remainder exact, double limit) {
-  if (static_cast<double>(exact.digits.size()) <= limit + 2) {
-    return {std::move(exact.digits), exact.position, !exact.negative};
-  }
+Decimal As_Operation_Gives(Decimal exact, double limit) {
+  if (static_cast<double>(exact.digits.size()) <= limit + 2) return exact;
   type_Restrictionator options;
   options.maxSD = std::min(limit, maximum_digits) + 1;
-  const NumberText text =
-      Format_Result(std::move(exact.digits), exact.position, !exact.negative, options, true);
-  type_CleanUp clean = Clean_Up_Number(text, false, false);
-  return {std::move(clean.NumClean), clean.DecPos, Is_Positive(text)};
+  return Read_Decimal(Format_Result(std::move(exact), options, true));
 }
 
-Raw_Remainder Remainder(std::string_view dividend, const Operand& divisor, Quotient_Cut cut,
-                        double limit) {
+Decimal Remainder(std::string_view dividend, const Operand& divisor, Quotient_Cut cut,
+                  double limit) {
   return With_Handler(
-      [&]() -> Raw_Remainder {
+      [&] {
         const Operand number(dividend);
-        if (!number.is_number()) return {NumberText(value_token)};
+        if (!number.is_number()) return Decimal_Token(value_token);
         return As_Operation_Gives(Remainder_Of(number, divisor, cut), limit);
       },
-      [](const Run_Time_Failure&) { return Raw_Remainder{NumberText(value_token)}; });
+      [](const Run_Time_Failure&) { return Decimal_Token(value_token); });
 }
 
-bool Is_Shown_Positive(const HostValue& sign, const Raw_Remainder& remainder,
-                       const HostValue& dividend, const HostValue& divisor) {
+bool Is_Shown_Positive(const HostValue& sign, const Decimal& remainder, const HostValue& dividend,
+                       const HostValue& divisor) {
   const double wanted = Wanted_Sign(sign);
-  if (wanted == of_remainder) return remainder.positive;
+  if (wanted == of_remainder) return !remainder.negative;
   if (wanted == of_dividend) return Is_Positive(dividend);
   if (wanted == none || wanted == minus) return wanted == none;
   return Is_Positive(divisor);
@@ -80,8 +69,7 @@ bool Is_Shown_Positive(const HostValue& sign, const Raw_Remainder& remainder,
 NumberText Mod_Function(const HostValue& dividend, const HostValue& divisor,
                         const HostValue& truncate, const HostValue& sign,
                         const Format_Arguments& format) {
-  const HostValue& digits = format.maximum_significant_digits;
-  const double limit = digits.is_missing() ? Default_MaxSD() : To_Number(digits);
+  const double limit = Limit_As_Number(format.maximum_significant_digits);
   const Quotient_Cut cut = To_Boolean(truncate) ? Quotient_Cut::towards_zero : Quotient_Cut::down;
   std::string dividend_scratch;
   std::string divisor_scratch;
@@ -94,9 +82,9 @@ NumberText Mod_Function(const HostValue& dividend, const HostValue& divisor,
     throw Run_Time_Failure(Failure_Number::type_mismatch, "The divisor is no number.");
   }
   if (Is_Zero(number->parts())) return "DIV/0!";
-  Raw_Remainder remainder = Remainder(dividend_text, *number, cut, limit);
-  const bool positive = Is_Shown_Positive(sign, remainder, dividend, divisor);
-  return Close_Number(std::move(remainder.digits), remainder.position, positive, format);
+  Decimal remainder = Remainder(dividend_text, *number, cut, limit);
+  remainder.negative = !Is_Shown_Positive(sign, remainder, dividend, divisor);
+  return Close_Number(std::move(remainder), format);
 }
 
 }  // namespace quorvex

@@ -6,27 +6,24 @@
 #include "text/close_number.h"
 
 namespace quorvex {
-namespace {
-
-NumberText Close(type_CleanUp clean, bool positive, const Format_Arguments& format) {
-  return Close_In_Full(std::move(clean.NumClean), clean.DecPos, positive, format);
-}
-
-}  // namespace
 
 NumberText Abs_Function(std::string_view num, const Format_Arguments& format) {
-  return Close(Clean_Up_Number(num, false, false), true, format);
+  Decimal number = Read_Decimal(Clean_Up_Number(num, false, false));
+  number.negative = false;
+  return Close_In_Full(std::move(number), format);
 }
 
 NumberText Neg_Function(std::string_view num, const Format_Arguments& format) {
   if (num.empty()) return "VALUE!";
-  return Close(Clean_Up_Number(num, false, false), false, format);
+  Decimal number = Read_Decimal(Clean_Up_Number(num, false, false));
+  number.negative = true;
+  return Close_In_Full(std::move(number), format);
 }
 
 NumberText ChangeSign_Function(std::string_view num, const Format_Arguments& format) {
-  type_CleanUp clean = Clean_Up_Number(num, false, false);
-  const bool positive = !clean.Positive;
-  return Close(std::move(clean), positive, format);
+  Decimal number = Read_Decimal(Clean_Up_Number(num, false, false));
+  number.negative = !number.negative;
+  return Close_In_Full(std::move(number), format);
 }
 
 }  // namespace quorvex

@@ -11,8 +11,7 @@ namespace quorvex {
 namespace {
 
 NumberText Close(std::string_view rounded, const Format_Arguments& format) {
-  type_CleanUp clean = Clean_Up_Number(rounded, false, false);
-  return Close_In_Full(std::move(clean.NumClean), clean.DecPos, clean.Positive, format);
+  return Close_In_Full(Read_Decimal(Clean_Up_Number(rounded, false, false)), format);
 }
 
 }  // namespace

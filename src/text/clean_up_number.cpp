@@ -24,11 +24,6 @@ type_CleanUp Error_Record(std::string_view token) {
   return record;
 }
 
-double Counted_Digits(std::string_view text, double dec_pos) {
-  if (dec_pos >= 2) return text.starts_with('0') ? 0 : dec_pos - 1;
-  return text == "0" ? 0 : static_cast<double>(text.size());
-}
-
 // Cuts the digits to length. Zeros at the left don't count as digits, and are part of the value.
 void Limit_Digits(std::string& digits) {
   const std::size_t before = digits.size();
@@ -51,7 +46,6 @@ type_CleanUp Clean_Up(std::string_view num, bool keepDecimal, bool keepSign) {
   Strip_Trailing_Zeros(text);
   if (text == "0") record.Positive = true;
   record.DecPos = Decimal_Position_Of(text);
-  record.NumNonZeroCharsLeftOfDec = Counted_Digits(text, record.DecPos);
 
   Remove_Decimal_Separator(text);
   Limit_Digits(text);

@@ -14,9 +14,6 @@ struct type_CleanUp {
   /// 0 without a fraction, otherwise the place of the separator from the right end, itself counted;
   /// one more where `keepSign` put a minus in front.
   double DecPos = 0;
-  /// For a whole number its digits (none for 0). With a fraction: the digits right of the separator
-  /// if the number is 1 or more, otherwise 0. Readers depend on it being so, despite its name.
-  double NumNonZeroCharsLeftOfDec = 0;
   NumberText NumClean;  // the number, or an error token
   bool IsError = false;
 };

@@ -27,7 +27,26 @@ std::strong_ordering Compare_Values(const Operand& number1, const Operand& numbe
   return positive1 ? Compare_Magnitudes(parts1, parts2) : Compare_Magnitudes(parts2, parts1);
 }
 
+bool Checked(const HostValue& answer) {
+  if (answer.is_text()) {
+    throw Run_Time_Failure(Failure_Number::type_mismatch, "An argument is no number.");
+  }
+  return answer.boolean();
+}
+
 }  // namespace
+
+bool Is_Equal(std::string_view a, std::string_view b) {
+  return Checked(Compare_Numbers(a, b, true, false));
+}
+
+bool Is_Greater(std::string_view a, std::string_view b) {
+  return Checked(Compare_Numbers(a, b, false, true));
+}
+
+bool Is_At_Least(std::string_view a, std::string_view b) {
+  return Checked(Compare_Numbers(a, b, true, true));
+}
 
 bool Read_For_Comparison(std::string_view text, std::optional<Operand>& number,
                          Exponent_Zeros zeros) {

@@ -15,6 +15,11 @@ namespace quorvex {
 HostValue Compare_Numbers(std::string_view number1, std::string_view number2, bool testEqual,
                           bool testGreater);
 
+// The same for callers to whom a token is no answer: they fail with type_mismatch.
+bool Is_Equal(std::string_view a, std::string_view b);
+bool Is_Greater(std::string_view a, std::string_view b);
+bool Is_At_Least(std::string_view a, std::string_view b);
+
 /// Reads a number into `number`, which looks into `text`. False for what `Compare_Numbers` takes
 /// for no number, a token among it. Fails with out_of_memory for one that has no room, which is a
 /// number all the same.

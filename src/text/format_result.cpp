@@ -10,7 +10,7 @@
 #include "host/platform.h"
 #include "host/utf8.h"
 #include "text/clean_up_number.h"
-#include "text/decimal_positions.h"
+#include "text/decimal.h"
 #include "text/digit_runs.h"
 #include "text/fixed_places.h"
 #include "text/length_limit.h"
@@ -22,8 +22,6 @@
 namespace quorvex {
 namespace {
 
-constexpr std::int16_t addition_code =
-    1;  // aligning with 0 gives the position of the number itself
 constexpr std::size_t short_enough = std::size_t{1} << 30;  // for any sign and any limit of length
 constexpr std::int16_t without_sign = 0;
 constexpr std::int16_t in_parentheses = 2;
@@ -39,11 +37,10 @@ void Cut_To_Significant_Digits(std::string& digits, double count) {
   if (!Has_Token_Mark(digits)) digits.insert(0, lost, '0');
 }
 
-void Set_Separator(std::string& digits, double position) {
-  if (position <= 1) return;
-  const auto places = static_cast<std::size_t>(position) - 1;
+void Set_Separator(std::string& digits, std::size_t places) {
+  if (places == 0) return;
   if (digits.size() <= places) {
-    Require_Memory(texts_at_once * position);
+    Require_Memory(texts_at_once * static_cast<double>(places));
     digits.insert(0, places + 1 - digits.size(), '0');
   }
   digits.insert(digits.size() - places, Decimal_Separator());
@@ -90,9 +87,9 @@ void Show_Sign(NumberText& text, bool positive, std::int16_t style) {
 }
 
 // True for digits that formatting leaves as they are, but for their separator, zeros and sign.
-bool Is_Plain(const NumberText& digits, double position, const type_Restrictionator& options) {
+bool Is_Plain(const NumberText& digits, std::size_t places, const type_Restrictionator& options) {
   return !digits.empty() && static_cast<double>(digits.size()) <= options.maxSD + 1 &&
-         static_cast<double>(digits.size()) + position < short_enough && !options.FormatThousands &&
+         digits.size() + places < short_enough && !options.FormatThousands &&
          !options.FormatCurrency && !options.ExponentialNotation &&
          options.FormatDecimalPlace.is_missing() && !Has_Non_Digit(digits);
 }
@@ -116,6 +113,14 @@ void Write_Plain(NumberText& digits, std::size_t places) {
   }
 }
 
+// Writes the zeros that stand before the separator. The count of digits behind it.
+std::size_t Write_Zeros(Decimal& number) {
+  if (number.power_of_ten <= 0) return static_cast<std::size_t>(-number.power_of_ten);
+  Require_Memory(texts_at_once * static_cast<double>(number.power_of_ten));
+  number.digits.append(static_cast<std::size_t>(number.power_of_ten), '0');
+  return 0;
+}
+
 void Apply_Sign(NumberText& text, bool positive, std::int16_t style, bool noLengthChecks) {
   const bool shows_none = positive || text == "0";
   if (!shows_none && style == without_sign) return;
@@ -126,20 +131,21 @@ void Apply_Sign(NumberText& text, bool positive, std::int16_t style, bool noLeng
 
 }  // namespace
 
-NumberText Format_Result(NumberText result, double position, bool positive,
-                         const type_Restrictionator& options, bool noLengthChecks) {
-  if (position >= 0 && Is_Plain(result, position, options)) {
-    Write_Plain(result, position < 1 ? 0 : static_cast<std::size_t>(position) - 1);
+NumberText Format_Result(Decimal number, const type_Restrictionator& options, bool noLengthChecks) {
+  const std::size_t decimals = Write_Zeros(number);
+  const bool positive = !number.negative;
+  NumberText& result = number.digits;
+  if (Is_Plain(result, decimals, options)) {
+    Write_Plain(result, decimals);
     Show_Sign(result, positive || result == "0", options.FormatNegative);
-    return result;
+    return std::move(result);
   }
   const std::optional<std::int32_t> places = Fixed_Places(options.FormatDecimalPlace);
-  if (position < 0) return NumberText(value_token);
-  if (result.empty() || Has_Token_Mark(result)) return result;
+  if (result.empty() || Has_Token_Mark(result)) return std::move(result);
 
   Cut_To_Significant_Digits(result, options.maxSD + 1);
-  if (result.starts_with(token_mark)) return result;
-  Set_Separator(result, position);
+  if (result.starts_with(token_mark)) return std::move(result);
+  Set_Separator(result, decimals);
   Strip_Trailing_Zeros(result);
   Strip_Leading_Zeros(result);
   if (options.FormatThousands && !options.ExponentialNotation) Group_Integer_Digits(result);
@@ -150,16 +156,11 @@ NumberText Format_Result(NumberText result, double position, bool positive,
   if (options.ExponentialNotation) result = To_Exponential(result);
   if (options.FormatCurrency) Add_Currency_Symbol(result);
   Apply_Sign(result, positive, options.FormatNegative, noLengthChecks);
-  return result;
+  return std::move(result);
 }
 
 NumberText Format_Number(std::string_view number, const Format_Arguments& arguments) {
-  NumberText text = Clean_Up_Number(number, true, true).NumClean;
-  const bool positive = Is_Positive(text);
-  if (text.starts_with('-')) text.erase(0, 1);
-  type_DecPosFromEnd aligned = Decimal_Positions(std::move(text), "0", addition_code);
-  Remove_Decimal_Separator(aligned.Operand1_Trim);
-  return Format_Result(std::move(aligned.Operand1_Trim), aligned.Position, positive,
+  return Format_Result(Read_Decimal(Clean_Up_Number(number, false, false)),
                        Restrictionator(arguments), false);
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/platform.h"
 #include "text/digit_runs.h"
 #include "text/expand_exponent.h"
 #include "text/primitives.h"
@@ -51,6 +52,22 @@ std::strong_ordering Compare_Magnitudes(const Decimal_Parts& a, const Decimal_Pa
 bool Is_Zero(const Decimal_Parts& parts) {
   return Count_Leading_Zeros(parts.integer) == parts.integer.size() &&
          Count_Leading_Zeros(parts.fraction) == parts.fraction.size();
+}
+
+Whole_Digits::Whole_Digits(const Decimal_Parts& parts, std::size_t decimals) {
+  const std::string_view integer = Without_Leading_Zeros(parts.integer);
+  std::string_view fraction = parts.fraction.substr(0, decimals);
+  const std::size_t zeros = decimals - fraction.size();
+  if (integer.empty()) fraction = Without_Leading_Zeros(fraction);
+  digits_ = integer.empty() ? fraction : integer;
+  if (digits_.empty()) {
+    digits_ = "0";
+  } else if (zeros > 0 || (!integer.empty() && !fraction.empty())) {
+    if (zeros > 0) Require_Memory(static_cast<double>(integer.size() + fraction.size() + zeros));
+    joined_.reserve(integer.size() + fraction.size() + zeros);
+    joined_.append(integer).append(fraction).append(zeros, '0');
+    digits_ = joined_;
+  }
 }
 
 Operand::Operand(std::string_view text, Exponent_Zeros zeros) {

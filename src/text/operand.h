@@ -25,6 +25,24 @@ std::strong_ordering Compare_Magnitudes(const Decimal_Parts& a, const Decimal_Pa
 /// True if all digits are zeros, or there are none.
 bool Is_Zero(const Decimal_Parts& parts);
 
+/// The digits of a number without its separator, as a whole number: no leading zeros, "0" for 0.
+/// They are a view of the parts where they stand in one piece there.
+class Whole_Digits {
+ public:
+  /// As if the number had so many decimals: zeros behind it, or digits of its fraction left out.
+  /// Fails with out_of_memory where there is no room for the zeros.
+  Whole_Digits(const Decimal_Parts& parts, std::size_t decimals);
+  explicit Whole_Digits(const Decimal_Parts& parts) : Whole_Digits(parts, parts.fraction.size()) {}
+  Whole_Digits(const Whole_Digits&) = delete;
+  Whole_Digits& operator=(const Whole_Digits&) = delete;
+
+  std::string_view digits() const { return digits_; }
+
+ private:
+  std::string joined_;
+  std::string_view digits_;
+};
+
 /// How exponents are written out: with all their zeros; with one that stands for any number of
 /// them, which is enough to tell a number from other text; or not at all, as a power of ten beside
 /// the digits of the mantissa. A mantissa with marks among its digits is always written out.

@@ -155,8 +155,7 @@ NumberText Round_Function(std::string_view num, double num_digits, Rounding_Dire
       Restrictionator({format.format_negative, format.format_thousands, format.format_currency,
                        format.exponential_notation});
   options.maxSD = maximum_digits;
-  return Format_Result(std::move(number.text), static_cast<double>(number.decimals) + 1,
-                       clean.Positive, options, false);
+  return Format_Result({std::move(number.text), -number.decimals, !clean.Positive}, options, false);
 }
 
 double Places_Of(const HostValue& num_digits) {

@@ -5,7 +5,8 @@
 
 #include <string>
 
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "support/default_limit.h"
 #include "support/failures.h"
 #include "support/random_numbers.h"
@@ -40,7 +41,7 @@ NumberText By_Definition(int first, int last, int step, double limit) {
     product = Intermediate(operation::multiply, product, std::to_string(factor), limit);
   }
   const HostValue digits = limit;
-  return Close_Number(product, 0, true, {.maximum_significant_digits = digits});
+  return Close_Number({product}, {.maximum_significant_digits = digits});
 }
 
 TEST(Factorials, AreExactWhereTheLimitCutsNothing) {

@@ -11,6 +11,7 @@
 #include "support/random_numbers.h"
 #include "support/real_number.h"
 #include "support/surroundings.h"
+#include "support/text_steps.h"
 
 namespace quorvex {
 namespace {

@@ -8,7 +8,9 @@
 #include <iterator>
 #include <string>
 
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
+#include "arith/powers/power_function.h"
 #include "elementary/constants.h"
 #include "elementary/exponential.h"
 #include "host/conversions.h"

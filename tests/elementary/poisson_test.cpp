@@ -5,7 +5,9 @@
 
 #include <string>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/powers/power_function.h"
 #include "elementary/constants.h"
 #include "elementary/factorial.h"
 #include "host/conversions.h"
@@ -25,8 +27,8 @@ NumberText Poisson(int target, const NumberText& average, bool cumulative, doubl
 
 NumberText Term(int k, const NumberText& average, double limit) {
   const NumberText e = To_Text(E_Digits(limit));
-  const NumberText exp_term = Intermediate(operation::power, e, "-" + average, limit);
-  const NumberText power = Intermediate(operation::power, average, std::to_string(k), limit);
+  const NumberText exp_term = Power_Step(e, "-" + average, limit);
+  const NumberText power = Power_Step(average, std::to_string(k), limit);
   return Intermediate(operation::divide, Intermediate(operation::multiply, exp_term, power, limit),
                       Fact_Function(k, {}), limit);
 }

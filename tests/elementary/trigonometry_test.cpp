@@ -11,12 +11,12 @@
 
 #include "elementary/series/series.h"
 #include "elementary/steps/reduce_to_90.h"
-#include "elementary/steps/text_steps.h"
 #include "host/conversions.h"
 #include "support/failures.h"
 #include "support/random_numbers.h"
 #include "support/real_number.h"
 #include "support/surroundings.h"
+#include "support/text_steps.h"
 
 namespace quorvex {
 namespace {
@@ -130,18 +130,19 @@ TEST(ReduceTo90, FoldsBySteps) {
       // 67000000 quarter turns, less 4 times 17000000, and 1 are -999999: no quadrant.
       {"100000000", "0", "-1000000"},
   };
-  const Text_Steps steps{1};
+  const Steps steps(1);
   for (const auto& [angle, alpha, quadrant] : cases) {
-    const type_Reduce90 folded = Reduce_To_90(angle, "1.5", steps);
-    EXPECT_EQ(folded.Alpha, alpha) << angle;
-    EXPECT_EQ(folded.Quadrant, quadrant) << angle;
+    const type_Reduce90 folded =
+        Reduce_To_90(Step_Number(std::string_view(angle)), Step_Number(1.5), steps);
+    EXPECT_EQ(folded.Alpha.text(), alpha) << angle;
+    EXPECT_EQ(folded.Quadrant.text(), quadrant) << angle;
   }
 }
 
 TEST(SeriesCounter, CountsAsOperationsDo) {
   for (const double limit : {-1.0, -0.5, 0.0, 0.5, 1.0, 2.0, 20.0}) {
     const Text_Steps steps{limit};
-    Series_Counter counter(1, limit);
+    Series_Counter counter(1, Steps(limit));
     NumberText k = "1";
     for (int step = 0; step < 700; ++step) {
       counter.step();

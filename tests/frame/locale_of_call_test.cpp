@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "frame/catalogue.h"
+#include "host/run_time_failure.h"
 #include "support/locales.h"
 #include "support/surroundings.h"
 
@@ -66,7 +67,9 @@ TEST_F(Locale_Of_Calls, AskOnceAtMost) {
     if (method.name == "qvxABOUT" || method.name == "SetExcelApp") continue;
     source_->separators_asked = 0;
     source_->currency_asked = 0;
-    Invoke(engine_, method, Plain_Arguments(method));
+    // A sum of cells takes nothing plain: what it refuses counts as well.
+    With_Handler([&] { Invoke(engine_, method, Plain_Arguments(method)); },
+                 [](const Run_Time_Failure&) {});
     EXPECT_LE(source_->separators_asked, 1) << method.name;
     EXPECT_LE(source_->currency_asked, 1) << method.name;
     asking += source_->separators_asked;

@@ -116,7 +116,7 @@ TEST(Threads, EachHasTheLocaleOfItsOwnCall) {
   const auto work = [&](bool comma) {
     has_comma = comma;
     const std::string number = comma ? "0,5" : "0.5";
-    const std::string root = comma ? "1,41421" : "1.41421";
+    const std::string root = comma ? "1,4142136" : "1.4142136";
     for (int round = 0; round < 200; ++round) {
       const NumberText result = engine.qvxROOT("2", 2, Missing, Missing, Missing, Missing, 6);
       if (result != root || engine.qvxADD(number, number) != "1") ++wrong[comma ? 1 : 0];

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "frame/class/cls_Quorvex.h"
 #include "support/localized.h"
 #include "support/surroundings.h"

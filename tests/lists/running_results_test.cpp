@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "lists/random_lists.h"
 #include "lists/running_product.h"
 #include "lists/running_sum.h"

@@ -24,19 +24,20 @@ type_Restrictionator Options(std::int16_t negative = 1, bool thousands = false,
 TEST(FormatResult, PutsTheSeparatorInItsPlace) {
   const struct {
     const char* digits;
-    double position;
+    int power_of_ten;
     const char* expected;
   } cases[] = {
-      {"75", 0, "75"},   {"75", 1, "75"},          {"75", 2, "7.5"},
-      {"75", 3, "0.75"}, {"75", 4, "0.075"},       {"75", 10, "0.000000075"},
-      {"750", 3, "7.5"}, {"7500", 3, "75"},        {"00750", 3, "7.5"},
-      {"0", 5, "0"},     {"000", 3, "0"},          {"000", 1, "0"},
-      {"750", 1, "750"}, {"12345", -1, "#VALUE!"}, {"0", -0.5, "#VALUE!"},
+      {"75", 0, "75"},    {"75", 3, "75000"},  {"75", -1, "7.5"},
+      {"75", -2, "0.75"}, {"75", -3, "0.075"}, {"75", -9, "0.000000075"},
+      {"750", -2, "7.5"}, {"7500", -2, "75"},  {"00750", -2, "7.5"},
+      {"0", -4, "0"},     {"0", 4, "0"},       {"000", -2, "0"},
+      {"000", 0, "0"},    {"750", 0, "750"},
   };
   In_Each_Locale([&] {
     for (const auto& c : cases) {
-      EXPECT_EQ(Format_Result(c.digits, c.position, true, Options(), false), Localized(c.expected))
-          << c.digits << " at " << c.position;
+      EXPECT_EQ(Format_Result({c.digits, c.power_of_ten, false}, Options(), false),
+                Localized(c.expected))
+          << c.digits << " E " << c.power_of_ten;
     }
   });
 }
@@ -54,29 +55,24 @@ TEST(FormatResult, PassesTextThatIsNoNumber) {
   };
   In_Each_Locale([&] {
     for (const auto& c : cases) {
-      EXPECT_EQ(Format_Result(c.text, 1, false, Options(1, true), false), Localized(c.expected));
+      EXPECT_EQ(Format_Result({c.text, 0, true}, Options(1, true), false), Localized(c.expected));
     }
   });
-}
-
-TEST(FormatResult, ChecksThePositionBeforeTheText) {
-  EXPECT_EQ(Format_Result("", -1, true, Options(), false), "#VALUE!");
-  EXPECT_EQ(Format_Result("#NUM!", -2, true, Options(), true), "#VALUE!");
 }
 
 TEST(FormatResult, CutsDigitsBehindLeadingZeros) {
   const struct {
     const char* digits;
-    double position;
+    int power_of_ten;
     double limit;
     const char* expected;
   } cases[] = {
-      {"00123456", 8, 2, "0.0123"}, {"0012356", 1, 2, "12,400"}, {"00999", 4, 1, "1"},
-      {"0099999", 6, 1, "1"},       {"00004", 1, 0, "4"},        {"0012", 3, -1, "#VALUE!"},
-      {"0012", 5, -5, "#VALUE!"},   {"999996", 3, 3, "10,000"},
+      {"00123456", -7, 2, "0.0123"}, {"0012356", 0, 2, "12,400"}, {"00999", -3, 1, "1"},
+      {"0099999", -5, 1, "1"},       {"00004", 0, 0, "4"},        {"0012", -2, -1, "#VALUE!"},
+      {"0012", -4, -5, "#VALUE!"},   {"999996", -2, 3, "10,000"}, {"12356", 2, 2, "1,240,000"},
   };
   for (const auto& c : cases) {
-    EXPECT_EQ(Format_Result(c.digits, c.position, true, Options(1, true, c.limit), false),
+    EXPECT_EQ(Format_Result({c.digits, c.power_of_ten}, Options(1, true, c.limit), false),
               c.expected)
         << c.digits << " to " << c.limit;
   }
@@ -85,14 +81,13 @@ TEST(FormatResult, CutsDigitsBehindLeadingZeros) {
 TEST(FormatResult, FailsWhereFixedPlacesCantBe) {
   type_Restrictionator options = Options();
   options.FormatDecimalPlace = "abc";
-  EXPECT_EQ(Failure_Of([&] { Format_Result("#NUM!", 1, true, options, false); }),
+  EXPECT_EQ(Failure_Of([&] { Format_Result({"#NUM!"}, options, false); }),
             Failure_Number::type_mismatch);
   options.FormatDecimalPlace = 3e9;
-  EXPECT_EQ(Failure_Of([&] { Format_Result("5", 1, true, options, false); }),
-            Failure_Number::overflow);
+  EXPECT_EQ(Failure_Of([&] { Format_Result({"5"}, options, false); }), Failure_Number::overflow);
   const Memory_Guard poor(0);
   options.FormatDecimalPlace = 2000000000;
-  EXPECT_EQ(Failure_Of([&] { Format_Result("5", 1, true, options, false); }),
+  EXPECT_EQ(Failure_Of([&] { Format_Result({"5"}, options, false); }),
             Failure_Number::out_of_memory);
 }
 

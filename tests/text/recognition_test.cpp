@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "support/localized.h"
 #include "support/random_numbers.h"
 #include "support/surroundings.h"

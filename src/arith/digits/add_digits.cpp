@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstring>
 
-#include "arith/digits/digit_check.h"
 #include "arith/digits/digit_spans.h"
 #include "host/platform.h"
 
@@ -49,12 +48,6 @@ NumberText Add_Decimals(const Decimal_Parts& a, const Decimal_Parts& b) {
   if (carry && front == 1) sum.front() = '1';
   if (!carry && front == 1) sum.erase(0, 1);
   return sum;
-}
-
-NumberText Add_Digits(std::string_view operand1, std::string_view operand2) {
-  Require_Digits(operand1);
-  Require_Digits(operand2);
-  return Add_Decimals({operand1, {}}, {operand2, {}});
 }
 
 }  // namespace quorvex

@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <compare>
 #include <cstring>
-#include <utility>
 
-#include "arith/digits/digit_check.h"
 #include "arith/digits/digit_spans.h"
 #include "text/digit_runs.h"
 
@@ -60,18 +58,6 @@ NumberText Subtract_Smaller(const Decimal_Parts& larger, const Decimal_Parts& sm
 type_Subtraction Subtract_Decimals(const Decimal_Parts& a, const Decimal_Parts& b) {
   const bool swap = std::is_lt(Compare_Magnitudes(a, b));
   return {swap ? Subtract_Smaller(b, a) : Subtract_Smaller(a, b), swap};
-}
-
-type_Subtraction Subtract_Digits(std::string_view operand1, std::string_view operand2,
-                                 bool allowNegative) {
-  Require_Digits(operand1);
-  Require_Digits(operand2);
-  const bool swap =
-      operand1.size() != operand2.size() ? operand1.size() < operand2.size() : operand1 < operand2;
-  if (swap) std::swap(operand1, operand2);
-  type_Subtraction subtraction{Subtract_Smaller({operand1, {}}, {operand2, {}}), swap};
-  if (allowNegative && swap) subtraction.Difference.insert(0, 1, '-');
-  return subtraction;
 }
 
 }  // namespace quorvex

@@ -1,8 +1,6 @@
 // Subtraction of digits.
 #pragma once
 
-#include <string_view>
-
 #include "host/host_value.h"
 #include "text/operand.h"
 
@@ -13,12 +11,6 @@ struct type_Subtraction {
   NumberText Difference;
   bool NegativeSubtraction = false;  // the second operand was the larger
 };
-
-/// The difference of two digit strings without leading zeros: the longer is taken for the larger.
-/// No leading zeros are left but for "0" itself. With `allowNegative`, a "-" stands before a
-/// negative difference. Fails with type_mismatch for a character that is no digit.
-type_Subtraction Subtract_Digits(std::string_view operand1, std::string_view operand2,
-                                 bool allowNegative);
 
 /// The digits of the difference of two decimals, without a separator: it has as many fraction
 /// digits as the longer fraction, and no leading zeros.

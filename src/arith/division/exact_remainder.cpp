@@ -43,35 +43,9 @@ namespace {
 constexpr std::size_t few_limbs = 48;
 constexpr std::size_t guard_digits = 7;
 
-std::string_view Without_Leading_Zeros(std::string_view digits) {
-  return digits.substr(Count_Leading_Zeros(digits));
-}
-
 std::size_t Decimals(const Decimal_Parts& parts) {
   return parts.fraction.size() - Count_Trailing_Zeros(parts.fraction);
 }
-
-// A number without its separator, as if it had so many decimals; no leading zeros.
-class Scaled_Digits {
- public:
-  Scaled_Digits(const Decimal_Parts& parts, std::size_t decimals)
-      : digits_(Without_Leading_Zeros(parts.integer)) {
-    if (decimals == 0) return;
-    Require_Memory(static_cast<double>(digits_.size()) + static_cast<double>(decimals));
-    const auto fraction = parts.fraction.substr(0, std::min(decimals, parts.fraction.size()));
-    text_.reserve(digits_.size() + decimals);
-    text_.append(digits_).append(fraction).append(decimals - fraction.size(), '0');
-    digits_ = Without_Leading_Zeros(text_);
-  }
-  Scaled_Digits(const Scaled_Digits&) = delete;
-  Scaled_Digits& operator=(const Scaled_Digits&) = delete;
-
-  std::string_view digits() const { return digits_; }
-
- private:
-  NumberText text_;
-  std::string_view digits_;
-};
 
 NumberText Checked(NumberText digits) {
   if (!Has_Token_Mark(digits)) return digits;
@@ -86,22 +60,26 @@ NumberText Near_Quotient(std::string_view x, std::string_view d) {
   x.remove_suffix(dropped);
   d.remove_suffix(dropped);
   const std::size_t precision = std::max(length, d.size()) + guard_digits;
-  type_Division_Recip quotient = Divide_Digits(x, d, static_cast<std::int32_t>(precision));
+  Decimal quotient = Divide_Digits(x, d, static_cast<std::int32_t>(precision));
   NumberText digits = Checked(std::move(quotient.digits));
-  if (quotient.powerOfTen >= 0) {
-    return digits.append(static_cast<std::size_t>(quotient.powerOfTen), '0');
+  if (quotient.power_of_ten >= 0) {
+    return digits.append(static_cast<std::size_t>(quotient.power_of_ten), '0');
   }
-  const auto decimals = static_cast<std::size_t>(-std::int64_t{quotient.powerOfTen});
+  const auto decimals = static_cast<std::size_t>(-quotient.power_of_ten);
   digits.resize(digits.size() - std::min(digits.size(), decimals));
   return digits;
 }
 
+type_Subtraction Difference_Of(std::string_view a, std::string_view b) {
+  return Subtract_Decimals({a, {}}, {b, {}});
+}
+
 NumberText Remainder_By_Products(std::string_view x, std::string_view d) {
   const NumberText product = Checked(Multiply_Digits(Near_Quotient(x, d), d));
-  type_Subtraction rest = Subtract_Digits(x, product, false);
-  while (rest.NegativeSubtraction) rest = Subtract_Digits(d, rest.Difference, false);
+  type_Subtraction rest = Difference_Of(x, product);
+  while (rest.NegativeSubtraction) rest = Difference_Of(d, rest.Difference);
   while (Compare_Digit_Strings(rest.Difference, d, true, true)) {
-    rest = Subtract_Digits(rest.Difference, d, false);
+    rest = Difference_Of(rest.Difference, d);
   }
   return std::move(rest.Difference);
 }
@@ -120,21 +98,21 @@ NumberText Remainder_Of_Digits(std::string_view x, std::string_view d) {
 
 }  // namespace
 
-Exact_Remainder Remainder_Of(const Operand& dividend, const Operand& divisor, Quotient_Cut cut) {
+Decimal Remainder_Of(const Operand& dividend, const Operand& divisor, Quotient_Cut cut) {
   if (Is_Zero(dividend.parts())) return {"0"};
   if (!Can_Multiply()) {
     throw Run_Time_Failure(Failure_Number::invalid_call, "The library of products is missing.");
   }
   const std::size_t decimals = std::max(Decimals(dividend.parts()), Decimals(divisor.parts()));
-  const Scaled_Digits x(dividend.parts(), decimals);
-  const Scaled_Digits d(divisor.parts(), decimals);
+  const Whole_Digits x(dividend.parts(), decimals);
+  const Whole_Digits d(divisor.parts(), decimals);
   NumberText rest = Remainder_Of_Digits(x.digits(), d.digits());
   if (rest.empty() || rest == "0") return {"0"};
   // Cut down, the quotient is one less than towards zero where it is negative.
   const bool crosses = cut == Quotient_Cut::down && dividend.positive() != divisor.positive();
-  if (crosses) rest = Subtract_Digits(d.digits(), rest, false).Difference;
+  if (crosses) rest = Difference_Of(d.digits(), rest).Difference;
   const bool positive = crosses ? divisor.positive() : dividend.positive();
-  return {std::move(rest), static_cast<double>(decimals) + 1, !positive};
+  return {std::move(rest), -static_cast<std::int64_t>(decimals), !positive};
 }
 
 }  // namespace quorvex

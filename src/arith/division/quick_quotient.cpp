@@ -37,9 +37,10 @@ class Digit_Writer {
   }
 
   // `length` is that of the number, `count_` what there is of it and perhaps of zeros behind.
-  Leading_Digits take(std::size_t length) && {
+  Decimal take(std::size_t length) && {
     digits_.resize(std::min({count_, wanted_, length}));
-    return {std::move(digits_), length};
+    const std::size_t left = length - digits_.size();
+    return {std::move(digits_), static_cast<std::int64_t>(left)};
   }
 
  private:
@@ -79,8 +80,8 @@ class Minuend {
 
 // Let the reciprocal's digits be (10^s - g) / k. Then the product is (X 10^s - X g) / k without a
 // rest, and its first digits are those of a division from the left, in one pass.
-std::optional<Leading_Digits> Divide_By_Limb(std::string_view X, std::string_view k_digits,
-                                             std::size_t p) {
+std::optional<Decimal> Divide_By_Limb(std::string_view X, std::string_view k_digits,
+                                      std::size_t p) {
   const limbs::Divisor k(limbs::Read(k_digits));
   Require_Memory(2.0 * static_cast<double>(X.size() + p));
   const std::optional<Limb> g = Missing_From_Power(k, k_digits.size(), p);
@@ -149,7 +150,7 @@ bool Find_Inverse(std::string_view k, std::size_t p, Short_Inverse& inverse) {
   return true;
 }
 
-std::optional<Leading_Digits> Divide_By_Few(std::string_view X, std::string_view k, std::size_t p) {
+std::optional<Decimal> Divide_By_Few(std::string_view X, std::string_view k, std::size_t p) {
   Short_Inverse inverse;
   if (!Find_Inverse(k, p, inverse)) return std::nullopt;
   const std::size_t x_count = limbs::Count_For(X.size());
@@ -169,8 +170,7 @@ std::optional<Leading_Digits> Divide_By_Few(std::string_view X, std::string_view
 
 }  // namespace
 
-std::optional<Leading_Digits> Quick_Quotient(std::string_view X, std::string_view k,
-                                             std::int32_t p) {
+std::optional<Decimal> Quick_Quotient(std::string_view X, std::string_view k, std::int32_t p) {
   if (p < least_quick_precision) return std::nullopt;
   const auto precision = static_cast<std::size_t>(p);
   const auto significant = k.substr(0, k.size() - Count_Trailing_Zeros(k));

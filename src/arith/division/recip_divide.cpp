@@ -36,7 +36,7 @@ bool Is_Clean(const NumberText& text) {
 }
 
 // What is done when no digits need to be worked out: true if `quotient` is final.
-bool Is_Answered_At_Once(std::string_view X, std::string_view Y, type_Division_Recip& quotient) {
+bool Is_Answered_At_Once(std::string_view X, std::string_view Y, Decimal& quotient) {
   // Clean text is 0 only as "0".
   if (Y == "0") {
     quotient.digits = div0_token;
@@ -52,38 +52,37 @@ bool Is_Answered_At_Once(std::string_view X, std::string_view Y, type_Division_R
   return true;
 }
 
-// The dividend times `p` digits of the divisor's reciprocal: the first `p` digits of it.
-struct Product {
-  Leading_Digits leading;
-  std::int32_t power_of_inverse = 0;
-};
-
 // What is no digits gives what the digit routines make of it.
 enum class Operands { digits, texts };
 
-Product Multiply_By_Reciprocal(std::string_view X, std::string_view Y, Operands operands,
+// The first `p` digits of the dividend times `p` digits of the divisor's reciprocal.
+Decimal Multiply_By_Reciprocal(std::string_view X, std::string_view Y, Operands operands,
                                std::int32_t p) {
   if (operands == Operands::digits && Can_Multiply()) {
     auto quick = Quick_Quotient(X, Y, p);
-    if (quick) return {std::move(*quick), Power_Of_Reciprocal(Y.size(), p)};
+    if (quick) {
+      quick->power_of_ten += Power_Of_Reciprocal(Y.size(), p);
+      return std::move(*quick);
+    }
   }
   const type_Division_Recip inverse = myInverse5(NumberText(Y), p);
   NumberText product = Multiply_Digits(NumberText(X), inverse.digits);
-  const std::size_t length = product.size();
-  product.resize(std::min(length, static_cast<std::size_t>(std::max(p, 0))));
-  return {{std::move(product), length}, inverse.powerOfTen};
+  const std::size_t kept = std::min(product.size(), static_cast<std::size_t>(std::max(p, 0)));
+  const auto left = static_cast<std::int64_t>(product.size() - kept);
+  product.resize(kept);
+  return {std::move(product), inverse.powerOfTen + left};
 }
 
 // Works in `quotient`, which is the result also where a failure ends it early.
 void Divide(std::string_view X, std::string_view Y, Operands operands, std::int32_t sd,
-            type_Division_Recip& quotient) {
+            Decimal& quotient) {
   const std::int32_t p = In_32_Bits(std::int64_t{sd} + guard_digits);
-  Product product = Multiply_By_Reciprocal(X, Y, operands, p);
-  const auto length = static_cast<std::int64_t>(product.leading.length);
-  quotient.digits = std::move(product.leading.digits);
-  quotient.powerOfTen =
-      In_32_Bits(product.power_of_inverse - std::min<std::int64_t>(sd, length) + length);
+  Decimal product = Multiply_By_Reciprocal(X, Y, operands, p);
+  quotient.digits = std::move(product.digits);
   const std::size_t before = quotient.digits.size();
+  const auto rounded_away = static_cast<std::int64_t>(before) - sd;
+  quotient.power_of_ten =
+      In_32_Bits(product.power_of_ten + std::max<std::int64_t>(rounded_away, 0));
   if (sd < 1 || Has_Token_Mark(quotient.digits)) {
     // A copy: a token that was cut can't be rounded, and is then what there is.
     quotient.digits = To_Text(Round_To_SD(quotient.digits, sd));
@@ -91,7 +90,7 @@ void Divide(std::string_view X, std::string_view Y, Operands operands, std::int3
     Round_Digits(quotient.digits, sd);
   }
   if (quotient.digits.size() == before + 1) {
-    quotient.powerOfTen = In_32_Bits(std::int64_t{quotient.powerOfTen} + 1);
+    quotient.power_of_ten = In_32_Bits(quotient.power_of_ten + 1);
   }
   if (sd < 0) {
     throw Run_Time_Failure(Failure_Number::invalid_call, "There are no digits to keep.");
@@ -101,15 +100,14 @@ void Divide(std::string_view X, std::string_view Y, Operands operands, std::int3
   }
 }
 
-type_Division_Recip Quotient(std::string_view X, std::string_view Y, Operands operands,
-                             std::int32_t sd) {
-  type_Division_Recip quotient;
+Decimal Quotient(std::string_view X, std::string_view Y, Operands operands, std::int32_t sd) {
+  Decimal quotient;
   if (Is_Answered_At_Once(X, Y, quotient)) return quotient;
   With_Handler([&] { Divide(X, Y, operands, sd, quotient); },
                [&](const Run_Time_Failure& failure) {
                  // What there is then would be taken for a number.
                  if (failure.number() == Failure_Number::out_of_memory) {
-                   quotient = {NumberText(value_token), 0};
+                   quotient = Decimal_Token(value_token);
                  }
                });
   return quotient;
@@ -117,12 +115,12 @@ type_Division_Recip Quotient(std::string_view X, std::string_view Y, Operands op
 
 }  // namespace
 
-type_Division_Recip Recip_Divide(NumberText& X, NumberText& Y, std::int32_t sd) {
+Decimal Divide_Texts(NumberText& X, NumberText& Y, std::int32_t sd) {
   if (!Is_Clean(X) || !Is_Clean(Y)) {
     type_CleanUp dividend = Clean_Up_Number(X, true, true);
-    if (dividend.IsError) return {std::move(dividend.NumClean), 0};
+    if (dividend.IsError) return Decimal_Token(dividend.NumClean);
     type_CleanUp divisor = Clean_Up_Number(Y, true, true);
-    if (divisor.IsError) return {std::move(divisor.NumClean), 0};
+    if (divisor.IsError) return Decimal_Token(divisor.NumClean);
     X = std::move(dividend.NumClean);
     Y = std::move(divisor.NumClean);
   }
@@ -130,8 +128,13 @@ type_Division_Recip Recip_Divide(NumberText& X, NumberText& Y, std::int32_t sd) 
                   sd);
 }
 
-type_Division_Recip Divide_Digits(std::string_view X, std::string_view Y, std::int32_t sd) {
+Decimal Divide_Digits(std::string_view X, std::string_view Y, std::int32_t sd) {
   return Quotient(X, Y, Operands::digits, sd);
+}
+
+type_Division_Recip Recip_Divide(NumberText& X, NumberText& Y, std::int32_t sd) {
+  Decimal quotient = Divide_Texts(X, Y, sd);
+  return {std::move(quotient.digits), static_cast<std::int32_t>(quotient.power_of_ten)};
 }
 
 double DivisionDecimalPosition(const NumberText& divisor, const NumberText& dividend) {

@@ -6,6 +6,7 @@
 
 #include "arith/division/reciprocal.h"
 #include "host/host_value.h"
+#include "text/decimal.h"
 
 namespace quorvex {
 
@@ -20,7 +21,10 @@ namespace quorvex {
 type_Division_Recip Recip_Divide(NumberText& X, NumberText& Y, std::int32_t sd);
 
 /// The same for digits without leading zeros.
-type_Division_Recip Divide_Digits(std::string_view X, std::string_view Y, std::int32_t sd);
+Decimal Divide_Digits(std::string_view X, std::string_view Y, std::int32_t sd);
+
+/// The same for texts, as `Recip_Divide` takes them.
+Decimal Divide_Texts(NumberText& X, NumberText& Y, std::int32_t sd);
 
 /// The place of a quotient's separator by the lengths of two digit strings. Despite their names the
 /// first is the number that is divided, and the second the one divided by.

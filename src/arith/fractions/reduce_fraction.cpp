@@ -8,10 +8,11 @@
 
 #include "arith/fractions/exact_divisor.h"
 #include "arith/fractions/fraction_scale.h"
-#include "arith/operation/do_operation.h"
-#include "arith/operation/scaled_number.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "host/conversions.h"
 #include "text/clean_up_number.h"
+#include "text/decimal.h"
 #include "text/digit_runs.h"
 #include "text/operand.h"
 #include "text/primitives.h"
@@ -85,8 +86,8 @@ NumberText Divide_Out(const NumberText& multiple, const NumberText& divisor) {
 // The numerator was scaled by a power of ten and divided by the common divisor, so the divisor,
 // scaled back, is what it was reduced by.
 NumberText Scaled_Back(const NumberText& divisor, std::size_t decimals) {
-  Scaled_Number number = Scaled(divisor);
-  number.exponent -= static_cast<std::int64_t>(decimals);
+  Decimal number = Significant_Digits(divisor);
+  number.power_of_ten -= static_cast<std::int64_t>(decimals);
   return Plain_Text(number);
 }
 

@@ -69,8 +69,10 @@ NumberText Text_Of(const Number& number) {
   const std::int64_t end = std::min<std::int64_t>(number.low, 0);
   const std::string& separator = Decimal_Separator();
   NumberText text;
-  text.reserve(static_cast<std::size_t>(std::max<std::int64_t>(top, 0) - end) * digits + 2 +
-               separator.size());
+  const std::size_t room = static_cast<std::size_t>(std::max<std::int64_t>(top, 0) - end) * digits +
+                           2 + separator.size();
+  if (room > longest_text) Require_Memory(texts_at_once * static_cast<double>(room));
+  text.reserve(room);
   if (number.negative) text += '-';
   if (top <= 0) {
     text.append("0").append(separator).append(static_cast<std::size_t>(-top) * digits, '0');
@@ -86,9 +88,67 @@ NumberText Text_Of(const Number& number) {
   return text;
 }
 
+Number Number_Of(const Decimal& decimal) {
+  constexpr auto limb_digits = static_cast<std::int64_t>(digits);
+  // Towards the next lower whole limb.
+  const std::int64_t below = decimal.power_of_ten < 0 ? limb_digits - 1 : 0;
+  const std::int64_t low = (decimal.power_of_ten - below) / limb_digits;
+  const auto zeros = static_cast<std::size_t>(decimal.power_of_ten - low * limb_digits);
+  const std::string_view text = decimal.digits;
+  // The lowest limb is filled up with zeros; those above it are whole.
+  const std::size_t lowest = std::min(text.size(), digits - zeros);
+  const std::size_t count = 1 + Count_For(text.size() - lowest);
+  Scratch scratch(count);
+  *scratch.data() = Read(text.substr(text.size() - lowest)) * Ten_To(zeros);
+  Read_Number(text.substr(0, text.size() - lowest), scratch.data() + 1);
+  Number number;
+  Trim({scratch.data(), count, low, decimal.negative}, number);
+  return number;
+}
+
+Decimal Decimal_Of(const Number& number) {
+  if (number.is_zero()) return {"0"};
+  Decimal decimal{Digits_Of(number), number.low * static_cast<std::int64_t>(digits),
+                  number.negative};
+  Strip_Zeros(decimal);
+  return decimal;
+}
+
+NumberText Digits_Of(const Number& number) {
+  NumberText text(number.count() * digits, '0');
+  for (std::size_t place = 0; place < number.count(); ++place) {
+    Write(text.data() + text.size() - (place + 1) * digits, number.data()[place]);
+  }
+  return text.erase(0, digits - Count_Digits(number.data()[number.count() - 1]));
+}
+
 std::int64_t Leading_Power(const Number& number) {
   const std::int64_t below = (number.top() - 1) * static_cast<std::int64_t>(digits);
   return below + static_cast<std::int64_t>(Count_Digits(number.data()[number.count() - 1])) - 1;
+}
+
+std::int64_t Plain_Length(const Number& number) {
+  if (number.is_zero()) return 1;
+  const std::int64_t leading = Leading_Power(number);
+  std::int64_t last = number.low * static_cast<std::int64_t>(digits);
+  for (Limb limb = *number.data(); limb % 10 == 0; limb /= 10) ++last;
+  // At least one digit stands before the separator.
+  const std::int64_t before = std::max<std::int64_t>(leading + 1, 1);
+  return (number.negative ? 1 : 0) + before + std::max<std::int64_t>(-last, 0);
+}
+
+Number Floor(const Number& number) {
+  if (number.low >= 0 || number.is_zero()) return number;
+  // Something stands behind the point.
+  const std::size_t whole = number.top() > 0 ? static_cast<std::size_t>(number.top()) : 0;
+  Scratch scratch(whole + 2);
+  Copy(number.data() + number.count() - whole, whole, scratch.data());
+  scratch.data()[whole] = 0;
+  Raw_Number raw{scratch.data(), whole + 1, 0, number.negative};
+  if (number.negative) Raise(raw, 0, 1);
+  Number result;
+  Trim(raw, result);
+  return result;
 }
 
 std::strong_ordering Compare_Magnitudes(const Number& a, const Number& b) {

@@ -13,6 +13,7 @@
 
 #include "arith/limbs/limbs.h"
 #include "host/host_value.h"
+#include "text/decimal.h"
 
 namespace quorvex::limbs {
 
@@ -76,8 +77,21 @@ std::optional<Number> Read_Canonical(std::string_view text);
 /// The text that formatting leaves of a number.
 NumberText Text_Of(const Number& number);
 
+/// The number of plain digits, and the digits of a number without zeros at either end ("0" for 0).
+Number Number_Of(const Decimal& decimal);
+Decimal Decimal_Of(const Number& number);
+
+/// All digits of the limbs of a number that is not 0, from the first that is not "0" on.
+NumberText Digits_Of(const Number& number);
+
 /// The power of ten of the leading digit of a number that is not 0.
 std::int64_t Leading_Power(const Number& number);
+
+/// The length of the number's text without the separator, its sign among it.
+std::int64_t Plain_Length(const Number& number);
+
+/// The greatest whole number that is not above.
+Number Floor(const Number& number);
 
 std::strong_ordering Compare_Magnitudes(const Number& a, const Number& b);
 

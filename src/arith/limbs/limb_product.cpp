@@ -5,6 +5,8 @@
 
 #include "arith/digits/multiply_digits.h"
 #include "arith/limbs/limb_number.h"
+#include "host/run_time_failure.h"
+#include "text/tokens.h"
 
 namespace quorvex::limbs {
 namespace {
@@ -125,18 +127,12 @@ std::size_t First_Column(std::size_t count, std::size_t digits_kept) {
   return count > needed + 2 ? count - needed : 0;
 }
 
-// All digits of the limbs, from the first that is not 0.
-NumberText Digits_Of(const Number& number) {
-  NumberText text(number.count() * digits, '0');
-  for (std::size_t place = 0; place < number.count(); ++place) {
-    Write(text.data() + text.size() - (place + 1) * digits, number.data()[place]);
-  }
-  return text.erase(0, digits - Count_Digits(number.data()[number.count() - 1]));
-}
-
 // By the library of products.
 void Multiply_Long(const Number& a, const Number& b, std::size_t digits_kept, Number& result) {
   const NumberText product = Multiply_Digits(Digits_Of(a), Digits_Of(b));
+  if (Has_Token_Mark(product)) {
+    throw Run_Time_Failure(Failure_Number::out_of_memory, "There is no room for a product.");
+  }
   const std::size_t count = Count_For(product.size());
   Scratch scratch(count + 1);
   Read_Number(product, scratch.data());

@@ -1,14 +1,11 @@
 #include "arith/operation/step_number.h"
 
-#include <algorithm>
 #include <cmath>
-#include <cstdlib>
+#include <compare>
+#include <optional>
+#include <string>
 
-#include "arith/digits/multiply_digits.h"
-#include "arith/division/limb_quotient.h"
-#include "arith/operation/do_operation.h"
 #include "host/conversions.h"
-#include "host/run_time_failure.h"
 #include "text/compare_numbers.h"
 #include "text/digit_runs.h"
 #include "text/operand.h"
@@ -22,17 +19,10 @@ using limbs::Number;
 // The host writes whole numbers below this plainly.
 constexpr double plain_whole_numbers = 1e15;
 
-// Limits and powers of the base beyond these are left to the operations on text, which ask for the
-// memory that they need.
-constexpr double highest_limit = 1'000'000;
-constexpr std::int64_t highest_power = 1'000'000;
-
-// Formatting keeps two digits beyond the limit, division one.
-constexpr std::size_t formatted_beyond = 2;
-constexpr std::size_t divided_beyond = 1;
-
-bool Is_Near(const Number& number) {
-  return number.low >= -highest_power && number.top() <= highest_power;
+// The order of two numbers in limbs.
+std::strong_ordering Compare(const Number& a, const Number& b) {
+  if (a.negative != b.negative) return b.negative <=> a.negative;
+  return a.negative ? limbs::Compare_Magnitudes(b, a) : limbs::Compare_Magnitudes(a, b);
 }
 
 }  // namespace
@@ -52,6 +42,18 @@ Step_Number::Step_Number(double number) {
   } else {
     *this = Step_Number(Number_To_Text(number));
   }
+}
+
+Step_Number::Step_Number(const Decimal& number) {
+  if (Has_Non_Digit(number.digits)) {
+    text_ = number.digits;
+  } else {
+    number_ = limbs::Number_Of(number);
+  }
+}
+
+Decimal Step_Number::decimal() const {
+  return text_ ? Significant_Digits(*text_) : limbs::Decimal_Of(number_);
 }
 
 NumberText Step_Number::text() const {
@@ -92,56 +94,24 @@ void Step_Number::negate() {
   }
 }
 
-void Step_Number::by_text(std::int16_t code, const Step_Number& other, double limit) {
-  *this = Step_Number(Intermediate(code, text(), other.text(), limit));
+std::int64_t Plain_Length(const Step_Number& number) {
+  return number.is_in_limbs() ? limbs::Plain_Length(number.in_limbs())
+                              : Plain_Length(number.decimal());
 }
 
-// The limit where both numbers are such that a step is taken in limbs, otherwise 0.
-std::size_t Step_Number::digits_in_limbs(const Step_Number& other, double limit) const {
-  const bool is_plain = limit >= 1 && limit <= highest_limit && std::trunc(limit) == limit;
-  if (!is_plain || text_ || other.text_ || !Is_Near(number_) || !Is_Near(other.number_)) return 0;
-  return static_cast<std::size_t>(limit);
-}
-
-void Step_Number::add(const Step_Number& other, double limit) {
-  const std::size_t digits = digits_in_limbs(other, limit);
-  if (digits == 0) return by_text(operation::add, other, limit);
-  limbs::Add(number_, other.number_, other.number_.negative, digits + formatted_beyond, number_);
-}
-
-void Step_Number::subtract(const Step_Number& other, double limit) {
-  const std::size_t digits = digits_in_limbs(other, limit);
-  if (digits == 0) return by_text(operation::subtract, other, limit);
-  limbs::Add(number_, other.number_, !other.number_.negative, digits + formatted_beyond, number_);
-}
-
-void Step_Number::multiply_by(const Step_Number& other, double limit) {
-  const std::size_t digits = digits_in_limbs(other, limit);
-  if (digits == 0 || !Can_Multiply()) return by_text(operation::multiply, other, limit);
-  limbs::Multiply(number_, other.number_, digits + formatted_beyond, number_);
-}
-
-void Step_Number::divide_by(const Step_Number& other, double limit) {
-  const std::size_t digits = digits_in_limbs(other, limit);
-  if (digits == 0 || !Can_Multiply() ||
-      !limbs::Divide(number_, other.number_, digits + divided_beyond, number_)) {
-    by_text(operation::divide, other, limit);
-  }
+bool Is_Equal(const Step_Number& a, const Step_Number& b) {
+  if (!a.is_in_limbs() || !b.is_in_limbs()) return Is_Equal(a.text(), b.text());
+  return std::is_eq(Compare(a.in_limbs(), b.in_limbs()));
 }
 
 bool Is_Greater(const Step_Number& a, const Step_Number& b) {
-  if (!a.text_ && !b.text_) {
-    const Number& first = a.number_;
-    const Number& second = b.number_;
-    if (first.negative != second.negative) return second.negative;
-    const auto order = limbs::Compare_Magnitudes(first, second);
-    return first.negative ? std::is_lt(order) : std::is_gt(order);
-  }
-  const HostValue answer = Compare_Numbers(a.text(), b.text(), false, true);
-  if (answer.is_text()) {
-    throw Run_Time_Failure(Failure_Number::type_mismatch, "What is compared is no number.");
-  }
-  return Is_True(answer);
+  if (!a.is_in_limbs() || !b.is_in_limbs()) return Is_Greater(a.text(), b.text());
+  return std::is_gt(Compare(a.in_limbs(), b.in_limbs()));
+}
+
+bool Is_At_Least(const Step_Number& a, const Step_Number& b) {
+  if (!a.is_in_limbs() || !b.is_in_limbs()) return Is_At_Least(a.text(), b.text());
+  return std::is_gteq(Compare(a.in_limbs(), b.in_limbs()));
 }
 
 }  // namespace quorvex

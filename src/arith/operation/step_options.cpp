@@ -10,15 +10,6 @@
 #include "text/primitives.h"
 
 namespace quorvex {
-namespace {
-
-double Length_Without_Separator(const NumberText& number) {
-  const std::size_t separator = Has_Fraction(number) ? Decimal_Separator().size() : 0;
-  return static_cast<double>(number.size() - separator);
-}
-
-}  // namespace
-
 NumberText Clean_Text(const Operand& operand) {
   NumberText text = operand.positive() ? "" : "-";
   if (!operand.is_number()) {
@@ -38,6 +29,11 @@ NumberText Clean_Text(const Operand& operand) {
 
 bool Has_Fraction(const NumberText& number) {
   return number.find(Decimal_Separator()) != NumberText::npos;
+}
+
+double Length_Without_Separator(const NumberText& number) {
+  const std::size_t separator = Has_Fraction(number) ? Decimal_Separator().size() : 0;
+  return static_cast<double>(number.size() - separator);
 }
 
 double Working_Digits(const Step_Options& options, const NumberText& a, const NumberText& b) {

@@ -20,6 +20,9 @@ NumberText Clean_Text(const Operand& operand);
 /// True for a text that holds the decimal separator.
 bool Has_Fraction(const NumberText& number);
 
+/// The characters of a number in normal form but for its separator, its sign among them.
+double Length_Without_Separator(const NumberText& number);
+
 /// The guard digits of the steps, for operands in normal form.
 double Working_Digits(const Step_Options& options, const NumberText& a, const NumberText& b);
 

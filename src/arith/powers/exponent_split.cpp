@@ -6,7 +6,8 @@
 #include <string>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "text/compare_numbers.h"
@@ -21,7 +22,7 @@ class Calculation {
   explicit Calculation(double maxSD) : limit_(maxSD) {}
 
   NumberText operator()(std::int16_t code, const NumberText& a, const NumberText& b) const {
-    return Do_Operation(code, a, b, {.maximum_significant_digits = limit_}, {.intermediate = true});
+    return Intermediate(code, a, b, limit_);
   }
 
   NumberText whole_quotient(const NumberText& a, const NumberText& b) const {
@@ -29,16 +30,8 @@ class Calculation {
   }
 
  private:
-  HostValue limit_;
+  double limit_;
 };
-
-bool Is_Greater(const NumberText& a, const NumberText& b) {
-  const HostValue answer = Compare_Numbers(a, b, false, true);
-  if (answer.is_text()) {
-    throw Run_Time_Failure(Failure_Number::type_mismatch, "An exponent can't be split.");
-  }
-  return answer.boolean();
-}
 
 // The exponent's own digits, a half of it, and what divisions need so that they never round up to
 // a whole number: the fraction of n / a is at most 1 - 1/a.

@@ -6,7 +6,8 @@
 #include <string_view>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"

@@ -6,7 +6,8 @@
 #include <string_view>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
@@ -108,15 +109,18 @@ bool Only_Grew(const NumberText& value, const NumberText& before, double maxSD) 
 
 class Newton_Iteration {
  public:
-  Newton_Iteration(const NumberText& radicand, const NumberText& degree, double limit)
+  Newton_Iteration(const NumberText& radicand, const NumberText& degree, double limit,
+                   Power_At_Limit power)
       : radicand_(radicand),
         degree_(degree),
         degree_less_one_(Intermediate(operation::subtract, degree, "1", limit)),
-        limit_(limit) {}
+        limit_(limit),
+        power_(power) {}
 
   /// ((degree - 1) value + radicand / value^(degree - 1)) / degree, or the token of a step.
   NumberText next(const NumberText& value) const {
-    const NumberText power = step(operation::power, value, degree_less_one_);
+    const NumberText power =
+        Has_Token_Mark(value) ? value : power_(value, degree_less_one_, limit_);
     const NumberText multiple = step(operation::multiply, degree_less_one_, value);
     const NumberText quotient = step(operation::divide, radicand_, power);
     return step(operation::divide, step(operation::add, multiple, quotient), degree_);
@@ -134,14 +138,15 @@ class Newton_Iteration {
   const NumberText& degree_;
   NumberText degree_less_one_;
   double limit_;
+  Power_At_Limit power_;
 };
 
 }  // namespace
 
 NumberText Newton_Root(const NumberText& radicand, const NumberText& degree, NumberText start,
-                       const Newton_Limits& limits) {
+                       const Newton_Limits& limits, Power_At_Limit power) {
   Refuse_Endless_Way(Least_Work(radicand, degree, start, limits));
-  const Newton_Iteration iteration(radicand, degree, limits.steps);
+  const Newton_Iteration iteration(radicand, degree, limits.steps, power);
   History history;
   Circle_Watch circles;
   NumberText value = std::move(start);

@@ -1,10 +1,17 @@
 // Roots of any degree by Newton's iteration.
 #pragma once
 
+#include <string_view>
+
 #include "arith/powers/newton_work.h"
 #include "host/host_value.h"
 
 namespace quorvex {
+
+/// What a power is worked out with at a limit. Roots are handed it, since a power whose exponent is
+/// a fraction is a root in its turn.
+using Power_At_Limit = NumberText (*)(std::string_view base, std::string_view exponent,
+                                      double limit);
 
 /// Iterates from `start` until two values in a row agree to `maxSD` less one characters, and gives
 /// the first of the two. A value of 0 is replaced by the time of day, which begins anew from
@@ -12,6 +19,6 @@ namespace quorvex {
 /// among the last ten. Fails with too_complex where they come back in a longer circle, and at once
 /// where the way to the root can be seen to be longer than anybody waits.
 NumberText Newton_Root(const NumberText& radicand, const NumberText& degree, NumberText start,
-                       const Newton_Limits& limits);
+                       const Newton_Limits& limits, Power_At_Limit power);
 
 }  // namespace quorvex

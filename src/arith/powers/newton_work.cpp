@@ -7,9 +7,10 @@
 #include <string>
 #include <string_view>
 
-#include "arith/operation/do_operation.h"
-#include "arith/operation/scaled_number.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "host/conversions.h"
+#include "text/decimal.h"
 #include "text/options.h"
 #include "text/primitives.h"
 
@@ -19,10 +20,10 @@ namespace {
 // Of a magnitude of any size.
 double Logarithm(const NumberText& number) {
   constexpr std::size_t digits_of_floats = 17;
-  const Scaled_Number scaled = Scaled(number);
-  const std::string leading = scaled.digits.substr(0, digits_of_floats);
-  const auto power = static_cast<double>(scaled.exponent) +
-                     static_cast<double>(scaled.digits.size() - leading.size());
+  const Decimal decimal = Significant_Digits(number);
+  const std::string leading = decimal.digits.substr(0, digits_of_floats);
+  const auto power = static_cast<double>(decimal.power_of_ten) +
+                     static_cast<double>(decimal.digits.size() - leading.size());
   return std::log(Text_To_Number(leading)) + power * std::numbers::ln10;
 }
 

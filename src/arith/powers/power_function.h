@@ -1,8 +1,12 @@
 // Powers.
 #pragma once
 
-#include "arith/operation/scaled_number.h"
+#include <string_view>
+
 #include "arith/operation/step_options.h"
+#include "arith/operation/steps.h"
+#include "host/host_value.h"
+#include "text/decimal.h"
 #include "text/operand.h"
 
 namespace quorvex {
@@ -17,7 +21,15 @@ namespace quorvex {
 /// integer digits than a text can have. Fails with type_mismatch for an exponent that is no number,
 /// and with too_complex for one whose splits are split more than a thousand deep. An exponent that
 /// is longer than the limit can take any time, but yields.
-Scaled_Number Power_Function(const Operand& base, const Operand& exponent,
-                             const Step_Options& options);
+Decimal Power_Function(const Operand& base, const Operand& exponent, const Step_Options& options);
+
+/// The power and the root at the limit of the steps. With `restricted`, "#NUM!" for operands that
+/// have more than half the ceiling of digits together.
+Step_Number Power(const Step_Number& base, const Step_Number& exponent, const Steps& steps,
+                  bool restricted = false);
+Step_Number Root(const Step_Number& radicand, const Step_Number& degree, const Steps& steps);
+
+/// `Power` for texts, which roots are handed.
+NumberText Power_Step(std::string_view base, std::string_view exponent, double limit);
 
 }  // namespace quorvex

@@ -3,7 +3,8 @@
 #include <string_view>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/operation/operation_codes.h"
 #include "arith/powers/mean_root.h"
 #include "arith/powers/newton_root.h"
 #include "arith/powers/root_estimate.h"
@@ -21,10 +22,9 @@ bool Is_Odd_Whole(const NumberText& degree) {
   return (degree.back() - '0') % 2 == 1;
 }
 
-}  // namespace
-
-NumberText Root_Function(const Operand& radicand, const Operand& degree,
-                         const Step_Options& options) {
+// The root as text with its sign.
+NumberText Root_Text(const Operand& radicand, const Operand& degree, const Step_Options& options,
+                     Power_At_Limit raise) {
   NumberText number = Clean_Text(radicand);
   NumberText power = Clean_Text(degree);
   const double working_digits = Working_Digits(options, power, number);
@@ -42,7 +42,14 @@ NumberText Root_Function(const Operand& radicand, const Operand& degree,
   NumberText start = Root_Estimate(number, power);
   if (power == "2") return Mean_Root(number, std::move(start), options.maxSD);
   return Newton_Root(number, power, std::move(start),
-                     {options.maxSD, options.maxSD + working_digits});
+                     {options.maxSD, options.maxSD + working_digits}, raise);
+}
+
+}  // namespace
+
+Decimal Root_Function(const Operand& radicand, const Operand& degree, const Step_Options& options,
+                      Power_At_Limit power) {
+  return Read_Decimal(Root_Text(radicand, degree, options, power));
 }
 
 }  // namespace quorvex

@@ -18,25 +18,25 @@ double Exact_Below(double limit) {
 
 }  // namespace
 
-Series_Counter::Series_Counter(double start, double limit)
-    : k_(start), limit_(limit), exact_below_(Exact_Below(limit)) {}
+Series_Counter::Series_Counter(double start, const Steps& steps)
+    : k_(start), steps_(steps), exact_below_(Exact_Below(steps.limit())) {}
 
 void Series_Counter::step() {
   if (k_ + 2 < exact_below_) {
     k_ += 2;
   } else {
-    k_ = To_Number(Sum(value(), Step_Number(2), limit_).text());
+    k_ = To_Number(steps_.sum(value(), Step_Number(2)).text());
   }
 }
 
 Step_Number Series_Counter::next() const {
-  return k_ + 1 < exact_below_ ? Step_Number(k_ + 1) : Sum(value(), Step_Number(1), limit_);
+  return k_ + 1 < exact_below_ ? Step_Number(k_ + 1) : steps_.sum(value(), Step_Number(1));
 }
 
 Step_Number Series_Counter::product_with_the_one_before() const {
   const double product = k_ * (k_ - 1);
   if (product < exact_below_) return Step_Number(product);
-  return Product(value(), Difference(value(), Step_Number(1), limit_), limit_);
+  return steps_.product(value(), steps_.difference(value(), Step_Number(1)));
 }
 
 // The limit is read as its text has it, with 15 digits, and its sign is forced.

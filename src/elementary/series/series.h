@@ -3,15 +3,20 @@
 
 #include <cstdint>
 
-#include "arith/operation/step_number.h"
+#include "arith/operation/steps.h"
 
 namespace quorvex {
+
+/// True for 0 as formatting writes it: other spellings, such as *0.0*, may be answered differently.
+inline bool Is_Plain_Zero(const Step_Number& x) {
+  return x.is_in_limbs() && x.is_zero();
+}
 
 /// The counter k of a series that takes every other number. It is a float stepped by an addition at
 /// the limit: a limit of a digit or two rounds it, and then it may stop counting.
 class Series_Counter {
  public:
-  Series_Counter(double start, double limit);
+  Series_Counter(double start, const Steps& steps);
 
   /// k becomes k + 2.
   void step();
@@ -26,7 +31,7 @@ class Series_Counter {
 
  private:
   double k_;
-  double limit_;
+  Steps steps_;
   double exact_below_;
 };
 

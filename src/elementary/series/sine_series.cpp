@@ -1,10 +1,9 @@
 #include "elementary/series/sine_series.h"
 
 #include <cstdint>
-#include <string_view>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/powers/power_function.h"
 #include "elementary/series/series.h"
 #include "elementary/series/shortened_series.h"
 #include "host/conversions.h"
@@ -12,8 +11,14 @@
 namespace quorvex {
 namespace {
 
-bool Is_Zero_As_Float(const NumberText& x) {
-  return To_Number(x) == 0;
+// Powers of ten that a float has room for beyond doubt.
+constexpr std::int64_t float_powers = 300;
+
+bool Is_Zero_As_Float(const Step_Number& x) {
+  const bool is_beyond_doubt = x.is_in_limbs() && !x.is_zero() &&
+                               x.leading_power() > -float_powers &&
+                               x.leading_power() < float_powers;
+  return !is_beyond_doubt && To_Number(x.text()) == 0;
 }
 
 constexpr Series_Rule rule{.stride = 2,
@@ -25,22 +30,22 @@ constexpr Series_Rule rule{.stride = 2,
 // The terms of sine or cosine, by what the first one is and how far the counter has come with it.
 class Sine_Terms {
  public:
-  Sine_Terms(std::string_view first, double k, const NumberText& x, double limit)
-      : term_(first),
-        k_(k, limit),
-        square_(Intermediate(operation::power, x, "2", limit)),
-        limit_(limit),
-        end_(limit) {}
+  Sine_Terms(Step_Number first, double k, const Step_Number& x, const Steps& steps)
+      : term_(std::move(first)),
+        k_(k, steps),
+        square_(Power(x, Step_Number(2), steps)),
+        steps_(steps),
+        end_(steps.limit()) {}
 
   const Step_Number& term() const { return term_; }
   const Series_Counter& k() const { return k_; }
-  Shortened_Series shortened() const { return {rule, square_, limit_, end_.last_power()}; }
+  Shortened_Series shortened() const { return {rule, square_, steps_.limit(), end_.last_power()}; }
   bool is_at_end() const { return end_.is_reached(term_); }
 
   void step() {
     k_.step();
-    term_.multiply_by(square_, limit_);
-    term_.divide_by(k_.product_with_the_one_before(), limit_);
+    steps_.multiply(term_, square_);
+    steps_.divide(term_, k_.product_with_the_one_before());
     term_.negate();
   }
 
@@ -48,43 +53,47 @@ class Sine_Terms {
   Step_Number term_;
   Series_Counter k_;
   Step_Number square_;
-  double limit_;
+  Steps steps_;
   Series_End end_;
 };
 
-NumberText Sum_Of(Sine_Terms terms, double limit) {
+Step_Number Sum_Of(Sine_Terms terms, const Steps& steps) {
   Step_Number sum = terms.term();
   Shortened_Series shortened = terms.shortened();
   for (;;) {
     terms.step();
-    sum.add(terms.term(), limit);
+    steps.add(sum, terms.term());
     if (terms.is_at_end()) break;
-    if (auto rest = shortened.sum_from({terms.term(), sum, terms.k().whole()})) return rest->text();
+    if (auto rest = shortened.sum_from({terms.term(), sum, terms.k().whole()})) {
+      return *std::move(rest);
+    }
   }
-  return sum.text();
+  return sum;
 }
 
 }  // namespace
 
-NumberText Sin_Series(const NumberText& x, double maxSD) {
-  return x == "0" ? x : Sum_Of({x, 1, x, maxSD}, maxSD);
+Step_Number Sin_Series(const Step_Number& x, const Steps& steps) {
+  return Is_Plain_Zero(x) ? x : Sum_Of({x, 1, x, steps}, steps);
 }
 
-NumberText Cos_Series(const NumberText& x, double maxSD) {
-  return Is_Zero_As_Float(x) ? "1" : Sum_Of({"1", 0, x, maxSD}, maxSD);
+Step_Number Cos_Series(const Step_Number& x, const Steps& steps) {
+  const Step_Number one(1);
+  return Is_Zero_As_Float(x) ? one : Sum_Of({one, 0, x, steps}, steps);
 }
 
-NumberText Tan_Series(const NumberText& x, double maxSD) {
-  if (Is_Zero_As_Float(x)) return "1";
-  Sine_Terms terms("1", 0, x, maxSD);
+Step_Number Tan_Series(const Step_Number& x, const Steps& steps) {
+  const Step_Number one(1);
+  if (Is_Zero_As_Float(x)) return one;
+  Sine_Terms terms(one, 0, x, steps);
   Step_Number cosine = terms.term();
   Step_Number sine_by_x = terms.term();
   do {
     terms.step();
-    cosine.add(terms.term(), maxSD);
-    sine_by_x.add(Quotient(terms.term(), terms.k().next(), maxSD), maxSD);
+    steps.add(cosine, terms.term());
+    steps.add(sine_by_x, steps.quotient(terms.term(), terms.k().next()));
   } while (!terms.is_at_end());
-  return Quotient(Product(sine_by_x, Step_Number(x), maxSD), cosine, maxSD).text();
+  return steps.quotient(steps.product(sine_by_x, x), cosine);
 }
 
 }  // namespace quorvex

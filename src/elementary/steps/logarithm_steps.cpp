@@ -1,11 +1,11 @@
 #include "elementary/steps/logarithm_steps.h"
 
 #include <string>
-#include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "host/conversions.h"
 #include "text/clean_up_number.h"
+#include "text/format_result.h"
 #include "text/options.h"
 
 namespace quorvex {
@@ -15,17 +15,18 @@ NumberText Normal_Form(const HostValue& num) {
   return Clean_Up_Number(Text_Of(num, scratch), true, true).NumClean;
 }
 
-HostValue Limit_Or_Default(const HostValue& maxSD) {
-  return maxSD.is_missing() ? Default_MaxSD() : maxSD;
-}
-
-NumberText Finish(NumberText value, const HostValue& exponential_notation, const HostValue& maxSD) {
-  const type_Restrictionator options = Restrictionator(
+NumberText Finish(const Step_Number& value, const HostValue& exponential_notation,
+                  const HostValue& maxSD) {
+  const type_Restrictionator given = Restrictionator(
       {.exponential_notation = exponential_notation, .maximum_significant_digits = maxSD});
-  const HostValue notation = options.ExponentialNotation;
-  const HostValue limit = options.maxSD;
-  return Do_Operation(operation::add, std::move(value), 0,
-                      {.exponential_notation = notation, .maximum_significant_digits = limit});
+  type_Restrictionator options;
+  options.ExponentialNotation = given.ExponentialNotation;
+  options.maxSD = given.maxSD;
+  if (!value.is_in_limbs()) {
+    return Do_Operation_On_Texts(operation::add, value.text(), "0", options);
+  }
+  options.maxSD += 1;  // as the sum with 0 would have it
+  return Format_Result(value.decimal(), options, false);
 }
 
 bool Ends_Series(const Step_Number& term, std::int64_t last) {

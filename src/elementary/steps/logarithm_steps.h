@@ -10,12 +10,10 @@ namespace quorvex {
 /// for a value that has no text.
 NumberText Normal_Form(const HostValue& num);
 
-/// The limit, the default one where it is missing.
-HostValue Limit_Or_Default(const HostValue& maxSD);
-
 /// Cuts a value to the limit of the call, in the notation that it asks for. Tokens stay. Fails with
 /// type_mismatch for an option that can't be read.
-NumberText Finish(NumberText value, const HostValue& exponential_notation, const HostValue& maxSD);
+NumberText Finish(const Step_Number& value, const HostValue& exponential_notation,
+                  const HostValue& maxSD);
 
 /// True where a series is to end after the term: its power of ten is `last` or less. A negative
 /// term never ends one: its power is taken from its text, where the minus counts as a digit before

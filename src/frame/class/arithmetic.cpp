@@ -1,5 +1,5 @@
 // The sum, difference, product and quotient of two numbers.
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "frame/class/cls_Quorvex.h"
 #include "frame/class/outer_call.h"
 

@@ -3,6 +3,7 @@
 #include "frame/class/cls_Quorvex.h"
 #include "frame/class/outer_call.h"
 #include "host/conversions.h"
+#include "text/limits.h"
 
 namespace quorvex {
 

@@ -1,5 +1,5 @@
 // Powers and roots.
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "elementary/square_root.h"
 #include "frame/class/cls_Quorvex.h"
 #include "frame/class/outer_call.h"

@@ -1,49 +1,55 @@
-// Sums and differences of bare digit strings.
+// Sums and differences of the digits of decimals.
 #include <gtest/gtest.h>
 
 #include "arith/digits/add_digits.h"
 #include "arith/digits/subtract_digits.h"
-#include "support/failures.h"
 
 namespace quorvex {
 namespace {
 
-TEST(SubtractDigits, TakesTheLongerForTheLarger) {
+TEST(AddDecimals, KeepsLeadingZeros) {
   const struct {
-    const char* operand1;
-    const char* operand2;
-    const char* difference;
-    bool negative;
+    Decimal_Parts operand1;
+    Decimal_Parts operand2;
+    const char* sum;
   } cases[] = {
-      {"1000", "1", "999", false}, {"1", "1000", "999", true},
-      {"225", "225", "0", false},  {"150", "225", "75", true},
-      {"100", "099", "1", false},  {"099", "100", "1", true},
-      {"000", "000", "0", false},  {"", "", "0", false},
-      {"5", "", "5", false},       {"", "5", "5", true},
-      {"0", "", "0", false},       {"007", "007", "0", false},
-      {"0010", "3", "7", false},   {"100000000000000000", "1", "99999999999999999", false},
-  };
+      {{"999", ""}, {"1", ""}, "1000"},  {{"5", ""}, {"", ""}, "5"},
+      {{"", ""}, {"", ""}, ""},          {{"007", ""}, {"05", ""}, "012"},
+      {{"0999", ""}, {"1", ""}, "1000"}, {{"99999999", ""}, {"1", ""}, "100000000"},
+      {{"1", "5"}, {"2", "25"}, "375"},  {{"9", "75"}, {"", "25"}, "1000"},
+      {{"", "5"}, {"", "05"}, "55"},     {{"", "99999999"}, {"", "00000001"}, "100000000"}};
   for (const auto& c : cases) {
-    const type_Subtraction plain = Subtract_Digits(c.operand1, c.operand2, false);
-    EXPECT_EQ(plain.Difference, c.difference) << c.operand1 << ' ' << c.operand2;
-    EXPECT_EQ(plain.NegativeSubtraction, c.negative) << c.operand1 << ' ' << c.operand2;
-    const type_Subtraction with_sign = Subtract_Digits(c.operand1, c.operand2, true);
-    EXPECT_EQ(with_sign.Difference, (c.negative ? "-" : "") + std::string(c.difference));
-    EXPECT_EQ(with_sign.NegativeSubtraction, c.negative);
+    EXPECT_EQ(Add_Decimals(c.operand1, c.operand2), c.sum);
+    EXPECT_EQ(Add_Decimals(c.operand2, c.operand1), c.sum);
   }
 }
 
-TEST(DigitStrings, FailForWhatIsNoDigit) {
-  for (const char* text : {"12a", "-5", "1.5", " ", "1234567890123456789:", "/123456789012345",
-                           "1234567890123456\xB2"}) {
-    for (const char* other : {"", "5", "123456789012345678901234567890"}) {
-      EXPECT_EQ(Failure_Of([&] { Add_Digits(text, other); }), Failure_Number::type_mismatch);
-      EXPECT_EQ(Failure_Of([&] { Add_Digits(other, text); }), Failure_Number::type_mismatch);
-      EXPECT_EQ(Failure_Of([&] { Subtract_Digits(text, other, false); }),
-                Failure_Number::type_mismatch);
-      EXPECT_EQ(Failure_Of([&] { Subtract_Digits(other, text, true); }),
-                Failure_Number::type_mismatch);
-    }
+TEST(SubtractDecimals, TellsWhichIsTheLarger) {
+  const struct {
+    Decimal_Parts operand1;
+    Decimal_Parts operand2;
+    const char* difference;
+  } cases[] = {
+      {{"1000", ""}, {"1", ""}, "999"},
+      {{"100", ""}, {"099", ""}, "1"},
+      {{"5", ""}, {"", ""}, "5"},
+      {{"0010", ""}, {"3", ""}, "7"},
+      {{"1", ""}, {"", "001"}, "999"},
+      {{"2", "25"}, {"1", "5"}, "75"},
+      {{"1", "5"}, {"1", "25"}, "25"},
+      {{"100000000000000000", ""}, {"1", ""}, "99999999999999999"},
+  };
+  for (const auto& c : cases) {
+    const type_Subtraction difference = Subtract_Decimals(c.operand1, c.operand2);
+    EXPECT_EQ(difference.Difference, c.difference);
+    EXPECT_FALSE(difference.NegativeSubtraction);
+    const type_Subtraction opposite = Subtract_Decimals(c.operand2, c.operand1);
+    EXPECT_EQ(opposite.Difference, c.difference);
+    EXPECT_TRUE(opposite.NegativeSubtraction);
+  }
+  for (const Decimal_Parts zero : {Decimal_Parts{"", ""}, {"007", ""}, {"2", "25"}}) {
+    EXPECT_EQ(Subtract_Decimals(zero, zero).Difference, "0");
+    EXPECT_FALSE(Subtract_Decimals(zero, zero).NegativeSubtraction);
   }
 }
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "numbers/mod_function.h"
 #include "numbers/parity.h"
 #include "numbers/whole_part.h"
@@ -51,9 +51,7 @@ NumberText Mod_By_Operations(const std::string& dividend, const std::string& div
 // What formatting cuts at the end.
 NumberText Close_Again(const NumberText& number, double limit) {
   const HostValue digits = limit;
-  type_CleanUp clean = Clean_Up_Number(number, false, false);
-  return Close_Number(std::move(clean.NumClean), clean.DecPos, Is_Positive(number),
-                      {.maximum_significant_digits = digits});
+  return Close_Text(number, {.maximum_significant_digits = digits});
 }
 
 bool Is_Nothing(const std::string& number) {

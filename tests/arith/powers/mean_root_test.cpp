@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "support/localized.h"
 #include "support/random_numbers.h"
 

@@ -7,8 +7,9 @@
 #include <cstddef>
 #include <string>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "arith/powers/newton_root.h"
+#include "arith/powers/power_function.h"
 #include "arith/powers/root_estimate.h"
 #include "support/failures.h"
 #include "support/surroundings.h"
@@ -95,7 +96,7 @@ TEST(NewtonWork, IsNoMoreThanWhatIsDone) {
     const double bound = Least_Work(each.radicand, each.degree, each.start, few).rounds;
     EXPECT_GT(bound, 40) << each.degree;
     const std::size_t yields =
-        Yields_Of([&] { Newton_Root(each.radicand, each.degree, each.start, few); });
+        Yields_Of([&] { Newton_Root(each.radicand, each.degree, each.start, few, Power_Step); });
     EXPECT_LE(bound, static_cast<double>(yields)) << each.degree;
   }
 }
@@ -132,7 +133,7 @@ TEST(NewtonRoot, RefusesAWayThatNobodyWaitsFor) {
                         {Power_Of_Ten(300000), "3"}};
   for (const Case& each : cases) {
     const Newton_Limits all{101, 101 + static_cast<double>(each.radicand.size())};
-    EXPECT_EQ(Failure_Of([&] { Newton_Root(each.radicand, each.degree, "1", all); }),
+    EXPECT_EQ(Failure_Of([&] { Newton_Root(each.radicand, each.degree, "1", all, Power_Step); }),
               Failure_Number::too_complex)
         << each.degree;
     NumberText root;

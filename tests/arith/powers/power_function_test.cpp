@@ -4,9 +4,10 @@
 #include <gmp.h>
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <string>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "arith/powers/exponent_split.h"
 #include "support/failures.h"
 #include "support/localized.h"
@@ -196,6 +197,30 @@ TEST(ExponentSplit, IsTheSameInRegistersAsByText) {
     ASSERT_EQ(quick.A, by_text.A) << n << " at " << limit;
     ASSERT_EQ(quick.B, by_text.B) << n << " at " << limit;
     ASSERT_EQ(quick.C, by_text.C) << n << " at " << limit;
+  }
+}
+
+// Between steps, powers and roots are what operations on texts give.
+TEST(PowerSteps, OfNumbersAreThoseOfTexts) {
+  Random_Numbers random(77);
+  constexpr double odd_limits[] = {-1, 0, 0.5, 7.5, 2e6};
+  for (int round = 0; round < 3000; ++round) {
+    const double limit = random.one_in(12) ? odd_limits[random.below(std::size(odd_limits))]
+                                           : static_cast<double>(1 + random.below(60));
+    const NumberText base =
+        random.one_in(20) ? NumberText(random.one_in(2) ? "#NUM!" : "0") : random.number(12);
+    if (random.one_in(3)) {
+      const NumberText degree = random.one_in(10) ? "0" : "2";
+      const Step_Number root = Root(Step_Number(base), Step_Number(degree), Steps(limit));
+      ASSERT_EQ(root.text(), Operate(operation::root, base, degree, limit))
+          << base << " at " << limit;
+      continue;
+    }
+    NumberText exponent = (random.one_in(3) ? "-" : "") + std::to_string(random.below(200));
+    if (random.one_in(8)) exponent += Localized(".5");
+    const Step_Number power = Power(Step_Number(base), Step_Number(exponent), Steps(limit));
+    ASSERT_EQ(power.text(), Power(base, exponent, limit))
+        << base << " to the " << exponent << " at " << limit;
   }
 }
 

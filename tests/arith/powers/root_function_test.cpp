@@ -9,9 +9,10 @@
 #include <string>
 #include <utility>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 #include "arith/powers/mean_root.h"
 #include "arith/powers/newton_root.h"
+#include "arith/powers/power_function.h"
 #include "support/failures.h"
 #include "support/localized.h"
 #include "support/random_numbers.h"
@@ -164,7 +165,7 @@ TEST(NewtonRoot, BeginsAnewFromTheTimeOfDay) {
   const auto root_at = [](double time) {
     const auto before =
         std::exchange(Current_Platform().clock, std::make_shared<Fixed_Clock>(time));
-    NumberText root = Newton_Root("0.5", "0.5", "1", {10, 20});
+    NumberText root = Newton_Root("0.5", "0.5", "1", {10, 20}, Power_Step);
     Current_Platform().clock = before;
     return root;
   };
@@ -175,9 +176,9 @@ TEST(NewtonRoot, BeginsAnewFromTheTimeOfDay) {
 
 TEST(NewtonRoot, OfWhatHasNoneEndsWhereValuesComeBack) {
   // A fourth root of -1 is nowhere on the line: the values leap about until one comes back.
-  EXPECT_EQ(Newton_Root("-1", "4", "0.5", {4, 3}), "#NUM!");
+  EXPECT_EQ(Newton_Root("-1", "4", "0.5", {4, 3}, Power_Step), "#NUM!");
   EXPECT_EQ(Failure_Of([] {
-              Newton_Root("-1", "4", "0.5", {20, 2});
+              Newton_Root("-1", "4", "0.5", {20, 2}, Power_Step);
             }),
             Failure_Number::too_complex);
 }

@@ -5,7 +5,9 @@
 #include <cmath>
 #include <string>
 
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
+#include "arith/operation/four_operations.h"
+#include "arith/powers/power_function.h"
 #include "elementary/constants.h"
 #include "elementary/exponential.h"
 #include "elementary/logarithm.h"
@@ -31,9 +33,7 @@ struct Chain {
   NumberText divide(const NumberText& a, const NumberText& b) const {
     return Intermediate(operation::divide, a, b, limit);
   }
-  NumberText two_to(int n) const {
-    return Intermediate(operation::power, "2", std::to_string(n), limit);
-  }
+  NumberText two_to(int n) const { return Power_Step("2", std::to_string(n), limit); }
   NumberText result(const NumberText& value, double digits) const {
     return Do_Operation(operation::add, value, 0, {.maximum_significant_digits = digits});
   }
@@ -100,7 +100,7 @@ NumberText Exponential(const NumberText& number, int digits) {
 
 NumberText Sine(const NumberText& x, int limit) {
   const Chain chain{static_cast<double>(limit)};
-  const NumberText square = Intermediate(operation::power, x, "2", chain.limit);
+  const NumberText square = Power_Step(x, "2", chain.limit);
   NumberText term = x;
   NumberText sum = x;
   for (int k = 3;; k += 2) {
@@ -167,8 +167,11 @@ TEST(SeriesByDefinition, SinesAndArcTangents) {
     const NumberText number = NumberText(random.one_in(2) ? "-" : "") + "0." +
                               random.one_of("0123") + random.digits(random.below(60)) + "9";
     const int limit = Random_Limit(random);
-    ASSERT_EQ(Sin_Series(number, limit), Sine(number, limit)) << number << " at " << limit;
-    ASSERT_EQ(ATan_Series(number, limit), Arc_Tangent(number, limit)) << number << " at " << limit;
+    const Step_Number x(number);
+    const Steps steps(limit);
+    ASSERT_EQ(Sin_Series(x, steps).text(), Sine(number, limit)) << number << " at " << limit;
+    ASSERT_EQ(ATan_Series(x, steps).text(), Arc_Tangent(number, limit))
+        << number << " at " << limit;
   }
 }
 

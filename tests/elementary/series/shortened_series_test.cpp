@@ -48,9 +48,14 @@ NumberText Exponential(const NumberText& x, double limit) {
   return Exp_Function(x, Missing, limit);
 }
 
-constexpr Series all_series[] = {{"sine", Sin_Series, "0001", true},
-                                 {"cosine", Cos_Series, "0001", true},
-                                 {"arc tangent", ATan_Series, "0", true},
+template <auto series>
+NumberText Sum_Of(const NumberText& x, double limit) {
+  return series(Step_Number(x), Steps(limit)).text();
+}
+
+constexpr Series all_series[] = {{"sine", Sum_Of<Sin_Series>, "0001", true},
+                                 {"cosine", Sum_Of<Cos_Series>, "0001", true},
+                                 {"arc tangent", Sum_Of<ATan_Series>, "0", true},
                                  {"logarithm", Logarithm, "000123456789", false},
                                  {"exponential", Exponential, "000123456789", true}};
 

@@ -29,9 +29,9 @@ struct Operation_Flags {
 NumberText Do_Operation(std::int16_t Operation, const HostValue& number1, const HostValue& number2,
                         const Format_Arguments& format, const Operation_Flags& flags = {});
 
-/// An intermediate value at a limit: as `Do_Operation` gives it to a worker that passes no options,
-/// without resolving them.
-NumberText Intermediate(std::int16_t Operation, std::string_view number1, std::string_view number2,
-                        double limit);
+/// The same for texts and resolved options, where it is called from within.
+NumberText Do_Operation_On_Texts(std::int16_t Operation, std::string_view number1,
+                                 std::string_view number2, const type_Restrictionator& options,
+                                 const Operation_Flags& flags = {});
 
 }  // namespace quorvex

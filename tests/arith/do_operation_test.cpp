@@ -1,5 +1,5 @@
 // The dispatcher: what it does with codes, failures and breaks.
-#include "arith/operation/do_operation.h"
+#include "arith/do_operation.h"
 
 #include <gtest/gtest.h>
 
