@@ -42,17 +42,29 @@ double Growth(double s, double d) {
   return s > largest_power ? s - std::log(d) : std::log1p(std::expm1(s) / d);
 }
 
+// The power takes a product at least for every binary digit of the degree, and what else a round
+// does is worth some more.
+double Products(double d) {
+  constexpr double beside_the_power = 4;
+  return beside_the_power + std::fabs(std::log2(d));
+}
+
 // Below, w is the logarithm of value^d / radicand, which is 0 at the root. A round takes it to
 // w + d ln(1 + (e^-w - 1) / d).
 
 // Degrees above 1: from below the root the first round leaps above it, and from there w sinks by no
 // more than -d ln(1 - 1/d) a round, which is about 1. So the leap of a large radicand, from a start
-// that is not close, is paid in rounds.
+// that is not close, is paid in rounds. Each writes the power out as text, which has w / ln 10
+// digits and more, zeros as a rule: half as many in the mean.
 Newton_Work Work_Downwards(double w, double d, double log_radicand, double digits) {
   if (w < 0) w += d * Growth(-w, d);
+  const double share = (1 - 1 / d) / std::numbers::ln10;
   // A power that has no room is a token, which ends the iteration in the next round.
-  if ((w + log_radicand) * (1 - 1 / d) / std::numbers::ln10 >= maximum_digits) return {};
-  return {std::max(0.0, (w - 1) / (-d * std::log1p(-1 / d))), digits};
+  if ((w + log_radicand) * share >= maximum_digits) return {};
+  constexpr double cost_of_zero = 0.2;  // beside a digit that is multiplied
+  const double written = std::max(0.0, (w / 2 + log_radicand) * share);
+  return {std::max(0.0, (w - 1) / (-d * std::log1p(-1 / d))),
+          digits * Products(d) + cost_of_zero * written};
 }
 
 // Degrees below 1: values climb from below, w = -s. As 1 + (e^s - 1) / d is no more than
@@ -68,8 +80,9 @@ Newton_Work Work_Upwards(double s, double d, double log_radicand, double digits)
   const double c = std::log1p(1 / d);
   const double rounds = std::log((half + c) / (d + c)) / -std::log1p(-d);
   const double log_value = (log_radicand - half) / d;
-  if (log_value <= beyond_floats) return {rounds, digits};
-  return {rounds * (log_value - 1) / most_at_once, digits + log_value / std::numbers::ln10};
+  if (log_value <= beyond_floats) return {rounds, digits * Products(d)};
+  return {rounds * (log_value - 1) / most_at_once,
+          (digits + log_value / std::numbers::ln10) * Products(d)};
 }
 
 // Steps of half a d-th part of the value show in the digits that are compared, of which there is
@@ -77,13 +90,6 @@ Newton_Work Work_Upwards(double s, double d, double log_radicand, double digits)
 bool Shows_Steps(double log_degree, double maxSD) {
   constexpr double digits_not_compared = 4;
   return log_degree / std::numbers::ln10 <= maxSD - digits_not_compared;
-}
-
-// The power takes a product at least for every binary digit of the degree, and what else a round
-// does is worth some more.
-double Products(double d) {
-  constexpr double beside_the_power = 4;
-  return beside_the_power + std::fabs(std::log2(d));
 }
 
 NumberText Magnitude(const NumberText& number) {
@@ -104,10 +110,8 @@ Newton_Work Least_Work(const NumberText& radicand, const NumberText& degree,
   const double log_radicand = Logarithm(Magnitude(radicand));
   const double w = d * Precise_Logarithm(Magnitude(start)) - log_radicand;
   if (d == 1 || (d > 1 && !Shows_Steps(log_degree, limits.maxSD))) return {};
-  Newton_Work work = d < 1 ? Work_Upwards(-w, d, log_radicand, limits.steps)
-                           : Work_Downwards(w, d, log_radicand, limits.steps);
-  work.digits *= Products(d);
-  return work;
+  return d < 1 ? Work_Upwards(-w, d, log_radicand, limits.steps)
+               : Work_Downwards(w, d, log_radicand, limits.steps);
 }
 
 }  // namespace quorvex

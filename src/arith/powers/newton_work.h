@@ -12,7 +12,7 @@ struct Newton_Limits {
 
 struct Newton_Work {
   double rounds = 0;  // with those of the roots within a round
-  double digits = 0;  // that are multiplied in a round
+  double digits = 0;  // that are multiplied in a round, and others by what they cost beside them
 };
 
 /// What the iteration takes at least from the estimate of a root until it comes near the root; no
