@@ -1,0 +1,95 @@
+// The office's own settings of separators and currency, which can differ from the system's.
+#include <com/sun/star/i18n/LocaleData2.hpp>
+#include <com/sun/star/lang/Locale.hpp>
+#include <com/sun/star/util/NumberFormat.hpp>
+#include <com/sun/star/util/NumberFormatsSupplier.hpp>
+#include <com/sun/star/util/XNumberFormatTypes.hpp>
+#include <com/sun/star/util/XNumberFormatsSupplier.hpp>
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+#include "office.h"
+#include "text.h"
+
+namespace quorvex::calc {
+namespace {
+
+using namespace com::sun::star;
+
+// A currency as a format writes it: "[$€-407]" or "[$CHF]" stands for the symbol.
+struct Currency {
+  std::string symbol;
+  Currency_Side side = Currency_Side::before;
+};
+
+// Blanks between symbol and number belong to the symbol, on either side.
+Currency Currency_Of(std::string_view format) {
+  format = format.substr(0, format.find(';'));
+  const std::size_t mark = format.find("[$");
+  const std::size_t end = format.find(']', mark);
+  if (mark == std::string_view::npos || end == std::string_view::npos) return {"$"};
+  std::string_view symbol = format.substr(mark + 2, end - mark - 2);
+  symbol = symbol.substr(0, symbol.find('-'));
+  const std::size_t first_digit = format.find_first_of("#0");
+  Currency currency{std::string(symbol)};
+  if (mark < first_digit) {
+    currency.symbol += format.substr(end + 1, first_digit - end - 1);
+  } else {
+    const std::size_t last_digit = format.find_last_of("#0", mark);
+    currency.side = Currency_Side::after;
+    currency.symbol.insert(0, format.substr(last_digit + 1, mark - last_digit - 1));
+  }
+  // Formats put quote marks around literal text and a backslash before a literal character.
+  std::erase_if(currency.symbol, [](char sign) { return sign == '"' || sign == '\\'; });
+  return currency;
+}
+
+class Locale_Of_Office final : public Locale_Source {
+ public:
+  explicit Locale_Of_Office(const Context& context)
+      : data_(i18n::LocaleData2::create(context).get()), context_(context) {}
+
+  // An empty locale stands for the user's.
+  const Locale& current() override {
+    const i18n::LocaleDataItem item = data_->getLocaleItem(lang::Locale());
+    if (item.decimalSeparator != decimal_ || item.thousandSeparator != thousands_) {
+      decimal_ = item.decimalSeparator;
+      thousands_ = item.thousandSeparator;
+      Locale changed = Read();
+      if (!Locale_Problem(changed)) locale_ = std::move(changed);
+    }
+    return locale_;
+  }
+
+ private:
+  Locale Read() {
+    const Currency currency = Currency_Of(To_Utf8(Currency_Format()));
+    return {To_Utf8(decimal_), To_Utf8(thousands_), currency.symbol, currency.side};
+  }
+
+  rtl::OUString Currency_Format() {
+    const auto formats =
+        util::NumberFormatsSupplier::createWithDefaultLocale(context_)->getNumberFormats();
+    const uno::Reference<util::XNumberFormatTypes> types(formats, uno::UNO_QUERY_THROW);
+    const sal_Int32 key = types->getStandardFormat(util::NumberFormat::CURRENCY, lang::Locale());
+    rtl::OUString format;
+    formats->getByKey(key)->getPropertyValue("FormatString") >>= format;
+    return format;
+  }
+
+  uno::Reference<i18n::XLocaleData4> data_;
+  Context context_;
+  rtl::OUString decimal_;
+  rtl::OUString thousands_;
+  Locale locale_;
+};
+
+}  // namespace
+
+std::shared_ptr<Locale_Source> Office_Locale(const Context& context) {
+  return std::make_shared<Locale_Of_Office>(context);
+}
+
+}  // namespace quorvex::calc
