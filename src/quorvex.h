@@ -3,7 +3,7 @@
 #pragma once
 
 #include "frame/catalogue.h"
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "host/conversions.h"
 #include "host/host_value.h"
 #include "host/platform.h"

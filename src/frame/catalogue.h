@@ -3,55 +3,13 @@
 #pragma once
 
 #include <span>
-#include <string>
 #include <string_view>
-#include <utility>
-#include <variant>
 #include <vector>
 
-#include "frame/cls_Quorvex.h"
+#include "frame/rows/method.h"
 #include "host/export.h"
-#include "host/host_value.h"
 
 namespace quorvex {
-
-enum class Parameter_Kind { value, text, number, integer, boolean, list, object };
-enum class Result_Kind { nothing, text, value, boolean, record };
-
-struct Parameter {
-  std::string_view name;
-  std::string_view help;
-  bool optional = false;
-  bool by_value = false;
-  Parameter_Kind kind = Parameter_Kind::value;  // filled in from the method's signature
-};
-
-/// A record, its fields in declared order.
-struct Record {
-  std::vector<std::pair<std::string_view, HostValue>> fields;
-};
-
-/// What a call gave: nothing, a value, or a record.
-using Call_Result = std::variant<std::monostate, HostValue, Record>;
-
-/// What a call gives, for users to read. "Formatted" means: by the formatting options.
-struct Results {
-  std::string_view returns;
-  std::vector<std::string_view> failures;  // which tokens there are, and when the call fails
-};
-
-/// One public method.
-struct Method {
-  std::string_view name;
-  std::string_view family;
-  std::string_view category;  // of the host's function dialog; empty for what is not offered there
-  std::string_view description;
-  std::string_view example;  // a formula
-  std::vector<Parameter> parameters;
-  Results results;
-  Result_Kind result = Result_Kind::nothing;
-  Call_Result (*invoke)(cls_Quorvex&, std::span<HostValue>) = nullptr;
-};
 
 /// All public methods, in the order of the class.
 QUORVEX_API std::span<const Method> Catalogue();
@@ -64,5 +22,11 @@ QUORVEX_API const Method* Find_Method(std::string_view name);
 /// that can't be had becomes one, number 7.
 QUORVEX_API Call_Result Invoke(cls_Quorvex& engine, const Method& method,
                                std::vector<HostValue> arguments);
+
+/// The same on the caller's own values, one for each parameter, no more and no fewer. What the
+/// method changes of those that are passed in and out stands there afterwards; all others stay as
+/// they are.
+QUORVEX_API Call_Result Invoke_In_Place(cls_Quorvex& engine, const Method& method,
+                                        std::span<HostValue> arguments);
 
 }  // namespace quorvex

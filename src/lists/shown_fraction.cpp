@@ -11,16 +11,16 @@ namespace quorvex {
 namespace {
 
 NumberText Fraction_Text(const type_Fraction& fraction,
-                         const std::optional<NumberText>& separator) {
+                         std::optional<std::string_view> separator) {
   if (Has_Token_Mark(fraction.divisor)) return fraction.divisor;
-  const NumberText between = separator && !separator->empty() ? *separator : "/";
+  const NumberText between(separator.value_or("").empty() ? "/" : *separator);
   return fraction.Numerator + between + fraction.divisor;
 }
 
 }  // namespace
 
 HostValue Shown_Fraction(type_Fraction fraction, const Fraction_Parts& parts,
-                         const std::optional<NumberText>& separator) {
+                         std::optional<std::string_view> separator) {
   if (parts.numerator) return std::move(fraction.Numerator);
   if (parts.divisor) return std::move(fraction.divisor);
   if (parts.reduced_by) return std::move(fraction.Reduced_By);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <string_view>
 
 #include "arith/fractions/reduce_fraction.h"
 #include "host/host_value.h"
@@ -19,6 +20,6 @@ struct Fraction_Parts {
 /// fraction as text, its numerator, its divisor and what it was reduced by, and the rest of which
 /// is empty text. An empty `separator` is a slash.
 HostValue Shown_Fraction(type_Fraction fraction, const Fraction_Parts& parts,
-                         const std::optional<NumberText>& separator);
+                         std::optional<std::string_view> separator);
 
 }  // namespace quorvex

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "frame/add_in.h"
+#include "frame/class/add_in.h"
 #include "host/platform.h"
 #include "shell/shell_state.h"
 

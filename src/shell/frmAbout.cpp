@@ -1,6 +1,6 @@
 #include "shell/frmAbout.h"
 
-#include "frame/add_in.h"
+#include "frame/class/add_in.h"
 #include "host/conversions.h"
 #include "shell/shell_state.h"
 #include "shell/start_up.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/add_in.h"
+#include "frame/class/add_in.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "shell/passing_over.h"

@@ -8,7 +8,7 @@
 #include <memory>
 #include <string>
 
-#include "frame/add_in.h"
+#include "frame/class/add_in.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "shell/passing_over.h"
@@ -99,7 +99,7 @@ void Describe_Functions(Host_Application& application) {
   const std::string prefix = std::string(add_in_file) + "!";
   for (const Registration& row : Registration_Table()) {
     Pass_Over_Failures([&] {
-      application.MacroOptions(prefix + row.macro, row.description, Missing, Missing, Missing,
+      application.MacroOptions(prefix + std::string(row.macro), row.description, Missing, Missing, Missing,
                                Missing, row.category);
     });
   }

@@ -1,6 +1,6 @@
 #include "shell/shell_state.h"
 
-#include "frame/add_in.h"
+#include "frame/class/add_in.h"
 
 namespace quorvex {
 

@@ -1,6 +1,6 @@
 #include "shell/start_up.h"
 
-#include "frame/add_in.h"
+#include "frame/class/add_in.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"

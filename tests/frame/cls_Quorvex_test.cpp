@@ -1,5 +1,5 @@
 // What the public methods do beside the values that they give.
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "support/exact_decimal.h"
 #include "support/localized.h"
 #include "support/random_numbers.h"

@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "arith/operation/do_operation.h"
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "support/localized.h"
 #include "support/surroundings.h"
 #include "text/clean_up_number.h"

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "lists/delete_text.h"
 #include "lists/number_filter.h"
 #include "support/failures.h"

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "frame/catalogue.h"
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "host/conversions.h"
 #include "lists/random_lists.h"
 #include "support/cells.h"

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "host/conversions.h"
 #include "lists/random_lists.h"
 #include "lists/sort_result.h"

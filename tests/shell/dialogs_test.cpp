@@ -1,8 +1,8 @@
 // The dialogs, driven as a person drives them.
 #include <gtest/gtest.h>
 
-#include "frame/add_in.h"
-#include "frame/cls_Quorvex.h"
+#include "frame/class/add_in.h"
+#include "frame/class/cls_Quorvex.h"
 #include "shell/scripted_host.h"
 #include "shell/shell_fixture.h"
 #include "support/failures.h"

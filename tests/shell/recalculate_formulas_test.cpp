@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "frame/add_in.h"
+#include "frame/class/add_in.h"
 #include "shell/scripted_host.h"
 #include "shell/shell_fixture.h"
 #include "support/failures.h"

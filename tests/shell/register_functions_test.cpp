@@ -1,8 +1,8 @@
 // The timer's work: describing the functions to a host that may not be ready, or not there.
 #include <gtest/gtest.h>
 
-#include "frame/add_in.h"
-#include "frame/cls_Quorvex.h"
+#include "frame/class/add_in.h"
+#include "frame/class/cls_Quorvex.h"
 #include "shell/registration_table.h"
 #include "shell/scripted_host.h"
 #include "shell/shell_fixture.h"
@@ -45,7 +45,7 @@ TEST_F(Registering, WaitsForTheTimerAndDescribesEveryMacroOnce) {
   const auto table = Registration_Table();
   ASSERT_EQ(host_->macros.size(), table.size());
   for (std::size_t i = 0; i < table.size(); ++i) {
-    EXPECT_EQ(host_->macros[i].name, "Quorvex.xla!" + table[i].macro);
+    EXPECT_EQ(host_->macros[i].name, "Quorvex.xla!" + std::string(table[i].macro));
     EXPECT_EQ(host_->macros[i].description, table[i].description);
     EXPECT_EQ(host_->macros[i].category, table[i].category);
   }

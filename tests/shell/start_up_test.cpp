@@ -3,9 +3,9 @@
 
 #include <filesystem>
 
-#include "frame/add_in.h"
 #include "frame/catalogue.h"
-#include "frame/cls_Quorvex.h"
+#include "frame/class/add_in.h"
+#include "frame/class/cls_Quorvex.h"
 #include "quorvex_version.h"
 #include "shell/scripted_host.h"
 #include "shell/shell_fixture.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "host/run_time_failure.h"
 #include "io/call_guard.h"
 

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <utility>
 
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "io/call_guard.h"
 #include "io/line_io.h"
 

@@ -91,7 +91,7 @@ class Evaluator {
     std::vector<HostValue> arguments;
     arguments.reserve(call.arguments.size());
     for (const Expression& argument : call.arguments) arguments.push_back(value_of(argument));
-    if (Takes_All_As_List(*call.method)) {
+    if (call.method->takes_all_as_list) {
       std::vector<HostValue> one;
       one.emplace_back(List(std::move(arguments)));
       arguments = std::move(one);

@@ -5,7 +5,7 @@
 
 #include "formula/formula.h"
 #include "frame/catalogue.h"
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "host/host_value.h"
 
 namespace quorvex {

@@ -49,12 +49,6 @@ struct Call {
   std::vector<Expression> arguments;
 };
 
-/// True for a method that begins with a variable list: all arguments of its call are elements of
-/// that list, and what else it takes, such as the size of the caller's block, a formula can't say.
-inline bool Takes_All_As_List(const Method& method) {
-  return !method.parameters.empty() && method.parameters[0].kind == Parameter_Kind::list;
-}
-
 struct Expression {
   std::variant<Omitted, HostValue, Reference_Index, Name_Index, Negation, Call> node;
 };

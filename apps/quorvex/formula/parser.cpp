@@ -65,7 +65,7 @@ class Parser {
 };
 
 void Check_Arguments(const Call& call, std::size_t position) {
-  if (Takes_All_As_List(*call.method)) return;
+  if (call.method->takes_all_as_list) return;
   const auto& parameters = call.method->parameters;
   for (std::size_t at = 0; at < parameters.size(); ++at) {
     const bool given =
@@ -176,7 +176,7 @@ std::vector<Expression> Parser::arguments(const Method& method, std::size_t dept
   std::vector<Expression> arguments;
   if (token_.kind == Token_Kind::close) return arguments;
   do {
-    if (arguments.size() == method.parameters.size() && !Takes_All_As_List(method)) {
+    if (arguments.size() == method.parameters.size() && !method.takes_all_as_list) {
       fail("too many arguments for " + Signature(method));
     }
     const bool omitted = token_.kind == Token_Kind::comma || token_.kind == Token_Kind::close;

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "host/application.h"
 #include "sheet/workbook.h"
 

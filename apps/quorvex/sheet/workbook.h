@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "sheet/worksheet.h"
 
 namespace quorvex {

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <nlohmann/json.hpp>
-#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -43,13 +42,6 @@ Locale Locale_Of(const fs::path& file) {
   locale.currency_side =
       settings.at("currency_side") == "after" ? Currency_Side::after : Currency_Side::before;
   return locale;
-}
-
-std::vector<std::string> Lines_Of(const std::string& text) {
-  std::vector<std::string> lines;
-  std::istringstream stream(text);
-  for (std::string line; std::getline(stream, line);) lines.push_back(line);
-  return lines;
 }
 
 // A failure may be expected by its number alone.

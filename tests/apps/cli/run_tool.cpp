@@ -76,10 +76,4 @@ std::string Temporary_Folder::write(const std::string& name, std::string_view te
   return file.string();
 }
 
-std::string File_Text(const std::filesystem::path& file) {
-  std::ostringstream text;
-  text << std::ifstream(file, std::ios::binary).rdbuf();
-  return text.str();
-}
-
 }  // namespace quorvex

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "support/text_files.h"
+
 namespace quorvex {
 
 struct Tool_Run {
@@ -34,8 +36,5 @@ class Temporary_Folder {
  private:
   std::filesystem::path path_;
 };
-
-/// The whole of a file; empty if there is none.
-std::string File_Text(const std::filesystem::path& file);
 
 }  // namespace quorvex

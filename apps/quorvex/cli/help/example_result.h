@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "host/platform.h"
 
 namespace quorvex {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 
 namespace quorvex {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "frame/catalogue.h"
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 
 namespace quorvex {
 

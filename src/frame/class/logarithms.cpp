@@ -2,7 +2,7 @@
 #include "elementary/exponential.h"
 #include "elementary/logarithm.h"
 #include "elementary/mantissa_and_exponent.h"
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 

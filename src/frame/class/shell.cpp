@@ -1,6 +1,6 @@
 // The methods of the add-in itself, and how the class starts.
-#include "frame/add_in.h"
-#include "frame/cls_Quorvex.h"
+#include "frame/class/add_in.h"
+#include "frame/class/cls_Quorvex.h"
 #include "host/platform.h"
 
 namespace quorvex {

@@ -1,5 +1,5 @@
 // The worksheet functions of text.
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "host/run_time_failure.h"
 #include "lists/exclude_function.h"
 #include "lists/extract_function.h"

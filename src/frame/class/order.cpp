@@ -1,5 +1,5 @@
 // The worksheet functions of order.
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "host/run_time_failure.h"
 #include "lists/large_small_function.h"
 #include "lists/median_function.h"
@@ -19,11 +19,11 @@ HostValue cls_Quorvex::qvxMODE(const List& numlist, std::optional<double> rows,
 }
 
 HostValue cls_Quorvex::qvxSORT(const HostValue& numlist, bool descending, bool left_to_right,
-                               bool fit_to_array, const std::optional<NumberText>& blank_text,
+                               bool fit_to_array, std::optional<std::string_view> blank_text,
                                std::optional<double> rows, std::optional<double> cols) {
   return With_Memory_Failures([&] {
     return Sort_Function(numlist, {descending, left_to_right, fit_to_array,
-                                   blank_text.value_or(NumberText()), rows, cols});
+                                   NumberText(blank_text.value_or("")), rows, cols});
   });
 }
 

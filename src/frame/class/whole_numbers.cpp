@@ -1,28 +1,16 @@
-// The worksheet functions of whole numbers, their parts and signs, and of rounding.
-#include "frame/cls_Quorvex.h"
-
+// The worksheet functions of whole numbers, their parts and signs.
+#include "frame/class/cls_Quorvex.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
+#include "lists/is_error.h"
 #include "numbers/even_odd.h"
 #include "numbers/frac_function.h"
 #include "numbers/mod_function.h"
 #include "numbers/parity.h"
 #include "numbers/signs.h"
 #include "numbers/whole_part.h"
-#include "text/round_function.h"
 
 namespace quorvex {
-namespace {
-
-NumberText Round(const HostValue& num, const HostValue& num_digits, Rounding_Direction direction,
-                 const Format_Arguments& format) {
-  return With_Memory_Failures([&] {
-    std::string scratch;
-    return Round_Function(Text_Of(num, scratch), Places_Of(num_digits), direction, format);
-  });
-}
-
-}  // namespace
 
 HostValue cls_Quorvex::qvxISODD(const HostValue& num) {
   return With_Memory_Failures([&] {
@@ -83,6 +71,10 @@ NumberText cls_Quorvex::qvxODD2(const HostValue& num, bool RoundNegAwayFromZero,
     return Odd_Function(Text_Of(num, scratch), Parity::odd, RoundNegAwayFromZero,
                         {format_negative, format_thousands, format_currency, exponential_notation});
   });
+}
+
+bool cls_Quorvex::qvxISERROR(const HostValue& num) {
+  return With_Memory_Failures([&] { return IsError_Function(num); });
 }
 
 NumberText cls_Quorvex::qvxINT(const HostValue& num, const HostValue& format_negative,
@@ -188,33 +180,6 @@ NumberText cls_Quorvex::qvxCHANGESIGN(const HostValue& num, const HostValue& for
     return ChangeSign_Function(Text_Of(num, scratch), {format_negative, format_thousands,
                                                        format_currency, exponential_notation});
   });
-}
-
-NumberText cls_Quorvex::qvxROUND(const HostValue& num, const HostValue& num_digits,
-                                 const HostValue& format_negative,
-                                 const HostValue& format_thousands,
-                                 const HostValue& format_currency,
-                                 const HostValue& exponential_notation) {
-  return Round(num, num_digits, Rounding_Direction::nearest,
-               {format_negative, format_thousands, format_currency, exponential_notation});
-}
-
-NumberText cls_Quorvex::qvxROUNDUP(const HostValue& num, const HostValue& num_digits,
-                                   const HostValue& format_negative,
-                                   const HostValue& format_thousands,
-                                   const HostValue& format_currency,
-                                   const HostValue& exponential_notation) {
-  return Round(num, num_digits, Rounding_Direction::up,
-               {format_negative, format_thousands, format_currency, exponential_notation});
-}
-
-NumberText cls_Quorvex::qvxROUNDDOWN(const HostValue& num, const HostValue& num_digits,
-                                     const HostValue& format_negative,
-                                     const HostValue& format_thousands,
-                                     const HostValue& format_currency,
-                                     const HostValue& exponential_notation) {
-  return Round(num, num_digits, Rounding_Direction::down,
-               {format_negative, format_thousands, format_currency, exponential_notation});
 }
 
 }  // namespace quorvex

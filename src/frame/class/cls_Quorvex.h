@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 #include "arith/division/reciprocal.h"
 #include "host/application.h"
@@ -183,7 +184,7 @@ class QUORVEX_API cls_Quorvex {
   /// 13 for what is no two-dimensional array, such as a single cell, and for an array within it.
   HostValue qvxSORT(const HostValue& numlist, bool descending = false, bool left_to_right = false,
                     bool fit_to_array = false,
-                    const std::optional<NumberText>& blank_text = std::nullopt,
+                    std::optional<std::string_view> blank_text = std::nullopt,
                     std::optional<double> rows = std::nullopt,
                     std::optional<double> cols = std::nullopt);
 
@@ -431,7 +432,7 @@ class QUORVEX_API cls_Quorvex {
                               bool simplify_signs = false, bool always_simplify_fraction = false,
                               bool return_numerator = false, bool return_divisor = false,
                               bool return_reduced_by = false,
-                              const std::optional<NumberText>& fraction_separator = std::nullopt);
+                              std::optional<std::string_view> fraction_separator = std::nullopt);
 
   /// The greatest common divisor and the least common multiple of a list; its elements are cut to
   /// whole numbers first, or by `qvxGCD2` and `qvxLCM2` taken as they are. A negative element gives

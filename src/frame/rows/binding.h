@@ -8,11 +8,12 @@
 #include <memory>
 #include <optional>
 #include <span>
-#include <tuple>
+#include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
-#include "frame/catalogue.h"
+#include "frame/rows/method.h"
 #include "host/conversions.h"
 
 namespace quorvex::binding {
@@ -26,7 +27,7 @@ constexpr Parameter_Kind Kind_Of() {
   if constexpr (std::is_same_v<Value, HostValue>) {
     return Parameter_Kind::value;
   } else if constexpr (std::is_same_v<Value, NumberText> ||
-                       std::is_same_v<Value, std::optional<NumberText>>) {
+                       std::is_same_v<Value, std::optional<std::string_view>>) {
     return Parameter_Kind::text;
   } else if constexpr (std::is_same_v<Value, std::optional<double>>) {
     return Parameter_Kind::number;
@@ -43,6 +44,11 @@ constexpr Parameter_Kind Kind_Of() {
   }
 }
 
+/// Whether a method changes what it is given for a parameter of that type.
+template <typename Type>
+constexpr bool is_changed =
+    std::is_lvalue_reference_v<Type> && !std::is_const_v<std::remove_reference_t<Type>>;
+
 template <typename Type>
 constexpr Result_Kind Result_Of() {
   if constexpr (std::is_void_v<Type>) {
@@ -58,41 +64,86 @@ constexpr Result_Kind Result_Of() {
   }
 }
 
+/// A value's own text, or the text made of it, for the length of a call.
+class Text_Argument {
+ public:
+  explicit Text_Argument(const HostValue& argument)
+      : text_(argument.is_text() ? argument.text() : made_ = To_Text(argument)) {}
+  Text_Argument(const Text_Argument&) = delete;
+  Text_Argument& operator=(const Text_Argument&) = delete;
+  ~Text_Argument() = default;
+
+  operator const NumberText&() const { return text_; }
+
+ private:
+  NumberText made_;
+  const NumberText& text_;
+};
+
+/// The same for a text that may be left out.
+class Optional_Text_Argument {
+ public:
+  explicit Optional_Text_Argument(const HostValue& argument) {
+    if (!argument.is_missing()) text_ = Text_Of(argument, made_);
+  }
+  Optional_Text_Argument(const Optional_Text_Argument&) = delete;
+  Optional_Text_Argument& operator=(const Optional_Text_Argument&) = delete;
+  ~Optional_Text_Argument() = default;
+
+  operator std::optional<std::string_view>() const { return text_; }
+
+ private:
+  std::string made_;
+  std::optional<std::string_view> text_;
+};
+
+/// A list for the length of a call: a missing one is empty, and any other value that is no list is
+/// the only element of one.
+class List_Argument {
+ public:
+  explicit List_Argument(const HostValue& argument);
+  List_Argument(const List_Argument&) = delete;
+  List_Argument& operator=(const List_Argument&) = delete;
+  ~List_Argument() = default;
+
+  operator const List&() const { return list_; }
+
+ private:
+  List made_;
+  const List& list_;
+};
+
 /// Makes a value its own text, and gives that text to be changed.
 NumberText& Text_In_Place(HostValue& argument);
-
-/// Makes a value a list, and gives that list: a missing one is empty, and any other value that is
-/// no list is the only element of one.
-const List& List_In_Place(HostValue& argument);
 
 /// Values can't hold an object of the host: null for a missing or empty one, a failure for any
 /// other.
 std::shared_ptr<Host_Application> Application_In(const HostValue& argument);
 
-/// An argument as a parameter takes it: a value or a list by reference, text, numbers and truth
-/// values converted. A truth value that is left out is false.
+/// An argument as a parameter takes it: itself for a parameter of any value, and otherwise
+/// converted. Only an argument that the method changes is changed. A truth value that is left out
+/// is false.
 template <typename Type>
 decltype(auto) Take(HostValue& argument) {
-  if constexpr (Kind_Of<Type>() == Parameter_Kind::value) {
+  constexpr Parameter_Kind kind = Kind_Of<Type>();
+  if constexpr (kind == Parameter_Kind::value) {
     return (argument);
-  } else if constexpr (Kind_Of<Type>() == Parameter_Kind::number) {
+  } else if constexpr (kind == Parameter_Kind::number) {
     return argument.is_missing() ? std::nullopt : std::optional<double>(To_Number(argument));
-  } else if constexpr (Kind_Of<Type>() == Parameter_Kind::integer) {
+  } else if constexpr (kind == Parameter_Kind::integer) {
     return To_Int32(argument);
-  } else if constexpr (Kind_Of<Type>() == Parameter_Kind::boolean) {
+  } else if constexpr (kind == Parameter_Kind::boolean) {
     return !argument.is_missing() && To_Boolean(argument);
-  } else if constexpr (std::is_same_v<std::remove_cvref_t<Type>, std::optional<NumberText>>) {
-    return argument.is_missing() ? std::nullopt
-                                 : std::optional<NumberText>(std::move(Text_In_Place(argument)));
-  } else if constexpr (Kind_Of<Type>() == Parameter_Kind::list) {
-    return (List_In_Place(argument));
-  } else if constexpr (Kind_Of<Type>() == Parameter_Kind::object) {
+  } else if constexpr (kind == Parameter_Kind::list) {
+    return List_Argument(argument);
+  } else if constexpr (kind == Parameter_Kind::object) {
     return Application_In(argument);
-  } else if constexpr (std::is_same_v<Type, NumberText&>) {
-    // The method changes its text: the caller's value holds it.
+  } else if constexpr (is_changed<Type>) {
     return Text_In_Place(argument);
+  } else if constexpr (std::is_same_v<std::remove_cvref_t<Type>, NumberText>) {
+    return Text_Argument(argument);
   } else {
-    return std::move(Text_In_Place(argument));
+    return Optional_Text_Argument(argument);
   }
 }
 
@@ -114,6 +165,7 @@ struct Bound;
 template <typename Result, typename... Types, Result (cls_Quorvex::*method)(Types...)>
 struct Bound<method> {
   static constexpr std::array<Parameter_Kind, sizeof...(Types)> kinds{Kind_Of<Types>()...};
+  static constexpr std::array<bool, sizeof...(Types)> changes{is_changed<Types>...};
   static constexpr Result_Kind result = Result_Of<Result>();
 
   static Call_Result Invoke(cls_Quorvex& engine, std::span<HostValue> arguments) {

@@ -1,7 +1,7 @@
 // Factorials and what is worked out by them.
 #include "elementary/factorial.h"
 #include "elementary/poisson.h"
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "host/run_time_failure.h"
 
 namespace quorvex {

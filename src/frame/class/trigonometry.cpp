@@ -1,9 +1,10 @@
 // The functions of angles, and the workers of them that macros reach.
 #include <utility>
 
+#include "elementary/angle_units.h"
 #include "elementary/inverse_trigonometry.h"
 #include "elementary/trigonometry.h"
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 
@@ -39,6 +40,14 @@ HostValue cls_Quorvex::ASin_Function(const HostValue& num, const HostValue& maxS
 
 HostValue cls_Quorvex::ACos_Function(const HostValue& num, const HostValue& maxSD) {
   return With_Memory_Failures([&] { return quorvex::ACos_Function(num, maxSD); });
+}
+
+NumberText cls_Quorvex::qvxRADIANS(const NumberText& degrees, const HostValue& maxSD) {
+  return With_Memory_Failures([&] { return Radians_Function(degrees, maxSD); });
+}
+
+NumberText cls_Quorvex::qvxDEGREES(const NumberText& radians, const HostValue& maxSD) {
+  return With_Memory_Failures([&] { return Degrees_Function(radians, maxSD); });
 }
 
 NumberText cls_Quorvex::qvxSIN(const HostValue& num, const HostValue& maxSD) {
