@@ -1,10 +1,13 @@
 // The component that the office calls: a method for each function, and what they share.
+#include <uno/lbnames.h>
 #include <com/sun/star/lang/XServiceInfo.hpp>
 #include <cppuhelper/implbase2.hxx>
 #include <cppuhelper/supportsservice.hxx>
 #include <quorvex/calc/XFunctions.hpp>
+#include <rtl/ref.hxx>
+#include <uno/mapping.hxx>
 
-#include <initializer_list>
+#include <array>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -26,6 +29,15 @@ class Functions final : public cppu::WeakImplHelper2<::quorvex::calc::XFunctions
  public:
   explicit Functions(const Context& context) : context_(context), offered_(Offered_Functions()) {
     Settle_In(context);
+  }
+
+  // The office calls through a proxy of this object, which it makes for each call and throws away
+  // after it, unless there is one already. It takes about as long as a sum of 50 digits does
+  // altogether, so one is kept, and with it this object.
+  void keep_proxy() {
+    const com::sun::star::uno::Mapping to_binary(CPPU_CURRENT_LANGUAGE_BINDING_NAME, UNO_LB_UNO);
+    const com::sun::star::uno::Reference<::quorvex::calc::XFunctions> self(this);
+    to_binary.mapInterface(self.get(), cppu::UnoType<::quorvex::calc::XFunctions>::get());
   }
 
 #include "functions_generated.inc"
@@ -55,13 +67,16 @@ class Functions final : public cppu::WeakImplHelper2<::quorvex::calc::XFunctions
     }
   }
 
-  Any call(std::size_t index, std::initializer_list<const Any*> given) {
+  template <std::size_t count>
+  Any call(std::size_t index, const std::array<const Any*, count>& given) {
     return guarded([&] {
       const Deadline deadline;
-      std::vector<HostValue> arguments;
-      arguments.reserve(given.size());
-      for (const Any* argument : given) arguments.push_back(From_Office(*argument));
-      return To_Office(Invoke(engine(), *offered_[index], std::move(arguments)));
+      const Method& method = *offered_[index];
+      std::array<HostValue, count> arguments;
+      for (std::size_t place = 0; place < count; ++place) {
+        arguments[place] = From_Office(*given[place], method.parameters[place]);
+      }
+      return To_Office(Invoke_In_Place(engine(), method, arguments));
     });
   }
 
@@ -95,5 +110,7 @@ class Functions final : public cppu::WeakImplHelper2<::quorvex::calc::XFunctions
 extern "C" SAL_DLLPUBLIC_EXPORT com::sun::star::uno::XInterface* quorvex_calc_functions(
     com::sun::star::uno::XComponentContext* context,
     const com::sun::star::uno::Sequence<com::sun::star::uno::Any>& /*arguments*/) {
-  return cppu::acquire(new quorvex::calc::Functions(context));
+  const rtl::Reference<quorvex::calc::Functions> functions(new quorvex::calc::Functions(context));
+  functions->keep_proxy();
+  return cppu::acquire(functions.get());
 }

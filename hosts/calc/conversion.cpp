@@ -33,6 +33,9 @@ enum class Office_Error : std::uint64_t {
   not_available = 32767,
 };
 
+// The host's number for it, which the engine itself never raises.
+constexpr Failure_Number division_by_zero{11};
+
 Any Error(Office_Error error) {
   constexpr std::uint64_t quiet_nan = 0x7ff8000000000000;
   return Any(std::bit_cast<double>(quiet_nan | static_cast<std::uint64_t>(error)));
@@ -85,8 +88,10 @@ HostValue From_Matrix(const Matrix& matrix) {
   }
   array.values.reserve(array.rows * array.columns);
   for (const Sequence<Any>& row : matrix) {
-    Yield();
-    for (const Any& element : row) array.values.push_back(Element(element));
+    for (const Any& element : row) {
+      if (array.values.size() % steps_between_yields == 0) Yield();
+      array.values.push_back(Element(element));
+    }
   }
   return array;
 }
@@ -94,13 +99,13 @@ HostValue From_Matrix(const Matrix& matrix) {
 Any To_Matrix(const Array& array) {
   Matrix matrix(static_cast<sal_Int32>(array.rows));
   Sequence<Any>* const rows = matrix.getArray();
-  auto value = array.values.begin();
+  std::size_t done = 0;
   for (std::size_t row = 0; row < array.rows; ++row) {
-    Yield();
     rows[row].realloc(static_cast<sal_Int32>(array.columns));
     Any* const cells = rows[row].getArray();
     for (std::size_t column = 0; column < array.columns; ++column) {
-      cells[column] = To_Office(*value++);
+      if (done % steps_between_yields == 0) Yield();
+      cells[column] = To_Office(array.values[done++]);
     }
   }
   return Any(matrix);
@@ -141,6 +146,14 @@ HostValue From_Office(const Any& value) {
                          "The office hands over a value of an unknown kind.");
 }
 
+HostValue From_Office(const Any& value, const Parameter& parameter) {
+  HostValue argument = From_Office(value);
+  if (!parameter.is_truth_value || argument.kind() != HostValue::Kind::number) return argument;
+  if (argument.number() == 1) return true;
+  if (argument.number() == 0) return false;
+  return argument;
+}
+
 Any To_Office(const HostValue& value) {
   switch (value.kind()) {
     case HostValue::Kind::text:
@@ -169,6 +182,7 @@ Any To_Office(const Call_Result& result) {
 }
 
 Any Cell_Error(const Run_Time_Failure& failure) {
+  if (failure.number() == division_by_zero) return Error(Office_Error::division_by_zero);
   switch (failure.number()) {
     case Failure_Number::overflow:
       return Error(Office_Error::number);

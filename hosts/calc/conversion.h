@@ -9,6 +9,7 @@
 // | a matrix of one element         | a reference to one cell, which reads as that cell           |
 // | a larger matrix                 | an array                                                    |
 // | empty text or void in a matrix  | a blank cell                                                |
+// | 1 or 0 for a truth value        | TRUE or FALSE                                               |
 //
 // | is given                | goes back as                                                        |
 // |-------------------------|---------------------------------------------------------------------|
@@ -30,11 +31,15 @@ namespace quorvex::calc {
 
 HostValue From_Office(const com::sun::star::uno::Any& value);
 
+/// The same for an argument: a parameter that is a truth value takes the office's 1 and 0 as such.
+HostValue From_Office(const com::sun::star::uno::Any& value, const Parameter& parameter);
+
 com::sun::star::uno::Any To_Office(const HostValue& value);
 com::sun::star::uno::Any To_Office(const Call_Result& result);
 
-/// The cell error that a failed call becomes: #NUM! for an overflow, Err:523 ("does not converge")
-/// for a calculation that would not end or was broken off, and otherwise #VALUE!.
+/// The cell error that a failed call becomes: #NUM! for an overflow, #DIV/0! for a division by zero
+/// (number 11), Err:523 ("does not converge") for a calculation that would not end or was broken
+/// off, and otherwise #VALUE!.
 com::sun::star::uno::Any Cell_Error(const Run_Time_Failure& failure);
 
 /// The cell error #VALUE!.

@@ -10,7 +10,7 @@
 
 #include "deadline.h"
 #include "dialog.h"
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "office.h"

@@ -7,7 +7,7 @@
 
 #include <memory>
 
-#include "frame/cls_Quorvex.h"
+#include "frame/class/cls_Quorvex.h"
 #include "host/application.h"
 #include "host/platform.h"
 #include "shell/form_face.h"

@@ -1,13 +1,15 @@
 #include "text.h"
 
 #include <algorithm>
-#include <limits>
 
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 
 namespace quorvex::calc {
 namespace {
+
+// In bytes. The office counts in 32-bit integers with a sign, and keeps a text several times over.
+constexpr std::size_t longest_text = std::size_t{1} << 28;
 
 bool Is_Ascii(std::string_view text) {
   return std::all_of(text.begin(), text.end(),
@@ -31,7 +33,7 @@ std::string To_Utf8(const rtl::OUString& text) {
 }
 
 rtl::OUString To_Utf16(std::string_view text) {
-  if (text.size() > std::numeric_limits<sal_Int32>::max() / sizeof(sal_Unicode) - 64) {
+  if (text.size() > longest_text) {
     throw Run_Time_Failure(Failure_Number::out_of_memory, "A text is too long for a cell.");
   }
   // The office ends the process where it can't have memory for a text.

@@ -48,8 +48,8 @@ class Comma {
 void Write_Idl(std::ostream& out) {
   out << "module quorvex { module calc {\n  interface XFunctions {\n";
   for (const Method* method : quorvex::calc::Offered_Functions()) {
-    out << "    any " << quorvex::calc::Function_Name(*method) << "(";
-    if (quorvex::calc::Takes_List(*method)) {
+    out << "    any " << method->worksheet_name << "(";
+    if (method->takes_all_as_list) {
       out << "[in] sequence<any> p1";
     } else {
       Comma comma;
@@ -65,15 +65,15 @@ void Write_Idl(std::ostream& out) {
 void Write_Methods(std::ostream& out) {
   std::size_t index = 0;
   for (const Method* method : quorvex::calc::Offered_Functions()) {
-    out << "Any SAL_CALL " << quorvex::calc::Function_Name(*method) << "(";
-    if (quorvex::calc::Takes_List(*method)) {
+    out << "Any SAL_CALL " << method->worksheet_name << "(";
+    if (method->takes_all_as_list) {
       out << "const Sequence<Any>& p1) override { return call_list(" << index << ", p1); }\n";
     } else {
       Comma comma;
       for (std::size_t place = 1; place <= method->parameters.size(); ++place) {
         out << comma() << "const Any& p" << place;
       }
-      out << ") override { return call(" << index << ", {";
+      out << ") override { return call<" << method->parameters.size() << ">(" << index << ", {";
       Comma again;
       for (std::size_t place = 1; place <= method->parameters.size(); ++place) {
         out << again() << "&p" << place;
@@ -91,7 +91,7 @@ void Write_Text(std::ostream& out, int depth, std::string_view property, std::st
 }
 
 void Write_Function(std::ostream& out, const Method& method) {
-  const std::string name = quorvex::calc::Function_Name(method);
+  const std::string_view name = method.worksheet_name;
   out << "        <node oor:name=\"" << name << "\" oor:op=\"replace\">\n";
   Write_Text(out, 5, "DisplayName", name);
   Write_Text(out, 5, "Description", method.description);
@@ -106,7 +106,7 @@ void Write_Function(std::ostream& out, const Method& method) {
     Write_Text(out, 7, "Description", parameter.help);
     out << "            </node>\n";
     // All arguments of a list arrive as its only parameter.
-    if (quorvex::calc::Takes_List(method)) break;
+    if (method.takes_all_as_list) break;
   }
   out << "          </node>\n        </node>\n";
 }
