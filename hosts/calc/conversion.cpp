@@ -9,6 +9,7 @@
 #include <variant>
 
 #include "host/platform.h"
+#include "office.h"
 #include "text.h"
 
 namespace quorvex::calc {
@@ -96,6 +97,13 @@ HostValue From_Matrix(const Matrix& matrix) {
   return array;
 }
 
+Any Text(const std::string& text) {
+  if (Is_Ascii(text)) return Any(To_Utf16(text));
+  std::string written = text;
+  Write_Apostrophes(written);
+  return Any(To_Utf16(written));
+}
+
 Any To_Matrix(const Array& array) {
   Matrix matrix(static_cast<sal_Int32>(array.rows));
   Sequence<Any>* const rows = matrix.getArray();
@@ -131,8 +139,11 @@ HostValue From_Office(const Any& value) {
   switch (value.getValueTypeClass()) {
     case TypeClass_VOID:
       return {};
-    case TypeClass_STRING:
-      return To_Utf8(*static_cast<const rtl::OUString*>(value.getValue()));
+    case TypeClass_STRING: {
+      std::string text = To_Utf8(*static_cast<const rtl::OUString*>(value.getValue()));
+      Read_Apostrophes(text);
+      return text;
+    }
     default:
       break;
   }
@@ -157,7 +168,7 @@ HostValue From_Office(const Any& value, const Parameter& parameter) {
 Any To_Office(const HostValue& value) {
   switch (value.kind()) {
     case HostValue::Kind::text:
-      return Any(To_Utf16(value.text()));
+      return Text(value.text());
     case HostValue::Kind::number:
       return Any(value.number());
     case HostValue::Kind::boolean:

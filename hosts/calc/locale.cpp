@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include "host/locale_rules.h"
 #include "office.h"
 #include "text.h"
 
@@ -17,6 +18,9 @@ namespace quorvex::calc {
 namespace {
 
 using namespace com::sun::star;
+
+constexpr std::string_view apostrophe = "'";
+constexpr std::string_view typographic_apostrophe = "\u2019";
 
 // A currency as a format writes it: "[$€-407]" or "[$CHF]" stands for the symbol.
 struct Currency {
@@ -32,9 +36,9 @@ Currency Currency_Of(std::string_view format) {
   if (mark == std::string_view::npos || end == std::string_view::npos) return {"$"};
   std::string_view symbol = format.substr(mark + 2, end - mark - 2);
   symbol = symbol.substr(0, symbol.find('-'));
-  const std::size_t first_digit = format.find_first_of("#0");
   Currency currency{std::string(symbol)};
-  if (mark < first_digit) {
+  if (mark < format.find_first_of("#0")) {
+    const std::size_t first_digit = std::min(format.find_first_of("#0", end), format.size());
     currency.symbol += format.substr(end + 1, first_digit - end - 1);
   } else {
     const std::size_t last_digit = format.find_last_of("#0", mark);
@@ -45,6 +49,9 @@ Currency Currency_Of(std::string_view format) {
   std::erase_if(currency.symbol, [](char sign) { return sign == '"' || sign == '\\'; });
   return currency;
 }
+
+// What the office told last; it calls from one thread at a time.
+bool groups_by_apostrophe = false;
 
 class Locale_Of_Office final : public Locale_Source {
  public:
@@ -57,8 +64,8 @@ class Locale_Of_Office final : public Locale_Source {
     if (item.decimalSeparator != decimal_ || item.thousandSeparator != thousands_) {
       decimal_ = item.decimalSeparator;
       thousands_ = item.thousandSeparator;
-      Locale changed = Read();
-      if (!Locale_Problem(changed)) locale_ = std::move(changed);
+      groups_by_apostrophe = To_Utf8(thousands_) == apostrophe;
+      locale_ = Read();
     }
     return locale_;
   }
@@ -66,7 +73,13 @@ class Locale_Of_Office final : public Locale_Source {
  private:
   Locale Read() {
     const Currency currency = Currency_Of(To_Utf8(Currency_Format()));
-    return {To_Utf8(decimal_), To_Utf8(thousands_), currency.symbol, currency.side};
+    return Usable_Locale({.decimal_separator = To_Utf8(decimal_),
+                          .thousands_separator = To_Utf8(thousands_),
+                          .monetary_thousands_separator = groups_by_apostrophe
+                                                              ? std::string(typographic_apostrophe)
+                                                              : std::string(),
+                          .currency_symbol = currency.symbol,
+                          .currency_side = currency.side});
   }
 
   rtl::OUString Currency_Format() {
@@ -86,10 +99,31 @@ class Locale_Of_Office final : public Locale_Source {
   Locale locale_;
 };
 
+// Puts one apostrophe for another wherever it stands between digits.
+void Replace_Between_Digits(std::string& text, std::string_view from, std::string_view to) {
+  const auto is_digit = [&](std::size_t place) {
+    return place < text.size() && text[place] >= '0' && text[place] <= '9';
+  };
+  for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at)) {
+    if (is_digit(at - 1) && is_digit(at + from.size())) text.replace(at, from.size(), to);
+    ++at;
+  }
+}
+
 }  // namespace
 
 std::shared_ptr<Locale_Source> Office_Locale(const Context& context) {
   return std::make_shared<Locale_Of_Office>(context);
+}
+
+void Read_Apostrophes(std::string& text) {
+  if (text.find(apostrophe) == std::string::npos) return;
+  Current_Locale();
+  if (groups_by_apostrophe) Replace_Between_Digits(text, apostrophe, typographic_apostrophe);
+}
+
+void Write_Apostrophes(std::string& text) {
+  if (groups_by_apostrophe) Replace_Between_Digits(text, typographic_apostrophe, apostrophe);
 }
 
 }  // namespace quorvex::calc

@@ -6,6 +6,7 @@
 #include <com/sun/star/uno/XComponentContext.hpp>
 
 #include <memory>
+#include <string>
 
 #include "frame/class/cls_Quorvex.h"
 #include "host/application.h"
@@ -23,6 +24,12 @@ com::sun::star::uno::Reference<com::sun::star::awt::XWindowPeer> Front_Window(
 
 /// The separators and the currency of the user's settings in the office, as they are at each call.
 std::shared_ptr<Locale_Source> Office_Locale(const Context& context);
+
+/// The office of some countries groups digits by the apostrophe of typewriters, which the engine
+/// takes for a quote mark. There it groups by the apostrophe of print instead, and between digits
+/// the one is put for the other on the way in and out.
+void Read_Apostrophes(std::string& text);
+void Write_Apostrophes(std::string& text);
 
 /// Message boxes of the office; without a window to stand before, every question is answered No.
 std::shared_ptr<Message_Box> Office_Message_Box(const Context& context);

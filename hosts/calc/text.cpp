@@ -11,12 +11,12 @@ namespace {
 // In bytes. The office counts in 32-bit integers with a sign, and keeps a text several times over.
 constexpr std::size_t longest_text = std::size_t{1} << 28;
 
+}  // namespace
+
 bool Is_Ascii(std::string_view text) {
   return std::all_of(text.begin(), text.end(),
                      [](char character) { return static_cast<signed char>(character) >= 0; });
 }
-
-}  // namespace
 
 std::string To_Utf8(const rtl::OUString& text) {
   const sal_Unicode* from = text.getStr();

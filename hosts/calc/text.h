@@ -10,6 +10,8 @@
 
 namespace quorvex::calc {
 
+bool Is_Ascii(std::string_view text);
+
 std::string To_Utf8(const rtl::OUString& text);
 
 /// Fails with out_of_memory where the office has no room for it.
