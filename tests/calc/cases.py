@@ -4,6 +4,8 @@ import collections
 import pathlib
 import xml.etree.ElementTree as ElementTree
 
+import office
+
 OOR = "{http://openoffice.org/2001/registry}"
 
 # What each failed call becomes in a cell, by its number: codes of the office's errors.
@@ -19,13 +21,13 @@ Parameter = collections.namedtuple("Parameter", "name help")
 Function = collections.namedtuple("Function", "name description parameters")
 
 
-def functions(extension):
+def functions():
     """What the extension's configuration tells of its functions, by their names in capitals."""
     def text(node, name):
         value = node.find(f"prop[@{OOR}name='{name}']/value")
         return "" if value is None else value.text or ""
 
-    tree = ElementTree.parse(extension / "CalcAddIns.xcu")
+    tree = ElementTree.parse(office.bundle() / "quorvex/CalcAddIns.xcu")
     told = {}
     for node in tree.iter("node"):
         parameters = node.find(f"node[@{OOR}name='Parameters']")

@@ -1,5 +1,7 @@
 """An office of one's own: a fresh profile, an extension or none, and what drives it."""
 
+import atexit
+import functools
 import os
 import pathlib
 import shutil
@@ -19,10 +21,13 @@ EXTENSION = pathlib.Path(os.environ.get(
     "QUORVEX_EXTENSION", SOURCE / "build/release/hosts/calc/quorvex.oxt"))
 
 
-def unpacked(folder, extension=EXTENSION):
-    """A folder of bundled extensions that holds the extension: an office takes them as they are."""
-    with zipfile.ZipFile(extension) as archive:
-        archive.extractall(folder / extension.stem)
+@functools.cache
+def bundle():
+    """A folder of extensions that holds this one unpacked: an office takes them as they are."""
+    folder = pathlib.Path(tempfile.mkdtemp(prefix="quorvex-bundle-"))
+    atexit.register(shutil.rmtree, folder, ignore_errors=True)
+    with zipfile.ZipFile(EXTENSION) as archive:
+        archive.extractall(folder / "quorvex")
     return folder
 
 
@@ -31,9 +36,9 @@ def properties(**values):
 
 
 class Office:
-    """A running office. `bundle` is a folder of extensions, none if left out."""
+    """A running office with the extension, or without. A home that is given stays."""
 
-    def __init__(self, bundle=None, language="C", display=None, home=None, limits=None):
+    def __init__(self, extended=True, language="C", display=None, home=None, limits=()):
         self.home = pathlib.Path(home or tempfile.mkdtemp(prefix="quorvex-office-"))
         self.keeps_home = home is not None
         self.environment = dict(
@@ -42,14 +47,14 @@ class Office:
         self.environment.pop("DISPLAY", None)
         if display:
             self.environment.update(DISPLAY=display, SAL_USE_VCLPLUGIN="gen")
-        self._empty = self.home / "no-extensions"
-        self._empty.mkdir(exist_ok=True)
+        extensions = bundle() if extended else self.home / "no-extensions"
+        extensions.mkdir(exist_ok=True)
         self.pipe = f"quorvex{os.getpid()}x{id(self)}"
         # The office starts itself anew when it has made a profile, in the same session.
         self.process = subprocess.Popen(
-            [*(limits or []), "soffice", *([] if display else ["--headless"]), "--norestore",
+            [*limits, "soffice", *([] if display else ["--headless"]), "--norestore",
              "--nologo", "--nofirststartwizard", self.profile_option(),
-             f"-env:BUNDLED_EXTENSIONS=file://{bundle or self._empty}",
+             f"-env:BUNDLED_EXTENSIONS=file://{extensions}",
              f"--accept=pipe,name={self.pipe};urp;"],
             env=self.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
             start_new_session=True)
@@ -100,7 +105,7 @@ class Office:
 
     def is_alive(self):
         try:
-            return bool(self.desktop.ServiceName is None or True) and self.process.poll() is None
+            return self.desktop.getComponents() is not None
         except DisposedException:
             return False
 
