@@ -129,11 +129,12 @@ uno::Reference<awt::XTextComponent> Dialog::entry(const char* name) {
   return {control(name), uno::UNO_QUERY_THROW};
 }
 
-void Dialog::run() {
+void Dialog::run(const std::function<void()>& on_screen) {
   const uno::Reference<awt::XControl> control(dialog_, uno::UNO_QUERY_THROW);
   control->createPeer(
       uno::Reference<awt::XToolkit>(awt::Toolkit::create(context_), uno::UNO_QUERY_THROW),
       Front_Window(context_));
+  if (on_screen) on_screen();
   dialog_->execute();
 }
 

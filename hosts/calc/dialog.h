@@ -42,8 +42,9 @@ class Dialog {
   void set_label(const char* name, std::string_view text);
   com::sun::star::uno::Reference<com::sun::star::awt::XTextComponent> entry(const char* name);
 
-  /// Shows the dialog, and comes back when it has been closed.
-  void run();
+  /// Shows the dialog, and comes back when it has been closed. `on_screen` is called when its
+  /// controls are there, before the user can reach them.
+  void run(const std::function<void()>& on_screen = {});
   void close();
 
  private:

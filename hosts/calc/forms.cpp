@@ -76,7 +76,7 @@ class Face_Of_Office final : public Form_Face {
                       [&] { press_ok(form, dialog); });
     dialog.add_button("cmdCancel", {164, 82, 50, 16}, form.cmdCancel.Caption, false,
                       [&] { dialog.close(); });
-    dialog.run();
+    dialog.run([&] { entry.show(); });
     if (form.is_loaded()) form.cmdCancel_Click();
   }
 

@@ -5,6 +5,7 @@
 #include <com/sun/star/awt/Toolkit.hpp>
 #include <com/sun/star/awt/XMessageBox.hpp>
 #include <com/sun/star/awt/XMessageBoxFactory.hpp>
+#include <com/sun/star/lang/XComponent.hpp>
 
 #include "office.h"
 #include "text.h"
@@ -46,6 +47,7 @@ class Box_Of_Office final : public Message_Box {
         To_Utf16(title), To_Utf16(text));
     if (!box.is()) return asks ? Message_Answer::no : Message_Answer::ok;
     const bool yes = box->execute() == awt::MessageBoxResults::YES;
+    uno::Reference<lang::XComponent>(box, uno::UNO_QUERY_THROW)->dispose();
     if (!asks) return Message_Answer::ok;
     return yes ? Message_Answer::yes : Message_Answer::no;
   }
