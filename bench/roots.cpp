@@ -58,25 +58,10 @@ void Mpfr_Root(benchmark::State& state) {
   Mpfr(state, [](mpfr_ptr root) { mpfr_rootn_ui(root, root, degree, MPFR_RNDN); });
 }
 
-// The default limit cuts what a list's remainders are, so it must have room for the operands.
-class Default_Guard {
- public:
-  explicit Default_Guard(double digits) : before_(quorvex::Default_MaxSD()) {
-    quorvex::Set_Default_MaxSD(digits);
-  }
-  ~Default_Guard() { quorvex::Set_Default_MaxSD(before_); }
-  Default_Guard(const Default_Guard&) = delete;
-  Default_Guard& operator=(const Default_Guard&) = delete;
-
- private:
-  double before_;
-};
-
 void Common_Divisor(benchmark::State& state) {
   const auto digits = static_cast<std::size_t>(state.range(0));
   const List list = {bench::Digits(digits, 1), bench::Digits(digits, 2)};
-  cls_Quorvex engine;  // takes the stored limit, so the guard comes after it
-  const Default_Guard guard(static_cast<double>(digits));
+  cls_Quorvex engine;
   for (auto step : state) benchmark::DoNotOptimize(engine.qvxGCD(list));
 }
 

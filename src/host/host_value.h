@@ -3,6 +3,8 @@
 
 #include <concepts>
 #include <cstddef>
+#include <cstdint>
+#include <limits>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -71,9 +73,20 @@ class QUORVEX_API HostValue {
   HostValue(Array array);
   HostValue(List list);
   HostValue(std::shared_ptr<const Range> range) noexcept : data_(std::move(range)) {}
+  /// A number up to 2^53, within which each has a 64-bit float of its own; beyond that the text of
+  /// its digits, so that none is lost.
   template <std::integral Integer>
   requires(!std::same_as<Integer, bool> && !std::same_as<Integer, char>) HostValue(Integer number)
-  noexcept : data_(static_cast<double>(number)) {}
+  noexcept(Fits_A_Float<Integer>) {
+    if constexpr (!Fits_A_Float<Integer>) {
+      constexpr std::int64_t last = std::int64_t{1} << 53;
+      if (std::cmp_greater(number, last) || std::cmp_less(number, -last)) {
+        data_ = std::to_string(number);
+        return;
+      }
+    }
+    data_ = static_cast<double>(number);
+  }
 
   /// The value of a blank cell.
   static HostValue Empty() noexcept;
@@ -96,6 +109,9 @@ class QUORVEX_API HostValue {
   std::string& mutable_text() { return std::get<std::string>(data_); }
 
  private:
+  template <typename Integer>
+  static constexpr bool Fits_A_Float = std::numeric_limits<Integer>::digits <= 53;
+
   struct Blank {};
   explicit HostValue(Blank blank) noexcept : data_(blank) {}
 

@@ -109,8 +109,8 @@ class QUORVEX_API Library_Loader {
   virtual ~Library_Loader();
   /// The address of a symbol in the library of that plain file name; null if there is none such.
   virtual void* symbol(const char* library, const char* name) = 0;
-  /// The folder that this library was loaded from, without a separator behind it; empty where that
-  /// can't be told.
+  /// The folder that this library was loaded from, absolute, without `.` and `..` and without a
+  /// separator behind it; empty where that can't be told.
   virtual std::string folder() { return {}; }
 };
 

@@ -25,8 +25,8 @@ enum class Failure_Number : int {
 /// A run-time failure: the host's error number, and a message that a user can act on.
 ///
 /// A routine with a handler turns it into an error token; from every other routine it leaves the
-/// public method. `Failure_Number::interrupted` passes every handler, since it says that somebody
-/// wants the calculation to end, and nothing about the operands.
+/// public method. `Failure_Number::interrupted` passes every handler of a calculation, since it
+/// says that somebody wants it to end, and nothing about the operands.
 class QUORVEX_API Run_Time_Failure : public std::runtime_error {
  public:
   Run_Time_Failure(Failure_Number number, const std::string& message);
@@ -56,20 +56,29 @@ auto With_Memory_Failures(Body&& body) -> decltype(body()) {
 }
 
 /// Runs `body` and gives what it gives. A failure in it goes, as a `Run_Time_Failure`, to
-/// `handler`, whose result is then given; `interrupted` is thrown on. Memory that can't be had and
-/// texts longer than the machine can hold arrive as `out_of_memory`.
+/// `handler`, whose result is then given. Memory that can't be had and texts longer than the
+/// machine can hold arrive as `out_of_memory`. For work with the host's own objects, where
+/// `interrupted` is one more way for the host to refuse; calculations take `With_Handler`.
 template <typename Body, typename Handler>
-auto With_Handler(Body&& body, Handler&& handler) -> decltype(body()) {
+auto With_Handler_For_All(Body&& body, Handler&& handler) -> decltype(body()) {
   try {
     return With_Memory_Failures(body);
   } catch (const Run_Time_Failure& failure) {
-    if (failure.number() == Failure_Number::interrupted) throw;
     return handler(failure);
   }
 }
 
-/// The same, but `out_of_memory` is thrown on as well: for callers to whom the handler's result
-/// would say something about the operand, such as that it is no number.
+/// The same, but `interrupted` is thrown on.
+template <typename Body, typename Handler>
+auto With_Handler(Body&& body, Handler&& handler) -> decltype(body()) {
+  return With_Handler_For_All(body, [&](const Run_Time_Failure& failure) {
+    if (failure.number() == Failure_Number::interrupted) throw Run_Time_Failure(failure);
+    return handler(failure);
+  });
+}
+
+/// As `With_Handler`, but `out_of_memory` is thrown on as well: for callers to whom the handler's
+/// result would say something about the operand, such as that it is no number.
 template <typename Body, typename Handler>
 auto With_Handler_But_For_Memory(Body&& body, Handler&& handler) -> decltype(body()) {
   return With_Handler(body, [&](const Run_Time_Failure& failure) {

@@ -1,5 +1,6 @@
 #include "lists/gcd_lcm_function.h"
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -33,11 +34,14 @@ bool Is_Zero_Text(const NumberText& number) {
   return Is_True(Compare_Numbers(number, "0", true, false));
 }
 
+// The multiple as the limit allows it, but never cut: it has no more significant digits than both
+// numbers together, and neither has their product.
 NumberText Common_Multiple(const NumberText& running, const NumberText& element,
                            const NumberText& reduced_by, double limit) {
-  const NumberText product = Intermediate(operation::multiply, running, element, limit);
+  const double digits = std::max(limit, static_cast<double>(running.size() + element.size()));
+  const NumberText product = Intermediate(operation::multiply, running, element, digits);
   if (Is_Zero_Text(product) && Is_Zero_Text(reduced_by)) return "0";
-  return Intermediate(operation::divide, product, reduced_by, limit);
+  return Intermediate(operation::divide, product, reduced_by, digits);
 }
 
 // Folds a list with `join`, which changes the running value by an element. Unlike other lists these

@@ -68,8 +68,8 @@ bool Attach(Attempt& attempt) {
 // Each statement for itself, since the host may refuse any of them.
 void Restore(Host_Application* application) {
   if (application == nullptr) return;
-  Pass_Over_Failures([&] { application->set_DisplayAlerts(true); });
-  Pass_Over_Failures([&] { application->set_ScreenUpdating(true); });
+  Pass_Over_All_Failures([&] { application->set_DisplayAlerts(true); });
+  Pass_Over_All_Failures([&] { application->set_ScreenUpdating(true); });
 }
 
 void Give_Up(const Attempt& attempt) {
@@ -98,9 +98,9 @@ void Handle(const Attempt& attempt, Failure_Number number) {
 void Describe_Functions(Host_Application& application) {
   const std::string prefix = std::string(add_in_file) + "!";
   for (const Registration& row : Registration_Table()) {
-    Pass_Over_Failures([&] {
-      application.MacroOptions(prefix + std::string(row.macro), row.description, Missing, Missing, Missing,
-                               Missing, row.category);
+    Pass_Over_All_Failures([&] {
+      application.MacroOptions(prefix + std::string(row.macro), row.description, Missing, Missing,
+                               Missing, Missing, row.category);
     });
   }
 }
@@ -112,11 +112,12 @@ void Register_Functions() {
   shell.graphics->Timer1.set_Enabled(false);
   shell.Started_Flag = true;
   Attempt attempt;
-  const bool is_attached = With_Handler([&] { return Attach(attempt); },
-                                        [&](const Run_Time_Failure& failure) {
-                                          Handle(attempt, failure.number());
-                                          return false;
-                                        });
+  // Nothing is calculated here that anybody could break off: every failure is the host's refusal.
+  const bool is_attached = With_Handler_For_All([&] { return Attach(attempt); },
+                                                [&](const Run_Time_Failure& failure) {
+                                                  Handle(attempt, failure.number());
+                                                  return false;
+                                                });
   // Where the add-in isn't installed the flag stays, which keeps later instances from asking again.
   if (!is_attached) return;
   Describe_Functions(*attempt.application);

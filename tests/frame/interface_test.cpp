@@ -6,8 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <map>
 #include <regex>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -136,9 +138,28 @@ TEST(Interface, IsRegisteredByCategory) {
     if (row.category != category) listed.push_back(std::string(row.category) + ":");
     listed.back().append(" ").append(row.macro);
     category = row.category;
-    EXPECT_FALSE(row.description.empty()) << row.macro;
   }
   EXPECT_EQ(listed, Listed_Interface().categories);
+}
+
+/// The length as hosts count it: in words of 16 bits.
+std::ptrdiff_t Count_Words(std::string_view utf8) {
+  return std::ranges::count_if(utf8, [](char byte) { return (byte & 0xC0) != 0x80; }) +
+         std::ranges::count_if(utf8, [](char byte) { return (byte & 0xF8) == 0xF0; });
+}
+
+TEST(Interface, IsDescribedInWhatAHostTakesAndTellsThePrecision) {
+  const std::set<std::string_view> without_numbers = {"qvxISERROR", "qvxFORMAT", "qvxVERSION",
+                                                      "qvxXLA", "More_Information"};
+  for (const Registration& row : Registration_Table()) {
+    EXPECT_FALSE(row.description.empty()) << row.macro;
+    // A host refuses the whole description where it is longer.
+    EXPECT_LE(Count_Words(row.description), 255) << row.macro;
+    EXPECT_EQ(row.description.find(", with up to 32,767 significant digits of precision.") !=
+                  std::string_view::npos,
+              !without_numbers.contains(row.macro))
+        << row.macro;
+  }
 }
 
 TEST(Interface, RefusesARowThatContradictsItsMethod) {

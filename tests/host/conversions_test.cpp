@@ -5,6 +5,7 @@
 
 #include <cfenv>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <random>
 
@@ -233,6 +234,33 @@ TEST(Conversions, EachKindHasItsTextAndItsNumber) {
   EXPECT_EQ(To_Text(Error_Code::not_available), "Error 2042");
   EXPECT_EQ(To_Text(Cells(1, 1, Error_Code::name)), "Error 2029");
   EXPECT_EQ(To_Text("5 apples"), "5 apples");
+}
+
+TEST(Conversions, WholeNumbersOfAProgramKeepTheirDigits) {
+  constexpr std::int64_t last = std::int64_t{1} << 53;
+  const struct {
+    HostValue value;
+    double number;
+  } numbers[] = {{-7, -7},
+                 {4294967295U, 4294967295.0},
+                 {std::size_t{0}, 0},
+                 {last, 9007199254740992.0},
+                 {-last, -9007199254740992.0}};
+  for (const auto& [value, number] : numbers) {
+    ASSERT_EQ(value.kind(), HostValue::Kind::number) << number;
+    EXPECT_EQ(value.number(), number);
+  }
+  const struct {
+    HostValue value;
+    const char* text;
+  } texts[] = {{last + 1, "9007199254740993"},
+               {-last - 1, "-9007199254740993"},
+               {std::numeric_limits<long long>::min(), "-9223372036854775808"},
+               {std::numeric_limits<std::uint64_t>::max(), "18446744073709551615"}};
+  for (const auto& [value, text] : texts) {
+    ASSERT_TRUE(value.is_text()) << text;
+    EXPECT_EQ(value.text(), text);
+  }
 }
 
 TEST(Conversions, TextIsNotCopied) {

@@ -1,6 +1,8 @@
 // Locales: what makes one usable, and those of the system.
 #include <gtest/gtest.h>
+#include <monetary.h>
 
+#include <clocale>
 #include <cstdlib>
 #include <fstream>
 
@@ -8,6 +10,7 @@
 #include "host/platform.h"
 #include "support/environment.h"
 #include "support/locales.h"
+#include "text/clean_up_number.h"
 
 // The C library forgets to free the path of its locales when a folder is named for them.
 extern "C" __attribute__((visibility("default"))) const char*
@@ -101,7 +104,8 @@ class SystemLocale : public testing::Test {
     compiled_ = std::system("localedef --version >/dev/null 2>&1") == 0;
     if (!compiled_) return;
     folder_ = new Temporary_Folder;
-    for (const char* name : {"fr_FR", "de_CH", "de_DE", "en_IN", "sv_SE", "pt_PT", "da_DK"})
+    for (const char* name :
+         {"fr_FR", "de_CH", "de_DE", "en_IN", "sv_SE", "pt_PT", "da_DK", "nl_NL"})
       Compile(name, "UTF-8", std::string(name) + ".UTF-8");
     Compile("de_DE", "ISO-8859-15", "de_DE.ISO-8859-15");
   }
@@ -145,7 +149,8 @@ TEST_F(SystemLocale, GivesSeparatorsAndCurrencyInUtf8) {
   } cases[] = {
       {"fr_FR", ",|\u202F| \u20AC|after"},
       {"fr_FR.UTF-8", ",|\u202F| \u20AC|after"},
-      {"de_CH", ".|\u2019|CHF|before"},
+      {"de_CH", ".|\u2019|CHF |before"},
+      {"nl_NL", ",|.|\u20AC |before"},
       {"de_DE", ",|.| \u20AC|after"},
       {"de_DE.ISO-8859-15", ",|.| \u20AC|after"},
       {"en_IN", ".|,|\u20B9|before"},
@@ -167,6 +172,28 @@ TEST_F(SystemLocale, GivesSeparatorsAndCurrencyInUtf8) {
   }
 }
 
+/// What the system writes for a sum of money, in UTF-8.
+std::string Amount(const char* locale, double sum) {
+  const locale_t conventions =
+      newlocale(LC_CTYPE_MASK | LC_NUMERIC_MASK | LC_MONETARY_MASK, locale, nullptr);
+  char text[64] = "";
+  strfmon_l(text, sizeof text, conventions, "%n", sum);
+  freelocale(conventions);
+  return text;
+}
+
+TEST_F(SystemLocale, ReadsTheAmountsOfMoneyThatTheSystemWrites) {
+  for (const char* const name : {"fr_FR.UTF-8", "de_CH.UTF-8", "de_DE.UTF-8", "en_IN.UTF-8",
+                                 "sv_SE.UTF-8", "pt_PT.UTF-8", "nl_NL.UTF-8"}) {
+    const Locale_Guard guard(System_Locale(name).value());
+    const std::string amount = Amount(name, 1234.5);
+    EXPECT_NE(amount.find(Current_Locale().currency_symbol), std::string::npos) << amount;
+    EXPECT_EQ(Clean_Up_Number(amount, true, true).NumClean,
+              "1234" + Current_Locale().decimal_separator + "5")
+        << amount;
+  }
+}
+
 TEST_F(SystemLocale, OfTheEnvironmentIsTakenCategoryByCategory) {
   const struct {
     const char* all;
@@ -179,7 +206,7 @@ TEST_F(SystemLocale, OfTheEnvironmentIsTakenCategoryByCategory) {
       {nullptr, nullptr, nullptr, "C.UTF-8", ".|,|$|before"},
       {nullptr, nullptr, nullptr, "fr_FR.UTF-8", ",|\u202F| \u20AC|after"},
       {nullptr, "de_CH.UTF-8", nullptr, "fr_FR.UTF-8", ".|\u2019| \u20AC|after"},
-      {nullptr, nullptr, "de_CH.UTF-8", "de_DE.ISO-8859-15", ",|.|CHF|before"},
+      {nullptr, nullptr, "de_CH.UTF-8", "de_DE.ISO-8859-15", ",|.|CHF |before"},
       {"de_DE.UTF-8", "de_CH.UTF-8", "C", "C", ",|.| \u20AC|after"},
       {"", "", "", "de_DE.UTF-8", ",|.| \u20AC|after"},
       {nullptr, "xx_XX", nullptr, "de_DE.UTF-8", ".|,| \u20AC|after"},

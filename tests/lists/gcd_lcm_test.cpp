@@ -1,37 +1,88 @@
-// Greatest common divisors and least common multiples: what holds between the two.
+// Greatest common divisors and least common multiples of lists against GMP.
+#include "lists/gcd_lcm_function.h"
+
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
-#include "arith/operation/do_operation.h"
-#include "lists/gcd_lcm_function.h"
+#include "support/exact_decimal.h"
 #include "support/random_numbers.h"
+#include "support/whole_number.h"
+#include "text/options.h"
 
 namespace quorvex {
 namespace {
 
-constexpr double limit = 400;
-
-NumberText Product(const NumberText& a, const NumberText& b) {
-  return Intermediate(operation::multiply, a, b, limit);
+// Beyond nine digits equal numbers have no divisor but 1.
+Whole_Number Divisor_In_Fold(const Whole_Number& a, const Whole_Number& b) {
+  const bool stays = a == b && a.text().size() > 9;
+  return stays ? Whole_Number("1") : Whole_Number::Common_Divisor(a, b);
 }
 
-TEST(GcdAndLcm, OfTwoNumbersGiveTheirProduct) {
+std::string Divisor_Of(const std::vector<std::string>& numbers) {
+  Whole_Number running(numbers.front());
+  for (std::size_t i = 1; i < numbers.size(); ++i) {
+    running = Divisor_In_Fold(running, Whole_Number(numbers[i]));
+  }
+  return running.text();
+}
+
+std::string Multiple_Of(const std::vector<std::string>& numbers) {
+  Whole_Number running(numbers.front());
+  for (std::size_t i = 1; i < numbers.size(); ++i) {
+    const Whole_Number number(numbers[i]);
+    const Whole_Number product = running * number;
+    running = product.is_zero() ? product : product / Divisor_In_Fold(running, number);
+  }
+  return running.text();
+}
+
+std::vector<std::string> Random_List(Random_Numbers& random) {
+  constexpr std::size_t lengths[] = {6, 9, 30, 110, 300, 2000};
+  const std::size_t most = lengths[random.below(std::size(lengths))];
+  const auto [first, second] = Random_Pair(random, most);
+  std::vector<std::string> numbers = {first, second};
+  while (random.one_in(3)) numbers.push_back(Random_Pair(random, most).first);
+  if (random.one_in(15)) numbers[random.below(numbers.size())] = "0";
+  return numbers;
+}
+
+TEST(GcdAndLcm, AreExactAndShownAtTheLimitWhereverItStands) {
   Random_Numbers random(91);
-  for (int round = 0; round < 300; ++round) {
-    const auto number = [&] {
-      return std::to_string(1 + random.below(9)) + random.digits(random.below(40));
+  const double before = Default_MaxSD();
+  for (int round = 0; round < 4000 && !testing::Test::HasFailure(); ++round) {
+    constexpr std::size_t limits[] = {1, 5, 20, 100, 101, 300, 9000};
+    std::size_t limit = limits[random.below(std::size(limits))];
+    Set_Default_MaxSD(static_cast<double>(limit));
+    const std::vector<std::string> numbers = Random_List(random);
+    List list(numbers.begin(), numbers.end());
+    if (random.one_in(2)) {
+      limit = limits[random.below(std::size(limits))];
+      const auto place = static_cast<std::ptrdiff_t>(random.below(list.size() + 1));
+      list.insert(list.begin() + place, "format:MSD=" + std::to_string(limit));
+    }
+    std::string trace = std::to_string(limit) + " digits of";
+    for (const std::string& number : numbers) trace += " " + number;
+    SCOPED_TRACE(trace);
+    const auto shown = [&](const std::string& number) {
+      return Exact_Decimal(number).rounded(limit + 1).text();
     };
-    const NumberText common = number();
-    const NumberText a = Product(number(), common);
-    const NumberText b = Product(number(), common);
-    if (a == b) continue;  // beyond nine digits equal numbers have no divisor but 1
-    const List list = {"format:MSD=400", a, b};
-    const NumberText gcd = GCD_Function(list, Element_Form::truncated);
-    const NumberText lcm = LCM_Function(list, Element_Form::truncated);
-    ASSERT_EQ(Product(gcd, lcm), Product(a, b)) << a << ' ' << b;
-    ASSERT_EQ(GCD_Function(list, Element_Form::whole), gcd);
-    ASSERT_EQ(LCM_Function(list, Element_Form::whole), lcm);
+    for (const auto form : {Element_Form::truncated, Element_Form::whole}) {
+      EXPECT_EQ(GCD_Function(list, form), shown(Divisor_Of(numbers)));
+      EXPECT_EQ(LCM_Function(list, form), shown(Multiple_Of(numbers)));
+    }
+  }
+  Set_Default_MaxSD(before);
+}
+
+// A number in E notation has more digits than its text has characters.
+TEST(GcdAndLcm, AreExactForNumbersInENotation) {
+  for (const auto form : {Element_Form::truncated, Element_Form::whole}) {
+    const List list = {"1E+40", "1099511627776", "3.7E+30", "format:MSD=2"};
+    EXPECT_EQ(GCD_Function(list, form), "537000000");
+    EXPECT_EQ(LCM_Function(list, form), "370000000000000000000000000000000000000000");
   }
 }
 

@@ -66,12 +66,16 @@ TEST_F(Registering, ALaterInstanceDescribesEverythingOnceMore) {
 
 TEST_F(Registering, PassesOverAMacroThatFails) {
   host_->failing_macro = "Quorvex.xla!qvxSUBTRACT";
-  const cls_Quorvex engine;
-  after(quick);
-  EXPECT_EQ(host_->macros.size(), Registration_Table().size() - 1);
-  EXPECT_EQ(host_->macros[1].name, "Quorvex.xla!qvxMULTIPLY");
-  expect_restored(true);
-  EXPECT_FALSE(Shell().Started_Flag);
+  for (const int number : {1004, 50290, 18}) {
+    host_->macro_fails = number;
+    host_->macros.clear();
+    const cls_Quorvex engine;
+    after(quick);
+    EXPECT_EQ(host_->macros.size(), Registration_Table().size() - 1) << number;
+    EXPECT_EQ(host_->macros[1].name, "Quorvex.xla!qvxMULTIPLY");
+    expect_restored(true);
+    EXPECT_FALSE(Shell().Started_Flag) << number;
+  }
 }
 
 TEST_F(Registering, TakesTheApplicationThatItWasGivenBeforeTheOneThatRuns) {
@@ -174,7 +178,8 @@ TEST_F(Registering, TheLastRetryRestoresTheHost) {
 }
 
 TEST_F(Registering, AnyOtherFailureEndsItAndRestoresTheHost) {
-  for (const int number : {13, 1004, 430}) {
+  // 18 breaks calculations off; from the host it is a refusal like any other.
+  for (const int number : {13, 1004, 430, 18}) {
     Shell() = Shell_State();
     host_->add_ins_fail = number;
     const cls_Quorvex engine;
@@ -185,12 +190,27 @@ TEST_F(Registering, AnyOtherFailureEndsItAndRestoresTheHost) {
     EXPECT_FALSE(is_armed());
   }
   source_->application = nullptr;
-  source_->failure = 70;
-  Shell() = Shell_State();
-  const cls_Quorvex engine;
-  after(quick);
-  EXPECT_FALSE(Shell().Started_Flag);
-  EXPECT_FALSE(is_armed());
+  for (const int number : {70, 18}) {
+    source_->failure = number;
+    Shell() = Shell_State();
+    const cls_Quorvex engine;
+    after(quick);
+    EXPECT_FALSE(Shell().Started_Flag);
+    EXPECT_FALSE(is_armed());
+  }
+}
+
+TEST_F(Registering, RestoresWhatTheHostLetsItRestore) {
+  for (const int number : {1004, 18}) {
+    Shell() = Shell_State();
+    host_->alerts_stay_off = number;
+    const cls_Quorvex engine;
+    after(quick);
+    EXPECT_EQ(host_->macros.size(), Registration_Table().size()) << number;
+    EXPECT_TRUE(host_->updating && !host_->alerts) << number;
+    EXPECT_FALSE(Shell().Started_Flag) << number;
+    host_->macros.clear();
+  }
 }
 
 TEST_F(Registering, LeavesAHostOfVersionTenAloneOnceItFails) {

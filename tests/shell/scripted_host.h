@@ -107,6 +107,7 @@ struct Scripted_Application final : Host_Application {
   }
   void set_DisplayAlerts(bool on) override {
     if (busy != 0) Fail_With(busy);
+    if (on && alerts_stay_off != 0) Fail_With(alerts_stay_off);
     alerts = on;
   }
   void set_ScreenUpdating(bool on) override { updating = on; }
@@ -120,7 +121,7 @@ struct Scripted_Application final : Host_Application {
   void MacroOptions(const HostValue& macro, const HostValue& description, const HostValue& has_menu,
                     const HostValue& menu_text, const HostValue& has_shortcut_key,
                     const HostValue& shortcut_key, const HostValue& category) override {
-    if (macro.text() == failing_macro) Fail_With(1004);
+    if (macro.text() == failing_macro) Fail_With(macro_fails);
     omitted_stay_missing = omitted_stay_missing && has_menu.is_missing() &&
                            menu_text.is_missing() && has_shortcut_key.is_missing() &&
                            shortcut_key.is_missing();
@@ -136,8 +137,10 @@ struct Scripted_Application final : Host_Application {
   std::string version_text = "16.0";
   int unversioned = 0;
   int busy = 0;
+  int alerts_stay_off = 0;
   int add_ins_fail = 0;
   std::string failing_macro;
+  int macro_fails = 1004;
   std::vector<std::shared_ptr<Host_Add_In>> add_ins = {
       std::make_shared<Scripted_Add_In>("Quorvex.xla", true)};
   std::vector<std::shared_ptr<Host_Workbook>> workbooks;

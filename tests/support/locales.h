@@ -23,9 +23,9 @@ inline Locale Narrow_Space_Locale() {
   return {",", "\u202F", " \u20AC", Currency_Side::after};
 }
 
-/// 1’234.5 with a typographic apostrophe (three bytes), and CHF5
+/// 1’234.5 with a typographic apostrophe (three bytes), and CHF 5
 inline Locale Apostrophe_Locale() {
-  return {".", "\u2019", "CHF", Currency_Side::before};
+  return {".", "\u2019", "CHF ", Currency_Side::before};
 }
 
 /// Puts a locale in force until the end of the scope.

@@ -3,8 +3,11 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <map>
 #include <utility>
 #include <vector>
+
+#include "formula/literals.h"
 
 namespace quorvex {
 namespace {
@@ -62,16 +65,27 @@ std::string Plain_Message(std::string_view message) {
   return std::string(message);
 }
 
+// A number that the parser refuses because no 64-bit float is so large.
+class Number_Too_Large : public Invalid_Request {
+ public:
+  Number_Too_Large() : Invalid_Request("a number is too large for a 64-bit float") {}
+};
+
+// Numbers by their places: 0 is the first number in the line that stands in no string.
+using Placed_Numbers = std::map<std::size_t, std::string>;
+
 // Builds the document from the parser's events. The names are those that the parser calls.
 class Builder {
  public:
-  Builder(json& root, std::string& id) : root_(root), id_(id) {}
+  // The parser is given something else for the numbers that are too large for it.
+  Builder(json& root, std::string& id, const Placed_Numbers& too_large)
+      : root_(root), id_(id), too_large_(too_large) {}
 
   bool null() { return scalar("null", nullptr); }
   bool boolean(bool value) { return scalar(value ? "true" : "false", value); }
-  bool number_integer(std::int64_t value) { return scalar(std::to_string(value), value); }
-  bool number_unsigned(std::uint64_t value) { return scalar(std::to_string(value), value); }
-  bool number_float(double value, const std::string& token) { return scalar(token, value); }
+  bool number_integer(std::int64_t value) { return number(std::to_string(value), value); }
+  bool number_unsigned(std::uint64_t value) { return number(std::to_string(value), value); }
+  bool number_float(double value, const std::string& token) { return number(token, value); }
   bool binary(json::binary_t& /*value*/) { return false; }
 
   bool string(std::string& value) {
@@ -103,19 +117,30 @@ class Builder {
   bool parse_error(std::size_t position, const std::string& /*token*/,
                    const nlohmann::detail::exception& error) {
     if (std::string_view(error.what()).find("number overflow") != std::string_view::npos)
-      throw Invalid_Request("a number is too large for a 64-bit float");
+      throw Number_Too_Large();
     throw Invalid_Request("not well-formed JSON at byte " + std::to_string(position) + ": " +
                           Plain_Message(error.what()));
   }
 
  private:
   template <typename Value>
+  bool number(std::string_view token, Value value) {
+    const auto too_large = too_large_.find(numbers_++);
+    if (too_large != too_large_.end()) token = too_large->second;
+    if (in_id_) return scalar(token, value);
+    const bool negative = token.starts_with('-');
+    HostValue read =
+        Number_Value(token.substr(negative ? 1 : 0), negative, ".", Given_Back::in_shortest_form);
+    return read.is_text() ? scalar(token, std::move(read.mutable_text())) : scalar(token, value);
+  }
+
+  template <typename Value>
   bool scalar(std::string_view token, Value value) {
     if (in_id_) {
       echo_.scalar(token);
       return finish_id();
     }
-    put(value);
+    put(std::move(value));
     return true;
   }
 
@@ -170,6 +195,8 @@ class Builder {
 
   json& root_;
   std::string& id_;
+  const Placed_Numbers& too_large_;
+  std::size_t numbers_ = 0;  // that the parser has told of
   std::vector<json*> open_;
   json* member_ = nullptr;
   Echo echo_;
@@ -182,11 +209,68 @@ bool Is_Plain(char character) {
   return byte >= 0x20 && byte < 0x7F && character != '"' && character != '\\';
 }
 
+void Parse(std::string_view line, const Placed_Numbers& too_large, json& root, std::string& id) {
+  Builder builder(root, id, too_large);
+  json::sax_parse(line, &builder);
+}
+
+// False also for what is no number in JSON: the parser will tell what is wrong with it.
+bool Is_Too_Large(std::string_view number) {
+  try {
+    const json fits = json::parse(number);
+    return false;
+  } catch (const json::out_of_range&) {
+    return true;
+  } catch (const json::parse_error&) {
+    return false;
+  }
+}
+
+// The place behind the string that begins there.
+std::size_t End_Of_String(std::string_view line, std::size_t at) {
+  for (++at; at < line.size() && line[at] != '"'; ++at)
+    if (line[at] == '\\') ++at;
+  return at + 1;
+}
+
+// Takes the numbers that are too large out of a line, and leaves a zero of the same length for
+// each, so that every other character stays where it is.
+Placed_Numbers Take_Too_Large_Numbers(std::string& line) {
+  Placed_Numbers taken;
+  std::size_t count = 0;
+  for (std::size_t at = 0; at < line.size();) {
+    const std::string_view rest = std::string_view(line).substr(at);
+    const std::size_t sign = rest.starts_with('-') ? 1 : 0;
+    const std::size_t digits = Number_Length(rest.substr(sign), ".");
+    const std::size_t length = sign + digits;
+    if (rest.starts_with('"')) {
+      at = End_Of_String(line, at);
+    } else if (digits == 0) {
+      ++at;
+    } else {
+      if (Is_Too_Large(rest.substr(0, length))) {
+        taken.emplace(count, rest.substr(0, length));
+        line.replace(at, length, "0." + std::string(length - 2, '0'));
+      }
+      at += length;
+      ++count;
+    }
+  }
+  return taken;
+}
+
 }  // namespace
 
 void Parse_Json(std::string_view line, json& root, std::string& id) {
-  Builder builder(root, id);
-  json::sax_parse(line, &builder);
+  try {
+    Parse(line, {}, root, id);
+  } catch (const Number_Too_Large&) {
+    std::string rest(line);
+    const Placed_Numbers too_large = Take_Too_Large_Numbers(rest);
+    root = nullptr;
+    id.clear();
+    Parse(rest, too_large, root, id);
+  }
 }
 
 void Append_Json_String(std::string& out, std::string_view text) {

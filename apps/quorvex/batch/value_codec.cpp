@@ -72,7 +72,8 @@ HostValue Object_From_Json(json&& object, std::string_view place) {
   Refuse(place, forms);
 }
 
-// The shortest decimals that read back as the same number.
+// The shortest decimals that read back as the same number. From the size on at which not every
+// whole number is a float, whole digits would be more than those, and would read back as text.
 void Append_Number(std::string& out, double number) {
   if (!std::isfinite(number))
     throw Run_Time_Failure(Failure_Number::overflow, "The result is no finite number.");
@@ -81,9 +82,13 @@ void Append_Number(std::string& out, double number) {
     out += "-0.0";
     return;
   }
+  constexpr double first_gap = 9007199254740992;  // 2^53
   std::array<char, 32> buffer{};
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
-  out.append(buffer.data(), end);
+  char* const end = buffer.data() + buffer.size();
+  const auto written = std::fabs(number) < first_gap ? std::to_chars(buffer.data(), end, number)
+                                                     : std::to_chars(buffer.data(), end, number,
+                                                                     std::chars_format::scientific);
+  out.append(buffer.data(), written.ptr);
 }
 
 void Append_Number_Object(std::string& out, std::string_view key, int number) {

@@ -9,8 +9,8 @@
 
 namespace quorvex {
 
-/// The value that a JSON value stands for; texts are moved out of it. Throws `Invalid_Request`,
-/// whose message begins with `place`, for what stands for none.
+/// The value that a JSON value of a parsed line stands for; texts are moved out of it. Throws
+/// `Invalid_Request`, whose message begins with `place`, for what stands for none.
 HostValue Value_From_Json(nlohmann::json&& json, std::string_view place);
 
 /// Appends a value as JSON. A number reads back as the same 64-bit float; a range is written as the

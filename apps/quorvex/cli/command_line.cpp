@@ -117,6 +117,9 @@ void Describe_Batch(CLI::App& app, Arguments& arguments) {
       ->check(CLI::Validator(Check_Jobs, ""));
   Add_Common_Options(*batch, arguments.common);
   batch->footer(
+      "A JSON number that a 64-bit float gives back in its shortest form is a number like that\n"
+      "of a cell, of which functions see 15 digits. Every other one arrives as text with all its\n"
+      "digits, and so does every number in quotes.\n"
       "Example:\n"
       "  echo '{\"id\":1,\"call\":\"qvxADD\",\"args\":[1,\"2.5\"]}' | quorvex batch\n"
       "  {\"id\":1,\"value\":\"3.5\"}");

@@ -69,7 +69,8 @@ void Add_Common_Options(CLI::App& command, Common_Options& options) {
       "Write numbers as this locale of the system does (de_CH)");
   add("--decimal", options.decimal, "CHARACTER", "Decimal separator");
   add("--thousands", options.thousands, "CHARACTER", "Thousands separator");
-  add("--currency", options.currency, "TEXT", "Currency symbol");
+  add("--currency", options.currency, "TEXT",
+      "Currency symbol, with the blank beside it (\"CHF \")");
   add("--currency-side", options.currency_side, "before|after", "Place of the symbol")
       ->check(CLI::Validator(Check_Side, ""));
   add("--digits", options.digits, "N", "Significant digits where a call gives none")

@@ -10,6 +10,7 @@
 #include "io/progress_bar.h"
 #include "sheet/csv.h"
 #include "sheet/grid.h"
+#include "sheet/recalculate.h"
 #include "sheet/workbook.h"
 
 namespace quorvex {
@@ -88,7 +89,7 @@ Outcome Open_Sheet::load() {
   application_->open(book);
   session_.engine().SetExcelApp(application_);
   return calculate(
-      [&](const Progress& progress) { book->recalculate(session_.engine(), progress); });
+      [&](const Progress& progress) { Recalculate_All(*book, session_.engine(), progress); });
 }
 
 Outcome Open_Sheet::update() {

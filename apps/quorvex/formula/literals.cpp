@@ -24,8 +24,9 @@ constexpr std::array<std::pair<Error_Code, std::string_view>, 7> error_texts{{
     {Error_Code::not_available, "#N/A"},
 }};
 
-// The digits that a 64-bit float always keeps.
-constexpr std::size_t kept_digits = 15;
+// The digits that a 64-bit float always keeps, and the most that its shortest form has.
+constexpr int kept_digits = 15;
+constexpr std::size_t most_digits = 17;
 
 char Capital(char c) {
   return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
@@ -112,24 +113,34 @@ std::string Scientific_Text(std::string_view digits, std::int64_t exponent,
   return text + Exponent_Text(exponent);
 }
 
-// The float that stands for the number, if writing it with 15 digits gives the number again.
-std::optional<double> Exact_Float(const Scientific& number) {
-  const std::string_view all = number.digits;
-  if (all.empty()) return 0.0;
-  const std::string_view digits = all.substr(0, all.find_last_not_of('0') + 1);
-  if (digits.size() > kept_digits || !number.exponent_known) return std::nullopt;
+std::string_view Without_Trailing_Zeros(std::string_view digits) {
+  return digits.substr(0, digits.find_last_not_of('0') + 1);
+}
+
+// The digits of a float, without trailing zeros.
+std::string Digits_Of(double value, Given_Back form) {
+  std::array<char, 32> buffer{};
+  char* const begin = buffer.data();
+  char* const end = begin + buffer.size();
+  const auto written =
+      form == Given_Back::in_shortest_form
+          ? std::to_chars(begin, end, value, std::chars_format::scientific)
+          : std::to_chars(begin, end, value, std::chars_format::scientific, kept_digits - 1);
+  std::string digits(begin, std::find(begin, written.ptr, 'e'));
+  std::erase(digits, '.');
+  return std::string(Without_Trailing_Zeros(digits));
+}
+
+// The float that stands for the number, if it gives the number back in that form.
+std::optional<double> Exact_Float(const Scientific& number, Given_Back form) {
+  if (number.digits.empty()) return 0.0;
+  const std::string_view digits = Without_Trailing_Zeros(number.digits);
+  if (digits.size() > most_digits || !number.exponent_known) return std::nullopt;
   const std::string typed = Scientific_Text(digits, number.exponent, ".");
   double value = 0;
   const auto read = std::from_chars(typed.data(), typed.data() + typed.size(), value);
   if (read.ec != std::errc() || !std::isfinite(value)) return std::nullopt;
-  std::array<char, 32> buffer{};
-  const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                     std::chars_format::scientific, kept_digits - 1);
-  const std::string_view back(buffer.data(), static_cast<std::size_t>(written.ptr - buffer.data()));
-  std::string padded(digits);
-  padded.resize(kept_digits, '0');
-  const std::string again(back.substr(0, 1));
-  if (again + std::string(back.substr(2, kept_digits - 1)) != padded) return std::nullopt;
+  if (Digits_Of(value, form) != digits) return std::nullopt;
   return value;
 }
 
@@ -154,10 +165,11 @@ std::size_t Number_Length(std::string_view text, std::string_view separator) {
   return Spelling_Of(text, separator).length;
 }
 
-HostValue Number_Value(std::string_view number, bool negative, std::string_view separator) {
+HostValue Number_Value(std::string_view number, bool negative, std::string_view separator,
+                       Given_Back given_back) {
   const Spelling spelling = Spelling_Of(number, separator);
   const Scientific scientific = Scientific_Of(spelling);
-  if (const auto value = Exact_Float(scientific)) {
+  if (const auto value = Exact_Float(scientific, given_back)) {
     // A zero has no sign: -0 would show it again.
     return negative && *value != 0 ? -*value : *value;
   }

@@ -13,10 +13,15 @@ namespace quorvex {
 /// begins with; 0 if it begins with none.
 std::size_t Number_Length(std::string_view text, std::string_view separator);
 
+/// How a float has to give a number back to stand for it: at 15 digits, which is what cells show of
+/// it, or in its shortest form, as programs write their floats.
+enum class Given_Back { at_15_digits, in_shortest_form };
+
 /// The value of a number that `Number_Length` took whole, with a minus sign before it or not: a
-/// number if a 64-bit float gives it back unchanged at 15 digits, else number text in the current
-/// locale that the engine reads.
-HostValue Number_Value(std::string_view number, bool negative, std::string_view separator);
+/// number if a 64-bit float gives it back unchanged, else number text in the current locale that
+/// the engine reads.
+HostValue Number_Value(std::string_view number, bool negative, std::string_view separator,
+                       Given_Back given_back = Given_Back::at_15_digits);
 
 /// #N/A and its like.
 std::string_view Error_Text(Error_Code error);

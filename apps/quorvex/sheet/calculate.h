@@ -1,6 +1,7 @@
 // Calculating one formula of a worksheet.
 #pragma once
 
+#include "frame/class/cls_Quorvex.h"
 #include "sheet/workbook.h"
 
 namespace quorvex {

@@ -3,18 +3,12 @@
 
 #include <filesystem>
 #include <iosfwd>
-#include <stdexcept>
 #include <string_view>
 
+#include "sheet/file_error.h"
 #include "sheet/worksheet.h"
 
 namespace quorvex {
-
-/// A file that can't be read or written, in one line for the user.
-class File_Error : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
 
 /// Fills a worksheet from the text of a file, each cell as if typed by hand. A line that begins
 /// with "# " is a note: one text cell, whatever commas and quote marks stand in it. Throws

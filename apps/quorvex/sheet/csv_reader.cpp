@@ -4,7 +4,7 @@
 
 #include "host/platform.h"
 #include "host/utf8.h"
-#include "sheet/csv.h"
+#include "sheet/file_error.h"
 
 namespace quorvex {
 

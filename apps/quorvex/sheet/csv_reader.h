@@ -17,6 +17,7 @@ class Csv_Reader {
   Csv_Reader(std::string_view text, std::string_view source, Worksheet& sheet)
       : text_(text), source_(source), sheet_(sheet) {}
 
+  /// Throws `File_Error` with the place of what can't be read.
   void read();
 
  private:

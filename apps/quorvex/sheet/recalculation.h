@@ -2,12 +2,17 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <vector>
 
+#include "frame/class/cls_Quorvex.h"
 #include "sheet/precedents.h"
 #include "sheet/workbook.h"
 
 namespace quorvex {
+
+/// Told how many formulas of all are calculated, after each of them.
+using Progress = std::function<void(std::size_t done, std::size_t all)>;
 
 /// Visits the formulas depth first and finds the groups that depend on each other in circles
 /// (strongly connected components, by Tarjan's method). A group closes after all that it depends

@@ -154,7 +154,7 @@ class Sheet_Add_In final : public Host_Add_In {
 }  // namespace
 
 void Sheet_Application::calculate(cls_Quorvex& engine, const Progress& progress) {
-  for (const auto& workbook : workbooks_) workbook->update(engine, progress);
+  for (const auto& workbook : workbooks_) Recalculate_Stale(*workbook, engine, progress);
   *is_written_ = false;
 }
 

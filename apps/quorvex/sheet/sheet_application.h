@@ -8,6 +8,7 @@
 
 #include "frame/class/cls_Quorvex.h"
 #include "host/application.h"
+#include "sheet/recalculate.h"
 #include "sheet/workbook.h"
 
 namespace quorvex {
@@ -32,7 +33,7 @@ class Sheet_Application final : public Host_Application {
 
   /// Whether cells were written since `calculate` was last called.
   bool is_written() const { return *is_written_; }
-  /// Calculates these cells and all that depends on them. Throws as `Workbook::update` does, and
+  /// Calculates these cells and all that depends on them. Throws as `Recalculate_Stale` does, and
   /// can then be called again.
   void calculate(cls_Quorvex& engine, const Progress& progress = {});
 

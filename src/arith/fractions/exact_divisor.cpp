@@ -14,6 +14,7 @@
 
 #include "arith/limbs/limbs.h"
 #include "host/platform.h"
+#include "text/digit_runs.h"
 
 namespace quorvex {
 namespace {
@@ -52,24 +53,6 @@ Wide Shifted_Right(const Number& number, std::size_t bits) {
   const Wide low = word(first) | (word(first + 1) << word_bits);
   if (rest == 0) return low;
   return (low >> rest) | (word(first + 2) << (2 * word_bits - rest));
-}
-
-Number Read(std::string_view digits) {
-  Number number;
-  number.reserve(digits.size() / 19 + 1);
-  while (!digits.empty()) {
-    Yield();
-    const std::size_t count = (digits.size() - 1) % limbs::digits + 1;
-    Wide carry = limbs::Read(digits.substr(0, count));
-    for (Word& word : number) {
-      carry += Wide{word} * limbs::base;
-      word = static_cast<Word>(carry);
-      carry >>= word_bits;
-    }
-    if (carry != 0) number.push_back(static_cast<Word>(carry));
-    digits.remove_prefix(count);
-  }
-  return number;
 }
 
 NumberText Written(Number number) {
@@ -143,6 +126,29 @@ void Reduce(Number& a, const Number& b) {
   }
 }
 
+// A number, or where that is far longer than `modulus`, what it leaves modulo that: the whole of it
+// would cost the square of its length.
+Number Read(std::string_view digits, const Number& modulus = {}) {
+  constexpr std::size_t spare_words = 8;
+  const std::size_t most = modulus.empty() ? digits.size() : 2 * modulus.size() + spare_words;
+  Number number;
+  number.reserve(digits.size() / 19 + 1);
+  while (!digits.empty()) {
+    Yield();
+    const std::size_t count = (digits.size() - 1) % limbs::digits + 1;
+    Wide carry = limbs::Read(digits.substr(0, count));
+    for (Word& word : number) {
+      carry += Wide{word} * limbs::base;
+      word = static_cast<Word>(carry);
+      carry >>= word_bits;
+    }
+    if (carry != 0) number.push_back(static_cast<Word>(carry));
+    if (number.size() > most) Reduce(number, modulus);
+    digits.remove_prefix(count);
+  }
+  return number;
+}
+
 // What several steps make of two numbers: a becomes A a + B b, and b becomes C a + D b.
 struct Steps {
   std::int64_t A = 1;
@@ -182,11 +188,7 @@ void Apply(const Steps& steps, Number& a, Number& b) {
   Trim(b);
 }
 
-}  // namespace
-
-NumberText Exact_Divisor(std::string_view a_digits, std::string_view b_digits) {
-  Number a = Read(a_digits);
-  Number b = Read(b_digits);
+Number Common_Divisor(Number a, Number b) {
   if (Is_Less(a, b)) std::swap(a, b);
   while (a.size() > 1 && !b.empty()) {
     Yield();
@@ -200,8 +202,19 @@ NumberText Exact_Divisor(std::string_view a_digits, std::string_view b_digits) {
       Apply(steps, a, b);
     }
   }
-  if (b.empty()) return Written(std::move(a));
-  return Written({std::gcd(a.front(), b.front())});
+  if (b.empty()) return a;
+  return {std::gcd(a.front(), b.front())};
+}
+
+}  // namespace
+
+NumberText Exact_Divisor(std::string_view a, std::string_view b) {
+  const std::size_t zeros = std::min(Count_Trailing_Zeros(a), Count_Trailing_Zeros(b));
+  a.remove_suffix(zeros);
+  b.remove_suffix(zeros);
+  if (a.size() < b.size()) std::swap(a, b);
+  const Number shorter = Read(b);
+  return Written(Common_Divisor(Read(a, shorter), shorter)).append(zeros, '0');
 }
 
 }  // namespace quorvex

@@ -1,5 +1,6 @@
 #include "arith/fractions/fraction_scale.h"
 
+#include <algorithm>
 #include <cstddef>
 
 #include "host/platform.h"
@@ -31,7 +32,7 @@ void Add_Zeros(NumberText& number, std::size_t count) {
 Scaled_Fraction Scale_To_Whole(const NumberText& N, const NumberText& D) {
   const Places n = Places_Of(N);
   const Places d = Places_Of(D);
-  Scaled_Fraction scaled{N, D};
+  Scaled_Fraction scaled{N, D, std::max(n.decimals, d.decimals)};
   Remove_Decimal_Separator(scaled.A);
   Remove_Decimal_Separator(scaled.B);
   if (d.decimals >= n.decimals) {

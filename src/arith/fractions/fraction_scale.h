@@ -1,6 +1,8 @@
 // Fractions of decimals scaled to fractions of whole numbers.
 #pragma once
 
+#include <cstddef>
+
 #include "host/host_value.h"
 
 namespace quorvex {
@@ -8,6 +10,7 @@ namespace quorvex {
 struct Scaled_Fraction {
   NumberText A;
   NumberText B;
+  std::size_t decimals = 0;  // A is the numerator times this power of ten
 };
 
 /// Both numbers without their separators, and with the zeros that bring them to one scale. Zeros at

@@ -3,15 +3,17 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 #include <utility>
 
+#include "arith/fractions/exact_divisor.h"
 #include "arith/fractions/fraction_scale.h"
-#include "arith/fractions/whole_divisor.h"
 #include "arith/operation/do_operation.h"
+#include "arith/operation/scaled_number.h"
 #include "host/conversions.h"
 #include "text/clean_up_number.h"
+#include "text/digit_runs.h"
 #include "text/operand.h"
-#include "text/options.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
 
@@ -68,29 +70,48 @@ type_Fraction Reduce_Short(Fraction fraction, const Scaled_Fraction& scaled, boo
           Number_To_Text(std::abs(Text_To_Number(fraction.origN) / reduced))};
 }
 
-type_Fraction Reduce_Long(Fraction fraction, Scaled_Fraction scaled, bool always, double maxSD) {
-  Common_Divisor common = Divisor_Of(scaled.A, scaled.B, maxSD);
-  if (common.are_equal) return {std::move(scaled.A), std::move(scaled.B), "1"};
-  const NumberText& divisor = common.divisor;
-  if (Has_Token_Mark(divisor)) return {divisor, divisor, divisor};
-  if (divisor != "1") {
-    scaled.A = Intermediate(operation::divide, scaled.A, divisor, maxSD);
-    scaled.B = Intermediate(operation::divide, scaled.B, divisor, maxSD);
+std::string_view Digits_Of(const NumberText& number) {
+  const std::string_view digits = Strip_Sign(number);
+  return digits.substr(Count_Leading_Zeros(digits));
+}
+
+// A multiple of a divisor, divided by it. The quotient is whole and has as many digits as the limit
+// at most, and what is dropped behind them rounds to it, so it is exact.
+NumberText Divide_Out(const NumberText& multiple, const NumberText& divisor) {
+  const std::size_t digits = multiple.size() - divisor.size() + 1;
+  return Intermediate(operation::divide, multiple, divisor, static_cast<double>(digits));
+}
+
+// The numerator was scaled by a power of ten and divided by the common divisor, so the divisor,
+// scaled back, is what it was reduced by.
+NumberText Scaled_Back(const NumberText& divisor, std::size_t decimals) {
+  Scaled_Number number = Scaled(divisor);
+  number.exponent -= static_cast<std::int64_t>(decimals);
+  return Plain_Text(number);
+}
+
+type_Fraction Reduce_Long(Fraction fraction, Scaled_Fraction scaled, bool always) {
+  const std::string_view a = Digits_Of(scaled.A);
+  const std::string_view b = Digits_Of(scaled.B);
+  if (a == b) return {std::move(scaled.A), std::move(scaled.B), "1"};
+  const NumberText common = Exact_Divisor(a, b);
+  if (common != "1") {
+    scaled.A = Divide_Out(scaled.A, common);
+    scaled.B = Divide_Out(scaled.B, common);
+    if (Has_Token_Mark(scaled.A)) return {scaled.A, scaled.A, scaled.A};
   }
   const Operand reduced(scaled.A);
   const Operand given(fraction.N);
   if (std::is_gt(Compare_Magnitudes(reduced.parts(), given.parts())) && !always) {
     return std::move(fraction).unreduced();
   }
-  NumberText by = Magnitude(Intermediate(operation::divide, fraction.origN, scaled.A, maxSD));
-  return {std::move(scaled.A), std::move(scaled.B), std::move(by)};
+  return {std::move(scaled.A), std::move(scaled.B), Scaled_Back(common, scaled.decimals)};
 }
 
 }  // namespace
 
 type_Fraction Reduce_Fraction(std::string_view numerator, std::string_view divisor,
                               const Reduction_Options& options) {
-  const double maxSD = options.maxSD.is_missing() ? Default_MaxSD() : To_Number(options.maxSD);
   Fraction fraction;
   fraction.N = Clean_Up_Number(numerator, true, true).NumClean;
   if (Has_Token_Mark(fraction.N)) return {fraction.N, fraction.N, fraction.N};
@@ -110,7 +131,7 @@ type_Fraction Reduce_Fraction(std::string_view numerator, std::string_view divis
   if (scaled.A.size() <= short_length && scaled.B.size() <= short_length) {
     return Reduce_Short(std::move(fraction), scaled, options.always_simplify);
   }
-  return Reduce_Long(std::move(fraction), std::move(scaled), options.always_simplify, maxSD);
+  return Reduce_Long(std::move(fraction), std::move(scaled), options.always_simplify);
 }
 
 }  // namespace quorvex

@@ -19,13 +19,12 @@ struct Reduction_Options {
   bool simplify_signs = false;
   /// Also where the numerator becomes larger than it was.
   bool always_simplify = false;
-  /// The limit of digits; missing, the default.
-  const HostValue& maxSD = Missing;
 };
 
 /// Reduces a fraction of two decimals, which are scaled to whole numbers first. 0 and any number
 /// reduce by that number. Two equal numbers of ten characters or more stay unreduced, as they were
-/// scaled. Remainders longer than the limit are rounded to it, and so is what comes of them.
+/// scaled. No limit of digits applies: the whole numbers are reduced exactly, whatever their
+/// length.
 ///
 /// A token for what is no number. Fails with invalid_call where both have decimals, the numerator
 /// more, and its separator stands further to the right.

@@ -426,8 +426,9 @@ class QUORVEX_API cls_Quorvex {
   /// and first column hold the fraction as text, its numerator, its divisor and what it was reduced
   /// by; or one of these alone. `simplify_signs` leaves a minus to the numerator at most. A
   /// fraction whose numerator would become larger is reduced only with `always_simplify_fraction`.
-  /// What is no number gives its token. Throws `Run_Time_Failure` 5 where both have decimals, the
-  /// numerator more, and more digits before its separator as well.
+  /// All digits are shown, whatever the default limit. What is no number gives its token. Throws
+  /// `Run_Time_Failure` 5 where both have decimals, the numerator more, and more digits before its
+  /// separator as well.
   HostValue qvxREDUCEFRACTION(const HostValue& Numerator, const HostValue& divisor,
                               bool simplify_signs = false, bool always_simplify_fraction = false,
                               bool return_numerator = false, bool return_divisor = false,
@@ -436,9 +437,9 @@ class QUORVEX_API cls_Quorvex {
 
   /// The greatest common divisor and the least common multiple of a list; its elements are cut to
   /// whole numbers first, or by `qvxGCD2` and `qvxLCM2` taken as they are. A negative element gives
-  /// "#NUM!", but not to `qvxGCD2`. MSD= as for other lists, but the default limit holds without
-  /// it. No numbers: empty text. Throws as other lists do, and `qvxGCD2` and `qvxLCM2` as
-  /// `qvxREDUCEFRACTION`.
+  /// "#NUM!", but not to `qvxGCD2`. They are worked out with all digits; only the result is shown
+  /// at MSD=, wherever that stands, and without it at the default limit. No numbers: empty text.
+  /// Throws as other lists do, and `qvxGCD2` and `qvxLCM2` as `qvxREDUCEFRACTION`.
   HostValue qvxGCD(const List& numlist);
   HostValue qvxGCD2(const List& numlist);
   HostValue qvxLCM(const List& numlist);

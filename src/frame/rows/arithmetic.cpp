@@ -25,8 +25,7 @@ std::vector<Method> Arithmetic_Rows() {
           .category = operators,
           .place = 2,
           .description = "Subtracts one number from another, with up to 32,767 significant digits "
-                         "of precision. "
-                         "Number2 is subtracted from number1.",
+                         "of precision. Number2 is subtracted from number1.",
           .example = "qvxSUBTRACT(1, \"0.00000000000000000001\")",
           .parameters = With_Places({Operand_Parameter("number1", "the number to subtract from"),
                                      Operand_Parameter("number2", "the number to subtract")}),
@@ -53,9 +52,8 @@ std::vector<Method> Arithmetic_Rows() {
           .family = "Arithmetic",
           .category = operators,
           .place = 4,
-          .description =
-              "Divides one number by another, with up to 32,767 significant digits of precision. "
-              "Number1 is divided by number2.",
+          .description = "Divides one number by another, with up to 32,767 significant digits of "
+                         "precision. Number1 is divided by number2.",
           .example = "qvxDIVIDE(1, 7, , , , , 30)",
           .parameters = With_Places({Operand_Parameter("number1", "the number to divide"),
                                      Operand_Parameter("number2", "the number to divide by")}),

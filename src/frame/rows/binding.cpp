@@ -5,6 +5,10 @@
 namespace quorvex::binding {
 namespace {
 
+bool Is_List(const HostValue& argument) {
+  return argument.kind() == HostValue::Kind::list;
+}
+
 List Only(const HostValue& argument) {
   return argument.is_missing() ? List() : List{argument};
 }
@@ -28,7 +32,8 @@ Call_Result Give(const type_Division_Recip& quotient) {
 }
 
 List_Argument::List_Argument(const HostValue& argument)
-    : list_(argument.kind() == HostValue::Kind::list ? argument.list() : made_ = Only(argument)) {}
+    : made_(Is_List(argument) ? List() : Only(argument)),
+      list_(Is_List(argument) ? argument.list() : made_) {}
 
 NumberText& Text_In_Place(HostValue& argument) {
   if (!argument.is_text()) argument = To_Text(argument);

@@ -68,7 +68,8 @@ constexpr Result_Kind Result_Of() {
 class Text_Argument {
  public:
   explicit Text_Argument(const HostValue& argument)
-      : text_(argument.is_text() ? argument.text() : made_ = To_Text(argument)) {}
+      : made_(argument.is_text() ? NumberText() : To_Text(argument)),
+        text_(argument.is_text() ? argument.text() : made_) {}
   Text_Argument(const Text_Argument&) = delete;
   Text_Argument& operator=(const Text_Argument&) = delete;
   ~Text_Argument() = default;

@@ -60,11 +60,10 @@ std::vector<Method> Comparison_Rows() {
           .family = "Comparison",
           .category = operators,
           .place = 9,
-          .description =
-              "Determines whether one number is larger than another, with up to 32,767 significant "
-              "digits of precision. Returns TRUE if the first number is larger than the second; "
-              "returns FALSE if the first number is smaller than the second number, or if they are "
-              "equal.",
+          .description = "Determines whether one number is larger than another, with up to 32,767 "
+                         "significant digits of precision. Returns TRUE if the first number is "
+                         "larger than the second; returns FALSE if the first number is smaller "
+                         "than the second number, or if they are equal.",
           .example = "qvxISGREATER(\"0.1\", \"0.09\")",
           .parameters = {Operand_Parameter("number1", first_number),
                          Operand_Parameter("number2", second_number)},
@@ -76,11 +75,10 @@ std::vector<Method> Comparison_Rows() {
           .family = "Comparison",
           .category = operators,
           .place = 10,
-          .description = "Determines whether one number is larger than another or equal to it, "
-                         "with up to 32,767 "
-                         "significant digits of precision. Returns TRUE if the first number is "
-                         "larger than the "
-                         "second or equal to it; returns FALSE if it is smaller.",
+          .description =
+              "Determines whether one number is larger than another or equal to it, with up to "
+              "32,767 significant digits of precision. Returns TRUE if the first number is larger "
+              "than the second or equal to it; returns FALSE if it is smaller.",
           .example = "qvxISGREATEROREQUAL(2, 10)",
           .parameters = Compared_By_Value(),
           .results = {true_or_false_text, {no_number_is_num, token_passes, array_fails}},
@@ -93,9 +91,8 @@ std::vector<Method> Comparison_Rows() {
           .place = 11,
           .description =
               "Determines whether one number is smaller than another, with up to 32,767 "
-              "significant "
-              "digits of precision. Returns TRUE if the first number is smaller than the second; "
-              "returns FALSE if it is larger, or if they are equal.",
+              "significant digits of precision. Returns TRUE if the first number is smaller than "
+              "the second; returns FALSE if it is larger, or if they are equal.",
           .example = "qvxISLESS(-2, -1)",
           .parameters = Compared_By_Value(),
           .results = {true_or_false_text, {no_number_is_num, token_passes, array_fails}},
@@ -106,11 +103,10 @@ std::vector<Method> Comparison_Rows() {
           .family = "Comparison",
           .category = operators,
           .place = 12,
-          .description = "Determines whether one number is smaller than another or equal to it, "
-                         "with up to 32,767 "
-                         "significant digits of precision. Returns TRUE if the first number is "
-                         "smaller than the "
-                         "second or equal to it; returns FALSE if it is larger.",
+          .description =
+              "Determines whether one number is smaller than another or equal to it, with up to "
+              "32,767 significant digits of precision. Returns TRUE if the first number is smaller "
+              "than the second or equal to it; returns FALSE if it is larger.",
           .example = "qvxISLESSOREQUAL(2, 2)",
           .parameters = Compared_By_Value(),
           .results = {true_or_false_text, {no_number_is_num, token_passes, array_fails}},

@@ -14,11 +14,10 @@ std::vector<Method> Constant_Rows() {
           .slot = 79,
           .family = "Constants",
           .category = math,
-          .description = "Returns the mathematical constant Pi, the ratio of circumference of a "
-                         "circle divided by "
-                         "its diameter, with up to 32,767 significant digits of precision. Pi is "
-                         "the same for all "
-                         "circles. Pi's decimal places continue infinitely and never repeat.",
+          .description =
+              "Returns the mathematical constant Pi, the ratio of circumference of a circle "
+              "divided by its diameter, with up to 32,767 significant digits of precision. Pi is "
+              "the same for all circles. Pi's decimal places continue infinitely and never repeat.",
           .example = "qvxPi(50)",
           .parameters = digits,
           .results = {digits_cut, {beyond_pi, unread_count}},
@@ -28,11 +27,9 @@ std::vector<Method> Constant_Rows() {
           .slot = 80,
           .family = "Constants",
           .category = math,
-          .description =
-              "Returns the mathematical constant e, the base of natural logarithms, with up to "
-              "32,767 "
-              "significant digits of precision. e's decimal places continue infinitely and never "
-              "repeat.",
+          .description = "Returns the mathematical constant e, the base of natural logarithms, "
+                         "with up to 32,767 significant digits of precision. e's decimal places "
+                         "continue infinitely and never repeat.",
           .example = "qvxE(50)",
           .parameters = digits,
           .results = {digits_cut, {beyond_pi, unread_count}},

@@ -12,15 +12,13 @@ std::vector<Method> Division_Rows() {
           .name = "DivisionDecimalPosition",
           .slot = 5,
           .family = "Division",
-          .description =
-              "Returns the place of a quotient's decimal separator by the lengths of two digit "
-              "strings.",
+          .description = "Returns the place of a quotient's decimal separator by the lengths of "
+                         "two digit strings.",
           .example = "DivisionDecimalPosition(\"1\", \"30\")",
           .parameters = {Operand_Parameter("divisor", "the digits of the number that is divided"),
                          Operand_Parameter("dividend", "the digits of the number divided by")},
           .results = {"A number: at which place behind the separator the quotient begins, 0 if "
-                      "before it; 1 "
-                      "for equal operands.",
+                      "before it; 1 for equal operands.",
                       {array_fails}},
       }),
       Row<&cls_Quorvex::Recip_Divide>({
@@ -35,8 +33,7 @@ std::vector<Method> Division_Rows() {
           .results =
               {"A record: digits, and powerOfTen, the power of ten that they are multiplied by.",
                {"In digits: \"#DIV/0!\" for a divisor of 0; the token of an operand that is no "
-                "number, "
-                "or that it is; \"#VALUE!\" where products can't be formed."}},
+                "number, or that it is; \"#VALUE!\" where products can't be formed."}},
       }),
       Row<&cls_Quorvex::myInverse5>({
           .name = "myInverse5",
@@ -47,12 +44,11 @@ std::vector<Method> Division_Rows() {
           .example = "myInverse5(\"7\", 20)",
           .parameters = {Operand_Parameter("kBig", "a whole number as digits"),
                          By_Value("p", "the digits wanted")},
-          .results = {"A record: digits, as many as wanted, and powerOfTen, the power of ten that "
-                      "they are "
-                      "multiplied by.",
-                      {"In digits: \"#EXPR!\" where the digits of a precision of 1 or 2 never come "
-                       "to rest; "
-                       "empty text after any other failure, as for what is no whole number."}},
+          .results =
+              {"A record: digits, as many as wanted, and powerOfTen, the power of ten that they "
+               "are multiplied by.",
+               {"In digits: \"#EXPR!\" where the digits of a precision of 1 or 2 never come to "
+                "rest; empty text after any other failure, as for what is no whole number."}},
       }),
       Row<&cls_Quorvex::Min>({
           .name = "Min",
@@ -80,8 +76,8 @@ std::vector<Method> Division_Rows() {
           .example = "GetHalfofLong(7)",
           .parameters = {Operand_Parameter("num_as_long", "a whole number")},
           .results = {"A number.",
-                      {"The call fails for what is no number of 32 bits. A "
-                       "fraction is rounded before it is halved."}},
+                      {"The call fails for what is no number of 32 bits. A fraction is rounded "
+                       "before it is halved."}},
       }),
   };
 }

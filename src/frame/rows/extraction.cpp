@@ -21,10 +21,9 @@ std::vector<Method> Extraction_Rows() {
           .slot = 37,
           .family = "Text extraction",
           .category = text_functions,
-          .description =
-              "Leaves the texts given out of a text, with up to 32,767 significant digits of "
-              "precision. Capitals and small letters differ.  "
-              "\"format:negative,thousands,currency,exponent,MSD=n\"",
+          .description = "Leaves the texts given out of a text, with up to 32,767 significant "
+                         "digits of precision. Capitals and small letters differ.  "
+                         "\"format:negative,thousands,currency,exponent,MSD=n\"",
           .example = "qvxEXCLUDE(\"12 345 678 m\", \" \", \"m\", \"format:thousands\")",
           .parameters = Text_List(),
           .results = {text_left, {text_unchecked, list_fails}},
@@ -35,8 +34,7 @@ std::vector<Method> Extraction_Rows() {
           .family = "Text extraction",
           .category = text_functions,
           .description = "Leaves the texts given, and all that is no part of a number, out of a "
-                         "text, with up to "
-                         "32,767 significant digits of precision.  "
+                         "text, with up to 32,767 significant digits of precision.  "
                          "\"format:negative,thousands,currency,exponent,MSD=n\"",
           .example = "qvxEXCLUDENOTNUM(\"Invoice 17: 1,234.50 USD\", \"Invoice 17\")",
           .parameters = Text_List(),
@@ -47,10 +45,9 @@ std::vector<Method> Extraction_Rows() {
           .slot = 39,
           .family = "Text extraction",
           .category = text_functions,
-          .description =
-              "Keeps the texts given of a text, in the order in which they stand there, with up to "
-              "32,767 significant digits of precision. Capitals and small letters differ.  "
-              "\"format:negative,thousands,currency,exponent,MSD=n\"",
+          .description = "Keeps the texts given of a text, in the order in which they stand there, "
+                         "with up to 32,767 significant digits of precision. Capitals and small "
+                         "letters differ.  \"format:negative,thousands,currency,exponent,MSD=n\"",
           .example = "qvxEXTRACT(\"a1b2c3\", 1, 3)",
           .parameters = Text_List(),
           .results = {text_kept, {text_unchecked, list_fails}},
@@ -60,10 +57,9 @@ std::vector<Method> Extraction_Rows() {
           .slot = 40,
           .family = "Text extraction",
           .category = text_functions,
-          .description =
-              "Keeps the number that a text holds, and the texts given, with up to 32,767 "
-              "significant "
-              "digits of precision.  \"format:negative,thousands,currency,exponent,MSD=n\"",
+          .description = "Keeps the number that a text holds, and the texts given, with up to "
+                         "32,767 significant digits of precision.  "
+                         "\"format:negative,thousands,currency,exponent,MSD=n\"",
           .example = "qvxEXTRACTNUM(\"a loss of $(1,234.56)\")",
           .parameters = Text_List(),
           .results = {text_kept, {text_unchecked, list_fails}},

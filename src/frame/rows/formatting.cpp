@@ -32,8 +32,7 @@ std::vector<Method> Formatting_Rows() {
           .description =
               "Determines whether a value or text string can be evaluated as a number by Quorvex "
               "functions, with up to 32,767 significant digits of precision. Returns TRUE if input "
-              "can "
-              "be evaluated as a number by Quorvex functions; returns FALSE if not.",
+              "can be evaluated as a number by Quorvex functions; returns FALSE if not.",
           .example = "qvxISNUMBER(\"-1,234.5\")",
           .parameters = {Operand_Parameter("num", "a value or text")},
           .results = {true_or_false, {"No token: text that is one is no number.", array_fails}},
@@ -58,8 +57,8 @@ std::vector<Method> Formatting_Rows() {
           .parameters = With_Places({Operand_Parameter("number", "a number as text")}),
           .results = {"The number, formatted, at the limit and one digit more.",
                       {no_number_is_num_or_value, token_passes, option_fails,
-                       "It fails, too, where rounding to fixed places would carry "
-                       "into a thousands separator."}},
+                       "It fails, too, where rounding to fixed places would carry into a thousands "
+                       "separator."}},
       }),
   };
 }

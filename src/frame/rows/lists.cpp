@@ -12,8 +12,7 @@ std::vector<Method> List_Rows() {
           .family = "List",
           .category = math,
           .description = "Returns the sum of a range or array, with up to 32,767 significant "
-                         "digits of precision. "
-                         "Every cell must be a number or blank.",
+                         "digits of precision. Every cell must be a number or blank.",
           .example = "qvxSUM({1, \"0.00000000000000000001\"; 2, 3}, , TRUE)",
           .parameters =
               With_Digits({Operand_Parameter("rngArray", "a range of several cells, or an array")}),
@@ -27,15 +26,13 @@ std::vector<Method> List_Rows() {
           .family = "List",
           .category = statistical,
           .description = "Returns the average of the numeric arguments, with up to 32,767 "
-                         "significant digits of "
-                         "precision. MSD=n must be given.  "
+                         "significant digits of precision. MSD=n must be given.  "
                          "\"format:negative,thousands,currency,exponent,MSD=n\"",
           .example = "qvxAVERAGE(1, 2, 4, \"format:MSD=30\")",
           .parameters = Number_List(),
           .results = {"The mean, formatted; 0 where there is no number.",
                       {"\"#VALUE!\" without MSD=, unless the sum is 0. The call fails for a sum "
-                       "beyond 64-bit "
-                       "floats.",
+                       "beyond 64-bit floats.",
                        list_fails}},
       }),
       Row<&cls_Quorvex::qvxPRODUCT>({
@@ -43,9 +40,9 @@ std::vector<Method> List_Rows() {
           .slot = 41,
           .family = "List",
           .category = math,
-          .description = "Returns the product of the numeric arguments, with up to 32,767 "
-                         "significant digits of "
-                         "precision.  \"format:negative,thousands,currency,exponent,MSD=n\"",
+          .description =
+              "Returns the product of the numeric arguments, with up to 32,767 significant digits "
+              "of precision.  \"format:negative,thousands,currency,exponent,MSD=n\"",
           .example = "qvxPRODUCT(\"12345678901234567890\", -2, 0.5)",
           .parameters = Number_List(),
           .results = {"The product, formatted; 1 where there is no number.", {list_fails}},
@@ -68,8 +65,9 @@ std::vector<Method> List_Rows() {
           .slot = 43,
           .family = "List",
           .category = statistical,
-          .description = "Returns how many of the arguments are numbers.  "
-                         "\"format:negative,thousands,currency,exponent,MSD=n\"",
+          .description =
+              "Returns how many of the arguments are numbers, with up to 32,767 significant digits "
+              "of precision.  \"format:negative,thousands,currency,exponent,MSD=n\"",
           .example = "qvxCOUNT(1, \"2\", \"two\", TRUE, \"3.00000000000000000001\")",
           .parameters = Number_List(),
           .results = {"The count, formatted.", {list_fails}},
@@ -80,8 +78,7 @@ std::vector<Method> List_Rows() {
           .family = "List",
           .category = statistical,
           .description = "Returns the largest of the numeric arguments, with up to 32,767 "
-                         "significant digits of "
-                         "precision. The first argument must be a number.  "
+                         "significant digits of precision. The first argument must be a number.  "
                          "\"format:negative,thousands,currency,exponent,MSD=n\"",
           .example = "qvxMAX(\"0.1\", \"0.10000000000000000001\")",
           .parameters = Number_List(),
@@ -93,8 +90,7 @@ std::vector<Method> List_Rows() {
           .family = "List",
           .category = statistical,
           .description = "Returns the smallest of the numeric arguments, with up to 32,767 "
-                         "significant digits of "
-                         "precision. The first argument must be a number.  "
+                         "significant digits of precision. The first argument must be a number.  "
                          "\"format:negative,thousands,currency,exponent,MSD=n\"",
           .example = "qvxMIN(-1, \"-1.00000000000000000001\", \"format:negative\")",
           .parameters = Number_List(),

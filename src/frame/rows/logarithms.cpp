@@ -15,8 +15,7 @@ std::vector<Method> Logarithm_Rows() {
           .example = "Get_Mantissa(\"123.45\")",
           .parameters = {number, Truth_Option("as_integer", "TRUE returns the digits alone")},
           .results = {"The mantissa as text, zeros at its end included: 0, the separator and the "
-                      "digits, or "
-                      "the digits alone.",
+                      "digits, or the digits alone.",
                       {array_fails}},
       }),
       Row<&cls_Quorvex::Get_Exponent>({
@@ -57,34 +56,29 @@ std::vector<Method> Logarithm_Rows() {
           .family = "Logarithm",
           .category = math,
           .description = "Returns the logarithm of a number to a base, with up to 32,767 "
-                         "significant digits of "
-                         "precision. If the base is left out, it is 10.",
+                         "significant digits of precision. If the base is left out, it is 10.",
           .example = "qvxLOG(1000, 2, , 50)",
-          .parameters = With_Notation(
-              {Operand_Parameter("num", "a number above 0"),
-               Optional("num_base",
-                        "the base, a number above 0; the steps take as many digits more "
-                        "than the limit as it says. Left out, 10")}),
-          .results =
-              {logarithm,
-               {logarithm_of_negative,
-                "\"#NUM!\" also for a base that is not above 0, or \"#VALUE!\" where it takes more "
-                "than "
-                "the digits of the limit away; \"#NUM!\" where limit and base together exceed "
-                "40,051; "
-                "\"#DIV/0!\" for base 1.",
-                logarithm_fails}},
+          .parameters =
+              With_Notation({Operand_Parameter("num", "a number above 0"),
+                             Optional("num_base",
+                                      "the base, a number above 0; the steps take as many digits "
+                                      "more than the limit as it says. Left out, 10")}),
+          .results = {logarithm,
+                      {logarithm_of_negative,
+                       "\"#NUM!\" also for a base that is not above 0, or \"#VALUE!\" where it "
+                       "takes more than the digits of the limit away; \"#NUM!\" where limit and "
+                       "base together exceed 40,051; \"#DIV/0!\" for base 1.",
+                       logarithm_fails}},
       }),
       Row<&cls_Quorvex::qvxLN>({
           .name = "qvxLN",
           .slot = 95,
           .family = "Logarithm",
           .category = math,
-          .description =
-              "Returns the natural logarithm of a number, with up to 32,767 significant digits of "
-              "precision. The natural logarithm is the logarithm to the base of the constant e "
-              "(approximately 2.71828). qvxLN uses the constant e with up to 32,767 significant "
-              "digits.",
+          .description = "Returns the natural logarithm of a number, with up to 32,767 significant "
+                         "digits of precision. The natural logarithm is the logarithm to the base "
+                         "of the constant e (approximately 2.71828). qvxLN uses the constant e "
+                         "with up to 32,767 significant digits.",
           .example = "qvxLN(10, , 50)",
           .parameters = With_Notation({Operand_Parameter("num", "a number above 0")}),
           .results = {logarithm,
@@ -97,16 +91,14 @@ std::vector<Method> Logarithm_Rows() {
           .family = "Logarithm",
           .category = math,
           .description = "Returns the constant e (approximately 2.71828) raised to the power of a "
-                         "number, with up "
-                         "to 32,767 significant digits of precision. It is the inverse of the "
-                         "natural logarithm.",
+                         "number, with up to 32,767 significant digits of precision. It is the "
+                         "inverse of the natural logarithm.",
           .example = "qvxEXP(1, , 50)",
           .parameters = With_Notation({Operand_Parameter("num", "the power to raise e to")}),
-          .results =
-              {"The power, as text, in E notation if wanted; of 0 always 1.",
-               {"\"#VALUE!\" for any failure: what is no number, an error token included, a power "
-                "from about 1,488,522,236 on, more than 40,041 digits, an option that can't be "
-                "read."}},
+          .results = {"The power, as text, in E notation if wanted; of 0 always 1.",
+                      {"\"#VALUE!\" for any failure: what is no number, an error token included, a "
+                       "power from about 1,488,522,236 on, more than 40,041 digits, an option that "
+                       "can't be read."}},
       }),
   };
 }

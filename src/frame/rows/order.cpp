@@ -46,9 +46,8 @@ std::vector<Method> Order_Rows() {
           .family = "Order",
           .category = statistical,
           .description = "Returns the median of the numeric arguments, with up to 32,767 "
-                         "significant digits of "
-                         "precision. For an even count of numbers MSD=n must be given.  "
-                         "\"format:negative,thousands,currency,exponent,MSD=n\"",
+                         "significant digits of precision. For an even count of numbers MSD=n must "
+                         "be given.  \"format:negative,thousands,currency,exponent,MSD=n\"",
           .example = "qvxMEDIAN({7, \"1.00000000000000000001\"; 1, \"no number\"})",
           .parameters = Number_List(),
           .results = {"The number in the middle, formatted; of an even count half the sum of the "
@@ -68,13 +67,11 @@ std::vector<Method> Order_Rows() {
               "\"format:table,blank=<text>&,negative,thousands,currency,exponent,MSD=n\"",
           .example = "qvxMODE({2, 3; 2, 1}, \"3.0\", \"2E+0\", \"format:table\")",
           .parameters = Mode_Parameters(),
-          .results =
-              {"The number, formatted, or with TABLE an array with a row for each number: its "
-               "count "
-               "and itself. Empty text where there is no number.",
-               {"The call fails for a table of no numbers and for a block of less than one row or "
-                "column.",
-                list_fails}},
+          .results = {"The number, formatted, or with TABLE an array with a row for each number: "
+                      "its count and itself. Empty text where there is no number.",
+                      {"The call fails for a table of no numbers and for a block of less than one "
+                       "row or column.",
+                       list_fails}},
       }),
       Row<&cls_Quorvex::qvxSORT>({
           .name = "qvxSORT",
@@ -82,23 +79,20 @@ std::vector<Method> Order_Rows() {
           .family = "Order",
           .category = miscellaneous,
           .description = "Sorts a range of numbers, with up to 32,767 significant digits of "
-                         "precision. Must be "
-                         "array-entered.",
+                         "precision. Must be array-entered.",
           .example = "qvxSORT({10, 9; \"-0.00000000000000000001\", 0}, TRUE, TRUE)",
           .parameters = Sort_Parameters(),
-          .results =
-              {"An array of rows by cols cells: numbers in order, then whatever is no number, then "
-               "blank_text.",
-               {block_fails, "It fails, too, for less than one row or column."}},
+          .results = {"An array of rows by cols cells: numbers in order, then whatever is no "
+                      "number, then blank_text.",
+                      {block_fails, "It fails, too, for less than one row or column."}},
       }),
       Row<&cls_Quorvex::qvxLARGE>({
           .name = "qvxLARGE",
           .slot = 34,
           .family = "Order",
           .category = statistical,
-          .description =
-              "Returns the k-th largest number of a range, with up to 32,767 significant digits of "
-              "precision.",
+          .description = "Returns the k-th largest number of a range, with up to 32,767 "
+                         "significant digits of precision.",
           .example = "qvxLARGE({1, 3; \"12345678901234567890\", 2}, 2)",
           .parameters =
               Place_Parameters("the place, from the largest number on: 1 for the largest"),
@@ -111,8 +105,7 @@ std::vector<Method> Order_Rows() {
           .family = "Order",
           .category = statistical,
           .description = "Returns the k-th smallest number of a range, with up to 32,767 "
-                         "significant digits of "
-                         "precision.",
+                         "significant digits of precision.",
           .example = "qvxSMALL({1, 3; \"-0.00000000000000000001\", 2}, 1)",
           .parameters =
               Place_Parameters("the place, from the smallest number on: 1 for the smallest"),
@@ -125,21 +118,18 @@ std::vector<Method> Order_Rows() {
           .family = "Order",
           .category = statistical,
           .place = 1,
-          .description =
-              "Returns the rank of a number among the numbers of a range, with up to 32,767 "
-              "significant digits of precision. The largest number ranks first unless ascending is "
-              "TRUE.",
+          .description = "Returns the rank of a number among the numbers of a range, with up to "
+                         "32,767 significant digits of precision. The largest number ranks first "
+                         "unless ascending is TRUE.",
           .example = "qvxRANK(2, {3, 2; \"2.0\", 1}, FALSE, TRUE)",
           .parameters = {Operand_Parameter("num", first_number),
                          Operand_Parameter("numlist", block),
                          Truth_Option("ascending", "TRUE ranks the smallest number first"),
                          Truth_Option("tie_compensation",
                                       "TRUE gives equal numbers the mean of their ranks")},
-          .results =
-              {"The place, as text; for a number that is not among them the count of cells, less a "
-               "half "
-               "with tie_compensation.",
-               {"\"NUM!\", without a #, for a num that is no number.", block_fails}},
+          .results = {"The place, as text; for a number that is not among them the count of cells, "
+                      "less a half with tie_compensation.",
+                      {"\"NUM!\", without a #, for a num that is no number.", block_fails}},
       }),
   };
 }

@@ -25,11 +25,11 @@ Parameters Square_Root_Parameters() {
 
 // Named, since in a list they would look like two sentences each.
 constexpr Sentence root_tokens =
-    "\"DIV/0!\", without a #, for a degree of 0. \"#NUM!\" for a negative number unless "
-    "the degree is an odd whole number, and where the approach never comes to rest.";
+    "\"DIV/0!\", without a #, for a degree of 0. \"#NUM!\" for a negative number unless the degree "
+    "is an odd whole number, and where the approach never comes to rest.";
 constexpr Sentence power_tokens =
-    "\"#NUM!\" for a fractional power of a negative number, and for a power with more "
-    "integer digits than a text can hold.";
+    "\"#NUM!\" for a fractional power of a negative number, and for a power with more integer "
+    "digits than a text can hold.";
 
 }  // namespace
 
@@ -51,9 +51,8 @@ std::vector<Method> Power_And_Root_Rows() {
           .slot = 22,
           .family = "Root",
           .category = math,
-          .description =
-              "Returns the square root of (number * Pi), with up to 32,767 significant digits of "
-              "precision.",
+          .description = "Returns the square root of (number * Pi), with up to 32,767 significant "
+                         "digits of precision.",
           .example = "qvxSQRTPI(1, , , , 50)",
           .parameters = Square_Root_Parameters(),
           .results = {root,
@@ -68,11 +67,11 @@ std::vector<Method> Power_And_Root_Rows() {
           .description = "Gets the specified root of a number, with up to 32,767 significant "
                          "digits of precision.",
           .example = "qvxROOT(2, 7, , , , , 50)",
-          .parameters = With_Restriction(
-              {Operand_Parameter("number1", "the number to take the root of"),
-               Operand_Parameter("number2",
-                                 "the degree: 2 for the square root, 3 for the cube root; it may "
-                                 "be fractional or negative")}),
+          .parameters =
+              With_Restriction({Operand_Parameter("number1", "the number to take the root of"),
+                                Operand_Parameter("number2",
+                                                  "the degree: 2 for the square root, 3 for the "
+                                                  "cube root; it may be fractional or negative")}),
           .results = {root,
                       {root_tokens, no_number_is_num_or_value, token_passes, unread_option_is_value,
                        restricted}},
@@ -84,8 +83,7 @@ std::vector<Method> Power_And_Root_Rows() {
           .category = operators,
           .place = 5,
           .description = "Raises one number to the power of another number, with up to 32,767 "
-                         "significant digits "
-                         "of precision. Num is raised to the power of pwr.",
+                         "significant digits of precision. Num is raised to the power of pwr.",
           .example = "qvxPOWER(\"1.000000001\", 1000000, , , , , 30)",
           .parameters =
               With_Restriction({Operand_Parameter("number1", "the number to raise"),

@@ -15,9 +15,10 @@ inline constexpr Sentence rounded_number = "The rounded number with all its digi
 inline constexpr Sentence root = "The root, formatted.";
 inline constexpr Sentence remainder = "The remainder, formatted.";
 inline constexpr Sentence digits_cut = "The digits, cut and not rounded.";
-inline constexpr Sentence divisor = "The divisor, formatted; empty text where there is no number.";
+inline constexpr Sentence divisor =
+    "The divisor, worked out with all digits, formatted; empty text where there is no number.";
 inline constexpr Sentence multiple =
-    "The multiple, formatted; empty text where there is no number.";
+    "The multiple, worked out with all digits, formatted; empty text where there is no number.";
 inline constexpr Sentence lesser_or_greater =
     "The value itself, unchanged; the second one of two equal ones.";
 inline constexpr Sentence extreme =

@@ -6,11 +6,10 @@ namespace quorvex::catalogue {
 namespace {
 
 Parameters Rounding_Parameters() {
-  return With_Formats(
-      {Operand_Parameter("num", first_number),
-       Operand_Parameter("num_digits",
-                         "the decimal places to keep; a negative count acts one place short, so "
-                         "that -2 rounds to tens")});
+  return With_Formats({Operand_Parameter("num", first_number),
+                       Operand_Parameter("num_digits",
+                                         "the decimal places to keep; a negative count acts one "
+                                         "place short, so that -2 rounds to tens")});
 }
 
 }  // namespace
@@ -23,8 +22,7 @@ std::vector<Method> Rounding_Rows() {
           .family = "Rounding",
           .category = math,
           .description = "Rounds a number to a count of decimal places, with up to 32,767 "
-                         "significant digits of "
-                         "precision. Halves are rounded away from zero.",
+                         "significant digits of precision. Halves are rounded away from zero.",
           .example = "qvxROUND(\"12345678901234567890.125\", 2)",
           .parameters = Rounding_Parameters(),
           .results = {rounded_number, {rounding_of_no_number, option_fails}},
@@ -34,10 +32,9 @@ std::vector<Method> Rounding_Rows() {
           .slot = 72,
           .family = "Rounding",
           .category = math,
-          .description =
-              "Rounds a number away from zero to a count of decimal places, with up to 32,767 "
-              "significant digits of precision. The result is never below one unit of the last "
-              "place.",
+          .description = "Rounds a number away from zero to a count of decimal places, with up to "
+                         "32,767 significant digits of precision. The result is never below one "
+                         "unit of the last place.",
           .example = "qvxROUNDUP(\"0.00000000000000000001\", 2)",
           .parameters = Rounding_Parameters(),
           .results = {rounded_number, {rounding_of_no_number, option_fails}},
@@ -47,9 +44,8 @@ std::vector<Method> Rounding_Rows() {
           .slot = 73,
           .family = "Rounding",
           .category = math,
-          .description =
-              "Rounds a number towards zero to a count of decimal places, with up to 32,767 "
-              "significant digits of precision.",
+          .description = "Rounds a number towards zero to a count of decimal places, with up to "
+                         "32,767 significant digits of precision.",
           .example = "qvxROUNDDOWN(\"-12345678901234567890.129\", 2)",
           .parameters = Rounding_Parameters(),
           .results = {rounded_number, {rounding_of_no_number, option_fails}},

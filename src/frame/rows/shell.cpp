@@ -20,7 +20,7 @@ std::vector<Method> Shell_Rows() {
           .slot = 2,
           .family = "Shell",
           .description = "Returns where the help file belongs.",
-          .results = {"The path, beside the library; nobody looks whether the file is there.",
+          .results = {"The whole path, beside the library; nobody looks whether the file is there.",
                       {nothing_fails}},
       }),
       Row<&cls_Quorvex::qvxABOUT>({

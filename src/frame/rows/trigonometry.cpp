@@ -11,8 +11,8 @@ constexpr std::string_view part_of_1 = "a number from -1 to 1";
 Parameters With_Limit(std::string_view help) {
   return {Operand_Parameter("num", help),
           Optional("maxSD",
-                   "the limit of significant digits, that of pi and of every step as "
-                   "well; left out, the default limit")};
+                   "the limit of significant digits, that of pi and of every step as well; left "
+                   "out, the default limit")};
 }
 
 }  // namespace
@@ -100,8 +100,7 @@ std::vector<Method> Trigonometry_Rows() {
           .category = math,
           .description =
               "Returns the sine of an angle, with up to 32,767 significant digits of precision. "
-              "For "
-              "any given angle in a right triangle, the angle's sine is the length of the side "
+              "For any given angle in a right triangle, the angle's sine is the length of the side "
               "opposite the angle divided by the length of the side opposite the right angle.",
           .example = "qvxSIN(1, 50)",
           .parameters = With_Limit(angle),
@@ -114,11 +113,8 @@ std::vector<Method> Trigonometry_Rows() {
           .category = math,
           .description =
               "Returns the cosine of an angle, with up to 32,767 significant digits of precision. "
-              "For "
-              "any given angle in a right triangle, the angle's cosine is the length of the side "
-              "adjacent to the angle divided by the length of the side opposite the right angle. "
-              "The "
-              "angle 0 gives 0.",
+              "For any given angle in a right triangle, the angle's cosine is the length of the "
+              "side adjacent to the angle divided by that of the hypotenuse. The angle 0 gives 0.",
           .example = "qvxCOS(1, 50)",
           .parameters = With_Limit(angle),
           .results = {angle_value, {angle_fails}},
@@ -130,9 +126,8 @@ std::vector<Method> Trigonometry_Rows() {
           .category = math,
           .description =
               "Returns the tangent of an angle, with up to 32,767 significant digits of precision. "
-              "For "
-              "any given angle in a right triangle, the angle's tangent is the length of the side "
-              "opposite the angle divided by the length of the side adjacent to the angle.",
+              "For any given angle in a right triangle, the angle's tangent is the length of the "
+              "side opposite the angle divided by the length of the side adjacent to the angle.",
           .example = "qvxTAN(1, 50)",
           .parameters = With_Limit(angle),
           .results = {angle_value, {angle_fails}},
@@ -154,9 +149,9 @@ std::vector<Method> Trigonometry_Rows() {
           .slot = 91,
           .family = "Trigonometry",
           .category = math,
-          .description = "Returns the arc sine of a number, with up to 32,767 significant digits "
-                         "of precision. "
-                         "The arc sine is the angle, in radians, whose sine is the number.",
+          .description =
+              "Returns the arc sine of a number, with up to 32,767 significant digits of "
+              "precision. The arc sine is the angle, in radians, whose sine is the number.",
           .example = "qvxASIN(0.5, 50)",
           .parameters = With_Limit(part_of_1),
           .results = {angle_in_radians, {beyond_1, arc_beyond_pi, arc_fails, near_1_fails}},
@@ -166,9 +161,9 @@ std::vector<Method> Trigonometry_Rows() {
           .slot = 92,
           .family = "Trigonometry",
           .category = math,
-          .description = "Returns the arc cosine of a number, with up to 32,767 significant digits "
-                         "of precision. "
-                         "The arc cosine is the angle, in radians, whose cosine is the number.",
+          .description =
+              "Returns the arc cosine of a number, with up to 32,767 significant digits of "
+              "precision. The arc cosine is the angle, in radians, whose cosine is the number.",
           .example = "qvxACOS(0.5, 50)",
           .parameters = With_Limit(part_of_1),
           .results = {angle_in_radians, {beyond_1, arc_beyond_pi, arc_fails, beyond_floats}},

@@ -75,10 +75,9 @@ std::vector<Method> Whole_Number_Rows() {
           .slot = 24,
           .family = "Whole number",
           .category = information,
-          .description =
-              "Determines whether the whole part of a number is even, with up to 32,767 "
-              "significant "
-              "digits of precision. Returns TRUE if it is even; returns FALSE if it is odd.",
+          .description = "Determines whether the whole part of a number is even, with up to 32,767 "
+                         "significant digits of precision. Returns TRUE if it is even; returns "
+                         "FALSE if it is odd.",
           .example = "qvxISEVEN(\"12345678901234567891\")",
           .parameters = Number(),
           .results = {true_or_false, {parity_of_no_number, array_fails}},
@@ -89,8 +88,7 @@ std::vector<Method> Whole_Number_Rows() {
           .family = "Whole number",
           .category = math,
           .description = "Rounds a number up to the next even integer, with up to 32,767 "
-                         "significant digits of "
-                         "precision. Numbers are rounded away from zero.",
+                         "significant digits of precision. Numbers are rounded away from zero.",
           .example = "qvxEVEN(\"12345678901234567890.5\")",
           .parameters = Rounded_Up(),
           .results = {whole_number, {no_number_is_value, option_fails}},
@@ -100,9 +98,8 @@ std::vector<Method> Whole_Number_Rows() {
           .slot = 26,
           .family = "Whole number",
           .category = math,
-          .description =
-              "Rounds a number up to the next odd integer, with up to 32,767 significant digits of "
-              "precision. Numbers are rounded away from zero.",
+          .description = "Rounds a number up to the next odd integer, with up to 32,767 "
+                         "significant digits of precision. Numbers are rounded away from zero.",
           .example = "qvxODD(\"-12345678901234567890.5\")",
           .parameters = Rounded_Up(),
           .results = {whole_number, {no_number_is_value, option_fails}},
@@ -113,8 +110,7 @@ std::vector<Method> Whole_Number_Rows() {
           .family = "Whole number",
           .category = math,
           .description = "Rounds a number down to the next even integer, with up to 32,767 "
-                         "significant digits of "
-                         "precision. Numbers are rounded towards zero.",
+                         "significant digits of precision. Numbers are rounded towards zero.",
           .example = "qvxEVEN2(\"12345678901234567891.5\")",
           .parameters = Rounded_Down(),
           .results = {whole_number, {no_number_is_value, option_fails}},
@@ -125,8 +121,7 @@ std::vector<Method> Whole_Number_Rows() {
           .family = "Whole number",
           .category = math,
           .description = "Rounds a number down to the next odd integer, with up to 32,767 "
-                         "significant digits of "
-                         "precision. Numbers are rounded towards zero.",
+                         "significant digits of precision. Numbers are rounded towards zero.",
           .example = "qvxODD2(\"12345678901234567890.5\")",
           .parameters = Rounded_Down(),
           .results = {whole_number, {no_number_is_value, option_fails}},
@@ -137,8 +132,7 @@ std::vector<Method> Whole_Number_Rows() {
           .family = "Whole number",
           .category = information,
           .description = "Determines whether a value returned by an Quorvex function is an error "
-                         "value. Returns "
-                         "TRUE if it is an error; FALSE if not.",
+                         "value. Returns TRUE if it is an error; FALSE if not.",
           .example = "qvxISERROR(qvxDIVIDE(1, 0))",
           .parameters = {Operand_Parameter("num", "a value or text")},
           .results = {"TRUE for an error value and for text that holds a #, otherwise FALSE.",
@@ -151,9 +145,8 @@ std::vector<Method> Whole_Number_Rows() {
           .slot = 47,
           .family = "Whole number",
           .category = math,
-          .description =
-              "Rounds a number down to the next integer, with up to 32,767 significant digits of "
-              "precision.",
+          .description = "Rounds a number down to the next integer, with up to 32,767 significant "
+                         "digits of precision.",
           .example = "qvxINT(\"-12345678901234567890.5\")",
           .parameters = With_Formats(Number()),
           .results = {whole_number, {no_number_is_value, option_fails}},
@@ -167,11 +160,11 @@ std::vector<Method> Whole_Number_Rows() {
               "Cuts a number to a count of decimal places, with up to 32,767 significant digits of "
               "precision. Without a count, the integer part is left.",
           .example = "qvxTRUNC(\"-12345678901234567890.129\", 2)",
-          .parameters = With_Formats(
-              {Operand_Parameter("num", first_number),
-               Optional("num_digits",
-                        "the decimal places to keep, none if left out; a negative count "
-                        "acts one place short, so that -2 cuts to tens")}),
+          .parameters =
+              With_Formats({Operand_Parameter("num", first_number),
+                            Optional("num_digits",
+                                     "the decimal places to keep, none if left out; a negative "
+                                     "count acts one place short, so that -2 cuts to tens")}),
           .results = {"The number cut to its places, formatted.",
                       {no_number_is_value, option_fails}},
       }),
@@ -180,23 +173,19 @@ std::vector<Method> Whole_Number_Rows() {
           .slot = 51,
           .family = "Whole number",
           .category = math,
-          .description =
-              "Returns the fractional part of a number, with up to 32,767 significant digits of "
-              "precision. It can be read as a whole number.",
+          .description = "Returns the fractional part of a number, with up to 32,767 significant "
+                         "digits of precision. It can be read as a whole number.",
           .example = "qvxFRAC(\"-3.25\", TRUE)",
           .parameters = With_Digits(
               {Operand_Parameter("num", first_number),
                Truth_Option("as_int", "TRUE gives the digits of the fraction as a whole number"),
                Optional("sign",
-                        "the sign of the result: 1 that of num (the default), 2 none, 3 a "
-                        "minus")}),
-          .results =
-              {"The digits behind the separator, as a fraction or as a whole number, formatted; 0 "
-               "for "
-               "text without a separator.",
-               {"No token: what stands behind the separator of text that is no number comes back "
-                "unchecked.",
-                root_fails}},
+                        "the sign of the result: 1 that of num (the default), 2 none, 3 a minus")}),
+          .results = {"The digits behind the separator, as a fraction or as a whole number, "
+                      "formatted; 0 for text without a separator.",
+                      {"No token: what stands behind the separator of text that is no number comes "
+                       "back unchecked.",
+                       root_fails}},
       }),
       Row<&cls_Quorvex::qvxMOD>({
           .name = "qvxMOD",
@@ -204,8 +193,7 @@ std::vector<Method> Whole_Number_Rows() {
           .family = "Whole number",
           .category = math,
           .description = "Returns the remainder of a division, with up to 32,767 significant "
-                         "digits of precision. "
-                         "The quotient is rounded down.",
+                         "digits of precision. The quotient is rounded down.",
           .example = "qvxMOD(\"-12345678901234567890\", 7)",
           .parameters = Division_Parameters(sign_of_remainder),
           .results = {remainder, {remainder_by_zero, remainder_fails}},
@@ -216,8 +204,7 @@ std::vector<Method> Whole_Number_Rows() {
           .family = "Whole number",
           .category = math,
           .description = "Returns the remainder of a division, with up to 32,767 significant "
-                         "digits of precision. "
-                         "The quotient is cut towards zero.",
+                         "digits of precision. The quotient is cut towards zero.",
           .example = "qvxMODTRUNC(\"-12345678901234567890\", 7, 1)",
           .parameters = Division_Parameters(sign_of_remainder),
           .results = {remainder, {remainder_by_zero, remainder_fails}},
@@ -228,10 +215,8 @@ std::vector<Method> Whole_Number_Rows() {
           .family = "Whole number",
           .category = math,
           .description = "Returns the remainder of a division, with up to 32,767 significant "
-                         "digits of precision. "
-                         "Sign tells how the quotient is made whole, and every argument behind it "
-                         "acts as the one "
-                         "before it does in qvxMOD.",
+                         "digits of precision. Sign tells how the quotient is made whole, and "
+                         "every argument behind it acts as the one before it does in qvxMOD.",
           .example = "qvxREMAINDER(\"-12345678901234567890\", 7, TRUE, 1)",
           .parameters = Remainder_Parameters(),
           .results = {remainder,
@@ -242,11 +227,9 @@ std::vector<Method> Whole_Number_Rows() {
           .slot = 55,
           .family = "Whole number",
           .category = math,
-          .description =
-              "Returns the absolute value of a number, with up to 32,767 significant digits of "
-              "precision. The absolute value of a number is the number with its negative sign (if "
-              "it "
-              "had one) removed.",
+          .description = "Returns the absolute value of a number, with up to 32,767 significant "
+                         "digits of precision. The absolute value of a number is the number with "
+                         "its negative sign (if it had one) removed.",
           .example = "qvxABS(\"-12345678901234567890.5\")",
           .parameters = With_Formats(Number()),
           .results =
@@ -258,9 +241,8 @@ std::vector<Method> Whole_Number_Rows() {
           .slot = 57,
           .family = "Whole number",
           .category = math,
-          .description =
-              "Returns a number with a negative sign, with up to 32,767 significant digits of "
-              "precision.",
+          .description = "Returns a number with a negative sign, with up to 32,767 significant "
+                         "digits of precision.",
           .example = "qvxNEG(\"12345678901234567890.5\")",
           .parameters = With_Formats(Number()),
           .results = {"The number with all its digits, negative whichever sign it had, formatted.",
@@ -272,10 +254,9 @@ std::vector<Method> Whole_Number_Rows() {
           .slot = 58,
           .family = "Whole number",
           .category = math,
-          .description =
-              "Changes the sign of a number, with up to 32,767 significant digits of precision. "
-              "Positive numbers are changed to negative, and negative numbers are changed to "
-              "positive.",
+          .description = "Changes the sign of a number, with up to 32,767 significant digits of "
+                         "precision. Positive numbers are changed to negative, and negative "
+                         "numbers are changed to positive.",
           .example = "qvxCHANGESIGN(\"-12345678901234567890.5\")",
           .parameters = With_Formats(Number()),
           .results =

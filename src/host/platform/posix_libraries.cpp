@@ -12,6 +12,34 @@
 namespace quorvex {
 namespace {
 
+/// The folder of a file, absolute and without detours.
+std::string Folder_Of(const std::filesystem::path& file) {
+  const auto folder = file.lexically_normal().parent_path();
+  // Behind a symbolic link, two dots lead elsewhere than they seem to. Other links stay: they may
+  // be the names that a folder keeps while what it holds is replaced.
+  std::error_code error;
+  if (std::filesystem::equivalent(folder, file.parent_path(), error)) return folder.string();
+  const auto resolved = std::filesystem::canonical(file.parent_path(), error);
+  return error ? folder.string() : resolved.string();
+}
+
+std::string Folder_Of_This_Library() {
+  Dl_info info{};
+  // Any address within this library finds it.
+  if (::dladdr(reinterpret_cast<const void*>(&System_Libraries), &info) == 0) return {};
+  std::filesystem::path file = info.dli_fname;
+  std::error_code error;
+  // Only a program is known by its bare name: by the one that it was called by.
+  if (!file.has_parent_path()) file = std::filesystem::read_symlink("/proc/self/exe", error);
+  if (error) return {};
+  file = std::filesystem::absolute(file, error);
+  return error ? std::string() : Folder_Of(file);
+}
+
+// Found while the library is being loaded: a relative name, as a search path may give it, holds
+// only until the process enters another folder. Never destroyed, as the platform isn't.
+const auto* const folder_when_loaded = new std::string(Folder_Of_This_Library());
+
 class Loaded_Libraries final : public Library_Loader {
  public:
   // A library that was found stays loaded; one that was not is looked for again.
@@ -28,14 +56,7 @@ class Loaded_Libraries final : public Library_Loader {
     return symbol;
   }
 
-  std::string folder() override {
-    Dl_info info{};
-    // Any address within this library finds it.
-    if (::dladdr(reinterpret_cast<const void*>(&System_Libraries), &info) == 0) return {};
-    std::error_code error;
-    const auto path = std::filesystem::absolute(info.dli_fname, error);
-    return error ? std::string() : path.parent_path().string();
-  }
+  std::string folder() override { return *folder_when_loaded; }
 
  private:
   struct Found {

@@ -60,10 +60,13 @@ std::string In_Utf8(const char* text, const char* codeset) {
 void Read_Money(Locale_Report& report, const lconv& money, const char* codeset) {
   report.monetary_thousands_separator = In_Utf8(money.mon_thousands_sep, codeset);
   report.currency_symbol = In_Utf8(money.currency_symbol, codeset);
-  if (report.currency_symbol.empty() || money.p_cs_precedes != 0) return;
-  report.currency_side = Currency_Side::after;
-  // The space belongs to the symbol, as it stands between the two in an amount of money.
-  if (money.p_sep_by_space == 1) report.currency_symbol.insert(0, 1, ' ');
+  if (report.currency_symbol.empty()) return;
+  const bool is_before = money.p_cs_precedes != 0;
+  report.currency_side = is_before ? Currency_Side::before : Currency_Side::after;
+  // The space between symbol and number belongs to the symbol, so that an amount of money as cells
+  // show it (CHF 5, 5 €) is a number. Other values set it beside a sign.
+  if (money.p_sep_by_space != 1) return;
+  report.currency_symbol.insert(is_before ? report.currency_symbol.size() : 0, 1, ' ');
 }
 
 Locale Read_Locale(const Category& numbers, const Category& money) {

@@ -23,7 +23,11 @@ TEST(Request, IsRefusedWithTheReason) {
       {"{\"call\":\"qvx\xFF\"}", "not well-formed JSON"},
       {"{\"call\":\"qvx\xED\xA0\x80\"}", "not well-formed JSON"},
       {std::string("{\"call\":\"a\0\"}", 13), "not well-formed JSON"},
-      {R"({"call":"qvxADD","args":[1e999]})", "too large for a 64-bit float"},
+      {R"({"call":"qvxADD","args":[1e999}])", "not well-formed JSON at byte 31"},
+      {R"({"call":"qvxADD","args":[1e999,01e999]})", "not well-formed JSON at byte 37"},
+      {R"({"call":"qvxADD","args":[1e999,1.e999]})", "not well-formed JSON at byte 34"},
+      {R"({"call":"qvxADD","args":[1e999-1]})", "not well-formed JSON at byte 32"},
+      {R"({"call":"qvxADD","args":[-1e999,"a])", "not well-formed JSON at byte 36"},
       {R"({"call":"qvxADD","args":[NaN]})", "not well-formed JSON"},
       {"[1]", "a request is an object"},
       {"3", "a request is an object"},
@@ -46,6 +50,7 @@ TEST(Request, IsRefusedWithTheReason) {
       {R"({"call":"qvxADD","args":[{"missing":true,"list":[]}]})", "an object is one of"},
       {R"({"call":"qvxADD","args":[{"error":2041}]})", "one of the codes"},
       {R"({"call":"qvxADD","args":[{"error":2042.0}]})", "one of the codes"},
+      {R"({"call":"qvxADD","args":[{"error":1e999}]})", "one of the codes"},
       {R"({"call":"qvxADD","args":[{"array":[1]}]})", "number1[0]: a row is given as"},
       {R"({"call":"qvxADD","args":[{"array":[[1,2],[3]]}]})", "of the same length"},
       {R"({"call":"qvxADD","args":[{"list":[1,[2]]}]})", "number1[1]: a bare [...]"},
@@ -68,6 +73,7 @@ TEST(Request, IdComesBackAsItWasSent) {
                                         "-7",
                                         "1.50",
                                         "123456789012345678901234567890",
+                                        "[1,1e999,-2e999]",
                                         R"({"z":[1,{}],"a":[[],"x"],"m":null})",
                                         "[]"};
   for (const std::string& id : ids) {

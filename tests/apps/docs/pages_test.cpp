@@ -13,6 +13,7 @@
 #include "formula/reference.h"
 #include "frame/catalogue.h"
 #include "sheet/csv.h"
+#include "sheet/recalculate.h"
 #include "sheet/workbook.h"
 
 namespace quorvex {
@@ -100,7 +101,7 @@ TEST(Pages, PictureShowsWhatTheSheetGives) {
   Load_Csv(std::string(QUORVEX_SOURCE) + "/examples/at-a-glance.csv", sheet);
   cls_Quorvex engine;
   const Example_Settings settings;
-  book.recalculate(engine);
+  Recalculate_All(book, engine);
   std::size_t formulas = 0;
   for (const auto& [address, cell] : sheet.cells()) {
     EXPECT_NE(picture.find(">" + In_Markup(Shown_Value(cell)) + "</text>"), std::string::npos)

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "host/run_time_failure.h"
-#include "sheet/workbook.h"
+#include "sheet/recalculate.h"
 #include "support/locales.h"
 
 namespace quorvex {
@@ -22,7 +22,7 @@ class Recalculate : public testing::Test {
   void fill(const std::vector<Filled>& cells) {
     for (const auto& [cell, typed] : cells) sheet.set(Read_Address(cell).value(), typed);
   }
-  void calculate() { book.recalculate(engine); }
+  void calculate() { Recalculate_All(book, engine); }
   std::string shown(const char* cell) { return sheet.shown(Read_Address(cell).value()); }
   std::string message(const char* cell) {
     const Cell_Problem* problem = sheet.problem(Read_Address(cell).value());
@@ -213,7 +213,7 @@ TEST_F(Recalculate, CalculatesAChainOfAMillionCellsOnceEach) {
     sheet.set({row, 1}, "=A" + std::to_string(row + 1));
   std::size_t calls = 0;
   std::size_t last_done = 0;
-  book.recalculate(engine, [&](std::size_t done, std::size_t all) {
+  Recalculate_All(book, engine, [&](std::size_t done, std::size_t all) {
     ++calls;
     last_done = done;
     ASSERT_EQ(all, rows - 1);

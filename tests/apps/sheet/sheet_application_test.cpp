@@ -55,7 +55,7 @@ TEST_F(Embedded_Host, RecalculatesTheFunctionsTheirNamesAndWhatDependsOnThem) {
   set("A5", "qvx, a note");
   set("A6", "'=qvxADD(1,2)");
   set("A7", "=A1");
-  book_->recalculate(engine_);
+  Recalculate_All(*book_, engine_);
   const std::string before = "0.333333333333333333333";
   for (const char* cell : {"A1", "A2", "A3", "A4", "A7"}) EXPECT_EQ(shown(cell), before) << cell;
   EXPECT_FALSE(application_->is_written());
@@ -71,11 +71,11 @@ TEST_F(Embedded_Host, LeavesWhatUsesNoFunctionAsItWas) {
   sheet_.define_name("inner", "qvxDIVIDE(1,3)");
   sheet_.define_name("outer", "inner");
   set("A1", "=outer");  // only a name's name leads to the function
-  book_->recalculate(engine_);
+  Recalculate_All(*book_, engine_);
   const std::string before = shown("A1");
   recalculate_with(3);
   EXPECT_EQ(shown("A1"), before);
-  book_->recalculate(engine_);
+  Recalculate_All(*book_, engine_);
   EXPECT_EQ(shown("A1"), "0.3333");
 }
 
@@ -84,7 +84,7 @@ TEST_F(Embedded_Host, KeepsCirclesAndArraysRight) {
   set("A2", "=qvxADD(A1,1)");
   set("B1", "=qvxREDUCEFRACTION(2,qvxPi())");
   set("A9", "=B3");
-  book_->recalculate(engine_);
+  Recalculate_All(*book_, engine_);
   const std::string before = shown("A9");
   recalculate_with(2);
   EXPECT_EQ(shown("A1"), "#CIRCULAR!");
@@ -97,7 +97,7 @@ TEST_F(Embedded_Host, AWrittenFormulaIsCalculatedWithItsDependents) {
   set("A1", "=qvxADD(1,1)");
   set("A2", "=qvxADD(A1,1)");
   set("A3", "=qvxDIVIDE(1,3)");
-  book_->recalculate(engine_);
+  Recalculate_All(*book_, engine_);
   Set_Default_MaxSD(2);
   const auto cell =
       application_->Workbooks()->next()->worksheets()->next()->UsedRange()->Cells()->next();

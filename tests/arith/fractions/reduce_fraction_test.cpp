@@ -1,105 +1,117 @@
 // Reduced fractions against an independent greatest common divisor.
 #include "arith/fractions/reduce_fraction.h"
 
-#include <gmp.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string>
 
 #include "arith/fractions/exact_divisor.h"
-#include "arith/fractions/whole_divisor.h"
 #include "support/failures.h"
 #include "support/random_numbers.h"
 #include "support/surroundings.h"
+#include "support/whole_number.h"
+#include "support/without_libraries.h"
+#include "text/options.h"
 
 namespace quorvex {
 namespace {
 
-class Integer {
- public:
-  explicit Integer(const std::string& text = "0") { mpz_init_set_str(value, text.c_str(), 10); }
-  Integer(const Integer&) = delete;
-  Integer& operator=(const Integer&) = delete;
-  ~Integer() { mpz_clear(value); }
-
-  std::string text() const {
-    std::string digits(mpz_sizeinbase(value, 10) + 2, '\0');
-    mpz_get_str(digits.data(), 10, value);
-    return digits.substr(0, digits.find('\0'));
-  }
-
-  mpz_t value;
+// The digits of a decimal without its separator, and how many of them stand behind it.
+struct Split {
+  std::string digits;
+  std::size_t decimals = 0;
 };
 
-std::string Product(const std::string& a, const std::string& b) {
-  const Integer first(a);
-  const Integer second(b);
-  Integer product;
-  mpz_mul(product.value, first.value, second.value);
-  return product.text();
+Split Split_Of(const std::string& number) {
+  const std::size_t place = number.find('.');
+  if (place == std::string::npos) return {number, 0};
+  return {number.substr(0, place) + number.substr(place + 1), number.size() - place - 1};
 }
 
-// A whole number that is not 0.
-std::string Random_Whole(Random_Numbers& random, std::size_t most) {
+// A whole number, or one with a separator among its digits or zeros in front of them.
+std::string With_Decimals(Random_Numbers& random, std::string digits) {
   const std::string sign = random.one_in(3) ? "-" : "";
-  return sign + std::to_string(1 + random.below(9)) + random.digits(random.below(most));
+  if (random.one_in(2)) return sign + digits;
+  const std::size_t decimals = 1 + random.below(digits.size() + 6);
+  if (digits.size() <= decimals) digits.insert(0, decimals + 1 - digits.size(), '0');
+  if (digits.back() == '0') digits.back() = '5';
+  return sign + digits.insert(digits.size() - decimals, ".");
 }
 
-TEST(ReducedFractions, HaveNothingInCommonAtAnyLength) {
+bool Is_One(const std::string& number) {
+  return number == "1" || number == "-1";
+}
+
+// Where both have decimals and the numerator more, the scale is another one.
+bool Is_Scaled_Apart(const Split& n, const Split& d) {
+  return d.decimals > 0 && n.decimals > d.decimals;
+}
+
+void Expect_Lowest_Terms(const std::string& N, const std::string& D, bool always) {
+  const Split n = Split_Of(N);
+  const Split d = Split_Of(D);
+  const std::size_t decimals = std::max(n.decimals, d.decimals);
+  const std::string A = n.digits + std::string(decimals - n.decimals, '0');
+  const std::string B = d.digits + std::string(decimals - d.decimals, '0');
+  const Whole_Number a(A);
+  const Whole_Number b(B);
+  const Whole_Number scale("1" + std::string(decimals, '0'));
+  const type_Fraction fraction = Reduce_Fraction(N, D, {.always_simplify = always});
+  SCOPED_TRACE(N + " / " + D);
+
+  if (!Is_One(N) && !Is_One(D) && Whole_Number::Have_One_Magnitude(a, b) &&
+      std::max(A.size(), B.size()) > 9) {
+    EXPECT_EQ(fraction.Numerator + "/" + fraction.divisor, A + "/" + B);
+    EXPECT_EQ(fraction.Reduced_By, "1");
+    return;
+  }
+  const Whole_Number common = Whole_Number::Common_Divisor(a, b);
+  if (Is_One(N) || Is_One(D) || (!always && common < scale)) {
+    EXPECT_EQ(fraction.Numerator + "/" + fraction.divisor, N + "/" + D);
+    EXPECT_EQ(fraction.Reduced_By, "1");
+    return;
+  }
+  EXPECT_EQ(Whole_Number(fraction.Numerator), a / common);
+  EXPECT_EQ(Whole_Number(fraction.divisor), b / common);
+  const Split by = Split_Of(fraction.Reduced_By);
+  ASSERT_LE(by.decimals, decimals);
+  EXPECT_EQ(Whole_Number(by.digits + std::string(decimals - by.decimals, '0')), common);
+}
+
+TEST(ReducedFractions, HaveNothingInCommonAtAnyLengthAndDefault) {
   Random_Numbers random(81);
-  const HostValue limit = 2000;
-  for (int round = 0; round < 400; ++round) {
-    const std::size_t most = random.one_in(4) ? 300 : 25;
-    const std::string common = Random_Whole(random, most);
-    const std::string N = Product(Random_Whole(random, most), common);
-    const std::string D = Product(Random_Whole(random, most), common);
-    const type_Fraction fraction = Reduce_Fraction(N, D, {.maxSD = limit});
-    const Integer n(N);
-    const Integer d(D);
-    Integer divisor;
-    mpz_gcd(divisor.value, n.value, d.value);
-    const bool stays = N == "1" || N == "-1" || D == "1" || D == "-1" ||
-                       (mpz_cmpabs(n.value, d.value) == 0 && std::max(N.size(), D.size()) > 9);
-    ASSERT_EQ(fraction.Reduced_By, stays ? "1" : divisor.text()) << N << '/' << D;
-    ASSERT_EQ(Product(fraction.Numerator, fraction.Reduced_By), N) << N << '/' << D;
-    ASSERT_EQ(Product(fraction.divisor, fraction.Reduced_By), D) << N << '/' << D;
+  const double before = Default_MaxSD();
+  for (int round = 0; round < 6000 && !testing::Test::HasFailure(); ++round) {
+    constexpr double defaults[] = {1, 20, 100, 5000, maximum_digits};
+    Set_Default_MaxSD(defaults[random.below(std::size(defaults))]);
+    constexpr std::size_t lengths[] = {8, 30, 250, 2000};
+    const auto [a, b] = Random_Pair(random, lengths[random.below(std::size(lengths))]);
+    const std::string N = With_Decimals(random, a);
+    const std::string D = With_Decimals(random, b);
+    if (Is_Scaled_Apart(Split_Of(N), Split_Of(D))) continue;
+    Expect_Lowest_Terms(N, D, random.one_in(2));
   }
+  Set_Default_MaxSD(before);
 }
 
-// Remainders longer than the limit are rounded to it, so that what comes out need not divide:
-// 1235, 1232, 30, 20, 10 are the first digits in the first case.
-TEST(ReducedFractions, AreRoundedAtTheLimit) {
-  const HostValue limit = 3;
-  const struct {
-    const char* numerator;
-    const char* divisor;
-    const char* expected;
-  } cases[] = {
-      {"98765432109876543210", "12345678901234567890", "10000000000000000"},
-      {"1000000000000000000", "999999999999999999", "1000000000000000000"},
-      {"123456789012", "1234567890120", "123500000000"},
-  };
-  for (const auto& c : cases) {
-    const type_Fraction fraction = Reduce_Fraction(c.numerator, c.divisor, {.maxSD = limit});
-    EXPECT_EQ(fraction.Reduced_By, c.expected) << c.numerator;
-  }
-}
-
-TEST(CommonDivisor, IsTheSameByTextAndInWords) {
+// The divisor gets as many zeros as its separator stands further to the right: two here, whatever
+// the decimals of both.
+TEST(ReducedFractions, AreExactAlsoWhereTheZerosAreMiscounted) {
   Random_Numbers random(82);
-  for (int round = 0; round < 600; ++round) {
-    const std::size_t most = random.one_in(4) ? 200 : 30;
-    std::string A = Product(Random_Whole(random, most), Random_Whole(random, most));
-    std::string B = random.one_in(8) ? A : Product(Random_Whole(random, most), A);
-    if (random.one_in(2)) B = Random_Whole(random, most);
-    if (random.one_in(3)) A += std::string(random.below(60), '0');
-    if (random.one_in(3)) B += std::string(random.below(60), '0');
-    const auto limit = static_cast<double>(1 + random.below(2 * most));
-    const Common_Divisor quick = Divisor_Of(A, B, limit);
-    const Common_Divisor by_text = Divisor_Of(A, B, limit, Remainders::by_text);
-    ASSERT_EQ(quick.are_equal, by_text.are_equal) << A << ' ' << B << " at " << limit;
-    ASSERT_EQ(quick.divisor, by_text.divisor) << A << ' ' << B << " at " << limit;
+  int judged = 0;
+  while (judged < 500) {
+    auto [n, d] = Random_Pair(random, 300);
+    if (n.size() < d.size()) n.swap(d);
+    if (d.size() < 10 || n.back() == '0' || d.back() == '0') continue;
+    ++judged;
+    const Whole_Number a(n);
+    const Whole_Number b(d + "00");
+    const Whole_Number common = Whole_Number::Common_Divisor(a, b);
+    const type_Fraction fraction =
+        Reduce_Fraction(n.insert(1, "."), d.insert(3, "."), {.always_simplify = true});
+    ASSERT_EQ(Whole_Number(fraction.Numerator), a / common) << n << " / " << d;
+    ASSERT_EQ(Whole_Number(fraction.divisor), b / common) << n << " / " << d;
   }
 }
 
@@ -107,24 +119,22 @@ TEST(CommonDivisor, IsTheSameByTextAndInWords) {
 TEST(CommonDivisor, IsExactInWords) {
   Random_Numbers random(83);
   for (int round = 0; round < 1500; ++round) {
-    const auto whole = [&] {
-      return std::to_string(1 + random.below(9)) + random.digits(random.length(400));
-    };
-    std::string A = whole();
-    std::string B = random.one_in(3) ? random.neighbour(A) : whole();
+    auto [A, B] = Random_Pair(random, 800);
+    if (random.one_in(3)) B = random.neighbour(A);
     if (B.front() == '-') B.erase(0, 1);
     B.erase(0, std::min(B.find_first_not_of('0'), B.size() - 1));
-    if (random.one_in(2)) {
-      const std::string common = whole();
-      A = Product(A, common);
-      B = Product(B, common);
-    }
-    const Integer a(A);
-    const Integer b(B);
-    Integer divisor;
-    mpz_gcd(divisor.value, a.value, b.value);
+    const Whole_Number divisor = Whole_Number::Common_Divisor(Whole_Number(A), Whole_Number(B));
     ASSERT_EQ(Exact_Divisor(A, B), divisor.text()) << A << ' ' << B;
   }
+}
+
+TEST(ReducedFractions, AreATokenWhereNoProductsCanBeFormed) {
+  const Without_Libraries without;
+  const type_Fraction fraction =
+      Reduce_Fraction("12345678901234567890", "98765432109876543210", {});
+  EXPECT_EQ(fraction.Numerator, "#VALUE!");
+  EXPECT_EQ(fraction.divisor, "#VALUE!");
+  EXPECT_EQ(fraction.Reduced_By, "#VALUE!");
 }
 
 TEST(ReducedFractions, CanBeBrokenOff) {

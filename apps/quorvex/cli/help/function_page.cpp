@@ -47,7 +47,8 @@ constexpr std::string_view on_lists =
     "| `currency` | the currency symbol |\n"
     "| `exponent` | E notation, without grouping |\n"
     "| `MSD=n` | at most n significant digits, from where it stands in the list on; without it "
-    "nothing is cut, whatever the default limit is |\n\n"
+    "nothing is cut, whatever the default limit is. Divisors and multiples are worked out with all "
+    "digits and shown at this limit, wherever it stands; without it, at the default limit |\n\n"
     "Blank cells are passed over, and so is text that is no number.\n\n";
 
 std::string Code(std::string_view text) {

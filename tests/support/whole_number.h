@@ -1,0 +1,93 @@
+// Whole numbers of any length by GMP, to judge divisors and multiples, and pairs of them.
+#pragma once
+
+#include <gmp.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <utility>
+
+#include "support/random_numbers.h"
+
+namespace quorvex {
+
+class Whole_Number {
+ public:
+  explicit Whole_Number(const std::string& text = "0") {
+    mpz_init_set_str(value_, text.c_str(), 10);
+  }
+  Whole_Number(const Whole_Number& other) { mpz_init_set(value_, other.value_); }
+  Whole_Number& operator=(const Whole_Number& other) {
+    mpz_set(value_, other.value_);
+    return *this;
+  }
+  ~Whole_Number() { mpz_clear(value_); }
+
+  std::string text() const {
+    std::string digits(mpz_sizeinbase(value_, 10) + 2, '\0');
+    mpz_get_str(digits.data(), 10, value_);
+    return digits.substr(0, digits.find('\0'));
+  }
+  bool is_zero() const { return mpz_sgn(value_) == 0; }
+
+  /// Never negative.
+  static Whole_Number Common_Divisor(const Whole_Number& a, const Whole_Number& b) {
+    Whole_Number divisor;
+    mpz_gcd(divisor.value_, a.value_, b.value_);
+    return divisor;
+  }
+  static bool Have_One_Magnitude(const Whole_Number& a, const Whole_Number& b) {
+    return mpz_cmpabs(a.value_, b.value_) == 0;
+  }
+  /// The quotient by a divisor of the dividend.
+  friend Whole_Number operator/(const Whole_Number& a, const Whole_Number& b) {
+    Whole_Number quotient;
+    mpz_divexact(quotient.value_, a.value_, b.value_);
+    return quotient;
+  }
+  friend Whole_Number operator*(const Whole_Number& a, const Whole_Number& b) {
+    Whole_Number product;
+    mpz_mul(product.value_, a.value_, b.value_);
+    return product;
+  }
+  friend bool operator==(const Whole_Number& a, const Whole_Number& b) {
+    return mpz_cmp(a.value_, b.value_) == 0;
+  }
+  friend bool operator<(const Whole_Number& a, const Whole_Number& b) {
+    return mpz_cmp(a.value_, b.value_) < 0;
+  }
+
+ private:
+  mpz_t value_;
+};
+
+inline std::string Product(const std::string& a, const std::string& b) {
+  return (Whole_Number(a) * Whole_Number(b)).text();
+}
+
+/// A whole number above 0, often beside a power of ten.
+inline std::string Random_Whole(Random_Numbers& random, std::size_t most) {
+  const std::size_t length = 1 + random.length(most - 1);
+  if (random.one_in(6)) return std::string(length, '9');
+  if (random.one_in(6)) return "1" + std::string(length - 1, '0').replace(length / 2, 1, "1");
+  return std::to_string(1 + random.below(9)) + random.digits(length - 1);
+}
+
+/// Two whole numbers above 0 of up to `most` digits: with a common factor, one a multiple of the
+/// other, equal, with zeros at their ends, or next to each other.
+inline std::pair<std::string, std::string> Random_Pair(Random_Numbers& random, std::size_t most) {
+  const std::size_t half = most / 2;
+  std::string a = Random_Whole(random, half);
+  std::string b = random.one_in(6) ? a : Random_Whole(random, half);
+  const std::string factor = Random_Whole(random, random.one_in(3) ? half : std::min(half, 12UL));
+  if (!random.one_in(4)) a = Product(a, factor);
+  if (!random.one_in(4)) b = Product(b, factor);
+  if (random.one_in(4)) a += std::string(random.below(most - a.size() + 1), '0');
+  if (random.one_in(4)) b += std::string(random.below(most - b.size() + 1), '0');
+  if (random.one_in(8) && a.back() < '9') (b = a).back() = static_cast<char>(a.back() + 1);
+  if (random.one_in(2)) std::swap(a, b);
+  return {a, b};
+}
+
+}  // namespace quorvex
