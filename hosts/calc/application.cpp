@@ -6,6 +6,9 @@
 #include <com/sun/star/frame/Desktop.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XArrayFormulaRange.hpp>
+#include <com/sun/star/sheet/XArrayFormulaTokens.hpp>
+#include <com/sun/star/sheet/XCellAddressable.hpp>
+#include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XNamedRange.hpp>
 #include <com/sun/star/sheet/XSheetCellCursor.hpp>
@@ -62,15 +65,14 @@ class Cell_Of_Office final : public Host_Cell {
   }
 
   // A cell of an array formula can't be written alone: the whole array is, once, by its first cell.
+  // As tokens, since as text it is read and written in different languages.
   void set_formula(std::string_view formula) override {
     Asked([&] {
       const auto array = Array_Around();
       if (!array.is()) return cell_->setFormula(To_Utf16(formula));
-      const uno::Reference<table::XCellRange> range(array, uno::UNO_QUERY_THROW);
-      if (range->getCellByPosition(0, 0) != cell_) return;
-      const rtl::OUString text = array->getArrayFormula();
-      const sal_Int32 bare = text.getLength() - 2;  // it stands in braces
-      array->setArrayFormula(text.startsWith("{") ? text.copy(1, bare) : text);
+      if (!Begins_Here(array)) return;
+      const uno::Reference<sheet::XArrayFormulaTokens> tokens(array, uno::UNO_QUERY_THROW);
+      tokens->setArrayTokens(tokens->getArrayTokens());
     });
   }
 
@@ -82,6 +84,14 @@ class Cell_Of_Office final : public Host_Cell {
     if (array->getArrayFormula().isEmpty()) return {};
     cursor->collapseToCurrentArray();
     return array;
+  }
+
+  bool Begins_Here(const uno::Reference<sheet::XArrayFormulaRange>& array) {
+    const uno::Reference<sheet::XCellRangeAddressable> area(array, uno::UNO_QUERY_THROW);
+    const uno::Reference<sheet::XCellAddressable> here(cell_, uno::UNO_QUERY_THROW);
+    const table::CellRangeAddress range = area->getRangeAddress();
+    const table::CellAddress cell = here->getCellAddress();
+    return range.StartRow == cell.Row && range.StartColumn == cell.Column;
   }
 
   uno::Reference<sheet::XSpreadsheet> sheet_;

@@ -1,6 +1,7 @@
 """An office of one's own: a fresh profile, an extension or none, and what drives it."""
 
 import atexit
+import contextlib
 import functools
 import os
 import pathlib
@@ -118,10 +119,8 @@ class Office:
 
     def close(self):
         """Ends the office as a user does. Gives its exit code, or None if it had to be killed."""
-        try:
+        with contextlib.suppress(Exception):  # it may go before it can answer
             self.desktop.terminate()
-        except DisposedException:
-            pass  # it went before it could answer
         try:
             return self.process.wait(60)
         except subprocess.TimeoutExpired:

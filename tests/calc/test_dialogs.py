@@ -13,6 +13,7 @@ import unittest
 import office
 from com.sun.star.accessibility.AccessibleRole import (
     ALERT, LABEL, PUSH_BUTTON, STATIC, TEXT)
+from com.sun.star.awt import KeyEvent
 from sheets import cell, fill, shown
 
 LARGEST = "2147483648"
@@ -52,6 +53,7 @@ def tree(accessible):
 
 class Window:
     def __init__(self, window):
+        self.peer = window
         self.items = list(tree(window))
         self.title = self.items[0].getAccessibleName()
 
@@ -104,11 +106,21 @@ class Driver:
             time.sleep(0.1)
         raise AssertionError(f"no {title!r} among {[each.title for each in self.windows()]}")
 
+    def type_keys(self, window, text):
+        for sign in text:
+            key = KeyEvent(KeyChar=sign)
+            key.Source = window.peer
+            self.toolkit.keyPress(key)
+            self.toolkit.keyRelease(key)
+
+    def settle_last(self):
+        thread = self.waiting.pop()
+        thread.join(10)
+        assert not thread.is_alive(), "a dialog stays open"
+
     def settle(self):
-        for thread in self.waiting:
-            thread.join(20)
-            assert not thread.is_alive(), "a dialog stays open"
-        self.waiting.clear()
+        while self.waiting:
+            self.settle_last()
 
 
 class Dialogs(unittest.TestCase):
@@ -123,20 +135,26 @@ class Dialogs(unittest.TestCase):
     def tearDown(self):
         if self.driver.waiting:  # a dialog that stays open would keep the office
             self.office.kill()
+        else:
+            self.document.close(True)
 
     def stored(self, key):
         lines = (self.home / "config/quorvex/settings").read_text().splitlines()
         found = dict(line.split(" = ") for line in lines if " = " in line)
         return found.get(f"Quorvex/{key}")
 
-    def type_into(self, window, text):
-        """Types over what the box holds; a message may come up meanwhile."""
-        self.driver.background(window.box().setText, text)
-
     def expect_message(self, title, text):
         window = self.driver.window(title, is_message=True)
         self.assertIn(text, " ".join(window.names(STATIC)))
         return window
+
+    def expect_box(self, box, text, caret=None):
+        end = time.monotonic() + 5
+        while time.monotonic() < end and box.getText() != text:
+            time.sleep(0.05)
+        self.assertEqual(box.getText(), text)
+        if caret is not None:
+            self.assertEqual(box.getCaretPosition(), caret)
 
     def test_max_sd_is_checked_at_each_change_and_stored(self):
         self.driver.choose("max-sd")
@@ -145,24 +163,31 @@ class Dialogs(unittest.TestCase):
         self.assertEqual(dialog.names(PUSH_BUTTON), ["OK", "Cancel"])
         box = dialog.box()
         self.assertEqual((box.getText(), box.getCaretPosition()), ("100", 3))
-        # What is typed or pasted, whether a message comes, what stands there then, and the caret.
-        for typed, message, text, caret in [
-                ("250", None, "250", None),
-                ("2a50", "Enter digits (0-9) only.", "250", 1),
-                ("x", "Enter digits (0-9) only.", "250", 0),
-                ("99999999999", f"{LARGEST} significant digits.", LARGEST, len(LARGEST)),
-                (LARGEST, None, LARGEST, None),
-                ("", None, "", None),
-                ("-1", "Enter digits (0-9) only.", "", 0),
-                ("30", None, "30", None)]:
-            with self.subTest(typed=typed):
-                self.type_into(dialog, typed)
+        # Where the caret is put, what is typed there, and then: the message, the text, the caret.
+        for at, typed, message, text, caret in [
+                (3, "5", None, "1005", 4),
+                (1, "a", "Enter digits (0-9) only.", "1005", 1),
+                (4, "-", "Enter digits (0-9) only.", "1005", 4),
+                (4, "000000000", f"{LARGEST} significant digits.", LARGEST, len(LARGEST)),
+                (0, "0", None, "0" + LARGEST, 1)]:
+            with self.subTest(typed=typed, at=at):
+                box.setCaretPosition(at)
+                self.driver.type_keys(dialog, typed)
                 if message:
                     self.expect_message("Quorvex", message).press("OK")
-                self.driver.waiting.pop().join(10)
-                self.assertEqual(box.getText(), text)
-                if caret is not None:
-                    self.assertEqual(box.getCaretPosition(), caret)
+                self.expect_box(box, text, caret)
+        # The same for what is pasted over all.
+        for pasted, message, text in [
+                ("250", None, "250"), ("2a50", "Enter digits (0-9) only.", "250"),
+                ("99999999999", f"{LARGEST} significant digits.", LARGEST),
+                (LARGEST, None, LARGEST), ("", None, ""), ("-1", "Enter digits", ""),
+                ("30", None, "30")]:
+            with self.subTest(pasted=pasted):
+                self.driver.background(box.setText, pasted)
+                if message:
+                    self.expect_message("Quorvex", message).press("OK")
+                self.driver.settle_last()
+                self.expect_box(box, text)
         dialog.press("Cancel")
         self.driver.settle()
         self.assertEqual(self.stored("Options/MaxSD"), "100")
@@ -178,8 +203,7 @@ class Dialogs(unittest.TestCase):
         for answer, typed, here in (("No", "20", 103), ("Yes", "10", 13)):
             self.driver.choose("max-sd")
             dialog = self.driver.window("Set Default Max SD")
-            self.type_into(dialog, typed)
-            self.driver.waiting.pop().join(10)
+            dialog.box().setText(typed)
             self.driver.background(dialog.press, "OK")
             self.expect_message("Set Default Max SD", QUESTION).press(answer)
             self.driver.settle()
@@ -196,7 +220,7 @@ class Dialogs(unittest.TestCase):
         self.assertIn("Default Max SD:\n100", about.names(LABEL))
         self.driver.background(about.press, "Set Default Max SD")
         dialog = self.driver.window("Set Default Max SD")
-        self.type_into(dialog, "70")
+        dialog.box().setText("70")
         self.driver.background(dialog.press, "OK")
         self.expect_message("Set Default Max SD", "Recalculate").press("No")
         about = self.driver.window("About Quorvex 3.1")
