@@ -200,6 +200,7 @@ class Dialogs(unittest.TestCase):
         sheet.getCellRangeByName("B1:B2").setArrayFormula("=QVXSORT({1|2};TRUE())&LEN(QVXPI())")
         other.Sheets.getByIndex(0).protect("")
         digits = lambda document, address: len(cell(document, address).getString())
+        self.assertEqual(digits(other, "A1"), 103)
         for answer, typed, here in (("No", "20", 103), ("Yes", "10", 13)):
             self.driver.choose("max-sd")
             dialog = self.driver.window("Set Default Max SD")
