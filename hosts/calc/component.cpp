@@ -70,7 +70,7 @@ class Functions final : public cppu::WeakImplHelper2<::quorvex::calc::XFunctions
   template <std::size_t count>
   Any call(std::size_t index, const std::array<const Any*, count>& given) {
     return guarded([&] {
-      const Deadline deadline;
+      const Timed_Call timed;
       const Method& method = *offered_[index];
       std::array<HostValue, count> arguments;
       for (std::size_t place = 0; place < count; ++place) {
@@ -82,7 +82,7 @@ class Functions final : public cppu::WeakImplHelper2<::quorvex::calc::XFunctions
 
   Any call_list(std::size_t index, const Sequence<Any>& given) {
     return guarded([&] {
-      const Deadline deadline;
+      const Timed_Call timed;
       List list;
       list.reserve(static_cast<std::size_t>(given.getLength()));
       for (const Any& argument : given) list.push_back(From_Office(argument));

@@ -1,47 +1,30 @@
 #include "deadline.h"
 
-#include <atomic>
-#include <chrono>
-#include <cmath>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "host/conversions.h"
+#include "host/platform.h"
 #include "host/run_time_failure.h"
 
 namespace quorvex::calc {
 namespace {
 
-using Time = std::chrono::steady_clock;
-
 constexpr std::string_view application = "Quorvex";
 constexpr std::string_view section = "Calc";
 constexpr std::string_view key = "TimeLimit";
 
-// The office calls from one thread at a time, but not always from the same.
-struct State {
-  int depth = 0;
-  std::optional<Time::time_point> started;
-  double limit = default_time_limit;
-};
-
-State& Now() {
-  static State state;
-  return state;
+// The office calls from one thread at a time.
+std::shared_ptr<Call_Deadline>& Installed() {
+  static std::shared_ptr<Call_Deadline> installed;
+  return installed;
 }
 
-class Looking_At_The_Clock final : public Yielder {
- public:
-  // The clock is looked at before anything else happens: a call that yields is a long one.
-  void yield() override {
-    const State& now = Now();
-    if (now.depth == 0 || now.limit <= 0) return;
-    const std::chrono::duration<double> passed = Time::now() - *now.started;
-    if (passed.count() < now.limit) return;
-    throw Run_Time_Failure(Failure_Number::interrupted,
-                           "The calculation has taken longer than the time limit.");
-  }
-};
+void Install(double seconds) {
+  Installed() = std::make_shared<Call_Deadline>(seconds);
+  Current_Platform().yielder = Installed();
+}
 
 }  // namespace
 
@@ -58,21 +41,29 @@ double Time_Limit() {
 
 void Set_Time_Limit(double seconds) {
   Current_Platform().settings->write(application, section, key, Number_To_Text(seconds));
-  Now().limit = seconds;
+  Install(seconds);
 }
 
-std::shared_ptr<Yielder> Deadline_Yielder() {
-  Now().limit = Time_Limit();
-  return std::make_shared<Looking_At_The_Clock>();
+Call_Deadline::Call_Deadline(double seconds)
+    : Deadline(seconds > 0 ? std::optional(Seconds(seconds)) : std::nullopt) {}
+
+Call_Deadline::~Call_Deadline() = default;
+
+void Call_Deadline::yield() {
+  if (runs_) Deadline::yield();
 }
 
-Deadline::Deadline() {
-  State& now = Now();
-  if (now.depth++ == 0) now.started = Time::now();
+Timed_Call::Timed_Call() : deadline_(Installed()) {
+  deadline_->begin_call();
+  deadline_->runs_ = true;
 }
 
-Deadline::~Deadline() {
-  --Now().depth;
+Timed_Call::~Timed_Call() {
+  deadline_->runs_ = false;
+}
+
+void Install_Deadline() {
+  Install(Time_Limit());
 }
 
 }  // namespace quorvex::calc

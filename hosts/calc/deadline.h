@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "host/platform.h"
+#include "host/deadline.h"
 
 namespace quorvex::calc {
 
@@ -13,20 +13,34 @@ inline constexpr double default_time_limit = 30;
 /// The limit that the user has stored, or the default where none is stored that makes sense.
 double Time_Limit();
 
-/// Stores it. Fails as the settings store does.
+/// Stores it, for the calls to come. Fails as the settings store does.
 void Set_Time_Limit(double seconds);
 
-/// What looks at the clock. To be put in the platform's place for it.
-std::shared_ptr<Yielder> Deadline_Yielder();
-
-/// Makes the calculation of this scope fail with `interrupted` when the limit has passed. Scopes
-/// may be nested: the outermost counts.
-class Deadline {
+/// Ends calls at the limit, and nothing between them: dialogs may stay open as long as they will.
+class Call_Deadline final : public Deadline {
  public:
-  Deadline();
-  Deadline(const Deadline&) = delete;
-  Deadline& operator=(const Deadline&) = delete;
-  ~Deadline();
+  explicit Call_Deadline(double seconds);
+  ~Call_Deadline() override;
+  void yield() override;
+
+ private:
+  friend class Timed_Call;
+  bool runs_ = false;
 };
+
+/// The scope of a call.
+class Timed_Call {
+ public:
+  Timed_Call();
+  Timed_Call(const Timed_Call&) = delete;
+  Timed_Call& operator=(const Timed_Call&) = delete;
+  ~Timed_Call();
+
+ private:
+  std::shared_ptr<Call_Deadline> deadline_;
+};
+
+/// Puts a deadline of the stored limit into the platform's place for it.
+void Install_Deadline();
 
 }  // namespace quorvex::calc

@@ -1,6 +1,7 @@
 // The forms of the add-in as dialogs of the office.
 #include <com/sun/star/awt/Selection.hpp>
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -26,10 +27,10 @@ class Entry {
   void user_has_typed() {
     if (is_updating_) return;
     const auto entry = dialog_.entry("txtMaxSD");
-    const std::string text = To_Utf8(entry->getText());
-    if (text == box_.Text()) return;
-    box_.type_over(text);
-    if (box_.Text() != text) show();
+    const rtl::OUString text = entry->getText();
+    const auto caret = std::clamp<sal_Int32>(entry->getSelection().Max, 0, text.getLength());
+    box_.edited(To_Utf8(text), To_Utf8(text.copy(0, caret)).size());
+    if (box_.Text() != To_Utf8(text)) show();
   }
 
   void show() {

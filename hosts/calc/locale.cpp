@@ -23,20 +23,20 @@ constexpr std::string_view apostrophe = "'";
 constexpr std::string_view typographic_apostrophe = "\u2019";
 
 // A currency as a format writes it: "[$€-407]" or "[$CHF]" stands for the symbol.
-struct Currency {
+struct Format_Currency {
   std::string symbol;
   Currency_Side side = Currency_Side::before;
 };
 
 // Blanks between symbol and number belong to the symbol, on either side.
-Currency Currency_Of(std::string_view format) {
+Format_Currency Currency_Of(std::string_view format) {
   format = format.substr(0, format.find(';'));
   const std::size_t mark = format.find("[$");
   const std::size_t end = format.find(']', mark);
   if (mark == std::string_view::npos || end == std::string_view::npos) return {"$"};
   std::string_view symbol = format.substr(mark + 2, end - mark - 2);
   symbol = symbol.substr(0, symbol.find('-'));
-  Currency currency{std::string(symbol)};
+  Format_Currency currency{std::string(symbol)};
   if (mark < format.find_first_of("#0")) {
     const std::size_t first_digit = std::min(format.find_first_of("#0", end), format.size());
     currency.symbol += format.substr(end + 1, first_digit - end - 1);
@@ -58,28 +58,30 @@ class Locale_Of_Office final : public Locale_Source {
   explicit Locale_Of_Office(const Context& context)
       : data_(i18n::LocaleData2::create(context).get()), context_(context) {}
 
-  // An empty locale stands for the user's.
-  const Locale& current() override {
-    const i18n::LocaleDataItem item = data_->getLocaleItem(lang::Locale());
-    if (item.decimalSeparator != decimal_ || item.thousandSeparator != thousands_) {
-      decimal_ = item.decimalSeparator;
-      thousands_ = item.thousandSeparator;
-      groups_by_apostrophe = To_Utf8(thousands_) == apostrophe;
-      locale_ = Read();
-    }
-    return locale_;
+  Separators separators() override {
+    const Locale locale = Usable_Locale(Report());
+    return {locale.decimal_separator, locale.thousands_separator};
+  }
+
+  Currency currency() override {
+    Locale_Report report = Report();
+    const Format_Currency found = Currency_Of(To_Utf8(Currency_Format()));
+    report.currency_symbol = found.symbol;
+    report.currency_side = found.side;
+    const Locale locale = Usable_Locale(report);
+    return {locale.currency_symbol, locale.currency_side};
   }
 
  private:
-  Locale Read() {
-    const Currency currency = Currency_Of(To_Utf8(Currency_Format()));
-    return Usable_Locale({.decimal_separator = To_Utf8(decimal_),
-                          .thousands_separator = To_Utf8(thousands_),
-                          .monetary_thousands_separator = groups_by_apostrophe
-                                                              ? std::string(typographic_apostrophe)
-                                                              : std::string(),
-                          .currency_symbol = currency.symbol,
-                          .currency_side = currency.side});
+  // An empty locale stands for the user's.
+  Locale_Report Report() {
+    const i18n::LocaleDataItem item = data_->getLocaleItem(lang::Locale());
+    Locale_Report report;
+    report.decimal_separator = To_Utf8(item.decimalSeparator);
+    report.thousands_separator = To_Utf8(item.thousandSeparator);
+    groups_by_apostrophe = report.thousands_separator == apostrophe;
+    if (groups_by_apostrophe) report.monetary_thousands_separator = typographic_apostrophe;
+    return report;
   }
 
   rtl::OUString Currency_Format() {
@@ -94,9 +96,6 @@ class Locale_Of_Office final : public Locale_Source {
 
   uno::Reference<i18n::XLocaleData4> data_;
   Context context_;
-  rtl::OUString decimal_;
-  rtl::OUString thousands_;
-  Locale locale_;
 };
 
 // Puts one apostrophe for another wherever it stands between digits.
@@ -118,7 +117,7 @@ std::shared_ptr<Locale_Source> Office_Locale(const Context& context) {
 
 void Read_Apostrophes(std::string& text) {
   if (text.find(apostrophe) == std::string::npos) return;
-  Current_Locale();
+  Current_Separators();
   if (groups_by_apostrophe) Replace_Between_Digits(text, apostrophe, typographic_apostrophe);
 }
 

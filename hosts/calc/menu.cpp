@@ -14,7 +14,7 @@
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "office.h"
-#include "shell/form_face.h"
+#include "shell/show_forms.h"
 #include "text.h"
 
 namespace quorvex::calc {

@@ -6,6 +6,7 @@
 #include <mutex>
 
 #include "deadline.h"
+#include "shell/start_up.h"
 
 namespace quorvex::calc {
 
@@ -29,7 +30,9 @@ void Settle_In(const Context& context) {
     Platform& platform = Current_Platform();
     platform.locale = Office_Locale(context);
     platform.message_box = Office_Message_Box(context);
-    platform.yielder = Deadline_Yielder();
+    Install_Deadline();
+    // The office is told of the functions by the extension's configuration.
+    Leave_Registration_To_Host();
     Set_Form_Face(Office_Form_Face(context));
   });
 }
