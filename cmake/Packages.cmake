@@ -1,6 +1,5 @@
 # `cpack` in the build folder, or the target `package`, makes Debian packages: the library, what is
-# needed to build against it, the tool, and the
-# extension for Calc where it is built.
+# needed to build against it, the tool, and the extension for Calc where that is built.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_VENDOR "The Quorvex developers")
 set(CPACK_PACKAGE_CONTACT "${CPACK_PACKAGE_VENDOR} <quorvex@localhost>")
