@@ -97,7 +97,7 @@ class Driver:
             with contextlib.suppress(Exception):  # some close while they are looked at
                 yield Window(self.toolkit.getTopWindow(place))
 
-    def window(self, title, is_message=False, patience=10):
+    def window(self, title, is_message=False, patience=40):
         end = time.monotonic() + patience
         while time.monotonic() < end:
             for window in self.windows():
@@ -115,7 +115,7 @@ class Driver:
 
     def settle_last(self):
         thread = self.waiting.pop()
-        thread.join(10)
+        thread.join(40)
         assert not thread.is_alive(), "a dialog stays open"
 
     def settle(self):
