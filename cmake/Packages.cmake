@@ -1,5 +1,5 @@
 # `cpack` in the build folder, or the target `package`, makes Debian packages: the library, what is
-# needed to build against it, and the tool.
+# needed to build against it, the tool, and the extension for Calc where that is built.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_VENDOR "The Quorvex developers")
 set(CPACK_PACKAGE_CONTACT "${CPACK_PACKAGE_VENDOR} <quorvex@localhost>")
@@ -30,9 +30,20 @@ set(CPACK_DEBIAN_TOOL_PACKAGE_DEPENDS "${same_version}")
 set(CPACK_COMPONENT_TOOL_DESCRIPTION
   "${PROJECT_DESCRIPTION}: the tool\n A command-line calculator with a small spreadsheet of its own.")
 
+# The extension brings the library along.
+set(CPACK_DEBIAN_CALC_PACKAGE_NAME quorvex-calc)
+set(CPACK_DEBIAN_CALC_PACKAGE_SECTION math)
+set(CPACK_DEBIAN_CALC_PACKAGE_DEPENDS "libreoffice-calc | libreoffice-calc-nogui")
+set(CPACK_COMPONENT_CALC_DESCRIPTION
+  "${PROJECT_DESCRIPTION}: the extension for LibreOffice Calc\n To be installed in the office by: unopkg add --shared /usr/share/quorvex/quorvex.oxt")
+
 set(CPACK_COMPONENTS_ALL lib dev)
 if(QUORVEX_TOOL)
   list(APPEND CPACK_COMPONENTS_ALL tool)
+endif()
+
+if(QUORVEX_CALC)
+  list(APPEND CPACK_COMPONENTS_ALL calc)
 endif()
 
 # Every package has its folder of documentation, which a library that came as a part of something

@@ -4,6 +4,8 @@
 build_packages=(g++ cmake ninja-build pkg-config libcli11-dev nlohmann-json3-dev libedit-dev)
 test_packages=(git libgtest-dev libgmp-dev libmpfr-dev clang libclang-rt-14-dev clang-format clang-tidy
   locales dpkg-dev file)
+calc_packages=(libreoffice-dev libreoffice-calc)
+calc_test_packages=(python3 python3-uno xvfb procps util-linux)
 bench_packages=(libbenchmark-dev libgmp-dev libmpfr-dev libflint-dev python3 python3-mpmath bc)
 
 # Installs the Debian packages that are not there yet.

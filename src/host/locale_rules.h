@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "host/export.h"
 #include "host/platform.h"
 
 namespace quorvex {
@@ -17,6 +18,6 @@ struct Locale_Report {
 };
 
 /// The locale that a report gives, with defaults for what it lacks or what can't be used.
-Locale Usable_Locale(const Locale_Report& report);
+QUORVEX_API Locale Usable_Locale(const Locale_Report& report);
 
 }  // namespace quorvex

@@ -176,5 +176,16 @@ TEST(Interface, IsFoundByTheNamesThatCellsUse) {
     EXPECT_EQ(Find_Method(method.worksheet_name), &method) << method.worksheet_name;
 }
 
+// Hosts without truth values go by the mark, and users by the word.
+TEST(Interface, MarksEveryParameterThatIsTrueOrFalse) {
+  for (const Method& method : Catalogue()) {
+    for (const Parameter& parameter : method.parameters) {
+      const bool is_told = parameter.help.find("TRUE") != std::string_view::npos ||
+                           parameter.name == "preserve_decimal_place";
+      EXPECT_EQ(parameter.is_truth_value, is_told) << method.name << ", " << parameter.name;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace quorvex

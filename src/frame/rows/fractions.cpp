@@ -18,12 +18,12 @@ std::vector<Method> Fraction_Rows() {
           .parameters =
               {Operand_Parameter("Numerator", first_number),
                Operand_Parameter("divisor", second_number),
-               Optional("simplify_signs", "TRUE leaves a minus to the numerator at most"),
-               Optional("always_simplify_fraction",
-                        "TRUE reduces also where the numerator becomes larger"),
-               Optional("return_numerator", "TRUE returns the numerator alone"),
-               Optional("return_divisor", "TRUE returns the divisor alone"),
-               Optional("return_reduced_by", "TRUE returns the number it was reduced by alone"),
+               Truth_Option("simplify_signs", "TRUE leaves a minus to the numerator at most"),
+               Truth_Option("always_simplify_fraction",
+                            "TRUE reduces also where the numerator becomes larger"),
+               Truth_Option("return_numerator", "TRUE returns the numerator alone"),
+               Truth_Option("return_divisor", "TRUE returns the divisor alone"),
+               Truth_Option("return_reduced_by", "TRUE returns the number it was reduced by alone"),
                Optional("fraction_separator",
                         "what stands between numerator and divisor; a slash if left out")},
           .results =

@@ -13,7 +13,7 @@ std::vector<Method> Logarithm_Rows() {
           .family = "Mantissa and exponent",
           .description = "Returns the digits of a number as a mantissa below 1.",
           .example = "Get_Mantissa(\"123.45\")",
-          .parameters = {number, Optional("as_integer", "TRUE returns the digits alone")},
+          .parameters = {number, Truth_Option("as_integer", "TRUE returns the digits alone")},
           .results = {"The mantissa as text, zeros at its end included: 0, the separator and the "
                       "digits, or the digits alone.",
                       {array_fails}},

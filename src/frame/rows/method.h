@@ -25,6 +25,8 @@ struct Parameter {
   bool optional = false;
   Passing passing = Passing::by_reference;  // in_and_out is filled in from the method's signature
   Parameter_Kind kind = Parameter_Kind::value;  // filled in as well
+  // Nothing but true or false: for hosts that hand 1 and 0 over for them.
+  bool is_truth_value = false;
 };
 
 /// A record, its fields in declared order.

@@ -8,15 +8,16 @@ namespace {
 constexpr std::string_view block = "a range of several cells, or an array";
 
 Parameters Sort_Parameters() {
-  return {Operand_Parameter("numlist", block),
-          Optional("descending", "TRUE puts the largest number first"),
-          Optional("left_to_right", "TRUE sorts row by row, not column by column"),
-          Optional("fit_to_array",
+  return {
+      Operand_Parameter("numlist", block),
+      Truth_Option("descending", "TRUE puts the largest number first"),
+      Truth_Option("left_to_right", "TRUE sorts row by row, not column by column"),
+      Truth_Option("fit_to_array",
                    "TRUE pours the cells into the rows and columns asked for, whatever the shape "
                    "of the range"),
-          Optional("blank_text", "what fills the cells that are left; empty text if left out"),
-          Optional("rows", "the rows of the result; left out, those of the range"),
-          Optional("cols", "the columns of the result; left out, those of the range")};
+      Optional("blank_text", "what fills the cells that are left; empty text if left out"),
+      Optional("rows", "the rows of the result; left out, those of the range"),
+      Optional("cols", "the columns of the result; left out, those of the range")};
 }
 
 Parameters Place_Parameters(std::string_view k) {
@@ -123,9 +124,9 @@ std::vector<Method> Order_Rows() {
           .example = "qvxRANK(2, {3, 2; \"2.0\", 1}, FALSE, TRUE)",
           .parameters = {Operand_Parameter("num", first_number),
                          Operand_Parameter("numlist", block),
-                         Optional("ascending", "TRUE ranks the smallest number first"),
-                         Optional("tie_compensation",
-                                  "TRUE gives equal numbers the mean of their ranks")},
+                         Truth_Option("ascending", "TRUE ranks the smallest number first"),
+                         Truth_Option("tie_compensation",
+                                      "TRUE gives equal numbers the mean of their ranks")},
           .results = {"The place, as text; for a number that is not among them the count of cells, "
                       "less a half with tie_compensation.",
                       {"\"NUM!\", without a #, for a num that is no number.", block_fails}},

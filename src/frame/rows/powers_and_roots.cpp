@@ -8,17 +8,18 @@ namespace {
 // Parameters of operations that can refuse long operands.
 Parameters With_Restriction(Parameters parameters) {
   parameters = With_Places(std::move(parameters));
-  parameters.insert(parameters.end() - 2,
-                    Optional("restrict_input_lengths",
-                             "TRUE refuses operands of more than 1,073,741,824 digits together"));
+  parameters.insert(
+      parameters.end() - 2,
+      Truth_Option("restrict_input_lengths",
+                   "TRUE refuses operands of more than 1,073,741,824 digits together"));
   return parameters;
 }
 
 Parameters Square_Root_Parameters() {
   return {Operand_Parameter("num", first_number),
-          Optional("format_thousands", "TRUE groups the integer digits by thousands"),
-          Optional("format_currency", "TRUE attaches the currency symbol"),
-          Optional("exponential_notation", "TRUE writes E notation, without grouping"),
+          Truth_Option("format_thousands", "TRUE groups the integer digits by thousands"),
+          Truth_Option("format_currency", "TRUE attaches the currency symbol"),
+          Truth_Option("exponential_notation", "TRUE writes E notation, without grouping"),
           Optional("maxSD", "the limit of significant digits; left out, the default limit")};
 }
 

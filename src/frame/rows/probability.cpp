@@ -9,12 +9,13 @@ Parameters Poisson_Parameters() {
   Parameters parameters = With_Notation(
       {Operand_Parameter("target_num", "the number of events"),
        Operand_Parameter("average_num", "the number of events to be expected"),
-       Operand_Parameter("is_cumulative",
-                         "TRUE for the probability of so many events at most, FALSE for that of "
-                         "exactly so many; no other kind of value is accepted")});
-  parameters.push_back(
-      Optional("restrict_input_lengths",
-               "TRUE, or left out, refuses numbers of more than 1,073,741,824 digits"));
+       {.name = "is_cumulative",
+        .help = "TRUE for the probability of so many events at most, FALSE for that of "
+                "exactly so many; no other kind of value is accepted",
+        .is_truth_value = true}});
+  parameters.push_back(Truth_Option("restrict_input_lengths",
+                                    "TRUE, or left out, refuses numbers of more than 1,073,741,824 "
+                                    "digits"));
   return parameters;
 }
 

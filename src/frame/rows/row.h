@@ -29,14 +29,19 @@ inline Parameter Optional(std::string_view name, std::string_view help) {
   return {.name = name, .help = help, .optional = true};
 }
 
+inline Parameter Truth_Option(std::string_view name, std::string_view help) {
+  return {.name = name, .help = help, .optional = true, .is_truth_value = true};
+}
+
 /// Parameters followed by the formatting options that most methods take.
 inline Parameters With_Formats(Parameters parameters) {
-  parameters.insert(parameters.end(),
-                    {Optional("format_negative",
-                              "0 shows no sign, 1 a leading minus (the default), 2 parentheses"),
-                     Optional("format_thousands", "TRUE groups the integer digits by thousands"),
-                     Optional("format_currency", "TRUE attaches the currency symbol"),
-                     Optional("exponential_notation", "TRUE writes E notation, without grouping")});
+  parameters.insert(
+      parameters.end(),
+      {Optional("format_negative",
+                "0 shows no sign, 1 a leading minus (the default), 2 parentheses"),
+       Truth_Option("format_thousands", "TRUE groups the integer digits by thousands"),
+       Truth_Option("format_currency", "TRUE attaches the currency symbol"),
+       Truth_Option("exponential_notation", "TRUE writes E notation, without grouping")});
   return parameters;
 }
 
@@ -55,13 +60,13 @@ inline Parameters With_Places(Parameters parameters) {
   parameters = With_Digits(std::move(parameters));
   parameters.push_back(
       Optional("format_decimal_place", "a fixed count of decimal places, rounded half up"));
-  parameters.push_back(Optional("preserve_decimal_place", "accepted, without effect"));
+  parameters.push_back(Truth_Option("preserve_decimal_place", "accepted, without effect"));
   return parameters;
 }
 
 /// Parameters followed by the options of functions whose results are not formatted otherwise.
 inline Parameters With_Notation(Parameters parameters) {
-  parameters.push_back(Optional("exponential_notation", "TRUE writes E notation"));
+  parameters.push_back(Truth_Option("exponential_notation", "TRUE writes E notation"));
   parameters.push_back(Limit_Parameter());
   return parameters;
 }
@@ -86,6 +91,7 @@ Method Row(Method row) {
   for (std::size_t place = 0; place < row.parameters.size(); ++place) {
     Parameter& parameter = row.parameters[place];
     parameter.kind = Bound::kinds[place];
+    if (parameter.kind == Parameter_Kind::boolean) parameter.is_truth_value = true;
     if (!Bound::changes[place]) continue;
     if (parameter.passing == Passing::by_value) refuse(" changes what it takes by value.");
     parameter.passing = Passing::in_and_out;

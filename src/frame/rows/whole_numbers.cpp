@@ -1,4 +1,7 @@
 // Rows of whole numbers, their parts, remainders and signs.
+#include <tuple>
+#include <utility>
+
 #include "frame/rows/result_texts.h"
 #include "frame/rows/row.h"
 
@@ -11,7 +14,7 @@ Parameters Number() {
 
 Parameters To_Next(std::string_view name, std::string_view help) {
   Parameters parameters = Number();
-  parameters.push_back(Optional(name, help));
+  parameters.push_back(Truth_Option(name, help));
   return With_Formats(std::move(parameters));
 }
 
@@ -37,12 +40,16 @@ constexpr std::string_view sign_of_remainder =
 Parameters Remainder_Parameters() {
   Parameters parameters = Division_Parameters(
       "must be given: TRUE cuts the quotient towards zero, FALSE rounds it down");
-  constexpr std::string_view helps[] = {
-      sign_of_remainder, "0 shows no sign, 1 a leading minus (the default), 2 parentheses",
-      "TRUE groups the integer digits by thousands", "TRUE attaches the currency symbol",
-      "TRUE writes E notation, without grouping; the limit is the default one"};
-  for (std::size_t place = 0; place < std::size(helps); ++place) {
-    parameters[place + 3].help = helps[place];
+  constexpr std::pair<std::string_view, bool> meanings[] = {
+      {sign_of_remainder, false},
+      {"0 shows no sign, 1 a leading minus (the default), 2 parentheses", false},
+      {"TRUE groups the integer digits by thousands", true},
+      {"TRUE attaches the currency symbol", true},
+      {"TRUE writes E notation, without grouping; the limit is the default one", true}};
+  parameters[2].is_truth_value = true;
+  for (std::size_t place = 0; place < std::size(meanings); ++place) {
+    Parameter& parameter = parameters[place + 3];
+    std::tie(parameter.help, parameter.is_truth_value) = meanings[place];
   }
   return parameters;
 }
@@ -171,7 +178,7 @@ std::vector<Method> Whole_Number_Rows() {
           .example = "qvxFRAC(\"-3.25\", TRUE)",
           .parameters = With_Digits(
               {Operand_Parameter("num", first_number),
-               Optional("as_int", "TRUE gives the digits of the fraction as a whole number"),
+               Truth_Option("as_int", "TRUE gives the digits of the fraction as a whole number"),
                Optional("sign",
                         "the sign of the result: 1 that of num (the default), 2 none, 3 a minus")}),
           .results = {"The digits behind the separator, as a fraction or as a whole number, "
