@@ -3,7 +3,7 @@
 //
 // Yearly interest of 3.75 % on 10,000 for 20 years. The exact balance has 81 digits; a 64-bit float
 // knows the first 15.
-#include <quorvex.h>
+#include <quorvex/quorvex.h>
 
 #include <exception>
 #include <iostream>

@@ -41,7 +41,7 @@ Decimal_Form Decimal_Form_Of(double magnitude) {
 
 void Append_Exponential(NumberText& text, const Decimal_Form& form) {
   text += form.first(1);
-  if (form.count > 1) text.append(Current_Locale().decimal_separator).append(form.after(1));
+  if (form.count > 1) text.append(Current_Separators().decimal()).append(form.after(1));
   text += form.power < 0 ? "E-" : "E+";
   const int power = std::abs(form.power);
   if (power < 10) text += '0';
@@ -51,10 +51,10 @@ void Append_Exponential(NumberText& text, const Decimal_Form& form) {
 void Append_Plain(NumberText& text, const Decimal_Form& form) {
   const int whole = form.power + 1;
   if (whole <= 0) {
-    text.append("0").append(Current_Locale().decimal_separator);
+    text.append("0").append(Current_Separators().decimal());
     text.append(static_cast<std::size_t>(-whole), '0').append(form.after(0));
   } else if (whole < form.count) {
-    text.append(form.first(whole)).append(Current_Locale().decimal_separator);
+    text.append(form.first(whole)).append(Current_Separators().decimal());
     text.append(form.after(whole));
   } else {
     text.append(form.after(0)).append(static_cast<std::size_t>(whole - form.count), '0');

@@ -1,8 +1,11 @@
 // The platform in use, and what is the same on every system.
 #include "host/platform.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <forward_list>
 #include <map>
+#include <mutex>
 #include <tuple>
 #include <utility>
 
@@ -27,11 +30,15 @@ namespace {
 
 class Constant_Locale final : public Locale_Source {
  public:
-  explicit Constant_Locale(Locale locale) : locale_(std::move(locale)) {}
-  const Locale& current() override { return locale_; }
+  explicit Constant_Locale(const Locale& locale)
+      : separators_(locale.decimal_separator, locale.thousands_separator),
+        currency_(locale.currency_symbol, locale.currency_side) {}
+  Separators separators() override { return separators_; }
+  Currency currency() override { return currency_; }
 
  private:
-  Locale locale_;
+  Separators separators_;
+  Currency currency_;
 };
 
 class Memory_Settings final : public Settings_Store {
@@ -59,6 +66,18 @@ class Absent_Application final : public Application_Source {
   }
 };
 
+/// Keeps a value for the life of the process, alike ones once. There are few: a locale for each way
+/// in which the user has had numbers written.
+template <typename Value>
+const Value* Keep(Value value) {
+  static std::mutex keeping;
+  // Never destroyed: what runs at the end of the process may still need it.
+  static auto* const values = new std::forward_list<Value>();
+  const std::scoped_lock lock(keeping);
+  const auto found = std::ranges::find(*values, value);
+  return found != values->end() ? &*found : &values->emplace_front(std::move(value));
+}
+
 std::string Size_Text(double bytes) {
   constexpr double megabyte = 1048576;
   char text[64];
@@ -69,14 +88,26 @@ std::string Size_Text(double bytes) {
 
 }  // namespace
 
+Separators::Separators(std::string_view decimal, std::string_view thousands)
+    : kept_(Keep(Kept{std::string(decimal), std::string(thousands)})) {}
+
+Currency::Currency(std::string_view symbol, Currency_Side side)
+    : kept_(Keep(Kept{std::string(symbol), side})) {}
+
+Locale Locale_Source::current() {
+  const Separators separators = this->separators();
+  const Currency currency = this->currency();
+  return {separators.decimal(), separators.thousands(), currency.symbol(), currency.side()};
+}
+
 Platform& Process_Platform() {
   // Never destroyed: what runs at the end of the process may still need it.
   static auto* const platform = new Platform(Default_Platform());
   return *platform;
 }
 
-std::shared_ptr<Locale_Source> Fixed_Locale(Locale locale) {
-  return std::make_shared<Constant_Locale>(std::move(locale));
+std::shared_ptr<Locale_Source> Fixed_Locale(const Locale& locale) {
+  return std::make_shared<Constant_Locale>(locale);
 }
 
 std::shared_ptr<Settings_Store> Settings_In_Memory() {

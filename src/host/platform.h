@@ -24,6 +24,41 @@ struct Locale {
   Currency_Side currency_side = Currency_Side::before;
 };
 
+/// A pair of separators. It is no larger than a pointer and may be handed on at will: what it shows
+/// stays where it is until the process ends, and alike pairs are kept once.
+class QUORVEX_API Separators {
+ public:
+  Separators(std::string_view decimal, std::string_view thousands);
+
+  const std::string& decimal() const { return kept_->decimal; }
+  const std::string& thousands() const { return kept_->thousands; }
+
+ private:
+  struct Kept {
+    std::string decimal;
+    std::string thousands;
+    bool operator==(const Kept&) const = default;
+  };
+  const Kept* kept_;
+};
+
+/// A currency symbol and its side, kept in the same way.
+class QUORVEX_API Currency {
+ public:
+  Currency(std::string_view symbol, Currency_Side side);
+
+  const std::string& symbol() const { return kept_->symbol; }
+  Currency_Side side() const { return kept_->side; }
+
+ private:
+  struct Kept {
+    std::string symbol;
+    Currency_Side side;
+    bool operator==(const Kept&) const = default;
+  };
+  const Kept* kept_;
+};
+
 /// What makes a locale unusable for number text, as a sentence for the user; nothing if it is fine.
 /// A separator must be one character with no meaning of its own in a number, and not the other one.
 /// A currency symbol may be empty; it must not be taken for a number, a part of one, or an error.
@@ -32,8 +67,13 @@ QUORVEX_API std::optional<std::string> Locale_Problem(const Locale& locale);
 class QUORVEX_API Locale_Source {
  public:
   virtual ~Locale_Source();
-  /// The locale as it is now, free of problems. Asked at each use: callers keep nothing of it.
-  virtual const Locale& current() = 0;
+  // As they are now, and together free of problems. Each call of the engine asks anew, for each of
+  // the two once at most.
+  virtual Separators separators() = 0;
+  virtual Currency currency() = 0;
+
+  /// Both.
+  Locale current();
 };
 
 /// A per-user store of texts under three-level keys. What can't be read isn't there; what can't be
@@ -159,7 +199,7 @@ inline Platform& Current_Platform() {
 Platform Default_Platform();
 
 /// A source that always gives this locale.
-QUORVEX_API std::shared_ptr<Locale_Source> Fixed_Locale(Locale locale);
+QUORVEX_API std::shared_ptr<Locale_Source> Fixed_Locale(const Locale& locale);
 
 /// A store that lasts as long as it is held, for programs that leave the user's settings alone.
 QUORVEX_API std::shared_ptr<Settings_Store> Settings_In_Memory();
@@ -170,9 +210,10 @@ std::shared_ptr<Application_Source> No_Application();
 /// The system's locale of that name (fr_FR, de_CH.UTF-8); nothing if the system has none such.
 QUORVEX_API std::optional<Locale> System_Locale(std::string_view name);
 
-inline const Locale& Current_Locale() {
-  return Current_Platform().locale->current();
-}
+/// As the call that runs on this thread has found them; outside of a call, as they are now.
+QUORVEX_API Separators Current_Separators();
+QUORVEX_API Currency Current_Currency();
+QUORVEX_API Locale Current_Locale();
 
 inline void Yield() {
   Current_Platform().yielder->yield();

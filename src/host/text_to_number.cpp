@@ -77,7 +77,7 @@ class Number_Reader {
 
  private:
   void take_symbol() {
-    std::string_view symbol = locale_.currency_symbol;
+    std::string_view symbol = Current_Currency().symbol();
     Trim(symbol);
     if (symbol_taken_) return;
     symbol_taken_ = Take_Prefix(rest_, symbol) || Take_Suffix(rest_, symbol);
@@ -106,10 +106,10 @@ class Number_Reader {
 
   bool take_mantissa() {
     std::size_t digits = take_digits();
-    while (digits > 0 && Take_Prefix(rest_, locale_.thousands_separator))
+    while (digits > 0 && Take_Prefix(rest_, separators_.thousands()))
       if (take_digits() == 0) return false;
     const std::size_t whole = plain_.size();
-    if (Take_Prefix(rest_, locale_.decimal_separator)) {
+    if (Take_Prefix(rest_, separators_.decimal())) {
       plain_ += '.';
       digits += take_digits();
     }
@@ -133,7 +133,7 @@ class Number_Reader {
     return true;
   }
 
-  const Locale& locale_ = Current_Locale();
+  Separators separators_ = Current_Separators();
   std::string_view rest_;
   std::string plain_;  // what from_chars understands: digits, a dot, an exponent
   double power_ = 0;   // about the power of ten of the number

@@ -32,4 +32,11 @@ void Text_Box::backspace() {
   if (Change) Change();
 }
 
+void Text_Box::edited(std::string_view text, std::size_t at) {
+  const bool has_changed = text != text_;
+  text_ = text;
+  set_SelStart(at);
+  if (has_changed && Change) Change();
+}
+
 }  // namespace quorvex

@@ -27,7 +27,4 @@ class QUORVEX_API Form_Face {
 /// it shows About as a message, and sets nothing.
 QUORVEX_API void Set_Form_Face(std::shared_ptr<Form_Face> face);
 
-/// Loads the dialog that sets the default limit, unless it is open, and shows it.
-QUORVEX_API void Show_MaxSD();
-
 }  // namespace quorvex

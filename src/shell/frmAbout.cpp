@@ -26,10 +26,6 @@ void frmAbout::Show_Default() {
   lblMaxSD.Caption = "Default Max SD:\n" + Number_To_Text(Default_MaxSD());
 }
 
-void frmAbout::cmdMaxSD_Click() {
-  Show_MaxSD();
-}
-
 void frmAbout::cmdOK_Click() {
   is_loaded_ = false;
   if (Shell().about.get() == this) Shell().about.reset();

@@ -3,8 +3,6 @@
 #include <chrono>
 #include <utility>
 
-#include "shell/register_functions.h"
-
 namespace quorvex {
 
 Timer_Control::Timer_Control(std::function<void()> event)
@@ -21,13 +19,13 @@ void Timer_Control::set_Interval(int interval) {
 }
 
 void Timer_Control::arm() {
-  if (enabled_ && interval_ > 0) {
+  if (is_armed()) {
     timer_->arm(std::chrono::milliseconds(interval_));
   } else {
     timer_->cancel();
   }
 }
 
-frmGraphics::frmGraphics() : Timer1(&Register_Functions) {}
+frmGraphics::frmGraphics(std::function<void()> event) : Timer1(std::move(event)) {}
 
 }  // namespace quorvex

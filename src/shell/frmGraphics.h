@@ -17,6 +17,9 @@ class Timer_Control {
   /// In milliseconds; the time begins anew. A timer never goes off before it has an interval.
   void set_Interval(int interval);
 
+  /// Whether it will go off.
+  bool is_armed() const { return enabled_ && interval_ > 0; }
+
  private:
   void arm();
 
@@ -26,7 +29,8 @@ class Timer_Control {
 };
 
 struct frmGraphics {
-  frmGraphics();
+  /// The timer calls `event`.
+  explicit frmGraphics(std::function<void()> event);
 
   Timer_Control Timer1;
 };

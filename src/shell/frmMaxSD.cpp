@@ -5,6 +5,7 @@
 
 #include "host/conversions.h"
 #include "host/platform.h"
+#include "shell/frmAbout.h"
 #include "shell/recalculate_formulas.h"
 #include "shell/shell_state.h"
 #include "shell/start_up.h"

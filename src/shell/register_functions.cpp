@@ -11,6 +11,7 @@
 #include "frame/class/add_in.h"
 #include "host/conversions.h"
 #include "host/platform.h"
+#include "shell/frmGraphics.h"
 #include "shell/passing_over.h"
 #include "shell/registration_table.h"
 #include "shell/shell_state.h"
@@ -105,9 +106,19 @@ void Describe_Functions(Host_Application& application) {
   }
 }
 
+// Says so as long as it is in scope.
+class Registering {
+ public:
+  Registering() { Shell().is_registering = true; }
+  ~Registering() { Shell().is_registering = false; }
+  Registering(const Registering&) = delete;
+  Registering& operator=(const Registering&) = delete;
+};
+
 }  // namespace
 
 void Register_Functions() {
+  const Registering registering;
   Shell_State& shell = Shell();
   shell.graphics->Timer1.set_Enabled(false);
   shell.Started_Flag = true;

@@ -1,12 +1,17 @@
 #include "shell/shell_state.h"
 
+#include <cstddef>
+#include <new>
+
 #include "frame/class/add_in.h"
 
 namespace quorvex {
 
 Shell_State& Shell() {
-  // Never destroyed: instances of the class may be made until the process ends.
-  static auto* const shell = new Shell_State();
+  // Never destroyed: instances of the class may be made until the process ends. It stands in the
+  // library's own data, so that nothing is left behind where the library is unloaded before.
+  alignas(Shell_State) static std::byte storage[sizeof(Shell_State)];
+  static auto* const shell = new (storage) Shell_State();
   return *shell;
 }
 

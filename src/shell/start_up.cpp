@@ -4,6 +4,8 @@
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "shell/frmGraphics.h"
+#include "shell/register_functions.h"
 #include "shell/shell_state.h"
 #include "text/options.h"
 
@@ -63,12 +65,20 @@ std::optional<std::string> Store_Default_MaxSD() {
       [](const Run_Time_Failure& failure) -> std::optional<std::string> { return failure.what(); });
 }
 
+void Leave_Registration_To_Host() {
+  Shell_State& shell = Shell();
+  shell.arms_timer = false;
+  if (shell.graphics != nullptr) shell.graphics->Timer1.set_Enabled(false);
+  shell.Started_Flag = false;
+}
+
 void Class_Initialize() {
   Load_Default_MaxSD();
   Shell_State& shell = Shell();
-  if (shell.Started_Flag) return;
+  if (!shell.arms_timer || shell.Started_Flag) return;
   shell.Started_Flag = true;
-  if (shell.graphics == nullptr) shell.graphics = std::make_unique<frmGraphics>();
+  if (shell.graphics == nullptr)
+    shell.graphics = std::make_shared<frmGraphics>(&Register_Functions);
   shell.graphics->Timer1.set_Enabled(true);
   shell.graphics->Timer1.set_Interval(first_delay);
 }

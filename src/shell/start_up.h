@@ -1,4 +1,4 @@
-// The stored default limit.
+// The stored default limit, and who describes the functions to the host.
 #pragma once
 
 #include <optional>
@@ -21,5 +21,9 @@ void Refresh_Default_MaxSD();
 /// Stores the default limit. Gives what was in the way, as a sentence for the user: where the
 /// setting can't be written, the limit holds as long as the process.
 QUORVEX_API std::optional<std::string> Store_Default_MaxSD();
+
+/// For hosts that get the functions described in a way of their own: the timer that would do it is
+/// disarmed, and no instance of the class arms it again.
+QUORVEX_API void Leave_Registration_To_Host();
 
 }  // namespace quorvex

@@ -67,7 +67,7 @@ void Group_Integer_Digits(std::string& text) {
 double Length_Limit(const type_Restrictionator& options, bool positive) {
   double limit = maximum_digits;
   if (options.FormatCurrency) {
-    limit -= static_cast<double>(Count_Characters(Current_Locale().currency_symbol));
+    limit -= static_cast<double>(Count_Characters(Current_Currency().symbol()));
   }
   return positive ? limit : limit - options.FormatNegative;
 }

@@ -1,12 +1,15 @@
 #include "text/options.h"
 
+#include <atomic>
+
 #include "host/conversions.h"
 
 namespace quorvex {
 namespace {
 
 constexpr double factory_default = 100;
-double default_max_sd = factory_default;
+// Calculations may run while it is set.
+std::atomic<double> default_max_sd = factory_default;
 
 std::int16_t Negative_Style(const HostValue& value) {
   if (value.is_missing()) return 1;

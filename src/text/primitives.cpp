@@ -30,8 +30,8 @@ void Remove_All(std::string& text, std::string_view part) {
 }  // namespace
 
 type_Currency_Symbol Get_Currency_Symbol() {
-  const Locale& locale = Current_Locale();
-  return {locale.currency_symbol, static_cast<std::int16_t>(locale.currency_side)};
+  const Currency currency = Current_Currency();
+  return {currency.symbol(), static_cast<std::int16_t>(currency.side())};
 }
 
 bool Is_Positive(std::string_view text) {
@@ -93,7 +93,7 @@ std::string_view Integer_Part_Text(std::string_view text) {
 }
 
 void Remove_Currency_Symbol(std::string& text) {
-  Remove_All(text, Current_Locale().currency_symbol);
+  Remove_All(text, Current_Currency().symbol());
 }
 
 void Remove_Thousands_Separators(std::string& text) {

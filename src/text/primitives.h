@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "host/host_value.h"
-#include "host/platform.h"
+#include "host/locale_of_call.h"
 
 namespace quorvex {
 
@@ -20,10 +20,10 @@ struct type_Currency_Symbol {
 };
 
 inline const std::string& Decimal_Separator() {
-  return Current_Locale().decimal_separator;
+  return Locale_Of_Call::separators().decimal();
 }
 inline const std::string& Thousands_Separator() {
-  return Current_Locale().thousands_separator;
+  return Locale_Of_Call::separators().thousands();
 }
 type_Currency_Symbol Get_Currency_Symbol();
 

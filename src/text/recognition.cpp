@@ -7,9 +7,9 @@
 namespace quorvex {
 
 bool Is_Lone_Mark(std::string_view text) {
-  const Locale& locale = Current_Locale();
-  return text.empty() || text == "-" || text == "()" || text == locale.decimal_separator ||
-         text == locale.thousands_separator || text == locale.currency_symbol;
+  const Separators separators = Current_Separators();
+  return text.empty() || text == "-" || text == "()" || text == separators.decimal() ||
+         text == separators.thousands() || text == Current_Currency().symbol();
 }
 
 bool Is_Number_Text(std::string_view text) {

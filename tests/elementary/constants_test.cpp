@@ -1,116 +1,45 @@
-// The digits of the constants, worked out anew: from other series than the build's, summed as
-// fractions of exact whole numbers by the engine's own arithmetic.
+// The digits of the constants, beside those of an independent library, and how they are served.
 #include "elementary/constants.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
-#include <utility>
 
-#include "arith/digits/add_digits.h"
-#include "arith/digits/multiply_digits.h"
-#include "arith/digits/subtract_digits.h"
-#include "arith/operation/do_operation.h"
 #include "elementary/digits/digits.h"
 #include "support/failures.h"
 #include "support/locales.h"
-#include "text/round_function.h"
+#include "support/real_number.h"
 
 namespace quorvex {
 namespace {
 
-const HostValue working_digits = 41050;
+constexpr int all_digits = 41010;
 
-NumberText Calculate(std::int16_t code, const NumberText& a, const NumberText& b) {
-  return Do_Operation(code, a, b, {.maximum_significant_digits = working_digits},
-                      {.intermediate = true});
+// Of the whole number, as many decimals as there are.
+std::string Text_Of(const Real_Number& number, std::string_view decimals, mpfr_rnd_t rounding) {
+  return number.text(static_cast<int>(decimals.size()), rounding);
 }
 
-// numerator / (denominator * power), the latter a power of the series' argument.
-struct Fraction {
-  NumberText numerator;
-  NumberText denominator;
-  NumberText power;
-};
-
-// The sum of 1 / ((2 j + 1) x^(2 (j - begin))) over j, with alternating signs unless hyperbolic.
-Fraction Sum_Of_Odd_Terms(int begin, int end, const NumberText& square, bool hyperbolic) {
-  if (end - begin == 1) return {square, std::to_string(2 * begin + 1), square};
-  const int middle = (begin + end) / 2;
-  const Fraction left = Sum_Of_Odd_Terms(begin, middle, square, hyperbolic);
-  const Fraction right = Sum_Of_Odd_Terms(middle, end, square, hyperbolic);
-  const NumberText a =
-      Multiply_Digits(Multiply_Digits(left.numerator, right.denominator), right.power);
-  const NumberText b = Multiply_Digits(right.numerator, left.denominator);
-  const bool adds = hyperbolic || (middle - begin) % 2 == 0;
-  return {adds ? Add_Digits(a, b) : Subtract_Digits(a, b, false).Difference,
-          Multiply_Digits(left.denominator, right.denominator),
-          Multiply_Digits(left.power, right.power)};
+void Expect_Rounded(const std::string& whole, std::string_view decimals,
+                    const Real_Number& number) {
+  EXPECT_EQ(decimals.size(), 32766U);
+  EXPECT_EQ(whole + std::string(decimals), Text_Of(number, decimals, MPFR_RNDN));
+  EXPECT_NE(whole + std::string(decimals), Text_Of(number, decimals, MPFR_RNDZ));
 }
 
-// The arc tangent of 1/x, or its area tangent; `terms` of them are enough.
-NumberText Inverse_Tangent(int x, int terms, bool hyperbolic) {
-  const Fraction sum = Sum_Of_Odd_Terms(0, terms, std::to_string(x * x), hyperbolic);
-  const NumberText below =
-      Multiply_Digits(Multiply_Digits(sum.denominator, sum.power), std::to_string(x));
-  return Calculate(operation::divide, sum.numerator, below);
-}
-
-NumberText Times(int factor, const NumberText& number) {
-  return Calculate(operation::multiply, std::to_string(factor), number);
-}
-
-NumberText Plus(const NumberText& a, const NumberText& b) {
-  return Calculate(operation::add, a, b);
-}
-
-// The sum of begin! / j! over j from begin + 1 to end, as numerator and denominator.
-std::pair<NumberText, NumberText> Sum_Of_Reciprocal_Factorials(int begin, int end) {
-  if (end - begin == 1) return {"1", std::to_string(end)};
-  const int middle = (begin + end) / 2;
-  const auto left = Sum_Of_Reciprocal_Factorials(begin, middle);
-  const auto right = Sum_Of_Reciprocal_Factorials(middle, end);
-  return {Add_Digits(Multiply_Digits(left.first, right.second), right.first),
-          Multiply_Digits(left.second, right.second)};
-}
-
-NumberText Cut(const NumberText& number, std::string_view decimals) {
-  return number.substr(0, 2 + decimals.size());
-}
-
-NumberText Rounded(const NumberText& number, std::string_view decimals) {
-  return Round_Function(number, static_cast<double>(decimals.size()), Rounding_Direction::nearest,
-                        {});
-}
-
-TEST(ConstantDigits, OfPiAreTrueAndTheLastOneRounded) {
-  const NumberText pi = Plus(Times(16, Inverse_Tangent(5, 23500, false)),
-                             Times(-4, Inverse_Tangent(239, 7000, false)));
-  EXPECT_EQ(digits::pi.size(), 32766);
-  EXPECT_EQ("3." + std::string(digits::pi), Rounded(pi, digits::pi));
-  EXPECT_NE("3." + std::string(digits::pi), Cut(pi, digits::pi));
-}
-
-TEST(ConstantDigits, OfEAreTrueAndTheLastOneRounded) {
-  const auto sum = Sum_Of_Reciprocal_Factorials(0, 9500);
-  const NumberText e = Plus("1", Calculate(operation::divide, sum.first, sum.second));
-  EXPECT_EQ(digits::e.size(), 32766);
-  EXPECT_EQ("2." + std::string(digits::e), Rounded(e, digits::e));
-  EXPECT_NE("2." + std::string(digits::e), Cut(e, digits::e));
-}
-
-TEST(ConstantDigits, OfTheLogarithmsAreTrueAndCut) {
-  const NumberText a = Inverse_Tangent(251, 8600, true);
-  const NumberText b = Inverse_Tangent(449, 7800, true);
-  const NumberText c = Inverse_Tangent(4801, 5600, true);
-  const NumberText d = Inverse_Tangent(8749, 5300, true);
-  const NumberText ln2 = Plus(Plus(Times(144, a), Times(54, b)), Plus(Times(-38, c), Times(62, d)));
-  const NumberText ln5 =
-      Plus(Plus(Times(334, a), Times(126, b)), Plus(Times(-88, c), Times(144, d)));
-  EXPECT_EQ(digits::ln2.size(), 40050);
-  EXPECT_EQ("0." + std::string(digits::ln2), Cut(ln2, digits::ln2));
-  EXPECT_EQ(digits::ln10.size(), 41000);
-  EXPECT_EQ("2." + std::string(digits::ln10), Cut(Plus(ln2, ln5), digits::ln10));
+TEST(ConstantDigits, AreTrueAndTheLastOneRoundedOrCut) {
+  Real_Number number(Bits_For(all_digits));
+  mpfr_const_pi(number.value(), MPFR_RNDN);
+  Expect_Rounded("3.", digits::pi, number);
+  mpfr_set_ui(number.value(), 1, MPFR_RNDN);
+  mpfr_exp(number.value(), number.value(), MPFR_RNDN);
+  Expect_Rounded("2.", digits::e, number);
+  mpfr_const_log2(number.value(), MPFR_RNDN);
+  EXPECT_EQ(digits::ln2.size(), 40050U);
+  EXPECT_EQ("0." + std::string(digits::ln2), Text_Of(number, digits::ln2, MPFR_RNDZ));
+  mpfr_log_ui(number.value(), 10, MPFR_RNDN);
+  EXPECT_EQ(digits::ln10.size(), 41000U);
+  EXPECT_EQ("2." + std::string(digits::ln10), Text_Of(number, digits::ln10, MPFR_RNDZ));
 }
 
 TEST(Constants, AreServedToTheirLimits) {

@@ -1,18 +1,18 @@
 // Factorials against exact ones, and against their own definition product by product.
 #include "elementary/factorial.h"
 
-#include <gmp.h>
 #include <gtest/gtest.h>
 
 #include <string>
 
 #include "arith/operation/do_operation.h"
+#include "support/default_limit.h"
 #include "support/failures.h"
 #include "support/random_numbers.h"
 #include "support/surroundings.h"
+#include "support/whole_number.h"
 #include "support/without_libraries.h"
 #include "text/close_number.h"
-#include "text/format_result.h"
 
 namespace quorvex {
 namespace {
@@ -20,18 +20,7 @@ namespace {
 constexpr double no_limit = 40000;
 
 std::string Exact_Factorial(unsigned long number, bool every_other) {
-  mpz_t product;
-  mpz_init(product);
-  if (every_other) {
-    mpz_2fac_ui(product, number);
-  } else {
-    mpz_fac_ui(product, number);
-  }
-  std::string text(mpz_sizeinbase(product, 10) + 2, '\0');
-  mpz_get_str(text.data(), 10, product);
-  text.resize(text.find('\0'));
-  mpz_clear(product);
-  return text;
+  return Whole_Number::Factorial(number, every_other).text();
 }
 
 NumberText Factorial(const HostValue& number, double limit) {
@@ -77,25 +66,14 @@ TEST(Factorials, CutEveryProductAtTheLimit) {
   }
 }
 
-// Cut once, the exact factorial would be another.
-TEST(Factorials, AtFewDigitsAreProductsOfWhatWasCut) {
-  EXPECT_EQ(Factorial(100, 4), By_Definition(1, 100, 1, 4));
-  type_Restrictionator four_digits;
-  four_digits.maxSD = 4;
-  EXPECT_NE(Factorial(100, 4),
-            Format_Result(Exact_Factorial(100, false), 0, true, four_digits, false));
-}
-
 TEST(Factorials, OfOneNumberAfterTheOtherAreTheSame) {
-  const double before = Default_MaxSD();
   for (const double digits : {3.0, 100.0}) {
-    Set_Default_MaxSD(digits);
+    const Default_Limit limit(digits);
     Running_Factorial factorials;
     for (int number = 0; number < 120; ++number) {
       EXPECT_EQ(factorials.next(), Fact_Function(number, {})) << number << " at " << digits;
     }
   }
-  Set_Default_MaxSD(before);
 }
 
 TEST(Factorials, CanBeBrokenOff) {

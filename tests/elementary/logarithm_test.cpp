@@ -7,16 +7,14 @@
 #include <cmath>
 #include <iterator>
 #include <string>
-#include <utility>
 
 #include "arith/operation/do_operation.h"
 #include "elementary/constants.h"
 #include "elementary/exponential.h"
 #include "host/conversions.h"
 #include "support/failures.h"
-#include "support/high_precision.h"
-#include "support/localized.h"
 #include "support/random_numbers.h"
+#include "support/real_number.h"
 #include "support/surroundings.h"
 #include "support/without_libraries.h"
 #include "text/round_to_sd.h"
@@ -64,15 +62,15 @@ std::string Random_Positive(Random_Numbers& random) {
 }
 
 // The powers of two in a number.
-double Halvings(const High_Precision& logarithm) {
-  return std::fabs(logarithm.value()) / std::log(2.0) + 1;
+double Halvings(const Real_Number& logarithm) {
+  return std::fabs(logarithm.number()) / std::log(2.0) + 1;
 }
 
 // What can be wrong in a natural logarithm at a limit, in units of its second last place kept (ten
 // to the -limit - 1): ln 2 is cut one place earlier than its digits count, since its "0" is one,
 // and so is wrong by up to 100, once for each power of two; so is the power itself, by 1; and each
 // term, of which there is about one a digit, by less than 2.
-double Natural_Bound(const High_Precision& logarithm, long limit) {
+double Natural_Bound(const Real_Number& logarithm, long limit) {
   return 110 * Halvings(logarithm) + 2.0 * static_cast<double>(limit) + 20;
 }
 
@@ -81,8 +79,8 @@ TEST(NaturalLogarithm, IsRightButForWhatItsStepsLose) {
   for (int round = 0; round < 600; ++round) {
     const std::string number = Random_Positive(random);
     const long limit = Random_Limit(random);
-    High_Precision exact(Bits(limit), number);
-    mpfr_log(exact.get(), exact.get(), MPFR_RNDN);
+    Real_Number exact(number, Bits(limit));
+    mpfr_log(exact.value(), exact.value(), MPFR_RNDN);
     const NumberText result = Ln(number, static_cast<double>(limit));
     ASSERT_LT(exact.distance(result, -limit - 1), Natural_Bound(exact, limit))
         << number << " at " << limit << ": " << result;
@@ -98,11 +96,11 @@ TEST(Exponential, IsRightToTheLastPlace) {
     if (!random.one_in(3)) number += "." + random.digits(1 + random.below(50));
     if (random.one_in(2)) number.insert(0, 1, '-');
     const long limit = Random_Limit(random);
-    High_Precision exact(Bits(limit), number);
-    mpfr_exp(exact.get(), exact.get(), MPFR_RNDN);
-    High_Precision size(64);
-    mpfr_log10(size.get(), exact.get(), MPFR_RNDN);
-    const auto leading = static_cast<long>(std::floor(size.value()));
+    Real_Number exact(number, Bits(limit));
+    mpfr_exp(exact.value(), exact.value(), MPFR_RNDN);
+    Real_Number size(64);
+    mpfr_log10(size.value(), exact.value(), MPFR_RNDN);
+    const auto leading = static_cast<long>(std::floor(size.number()));
     const NumberText result = Exp(number, static_cast<double>(limit));
     ASSERT_LT(exact.distance(result, leading - limit - 1), 0.6)
         << number << " at " << limit << ": " << result;
@@ -120,18 +118,18 @@ TEST(Logarithm, IsRightButForWhatItsBaseLeaves) {
     const std::string base = bases[random.below(std::size(bases))];
     const long limit = Random_Limit(random);
     const auto working = std::lrint(std::stod(base) + static_cast<double>(limit));
-    High_Precision exact(Bits(working), number);
-    High_Precision below(Bits(working), base);
-    mpfr_log(exact.get(), exact.get(), MPFR_RNDN);
-    mpfr_log(below.get(), below.get(), MPFR_RNDN);
+    Real_Number exact(number, Bits(working));
+    Real_Number below(base, Bits(working));
+    mpfr_log(exact.value(), exact.value(), MPFR_RNDN);
+    mpfr_log(below.value(), below.value(), MPFR_RNDN);
     const double rounding = 500;
     const double wrong_above =
-        Natural_Bound(exact, working) + rounding * (1 + std::fabs(exact.value()));
+        Natural_Bound(exact, working) + rounding * (1 + std::fabs(exact.number()));
     const double wrong_below =
-        Natural_Bound(below, working) + rounding * (1 + std::fabs(below.value()));
-    mpfr_div(exact.get(), exact.get(), below.get(), MPFR_RNDN);
-    const double size = std::fabs(exact.value());
-    const double bound = (wrong_above + size * wrong_below) / std::fabs(below.value()) *
+        Natural_Bound(below, working) + rounding * (1 + std::fabs(below.number()));
+    mpfr_div(exact.value(), exact.value(), below.value(), MPFR_RNDN);
+    const double size = std::fabs(exact.number());
+    const double bound = (wrong_above + size * wrong_below) / std::fabs(below.number()) *
                              std::pow(10.0, static_cast<double>(limit - working)) +
                          0.6 * std::fmax(size, 1);
     const NumberText result = Log(number, base, static_cast<double>(limit));
@@ -167,54 +165,14 @@ TEST(Logarithm, CarriesAsManyGuardDigitsAsItsBaseSays) {
   }
 }
 
-TEST(Logarithm, OfAPowerIsTheExponent) {
-  Random_Numbers random(84);
-  for (int round = 0; round < 100; ++round) {
-    const std::string base = std::to_string(2 + random.below(30));
-    const std::string exponent = std::to_string(1 + random.below(60));
-    const NumberText power = Intermediate(operation::power, base, exponent, 200);
-    const auto limit = static_cast<double>(10 + random.below(60));
-    High_Precision exact(1000, exponent);
-    ASSERT_LT(exact.distance(Log(power, base, limit), -static_cast<long>(limit) + 2),
-              static_cast<double>(std::stoi(exponent)))
-        << base << " to the " << exponent << " at " << limit;
-  }
-}
-
-TEST(NaturalLogarithm, UndoesTheExponential) {
-  Random_Numbers random(85);
-  for (int round = 0; round < 100; ++round) {
-    std::string number = std::to_string(random.below(200)) + "." + random.digits(20) + "1";
-    if (random.one_in(2)) number.insert(0, 1, '-');
-    const long limit = 30 + static_cast<long>(random.below(60));
-    const NumberText power = Exp(number, static_cast<double>(limit));
-    const High_Precision exact(Bits(limit), number);
-    // Beside its own, the logarithm shows the error of the power relative to it.
-    ASSERT_LT(exact.distance(Ln(power, static_cast<double>(limit)), -limit - 1),
-              Natural_Bound(exact, limit) + 10)
-        << number << " at " << limit;
-  }
-}
-
 // None of its negative terms would end the series.
 TEST(NaturalLogarithm, OfNumbersBelowAPowerOfTwoIsSettledEarly) {
   NumberText result;
   const auto yields = Yields_Of([&] { result = Ln("0." + std::string(40, '9'), 1000); });
   EXPECT_LT(yields, 200U);
-  High_Precision exact(4000, "0." + std::string(40, '9'));
-  mpfr_log(exact.get(), exact.get(), MPFR_RNDN);
+  Real_Number exact("0." + std::string(40, '9'), 4000);
+  mpfr_log(exact.value(), exact.value(), MPFR_RNDN);
   EXPECT_LT(exact.distance(result, -1001), Natural_Bound(exact, 1000));
-}
-
-TEST(LogarithmsAndExponential, AreTheSameInAllLocales) {
-  const NumberText ln = Ln("2.5", 30);
-  const NumberText log = Log("2.5", "3.5", 30);
-  const NumberText exp = Exp("-1.25", 30);
-  In_Each_Locale([&] {
-    EXPECT_EQ(Ln(Localized("2.5"), 30), Localized(ln));
-    EXPECT_EQ(Log(Localized("2.5"), Localized("3.5"), 30), Localized(log));
-    EXPECT_EQ(Exp(Localized("-1.25"), 30), Localized(exp));
-  });
 }
 
 TEST(LogarithmsAndExponential, CanBeBrokenOff) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "frame/catalogue.h"
+#include "support/default_limit.h"
 #include "support/failures.h"
 #include "support/locales.h"
 #include "support/surroundings.h"
@@ -25,22 +26,10 @@ TEST(ClsQuorvex, OnlyIsGreaterReplacesTheCallersValuesByTheirText) {
   EXPECT_EQ(number2.text(), "");
 }
 
-// Sets the default limit until the end of the scope.
-class Default_Guard {
- public:
-  explicit Default_Guard(double digits) { Set_Default_MaxSD(digits); }
-  ~Default_Guard() { Set_Default_MaxSD(before_); }
-  Default_Guard(const Default_Guard&) = delete;
-  Default_Guard& operator=(const Default_Guard&) = delete;
-
- private:
-  double before_ = Default_MaxSD();
-};
-
 TEST(ClsQuorvex, TheDefaultLimitHoldsForCallsThatGiveNone) {
   cls_Quorvex engine;
   EXPECT_EQ(engine.qvxDEFAULTMAXSD().number(), 100);
-  const Default_Guard guard(3);
+  const Default_Limit three(3);
   EXPECT_EQ(engine.qvxDEFAULTMAXSD().number(), 3);
   EXPECT_EQ(engine.qvxADD("123456789", 0), "123460000");
   EXPECT_EQ(engine.qvxFORMAT("123456789"), "123500000");

@@ -114,29 +114,6 @@ TEST(Properties, ANumberInAnyDressIsTheSameNumber) {
   });
 }
 
-TEST(Properties, WhatIsFormattedReadsBackAndFormatsAlike) {
-  Try_Random_Operands(44, 1000, [](const Operands& operands, Random_Numbers& random) {
-    const HostValue negative = 1 + random.below(2);
-    const HostValue thousands = random.one_in(2);
-    const HostValue currency = random.one_in(2);
-    const HostValue exponential = random.one_in(3);
-    const HostValue digits = random.below(random.one_in(2) ? 30 : 6000);
-    // A carry must not run into a thousands separator.
-    const bool grouped = thousands.boolean() && !exponential.boolean();
-    const HostValue places =
-        random.one_in(3) && !grouped ? HostValue(random.below(40)) : HostValue();
-    const auto format = [&](const std::string& text) {
-      return cls_Quorvex().qvxFORMAT(text, negative, thousands, currency, exponential, digits,
-                                     places);
-    };
-    const NumberText once = format(Localized(operands.a));
-    ASSERT_TRUE(Is_Number_Text(once)) << once;
-    // A number that is rounded to zero has lost its sign when it is read again.
-    if (cls_Quorvex().qvxISEQUAL(once, "0").text() == "True") return;
-    ASSERT_EQ(format(once), once);
-  });
-}
-
 TEST(Properties, SumsAreCutTwoDigitsBehindTheLimit) {
   Try_Random_Operands(45, 1500, [](const Operands& operands, Random_Numbers& random) {
     const std::size_t limit = random.below(random.one_in(2) ? 10 : 100);

@@ -10,20 +10,18 @@
 #include "batch/answer.h"
 #include "host/platform.h"
 #include "io/call_guard.h"
+#include "support/surroundings.h"
 
 namespace quorvex {
 namespace {
 
 // The input decides how long a result is; what matters here is the protocol around it.
-class Little_Memory : public Memory_Gauge {
- public:
-  std::size_t available_bytes() override { return std::size_t{1} << 26; }
-};
+constexpr std::size_t little_memory = std::size_t{1} << 26;
 
 std::shared_ptr<Call_Guard> Set_Up() {
   auto guard = std::make_shared<Call_Guard>(Seconds(2));
   Current_Platform().locale = Fixed_Locale(Locale{});
-  Current_Platform().memory = std::make_shared<Little_Memory>();
+  Current_Platform().memory = std::make_shared<Fixed_Memory>(little_memory);
   Current_Platform().yielder = guard;
   return guard;
 }

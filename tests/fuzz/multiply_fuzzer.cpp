@@ -1,7 +1,5 @@
 // Any two runs of bytes as factors: digits give the product that an independent library finds, by
 // every kind of instructions; anything else leaves the buffer as it was.
-#include <gmp.h>
-
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -12,6 +10,7 @@
 #include <string_view>
 
 #include "native/multiply.h"
+#include "support/whole_number.h"
 
 namespace {
 
@@ -41,16 +40,7 @@ bool Are_Digits(const std::string& text) {
 
 std::string Product(const std::string& a, const std::string& b) {
   if (!Are_Digits(a) || !Are_Digits(b)) return {};
-  mpz_t x;
-  mpz_t y;
-  mpz_init_set_str(x, a.c_str(), 10);
-  mpz_init_set_str(y, b.c_str(), 10);
-  mpz_mul(x, x, y);
-  std::string text(mpz_sizeinbase(x, 10) + 2, '\0');
-  mpz_get_str(text.data(), 10, x);
-  text.resize(text.find('\0'));
-  mpz_clears(x, y, nullptr);
-  return text;
+  return quorvex::Product(a, b);
 }
 
 void Check(const std::string& a, const std::string& b, const std::string& expected) {

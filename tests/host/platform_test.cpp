@@ -2,11 +2,13 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <poll.h>
+#include <sys/ioctl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cmath>
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <string>
@@ -147,6 +149,33 @@ TEST(MessageBox, WithoutATerminalAnswersAsNobodyWould) {
   close(ends[1]);
 }
 
+// In the background of a terminal of its own. 0 if the question was answered by No without waiting.
+int Ask_In_The_Background() {
+  setsid();
+  const Terminal terminal;
+  if (ioctl(terminal.end(), TIOCSCTTY, 0) != 0) return 2;
+  terminal.type("y\n");
+  const pid_t background = fork();
+  if (background == 0) {
+    setpgid(0, 0);
+    const auto box = Terminal_Message_Box(terminal.end(), terminal.end());
+    const auto answer = box->show("T", "?", Message_Icon::question, Message_Buttons::yes_no);
+    _exit(answer == Message_Answer::no ? 0 : 1);
+  }
+  int status = 0;
+  waitpid(background, &status, WUNTRACED);
+  if (WIFSTOPPED(status)) kill(background, SIGKILL);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : 3;
+}
+
+TEST(MessageBox, WaitsForNobodyInTheBackground) {
+  const pid_t child = fork();
+  if (child == 0) _exit(Ask_In_The_Background());
+  int status = 0;
+  waitpid(child, &status, 0);
+  EXPECT_EQ(WEXITSTATUS(status), 0);
+}
+
 TEST(Platform, HasAWorkingDefaultOfEverything) {
   const Platform platform = Default_Platform();
   EXPECT_EQ(Locale_Problem(platform.locale->current()), std::nullopt);
@@ -157,17 +186,6 @@ TEST(Platform, HasAWorkingDefaultOfEverything) {
   timer->arm(std::chrono::milliseconds(0));
   platform.timers->run_due();
   EXPECT_TRUE(ran);
-}
-
-TEST(Platform, ALocaleInForceEndsWithItsScope) {
-  const std::string before = Current_Locale().decimal_separator;
-  {
-    const Locale_Guard outer(Comma_Locale());
-    EXPECT_EQ(Current_Locale().decimal_separator, ",");
-    const Locale_Guard inner(Apostrophe_Locale());
-    EXPECT_EQ(Current_Locale().thousands_separator, "\u2019");
-  }
-  EXPECT_EQ(Current_Locale().decimal_separator, before);
 }
 
 }  // namespace

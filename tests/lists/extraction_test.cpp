@@ -12,7 +12,6 @@
 #include "support/random_numbers.h"
 #include "support/slow_extraction.h"
 #include "support/surroundings.h"
-#include "text/primitives.h"
 
 namespace quorvex {
 namespace {
@@ -59,16 +58,6 @@ TEST(DeleteEvery, AsksForItsMemory) {
   EXPECT_EQ(Failure_Of([&] { Delete_Every(text, "12"); }), Failure_Number::out_of_memory);
 }
 
-TEST(NumberFilter, KeepsWhatItsFlagsSay) {
-  In_Each_Locale([] {
-    for (unsigned seed = 0; seed < 4000; ++seed) {
-      Random_Numbers random(seed);
-      const std::string text = Random_Text(random, 16, marks);
-      ASSERT_EQ(Filtered_Number(text), slow::Filtered(text, Decimal_Separator())) << text;
-    }
-  });
-}
-
 TEST(Extraction, AgreesWithTheLoops) {
   const Locale_Guard locale(Point_Locale());
   cls_Quorvex engine;
@@ -91,10 +80,8 @@ TEST(Extraction, AgreesWithTheLoops) {
     // Formatted alike, what is kept must agree.
     const auto shown = [&](const std::string& kept) { return engine.qvxEXCLUDE({kept}); };
     ASSERT_EQ(engine.qvxEXCLUDE(list), shown(left)) << seed;
-    ASSERT_EQ(engine.qvxEXCLUDENOTNUM(list), shown(slow::Filtered(left, "."))) << seed;
-    ASSERT_EQ(engine.qvxEXTRACT(list), shown(slow::Extracted(source, entries, false, "."))) << seed;
-    ASSERT_EQ(engine.qvxEXTRACTNUM(list), shown(slow::Extracted(source, entries, true, ".")))
-        << seed;
+    ASSERT_EQ(engine.qvxEXCLUDENOTNUM(list), shown(Filtered_Number(left))) << seed;
+    ASSERT_EQ(engine.qvxEXTRACT(list), shown(slow::Extracted(source, entries))) << seed;
   }
 }
 
@@ -120,7 +107,7 @@ TEST(Extraction, FindsLongEntries) {
     List list = {source};
     list.insert(list.end(), entries.begin(), entries.end());
     cls_Quorvex engine;
-    ASSERT_EQ(engine.qvxEXTRACT(list), slow::Extracted(source, entries, false, ".")) << seed;
+    ASSERT_EQ(engine.qvxEXTRACT(list), slow::Extracted(source, entries)) << seed;
   }
 }
 
@@ -132,6 +119,15 @@ TEST(Extraction, IsLinearWhereALongEntryNearlyStandsEverywhere) {
   EXPECT_EQ(engine.qvxEXTRACT(list), "");
   list.front() = std::string(8'000'000, '1') + "23";
   EXPECT_EQ(engine.qvxEXTRACT(list), entry);
+}
+
+TEST(Extraction, CanBeBrokenOff) {
+  cls_Quorvex engine;
+  const List list = {std::string(3 * digits_between_yields, 'x'), "xy"};
+  const Interruption_Guard impatient;
+  EXPECT_EQ(Failure_Of([&] { engine.qvxEXTRACT(list); }), Failure_Number::interrupted);
+  EXPECT_EQ(Failure_Of([&] { engine.qvxEXCLUDE(list); }), Failure_Number::interrupted);
+  EXPECT_EQ(Failure_Of([&] { engine.qvxEXCLUDENOTNUM(list); }), Failure_Number::interrupted);
 }
 
 TEST(Extraction, AsksForTheMemoryOfLongEntries) {

@@ -224,28 +224,5 @@ TEST(LargeAndSmall, CountPlacesByTheUpperBounds) {
             Failure_Number::subscript_out_of_range);
 }
 
-TEST(LargeSmallAndRank, AgreeWithEachOther) {
-  In_Each_Locale([] {
-    cls_Quorvex engine;
-    for (unsigned seed = 0; seed < 60; ++seed) {
-      Random_Lists lists(seed);
-      std::vector<HostValue> cells;
-      for (int i = 0; i < 12; ++i) cells.emplace_back(Localized(lists.random().number(12)));
-      const HostValue row = Array_Of(cells.size(), cells);
-      for (std::size_t k = 1; k <= cells.size(); ++k) {
-        const NumberText number = engine.qvxSMALL(row, std::to_string(k));
-        const std::size_t rank = std::stoul(engine.qvxRANK(number, row, true));
-        ASSERT_LE(rank, k) << seed;
-        ASSERT_EQ(engine.qvxISEQUAL(engine.qvxSMALL(row, std::to_string(rank)), number).text(),
-                  "True");
-        ASSERT_EQ(
-            engine.qvxISEQUAL(engine.qvxLARGE(row, std::to_string(cells.size() + 1 - k)), number)
-                .text(),
-            "True");
-      }
-    }
-  });
-}
-
 }  // namespace
 }  // namespace quorvex

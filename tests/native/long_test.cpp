@@ -11,6 +11,7 @@
 #include "native/generic/wave_roots.h"
 #include "native/stair.h"
 #include "products.h"
+#include "support/whole_number.h"
 
 namespace quorvex::native {
 namespace {
@@ -26,7 +27,7 @@ std::string Product_By(Method method, const std::string& a, const std::string& b
 }
 
 void Expect_Agreement(const std::string& a, const std::string& b) {
-  const std::string expected = Product_By_Library(a, b);
+  const std::string expected = Product(a, b);
   for (const Instructions kind : Kinds_Here()) {
     EXPECT_TRUE(Product_By(Multiply_By_Waves, a, b, kind) == expected)
         << a.size() << " by " << b.size() << " digits, kind " << static_cast<int>(kind);

@@ -1,7 +1,5 @@
 #include "products.h"
 
-#include <gmp.h>
-
 #include <algorithm>
 #include <random>
 
@@ -59,19 +57,6 @@ std::string Product_By_Hand(std::string_view a, std::string_view b) {
   }
   const std::size_t first = product.find_first_not_of('0');
   return first == std::string::npos ? "0" : product.substr(first);
-}
-
-std::string Product_By_Library(const std::string& a, const std::string& b) {
-  mpz_t x;
-  mpz_t y;
-  mpz_init_set_str(x, a.c_str(), 10);
-  mpz_init_set_str(y, b.c_str(), 10);
-  mpz_mul(x, x, y);
-  std::string text(mpz_sizeinbase(x, 10) + 2, '\0');
-  mpz_get_str(text.data(), 10, x);
-  text.resize(text.find('\0'));
-  mpz_clears(x, y, nullptr);
-  return text;
 }
 
 std::string Product_Of(std::string_view a, std::string_view b, Instructions kind) {

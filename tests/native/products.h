@@ -20,9 +20,6 @@ std::string Hard_Digits(std::size_t count, unsigned pattern, unsigned seed);
 /// Digit by digit, as by hand. For short operands.
 std::string Product_By_Hand(std::string_view a, std::string_view b);
 
-/// By a library of binary numbers.
-std::string Product_By_Library(const std::string& a, const std::string& b);
-
 /// The product by Multiply_Texts, or what went wrong beyond the digits: a wrong count, a byte
 /// changed behind the product or beside the buffer.
 std::string Product_Of(std::string_view a, std::string_view b, Instructions kind);

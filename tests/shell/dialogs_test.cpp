@@ -3,6 +3,9 @@
 
 #include "frame/class/add_in.h"
 #include "frame/class/cls_Quorvex.h"
+#include "shell/form_face.h"
+#include "shell/frmAbout.h"
+#include "shell/frmMaxSD.h"
 #include "shell/scripted_host.h"
 #include "shell/shell_fixture.h"
 #include "support/failures.h"
@@ -76,15 +79,23 @@ TEST_F(Dialogs, CheckEveryChange) {
       {3, "99999999", "2147483648", 10, "The maximum is 2147483648 significant digits."},
   };
   for (const auto& c : cases) {
-    const auto form = opened(100);
-    form->txtMaxSD.set_SelStart(c.at);
-    form->txtMaxSD.type(c.keys);
-    EXPECT_EQ(form->txtMaxSD.Text(), c.text) << c.keys;
-    EXPECT_EQ(form->txtMaxSD.SelStart(), c.insertion) << c.keys;
-    if (c.complaint != nullptr) {
-      EXPECT_EQ(message(), c.complaint) << c.keys;
+    // By single keys, and by a toolkit that tells what has come of them.
+    for (const bool is_told : {false, true}) {
+      const auto form = opened(100);
+      if (is_told) {
+        form->txtMaxSD.edited(std::string("100").insert(c.at, c.keys),
+                              c.at + std::string_view(c.keys).size());
+      } else {
+        form->txtMaxSD.set_SelStart(c.at);
+        form->txtMaxSD.type(c.keys);
+      }
+      EXPECT_EQ(form->txtMaxSD.Text(), c.text) << c.keys;
+      EXPECT_EQ(form->txtMaxSD.SelStart(), c.insertion) << c.keys;
+      if (c.complaint != nullptr) {
+        EXPECT_EQ(message(), c.complaint) << c.keys;
+      }
+      EXPECT_TRUE(box_->messages.empty()) << c.keys;
     }
-    EXPECT_TRUE(box_->messages.empty()) << c.keys;
   }
 }
 
@@ -188,6 +199,22 @@ TEST_F(Dialogs, ALimitThatCantBeStoredHoldsForTheProcess) {
   EXPECT_EQ(Default_MaxSD(), 50);
   EXPECT_EQ(form->storing_problem(), "The disk is full.");
   EXPECT_FALSE(form->is_loaded());
+}
+
+TEST_F(Dialogs, HearOfATextOnceThatTheyHaveSetThemselves) {
+  Text_Box box;
+  int changes = 0;
+  box.Change = [&] {
+    ++changes;
+    box.set_Text("7");
+    box.edited("7", 9);  // as a toolkit tells of the text that it was just given
+  };
+  box.edited("x", 1);
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(box.SelStart(), 1U) << "no further than the end";
+  box.edited("7", 0);
+  EXPECT_EQ(changes, 1) << "only the insertion point has moved";
+  EXPECT_EQ(box.SelStart(), 0U);
 }
 
 // Remembers what it was shown, and presses the buttons that it is told to.

@@ -31,8 +31,8 @@ inline Locale Apostrophe_Locale() {
 /// Puts a locale in force until the end of the scope.
 class Locale_Guard {
  public:
-  explicit Locale_Guard(Locale locale)
-      : before_(std::exchange(Current_Platform().locale, Fixed_Locale(std::move(locale)))) {}
+  explicit Locale_Guard(const Locale& locale)
+      : before_(std::exchange(Current_Platform().locale, Fixed_Locale(locale))) {}
   ~Locale_Guard() { Current_Platform().locale = std::move(before_); }
   Locale_Guard(const Locale_Guard&) = delete;
   Locale_Guard& operator=(const Locale_Guard&) = delete;

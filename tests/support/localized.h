@@ -17,7 +17,7 @@ inline std::vector<Locale> Test_Locales() {
 
 /// The text with the separators and the currency symbol of the locale in force for "." "," "$".
 inline std::string Localized(std::string_view text) {
-  const Locale& locale = Current_Locale();
+  const Locale locale = Current_Locale();
   std::string localized;
   localized.reserve(text.size());
   for (const char character : text) {

@@ -67,6 +67,15 @@ class Random_Numbers {
     return text;
   }
 
+  /// Marks of all kinds, of which few make up a number, and so few that no exponent asks for much.
+  std::string marks() {
+    std::string text;
+    for (std::size_t count = below(9); count > 0; --count) {
+      text += one_of(text.find('E') == std::string::npos ? "0593.,$-()'\"E+# a" : "05.,$-()'+E");
+    }
+    return text;
+  }
+
  private:
   std::mt19937 random_;
   bool complement_ = false;

@@ -10,12 +10,19 @@
 
 namespace quorvex {
 
-/// Breaks a calculation off when it yields.
+/// Breaks a calculation off when it has yielded so often, and yields once more.
 class Interrupting_Yielder final : public Yielder {
  public:
+  explicit Interrupting_Yielder(std::size_t patience) : patience_(patience) {}
   void yield() override {
-    throw Run_Time_Failure(Failure_Number::interrupted, "The user wants it to end.");
+    if (patience_ == 0) {
+      throw Run_Time_Failure(Failure_Number::interrupted, "The user wants it to end.");
+    }
+    --patience_;
   }
+
+ private:
+  std::size_t patience_;
 };
 
 class Counting_Yielder final : public Yielder {
@@ -47,12 +54,12 @@ class Fixed_Memory final : public Memory_Gauge {
   std::size_t bytes_;
 };
 
-/// Breaks every calculation off that yields, until the end of the scope.
+/// Breaks calculations off that yield more than so often, until the end of the scope.
 class Interruption_Guard {
  public:
-  Interruption_Guard()
-      : before_(
-            std::exchange(Current_Platform().yielder, std::make_shared<Interrupting_Yielder>())) {}
+  explicit Interruption_Guard(std::size_t patience = 0)
+      : before_(std::exchange(Current_Platform().yielder,
+                              std::make_shared<Interrupting_Yielder>(patience))) {}
   ~Interruption_Guard() { Current_Platform().yielder = std::move(before_); }
   Interruption_Guard(const Interruption_Guard&) = delete;
   Interruption_Guard& operator=(const Interruption_Guard&) = delete;

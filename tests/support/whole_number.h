@@ -1,4 +1,4 @@
-// Whole numbers of any length by GMP, to judge divisors and multiples, and pairs of them.
+// Whole numbers of any length by GMP, to judge what is exact, and pairs of them.
 #pragma once
 
 #include <gmp.h>
@@ -37,6 +37,12 @@ class Whole_Number {
     mpz_gcd(divisor.value_, a.value_, b.value_);
     return divisor;
   }
+  /// Down by one or, if told so, by two.
+  static Whole_Number Factorial(unsigned long number, bool every_other) {
+    Whole_Number factorial;
+    (every_other ? mpz_2fac_ui : mpz_fac_ui)(factorial.value_, number);
+    return factorial;
+  }
   static bool Have_One_Magnitude(const Whole_Number& a, const Whole_Number& b) {
     return mpz_cmpabs(a.value_, b.value_) == 0;
   }
@@ -45,6 +51,12 @@ class Whole_Number {
     Whole_Number quotient;
     mpz_divexact(quotient.value_, a.value_, b.value_);
     return quotient;
+  }
+  /// The remainder has the sign of the dividend.
+  friend Whole_Number operator%(const Whole_Number& a, const Whole_Number& b) {
+    Whole_Number rest;
+    mpz_tdiv_r(rest.value_, a.value_, b.value_);
+    return rest;
   }
   friend Whole_Number operator*(const Whole_Number& a, const Whole_Number& b) {
     Whole_Number product;

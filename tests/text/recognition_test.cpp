@@ -21,23 +21,13 @@ bool Addition_Accepts(const std::string& text) {
   return !Has_Token_Mark(sum);
 }
 
-// Texts made of marks, short enough that no exponent asks for much.
-std::string Random_Marks(Random_Numbers& random) {
-  std::string text;
-  for (std::size_t length = random.below(9); length > 0; --length) {
-    text +=
-        random.one_of(text.find('E') == std::string::npos ? "0593.,$-()'\"E+# a" : "05.,$-()'+E");
-  }
-  return text;
-}
-
 TEST(Recognition, TellsWhatAdditionAccepts) {
   constexpr unsigned seed = 21;
   Random_Numbers random(seed);
   int numbers = 0;
   In_Each_Locale([&] {
     for (int round = 0; round < 20000; ++round) {
-      const std::string text = Localized(Random_Marks(random));
+      const std::string text = Localized(random.marks());
       const bool is_number = Is_Number_Text(text);
       numbers += is_number ? 1 : 0;
       ASSERT_EQ(is_number, !Is_Lone_Mark(text) && Addition_Accepts(text))

@@ -7,7 +7,6 @@
 #include <string>
 
 #include "support/exact_decimal.h"
-#include "support/failures.h"
 #include "support/localized.h"
 #include "support/random_numbers.h"
 
@@ -81,19 +80,6 @@ TEST(Rounding, ToPowersOfTenActsOnePlaceShort) {
       ASSERT_EQ(Round(number, -1.0 - static_cast<double>(zeros), direction),
                 Expected(Cut_Integer(number, zeros), direction))
           << number << " to " << zeros << " zeros";
-    }
-  }
-}
-
-TEST(Rounding, LeavesWhatIsRound) {
-  Random_Numbers random(73);
-  for (int round = 0; round < 2000; ++round) {
-    const std::string number = random.number(30);
-    const auto places = static_cast<double>(random.below(20));
-    const Rounding_Direction direction = directions[random.below(3)];
-    const NumberText once = Round(number, places, direction);
-    for (const Rounding_Direction again : directions) {
-      ASSERT_EQ(Round(once, places, again), once) << number << " to " << places;
     }
   }
 }

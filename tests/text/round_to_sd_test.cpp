@@ -20,11 +20,12 @@ struct Case {
 
 TEST(RoundToSd, KeepsTheLengthOfWholeNumbers) {
   const std::vector<Case> cases = {
-      {"12345", 2, "12000"}, {"12500", 2, "12500"},  // trailing zeros don't use up the count
-      {"1250", 2, "1250"},   {"9996", 2, "10006"},   // digits dropped that are no nines stay
-      {"9999", 2, "10000"},  {"1999", 2, "2000"},     {"1949", 2, "1900"},   {"100", 1, "100"},
-      {"5", 1, "5"},         {"15", 1, "20"},         {"12345", 5, "12345"}, {"12345", 9, "12345"},
-      {"000123", 2, "120"},  {"12345", 2.5, "12000"},
+      {"12345", 2, "12000"},   {"12500", 2, "12500"},  // trailing zeros don't use up the count
+      {"1250", 2, "1250"},     {"9996", 2, "10006"},   // digits dropped that are no nines stay
+      {"9999", 2, "10000"},    {"1999", 2, "2000"},     {"1949", 2, "1900"},
+      {"100", 1, "100"},       {"5", 1, "5"},           {"15", 1, "20"},
+      {"12345", 5, "12345"},   {"12345", 9, "12345"},   {"000123", 2, "120"},
+      {"12345", 2.5, "12000"}, {"12345", 3.5, "12350"},
   };
   for (const auto& [num, digits, rounded] : cases) {
     EXPECT_EQ(To_Text(Round_To_SD(num, digits)), rounded) << num << " to " << digits;

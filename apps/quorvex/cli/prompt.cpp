@@ -19,6 +19,7 @@
 #include "host/run_time_failure.h"
 #include "quorvex_version.h"
 #include "sheet/csv.h"
+#include "shell/show_forms.h"
 
 namespace quorvex {
 namespace {

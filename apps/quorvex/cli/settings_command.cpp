@@ -1,13 +1,13 @@
 // `quorvex settings` and `quorvex about`.
 #include "cli/settings_command.h"
 
-#include <unistd.h>
-
 #include "cli/terminal_face.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "io/attended.h"
 #include "shell/frmMaxSD.h"
+#include "shell/show_forms.h"
 #include "shell/start_up.h"
 #include "text/options.h"
 
@@ -53,8 +53,7 @@ Outcome Run_Settings(Session& session, const Settings_Words& words) {
     Store_Limit(*words.value);
     return Outcome::success;
   }
-  if (!words.name && ::isatty(STDIN_FILENO) != 0 && ::isatty(STDOUT_FILENO) != 0)
-    return Open_Dialog(session);
+  if (!words.name && Is_Attended()) return Open_Dialog(session);
   Load_Limit();
   const std::string limit = Number_To_Text(Default_MaxSD());
   session.output().write_line(words.name ? limit : std::string(limit_name) + " = " + limit);

@@ -12,6 +12,7 @@
 #include "cli/quiet_face.h"
 #include "host/conversions.h"
 #include "host/platform.h"
+#include "io/attended.h"
 #include "io/wrapped.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMaxSD.h"
@@ -32,11 +33,6 @@ std::optional<std::string> Typed_Line() {
     if (character == '\n') return line;
     if (character != '\r') line += character;
   }
-}
-
-// Whether somebody is there to press the buttons.
-bool Is_Dialogue() {
-  return ::isatty(STDIN_FILENO) != 0 && ::isatty(STDOUT_FILENO) != 0;
 }
 
 // Answers No to every question, as long as it stands in the place of the platform's message box.
@@ -99,7 +95,7 @@ void Terminal_Face::write(const std::string& text) {
 void Terminal_Face::show(frmAbout& form) {
   write(form.Caption + "\n\n" + Wrapped_Paragraphs(form.RichTextBox1.Text) + "\n" +
         form.lblMaxSD.Caption + "\n");
-  if (!Is_Dialogue()) {
+  if (!Is_Attended()) {
     write("(\"quorvex settings\" changes it.)\n");
     return form.cmdOK_Click();
   }
@@ -114,6 +110,7 @@ void Terminal_Face::show(frmAbout& form) {
 }
 
 void Terminal_Face::show(frmMaxSD& form) {
+  if (!Is_Attended()) return form.cmdCancel_Click();
   Call_Guard::forget_interruption();
   write(form.Caption + "\n\n" + Wrapped(form.lblMainText.Caption) +
         "\n\nEnter alone keeps the number in brackets, Ctrl-D cancels.\n");

@@ -145,7 +145,7 @@ std::optional<double> Exact_Float(const Scientific& number, Given_Back form) {
 }
 
 std::string Kept_Text(const Spelling& spelling, const Scientific& number) {
-  const std::string& separator = Current_Locale().decimal_separator;
+  const std::string& separator = Current_Separators().decimal();
   if (!spelling.exponent.empty() && number.exponent_known) {
     return Scientific_Text(number.digits, number.exponent, separator);
   }

@@ -2,19 +2,15 @@
 #pragma once
 
 #include <atomic>
-#include <chrono>
-#include <optional>
 
-#include "host/platform.h"
+#include "host/deadline.h"
 
 namespace quorvex {
 
-using Seconds = std::chrono::duration<double>;
-
 /// The tool's yielder. A broken-off calculation fails with `Failure_Number::interrupted`.
-class Call_Guard : public Yielder {
+class Call_Guard final : public Deadline {
  public:
-  explicit Call_Guard(std::optional<Seconds> limit) : limit_(limit) {}
+  using Deadline::Deadline;
 
   /// Starts the time of a call, and forgets an interruption that came before it.
   void begin_call();
@@ -26,11 +22,7 @@ class Call_Guard : public Yielder {
   static void forget_interruption() noexcept { interrupted_.store(false); }
 
  private:
-  using Clock = std::chrono::steady_clock;
-
   static inline std::atomic<bool> interrupted_ = false;
-  std::optional<Seconds> limit_;
-  Clock::time_point begin_ = Clock::now();
 };
 
 }  // namespace quorvex

@@ -49,11 +49,11 @@ void Erase_All(std::string& text, std::string_view part) {
 
 // Whether a text is best set like a number. The engine is not asked: looks are what counts here.
 bool Looks_Like_Number(std::string text) {
-  const Locale& locale = Current_Locale();
+  const Separators separators = Current_Separators();
   if (text.size() > 256) return text.find_first_not_of("0123456789.,-") == std::string::npos;
-  Erase_All(text, locale.currency_symbol);
-  Erase_All(text, locale.thousands_separator);
-  Erase_All(text, locale.decimal_separator);
+  Erase_All(text, Current_Currency().symbol());
+  Erase_All(text, separators.thousands());
+  Erase_All(text, separators.decimal());
   const std::size_t exponent = text.find('E');
   if (exponent != std::string::npos) text.erase(exponent, 2);
   if (text.starts_with('(') && text.ends_with(')')) text = text.substr(1, text.size() - 2);

@@ -13,7 +13,7 @@ namespace quorvex {
 namespace {
 
 std::optional<HostValue> Typed_Number(std::string_view typed) {
-  const std::string& separator = Current_Locale().decimal_separator;
+  const std::string& separator = Current_Separators().decimal();
   const bool negative = typed.starts_with('-');
   const std::string_view number = typed.substr(negative ? 1 : 0);
   const std::size_t length = Number_Length(number, separator);

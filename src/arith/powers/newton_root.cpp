@@ -1,6 +1,7 @@
 #include "arith/powers/newton_root.h"
 
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <string_view>
 #include <utility>
@@ -81,6 +82,19 @@ class Circle_Watch {
   std::size_t next_ = 16;
 };
 
+// More than two minutes where products are fastest, at some hundred digits, and that for a lower
+// bound of the way: nobody waits so long. Shorter ways can be broken off.
+constexpr double most_digits = 5e10;
+
+void Refuse_Endless_Way(const Newton_Work& work) {
+  if (work.rounds * work.digits <= most_digits) return;
+  constexpr double greatest_told = 1e300;
+  const NumberText rounds = Number_To_Text(std::floor(std::fmin(work.rounds, greatest_told)));
+  throw Run_Time_Failure(Failure_Number::too_complex,
+                         "A root would take " + rounds +
+                             " rounds of Newton's iteration or more, which nobody waits for.");
+}
+
 NumberText Time_Of_Day() {
   return Expand_Exponent(Number_To_Text(Current_Platform().clock->time_of_day()));
 }
@@ -126,6 +140,7 @@ class Newton_Iteration {
 
 NumberText Newton_Root(const NumberText& radicand, const NumberText& degree, NumberText start,
                        const Newton_Limits& limits) {
+  Refuse_Endless_Way(Least_Work(radicand, degree, start, limits));
   const Newton_Iteration iteration(radicand, degree, limits.steps);
   History history;
   Circle_Watch circles;

@@ -14,7 +14,7 @@ namespace quorvex {
 /// Tokens: "DIV/0!", without the mark, for a degree of 0; "#NUM!" for a negative radicand whose
 /// degree isn't an odd whole number, for operands that are too long where they are restricted, and
 /// for an iteration that turns in a circle; that of an operand that is no number. Fails with
-/// too_complex for an iteration that can be seen never to end.
+/// too_complex for an iteration that can be seen never to end, or later than anybody waits for.
 NumberText Root_Function(const Operand& radicand, const Operand& degree,
                          const Step_Options& options);
 

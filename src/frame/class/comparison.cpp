@@ -1,7 +1,7 @@
 // Comparisons, and the sign of a number.
 #include "frame/class/cls_Quorvex.h"
+#include "frame/class/outer_call.h"
 #include "host/conversions.h"
-#include "host/run_time_failure.h"
 #include "text/compare_numbers.h"
 #include "text/tokens.h"
 
@@ -15,7 +15,7 @@ HostValue Shown(const HostValue& answer) {
 
 HostValue Compare(const HostValue& number1, const HostValue& number2, bool testEqual,
                   bool testGreater) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch1;
     std::string scratch2;
     return Compare_Numbers(Text_Of(number1, scratch1), Text_Of(number2, scratch2), testEqual,
@@ -26,7 +26,7 @@ HostValue Compare(const HostValue& number1, const HostValue& number2, bool testE
 }  // namespace
 
 HostValue cls_Quorvex::qvxSIGN(const HostValue& num) {
-  return With_Memory_Failures([&] { return Sign_Function(num); });
+  return Outer_Call([&] { return Sign_Function(num); });
 }
 
 HostValue cls_Quorvex::qvxISEQUAL(const HostValue& number1, const HostValue& number2) {
@@ -40,9 +40,11 @@ HostValue cls_Quorvex::qvxISNOTEQUAL(const HostValue& number1, const HostValue& 
 }
 
 HostValue cls_Quorvex::qvxISGREATER(HostValue& number1, HostValue& number2) {
-  if (!number1.is_text()) number1 = To_Text(number1);
-  if (!number2.is_text()) number2 = To_Text(number2);
-  return Shown(Compare_Numbers(number1.text(), number2.text(), false, true));
+  return Outer_Call([&] {
+    if (!number1.is_text()) number1 = To_Text(number1);
+    if (!number2.is_text()) number2 = To_Text(number2);
+    return Shown(Compare_Numbers(number1.text(), number2.text(), false, true));
+  });
 }
 
 HostValue cls_Quorvex::qvxISGREATEROREQUAL(const HostValue& number1, const HostValue& number2) {

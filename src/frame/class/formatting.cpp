@@ -1,7 +1,7 @@
 // The formatting options, and what reads or formats a number as it is.
 #include "frame/class/cls_Quorvex.h"
+#include "frame/class/outer_call.h"
 #include "host/conversions.h"
-#include "host/run_time_failure.h"
 #include "text/format_result.h"
 #include "text/recognition.h"
 
@@ -22,13 +22,15 @@ type_Restrictionator cls_Quorvex::Restrictionator(const HostValue& format_negati
                                                   const HostValue& maximum_significant_digits,
                                                   const HostValue& format_decimal_place,
                                                   const HostValue& preserve_decimal_place) {
-  return quorvex::Restrictionator({format_negative, format_thousands, format_currency,
-                                   exponential_notation, maximum_significant_digits,
-                                   format_decimal_place, preserve_decimal_place});
+  return Outer_Call([&] {
+    return quorvex::Restrictionator({format_negative, format_thousands, format_currency,
+                                     exponential_notation, maximum_significant_digits,
+                                     format_decimal_place, preserve_decimal_place});
+  });
 }
 
 bool cls_Quorvex::qvxISNUMBER(const HostValue& num) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Is_Number_Text(Text_Of(num, scratch));
   });
@@ -45,7 +47,7 @@ NumberText cls_Quorvex::qvxFORMAT(const NumberText& number, const HostValue& for
                                   const HostValue& maximum_significant_digits,
                                   const HostValue& format_decimal_place,
                                   const HostValue& preserve_decimal_place) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     return Format_Number(
         number, {format_negative, format_thousands, format_currency, exponential_notation,
                  maximum_significant_digits, format_decimal_place, preserve_decimal_place});

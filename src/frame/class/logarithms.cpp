@@ -3,20 +3,20 @@
 #include "elementary/logarithm.h"
 #include "elementary/mantissa_and_exponent.h"
 #include "frame/class/cls_Quorvex.h"
+#include "frame/class/outer_call.h"
 #include "host/conversions.h"
-#include "host/run_time_failure.h"
 
 namespace quorvex {
 
 NumberText cls_Quorvex::Get_Mantissa(const HostValue& num, bool as_integer) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return quorvex::Get_Mantissa(Text_Of(num, scratch), as_integer);
   });
 }
 
 NumberText cls_Quorvex::Get_Exponent(const HostValue& num) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return quorvex::Get_Exponent(Text_Of(num, scratch));
   });
@@ -24,12 +24,11 @@ NumberText cls_Quorvex::Get_Exponent(const HostValue& num) {
 
 NumberText cls_Quorvex::Combine_Mantissa_And_Exponent(const NumberText& mantissa,
                                                       const NumberText& exponent) {
-  return With_Memory_Failures(
-      [&] { return quorvex::Combine_Mantissa_And_Exponent(mantissa, exponent); });
+  return Outer_Call([&] { return quorvex::Combine_Mantissa_And_Exponent(mantissa, exponent); });
 }
 
 NumberText cls_Quorvex::Test_Mantissa_And_Exponent(const HostValue& num) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return quorvex::Test_Mantissa_And_Exponent(Text_Of(num, scratch));
   });
@@ -38,17 +37,21 @@ NumberText cls_Quorvex::Test_Mantissa_And_Exponent(const HostValue& num) {
 NumberText cls_Quorvex::qvxLOG(const HostValue& num, const HostValue& num_base,
                                const HostValue& exponential_notation,
                                const HostValue& maximum_significant_digits) {
-  return Log_Function(num, num_base, exponential_notation, maximum_significant_digits);
+  return Outer_Call([&] {
+    return Log_Function(num, num_base, exponential_notation, maximum_significant_digits);
+  });
 }
 
 NumberText cls_Quorvex::qvxLN(const HostValue& num, const HostValue& exponential_notation,
                               const HostValue& maximum_significant_digits) {
-  return Ln_Function(num, exponential_notation, maximum_significant_digits);
+  return Outer_Call(
+      [&] { return Ln_Function(num, exponential_notation, maximum_significant_digits); });
 }
 
 NumberText cls_Quorvex::qvxEXP(const HostValue& num, const HostValue& exponential_notation,
                                const HostValue& maximum_significant_digits) {
-  return Exp_Function(num, exponential_notation, maximum_significant_digits);
+  return Outer_Call(
+      [&] { return Exp_Function(num, exponential_notation, maximum_significant_digits); });
 }
 
 }  // namespace quorvex

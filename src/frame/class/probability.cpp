@@ -2,7 +2,7 @@
 #include "elementary/factorial.h"
 #include "elementary/poisson.h"
 #include "frame/class/cls_Quorvex.h"
-#include "host/run_time_failure.h"
+#include "frame/class/outer_call.h"
 
 namespace quorvex {
 
@@ -10,7 +10,7 @@ NumberText cls_Quorvex::qvxFACT(const HostValue& num, const HostValue& format_ne
                                 const HostValue& format_thousands, const HostValue& format_currency,
                                 const HostValue& exponential_notation,
                                 const HostValue& maximum_significant_digits) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     return Fact_Function(num, {format_negative, format_thousands, format_currency,
                                exponential_notation, maximum_significant_digits});
   });
@@ -21,7 +21,7 @@ NumberText cls_Quorvex::qvxFACTDOUBLE(const HostValue& num, const HostValue& for
                                       const HostValue& format_currency,
                                       const HostValue& exponential_notation,
                                       const HostValue& maximum_significant_digits) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     return FactDouble_Function(num, {format_negative, format_thousands, format_currency,
                                      exponential_notation, maximum_significant_digits});
   });
@@ -32,7 +32,7 @@ NumberText cls_Quorvex::qvxPOISSON(const HostValue& target_num, const HostValue&
                                    const HostValue& exponential_notation,
                                    const HostValue& maximum_significant_digits,
                                    const HostValue& restrict_input_lengths) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     return Poisson_Function(target_num, average_num, is_cumulative, exponential_notation,
                             maximum_significant_digits, restrict_input_lengths);
   });

@@ -1,7 +1,7 @@
 // Rounding to a count of places.
 #include "frame/class/cls_Quorvex.h"
+#include "frame/class/outer_call.h"
 #include "host/conversions.h"
-#include "host/run_time_failure.h"
 #include "text/round_function.h"
 
 namespace quorvex {
@@ -9,7 +9,7 @@ namespace {
 
 NumberText Round(const HostValue& num, const HostValue& num_digits, Rounding_Direction direction,
                  const Format_Arguments& format) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Round_Function(Text_Of(num, scratch), Places_Of(num_digits), direction, format);
   });

@@ -5,8 +5,8 @@
 #include "elementary/inverse_trigonometry.h"
 #include "elementary/trigonometry.h"
 #include "frame/class/cls_Quorvex.h"
+#include "frame/class/outer_call.h"
 #include "host/conversions.h"
-#include "host/run_time_failure.h"
 
 namespace quorvex {
 namespace {
@@ -14,7 +14,7 @@ namespace {
 // Workers give the number 0 for what needs no calculation, and else text.
 template <typename Worker>
 NumberText Text_From(const Worker& worker, const HostValue& num, const HostValue& maxSD) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     HostValue result = worker(num, maxSD);
     return result.is_text() ? std::move(result.mutable_text()) : To_Text(result);
   });
@@ -23,35 +23,35 @@ NumberText Text_From(const Worker& worker, const HostValue& num, const HostValue
 }  // namespace
 
 HostValue cls_Quorvex::Cos_Function(const HostValue& num, const HostValue& maxSD) {
-  return With_Memory_Failures([&] { return quorvex::Cos_Function(num, maxSD); });
+  return Outer_Call([&] { return quorvex::Cos_Function(num, maxSD); });
 }
 
 HostValue cls_Quorvex::Tan_Function(const HostValue& num, const HostValue& maxSD) {
-  return With_Memory_Failures([&] { return quorvex::Tan_Function(num, maxSD); });
+  return Outer_Call([&] { return quorvex::Tan_Function(num, maxSD); });
 }
 
 HostValue cls_Quorvex::ATan_Function(const HostValue& num, const HostValue& maxSD) {
-  return With_Memory_Failures([&] { return quorvex::ATan_Function(num, maxSD); });
+  return Outer_Call([&] { return quorvex::ATan_Function(num, maxSD); });
 }
 
 HostValue cls_Quorvex::ASin_Function(const HostValue& num, const HostValue& maxSD) {
-  return With_Memory_Failures([&] { return quorvex::ASin_Function(num, maxSD); });
+  return Outer_Call([&] { return quorvex::ASin_Function(num, maxSD); });
 }
 
 HostValue cls_Quorvex::ACos_Function(const HostValue& num, const HostValue& maxSD) {
-  return With_Memory_Failures([&] { return quorvex::ACos_Function(num, maxSD); });
+  return Outer_Call([&] { return quorvex::ACos_Function(num, maxSD); });
 }
 
 NumberText cls_Quorvex::qvxRADIANS(const NumberText& degrees, const HostValue& maxSD) {
-  return With_Memory_Failures([&] { return Radians_Function(degrees, maxSD); });
+  return Outer_Call([&] { return Radians_Function(degrees, maxSD); });
 }
 
 NumberText cls_Quorvex::qvxDEGREES(const NumberText& radians, const HostValue& maxSD) {
-  return With_Memory_Failures([&] { return Degrees_Function(radians, maxSD); });
+  return Outer_Call([&] { return Degrees_Function(radians, maxSD); });
 }
 
 NumberText cls_Quorvex::qvxSIN(const HostValue& num, const HostValue& maxSD) {
-  return With_Memory_Failures([&] { return Sin_Function(num, maxSD); });
+  return Outer_Call([&] { return Sin_Function(num, maxSD); });
 }
 
 NumberText cls_Quorvex::qvxCOS(const HostValue& num, const HostValue& maxSD) {

@@ -1,7 +1,7 @@
 // The worksheet functions of whole numbers, their parts and signs.
 #include "frame/class/cls_Quorvex.h"
+#include "frame/class/outer_call.h"
 #include "host/conversions.h"
-#include "host/run_time_failure.h"
 #include "lists/is_error.h"
 #include "numbers/even_odd.h"
 #include "numbers/frac_function.h"
@@ -13,14 +13,14 @@
 namespace quorvex {
 
 HostValue cls_Quorvex::qvxISODD(const HostValue& num) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return IsOdd_Function(Text_Of(num, scratch));
   });
 }
 
 HostValue cls_Quorvex::qvxISEVEN(const HostValue& num) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return IsEven_Function(Text_Of(num, scratch));
   });
@@ -30,7 +30,7 @@ NumberText cls_Quorvex::qvxEVEN(const HostValue& num, bool RoundNegTowardZero,
                                 const HostValue& format_negative, const HostValue& format_thousands,
                                 const HostValue& format_currency,
                                 const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Even_Function(
         Text_Of(num, scratch), Parity::even, RoundNegTowardZero,
@@ -42,7 +42,7 @@ NumberText cls_Quorvex::qvxODD(const HostValue& num, bool RoundNegTowardZero,
                                const HostValue& format_negative, const HostValue& format_thousands,
                                const HostValue& format_currency,
                                const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Even_Function(
         Text_Of(num, scratch), Parity::odd, RoundNegTowardZero,
@@ -55,7 +55,7 @@ NumberText cls_Quorvex::qvxEVEN2(const HostValue& num, bool RoundNegAwayFromZero
                                  const HostValue& format_thousands,
                                  const HostValue& format_currency,
                                  const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Odd_Function(Text_Of(num, scratch), Parity::even, RoundNegAwayFromZero,
                         {format_negative, format_thousands, format_currency, exponential_notation});
@@ -66,7 +66,7 @@ NumberText cls_Quorvex::qvxODD2(const HostValue& num, bool RoundNegAwayFromZero,
                                 const HostValue& format_negative, const HostValue& format_thousands,
                                 const HostValue& format_currency,
                                 const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Odd_Function(Text_Of(num, scratch), Parity::odd, RoundNegAwayFromZero,
                         {format_negative, format_thousands, format_currency, exponential_notation});
@@ -74,13 +74,13 @@ NumberText cls_Quorvex::qvxODD2(const HostValue& num, bool RoundNegAwayFromZero,
 }
 
 bool cls_Quorvex::qvxISERROR(const HostValue& num) {
-  return With_Memory_Failures([&] { return IsError_Function(num); });
+  return Outer_Call([&] { return IsError_Function(num); });
 }
 
 NumberText cls_Quorvex::qvxINT(const HostValue& num, const HostValue& format_negative,
                                const HostValue& format_thousands, const HostValue& format_currency,
                                const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Int_Function(Text_Of(num, scratch),
                         {format_negative, format_thousands, format_currency, exponential_notation});
@@ -92,7 +92,7 @@ NumberText cls_Quorvex::qvxTRUNC(const HostValue& num, const HostValue& num_digi
                                  const HostValue& format_thousands,
                                  const HostValue& format_currency,
                                  const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Trunc_Function(
         Text_Of(num, scratch), num_digits,
@@ -105,7 +105,7 @@ NumberText cls_Quorvex::qvxFRAC(const HostValue& num, const HostValue& as_int,
                                 const HostValue& format_thousands, const HostValue& format_currency,
                                 const HostValue& exponential_notation,
                                 const HostValue& maximum_significant_digits) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     return Frac_Function(num, as_int, sign,
                          {format_negative, format_thousands, format_currency, exponential_notation,
                           maximum_significant_digits});
@@ -117,7 +117,7 @@ NumberText cls_Quorvex::qvxMOD(const HostValue& dividend, const HostValue& divis
                                const HostValue& format_thousands, const HostValue& format_currency,
                                const HostValue& exponential_notation,
                                const HostValue& maximum_significant_digits) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     return Mod_Function(dividend, divisor, false, sign,
                         {format_negative, format_thousands, format_currency, exponential_notation,
                          maximum_significant_digits});
@@ -130,7 +130,7 @@ NumberText cls_Quorvex::qvxMODTRUNC(const HostValue& dividend, const HostValue& 
                                     const HostValue& format_currency,
                                     const HostValue& exponential_notation,
                                     const HostValue& maximum_significant_digits) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     return Mod_Function(dividend, divisor, true, sign,
                         {format_negative, format_thousands, format_currency, exponential_notation,
                          maximum_significant_digits});
@@ -144,7 +144,7 @@ NumberText cls_Quorvex::qvxREMAINDER(const HostValue& dividend, const HostValue&
                                      const HostValue& exponential_notation,
                                      const HostValue& maximum_significant_digits) {
   // Every argument goes one place to the left. That is how the function has always read them.
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     return Mod_Function(
         dividend, divisor, sign, format_negative,
         {format_thousands, format_currency, exponential_notation, maximum_significant_digits});
@@ -154,7 +154,7 @@ NumberText cls_Quorvex::qvxREMAINDER(const HostValue& dividend, const HostValue&
 NumberText cls_Quorvex::qvxABS(const HostValue& num, const HostValue& format_negative,
                                const HostValue& format_thousands, const HostValue& format_currency,
                                const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Abs_Function(Text_Of(num, scratch),
                         {format_negative, format_thousands, format_currency, exponential_notation});
@@ -164,7 +164,7 @@ NumberText cls_Quorvex::qvxABS(const HostValue& num, const HostValue& format_neg
 NumberText cls_Quorvex::qvxNEG(const HostValue& num, const HostValue& format_negative,
                                const HostValue& format_thousands, const HostValue& format_currency,
                                const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return Neg_Function(Text_Of(num, scratch),
                         {format_negative, format_thousands, format_currency, exponential_notation});
@@ -175,7 +175,7 @@ NumberText cls_Quorvex::qvxCHANGESIGN(const HostValue& num, const HostValue& for
                                       const HostValue& format_thousands,
                                       const HostValue& format_currency,
                                       const HostValue& exponential_notation) {
-  return With_Memory_Failures([&] {
+  return Outer_Call([&] {
     std::string scratch;
     return ChangeSign_Function(Text_Of(num, scratch), {format_negative, format_thousands,
                                                        format_currency, exponential_notation});

@@ -19,8 +19,8 @@ std::optional<std::filesystem::path> Settings_Path();
 /// A store in that file, which is made when it is first written.
 std::shared_ptr<Settings_Store> File_Settings(std::optional<std::filesystem::path> path);
 
-/// Asks on `output` and reads the answer from `input` (file descriptors) if both are terminals.
-/// Without a terminal it shows nothing, and the answer is ok or no.
+/// Asks on `output` and reads the answer from `input` (file descriptors) if both are terminals and
+/// this process is in the foreground. Otherwise it shows nothing, and the answer is ok or no.
 std::shared_ptr<Message_Box> Terminal_Message_Box(int input, int output);
 
 /// What the system has left, within the limits of the process and of its control group.

@@ -1,11 +1,12 @@
 // Libraries that stand beside this one, on POSIX systems.
 #include <dlfcn.h>
 
+#include <atomic>
 #include <cstring>
 #include <filesystem>
 #include <string>
 #include <system_error>
-#include <vector>
+#include <utility>
 
 #include "host/platform/posix.h"
 
@@ -42,17 +43,24 @@ const auto* const folder_when_loaded = new std::string(Folder_Of_This_Library())
 
 class Loaded_Libraries final : public Library_Loader {
  public:
+  Loaded_Libraries() = default;
+  Loaded_Libraries(const Loaded_Libraries&) = delete;
+  Loaded_Libraries& operator=(const Loaded_Libraries&) = delete;
+  ~Loaded_Libraries() override {
+    for (const Found* found = last_; found != nullptr;) delete std::exchange(found, found->before);
+  }
+
   // A library that was found stays loaded; one that was not is looked for again.
   void* symbol(const char* library, const char* name) override {
-    for (const Found& found : found_) {
-      if (std::strcmp(found.name.c_str(), name) == 0 &&
-          std::strcmp(found.library.c_str(), library) == 0) {
-        return found.symbol;
+    for (const Found* found = last_; found != nullptr; found = found->before) {
+      if (std::strcmp(found->name.c_str(), name) == 0 &&
+          std::strcmp(found->library.c_str(), library) == 0) {
+        return found->symbol;
       }
     }
     void* const handle = ::dlopen(library, RTLD_NOW | RTLD_LOCAL);
     void* const symbol = handle == nullptr ? nullptr : ::dlsym(handle, name);
-    if (symbol != nullptr) found_.push_back({library, name, symbol});
+    if (symbol != nullptr) remember({library, name, symbol});
     return symbol;
   }
 
@@ -63,8 +71,18 @@ class Loaded_Libraries final : public Library_Loader {
     std::string library;
     std::string name;
     void* symbol;
+    const Found* before = nullptr;
   };
-  std::vector<Found> found_;
+
+  // Products of several threads come here at the same time, so what was found is never changed.
+  void remember(Found found) {
+    auto* const last = new Found(std::move(found));
+    last->before = last_.load();
+    while (!last_.compare_exchange_weak(last->before, last)) {
+    }
+  }
+
+  std::atomic<const Found*> last_ = nullptr;
 };
 
 }  // namespace

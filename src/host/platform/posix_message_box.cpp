@@ -19,7 +19,7 @@ class Terminal_Box final : public Message_Box {
                       Message_Buttons buttons) override {
     const bool asks = buttons == Message_Buttons::yes_no;
     const Message_Answer quiet = asks ? Message_Answer::no : Message_Answer::ok;
-    if (isatty(input_) == 0 || isatty(output_) == 0) return quiet;
+    if (!is_attended()) return quiet;
     write_all(std::string(title) + label(icon) + "\n" + std::string(text) + "\n");
     while (asks) {
       write_all("Yes or no? [y/N] ");
@@ -40,6 +40,14 @@ class Terminal_Box final : public Message_Box {
       default:
         return "";
     }
+  }
+
+  /// Whether somebody can answer. Where another program has the terminal, or the shell has it back,
+  /// reading would stop this process.
+  bool is_attended() const {
+    if (isatty(input_) == 0 || isatty(output_) == 0) return false;
+    const pid_t reader = tcgetpgrp(input_);
+    return reader < 0 || reader == getpgrp();
   }
 
   void write_all(std::string_view text) const {

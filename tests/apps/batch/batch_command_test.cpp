@@ -36,16 +36,6 @@ TEST(BatchCommand, AnswersALineForEachAndNeverStops) {
   }
 }
 
-TEST(BatchCommand, RecordsKeepTheOrderOfTheirFields) {
-  const Tool_Run run =
-      Run_Tool({"batch", "--digits", "20"}, "{\"call\":\"Restrictionator\",\"args\":[2,true]}\n");
-  EXPECT_EQ(run.output,
-            "{\"record\":{\"FormatNegative\":2,\"FormatThousands\":true,\"FormatCurrency\":false,"
-            "\"ExponentialNotation\":false,\"maxSD\":20,\"InsertFunctionDialog\":true,"
-            "\"IncluderExcluderFunctions\":true,\"FormatDecimalPlace\":{\"missing\":true},"
-            "\"PreserveTrailingZerosAfterDecimal\":false}}\n");
-}
-
 TEST(BatchCommand, LongCallsAreEndedAndTheNextOneIsNot) {
   const std::string sevens(4000000, '7');
   const std::string input = R"({"id":1,"call":"qvxADD","args":[")" + sevens + "\",\"" + sevens +

@@ -14,6 +14,7 @@
 
 #include "batch/json_document.h"
 #include "host/run_time_failure.h"
+#include "support/cells.h"
 #include "support/locales.h"
 
 namespace quorvex {
@@ -148,15 +149,8 @@ TEST(ValueCodec, TextThatIsNoUtf8StaysWellFormed) {
   EXPECT_EQ(Written("1\xE2\x80"), "\"1\xEF\xBF\xBD\"");
 }
 
-class Squares : public Range {
- public:
-  std::size_t rows() const override { return 2; }
-  std::size_t columns() const override { return 2; }
-  HostValue cell(std::size_t row, std::size_t column) const override { return 10 * row + column; }
-};
-
 TEST(ValueCodec, RangesAreWrittenAsTheirValues) {
-  EXPECT_EQ(Written(HostValue(std::make_shared<const Squares>())), "{\"array\":[[11,12],[21,22]]}");
+  EXPECT_EQ(Written(Range_Of_Cells(2, {11, 12, 21, 22})), "{\"array\":[[11,12],[21,22]]}");
 }
 
 }  // namespace

@@ -180,20 +180,6 @@ TEST_F(Settings_Dialog, ChecksWhatIsTypedAndStoresIt) {
   EXPECT_EQ(limit(), "55\n");
 }
 
-TEST_F(Settings_Dialog, TakesTheCeilingThatItOffersAndCanBeCancelled) {
-  {
-    Terminal terminal(folder_.path(), {"settings"});
-    terminal.type_at("[100]: ", "9999999999\n");
-    terminal.type_at("[2147483648]: ", "\n");
-    EXPECT_EQ(terminal.end(), 0);
-  }
-  EXPECT_EQ(limit(), "2147483648\n");
-  Terminal terminal(folder_.path(), {"settings"});
-  terminal.type_at("[2147483648]: ", "\x04");
-  EXPECT_EQ(terminal.end(), 0);
-  EXPECT_EQ(limit(), "2147483648\n");
-}
-
 TEST_F(Settings_Dialog, AboutStandsBetweenTheResultsAndLeadsThere) {
   Terminal terminal(folder_.path(), {"qvxADD(1,2)", "qvxABOUT()", "qvxDEFAULTMAXSD()"});
   EXPECT_TRUE(terminal.shows("3\r\nAbout Quorvex")) << terminal.shown();

@@ -5,13 +5,11 @@
 #include <unistd.h>
 
 #include <array>
-#include <memory>
 #include <string>
 #include <thread>
 #include <vector>
 
-#include "host/platform.h"
-#include "host/run_time_failure.h"
+#include "support/surroundings.h"
 
 namespace quorvex {
 namespace {
@@ -67,16 +65,10 @@ TEST(LineReader, SplitsWhateverThePiecesAre) {
   EXPECT_TRUE(Lines_Of("", 1).empty());
 }
 
-class Small_Memory : public Memory_Gauge {
- public:
-  std::size_t available_bytes() override { return std::size_t{1} << 25; }
-};
-
 TEST(LineReader, DropsALineThatMemoryCantHold) {
-  const auto gauge = std::exchange(Current_Platform().memory, std::make_shared<Small_Memory>());
+  const Memory_Guard small(std::size_t{1} << 25);
   const std::string endless(std::size_t{1} << 26, 'x');
   const auto lines = Lines_Of("before\n" + endless + "\nafter\n" + endless, 1 << 16);
-  Current_Platform().memory = gauge;
   EXPECT_EQ(lines, (std::vector<std::string>{"before", "(too long)", "after", "(too long)"}));
 }
 

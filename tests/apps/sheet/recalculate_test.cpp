@@ -1,13 +1,13 @@
 // Recalculation: order, circles, failures, and breaking it off.
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "host/run_time_failure.h"
 #include "sheet/recalculate.h"
 #include "support/locales.h"
+#include "support/surroundings.h"
 
 namespace quorvex {
 namespace {
@@ -240,26 +240,14 @@ TEST_F(Recalculate, TouchesUsedCellsOnly) {
   EXPECT_EQ(shown("D1000"), "3");
 }
 
-class Break_After final : public Yielder {
- public:
-  explicit Break_After(std::size_t calls) : calls_(calls) {}
-  void yield() override {
-    if (calls_-- == 0) throw Run_Time_Failure(Failure_Number::interrupted, "Broken off.");
-  }
-
- private:
-  std::size_t calls_;
-};
-
 TEST_F(Recalculate, CanBeBrokenOffAnywhereAndRunAgain) {
   for (std::uint32_t row = 1; row < 50; ++row) {
     sheet.set({row, 1}, "=qvxADD(A" + std::to_string(row + 1) + ",1)");
   }
   sheet.set({50, 1}, "1");
-  const auto before = Current_Platform().yielder;
   std::size_t broken = 0;
   for (std::size_t calls = 0; calls < 200; calls += 7) {
-    Current_Platform().yielder = std::make_shared<Break_After>(calls);
+    const Interruption_Guard guard(calls);
     try {
       calculate();
     } catch (const Run_Time_Failure& failure) {
@@ -267,7 +255,6 @@ TEST_F(Recalculate, CanBeBrokenOffAnywhereAndRunAgain) {
       ++broken;
     }
   }
-  Current_Platform().yielder = before;
   EXPECT_GT(broken, 3U);
   calculate();
   EXPECT_EQ(shown("A1"), "50");

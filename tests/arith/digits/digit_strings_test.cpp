@@ -4,27 +4,9 @@
 #include "arith/digits/add_digits.h"
 #include "arith/digits/subtract_digits.h"
 #include "support/failures.h"
-#include "support/localized.h"
 
 namespace quorvex {
 namespace {
-
-TEST(AddDigits, KeepsLeadingZeros) {
-  const struct {
-    const char* operand1;
-    const char* operand2;
-    const char* sum;
-  } cases[] = {{"999", "1", "1000"},
-               {"5", "", "5"},
-               {"", "5", "5"},
-               {"", "", ""},
-               {"007", "05", "012"},
-               {"000", "0", "000"},
-               {"0999", "1", "1000"},
-               {"99999999", "1", "100000000"},
-               {"1", "999999999999999999", "1000000000000000000"}};
-  for (const auto& c : cases) EXPECT_EQ(Add_Digits(c.operand1, c.operand2), c.sum) << c.operand1;
-}
 
 TEST(SubtractDigits, TakesTheLongerForTheLarger) {
   const struct {

@@ -1,23 +1,20 @@
 // Remainders against the three operations that define them and against exact whole numbers.
-#include <gmp.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <iterator>
-#include <memory>
 #include <string>
 #include <utility>
 
 #include "arith/operation/do_operation.h"
-#include "host/platform.h"
 #include "numbers/mod_function.h"
 #include "numbers/parity.h"
 #include "numbers/whole_part.h"
 #include "support/exact_decimal.h"
 #include "support/failures.h"
-#include "support/localized.h"
 #include "support/random_numbers.h"
 #include "support/surroundings.h"
+#include "support/whole_number.h"
+#include "support/without_libraries.h"
 #include "text/clean_up_number.h"
 #include "text/close_number.h"
 #include "text/primitives.h"
@@ -89,50 +86,6 @@ TEST(Remainders, AreThoseOfTheOperations) {
   }
 }
 
-TEST(Remainders, MakeTheDividendUpWithTheWholeQuotient) {
-  In_Each_Locale([] {
-    Random_Numbers random(81);
-    for (int round = 0; round < 1000; ++round) {
-      const std::string dividend = random.number(80);
-      const std::string divisor = random.number(40);
-      if (Is_Nothing(divisor)) continue;
-      const std::string a = Localized(dividend);
-      const std::string b = Localized(divisor);
-      const NumberText down = Mod(a, b, false);
-      const NumberText cut = Mod(a, b, true);
-      for (const NumberText& rest : {down, cut}) {
-        const NumberText multiple = Operate(operation::subtract, a, rest, 1e6);
-        const NumberText quotient = Operate(operation::divide, multiple, b, 1000);
-        ASSERT_EQ(Int_Function(quotient), quotient) << dividend << " by " << divisor;
-        ASSERT_EQ(Operate(operation::multiply, quotient, b, 1e6),
-                  Operate(operation::add, multiple, "0", 1e6));
-        ASSERT_EQ(Mod(rest, b, true), rest) << "not less than the divisor";
-      }
-      ASSERT_TRUE(down == "0" || (down.front() == '-') == (divisor.front() == '-')) << down;
-      ASSERT_TRUE(cut == "0" || (cut.front() == '-') == (dividend.front() == '-')) << cut;
-    }
-  });
-}
-
-class Whole {
- public:
-  explicit Whole(const std::string& digits) { mpz_init_set_str(number_, digits.c_str(), 10); }
-  ~Whole() { mpz_clear(number_); }
-  Whole(const Whole&) = delete;
-  Whole& operator=(const Whole&) = delete;
-
-  std::string modulo(const Whole& divisor) const {
-    Whole rest("0");
-    mpz_tdiv_r(rest.number_, number_, divisor.number_);
-    std::string text(mpz_sizeinbase(rest.number_, 10) + 2, '\0');
-    text.resize(std::char_traits<char>::length(mpz_get_str(text.data(), 10, rest.number_)));
-    return text;
-  }
-
- private:
-  mpz_t number_;
-};
-
 // Long division reaches to 48 limbs of eighteen digits, of divisor or quotient.
 TEST(Remainders, OfLongNumbersAreExact) {
   const std::size_t lengths[] = {17, 18, 19, 36, 37, 863, 864, 865, 882, 883, 2400, 5000};
@@ -143,7 +96,8 @@ TEST(Remainders, OfLongNumbersAreExact) {
         std::string divisor = random.digits(divisor_length);
         if (divisor.front() == '0') divisor.front() = '1';
         const std::string dividend = "9" + random.digits(divisor_length + quotient_length - 2);
-        ASSERT_EQ(Mod(dividend, divisor, true), Whole(dividend).modulo(Whole(divisor)))
+        ASSERT_EQ(Mod(dividend, divisor, true),
+                  (Whole_Number(dividend) % Whole_Number(divisor)).text())
             << dividend << " by " << divisor;
       }
     }
@@ -165,15 +119,10 @@ TEST(Remainders, OfMultiplesOfLongNumbersAreNothing) {
 }
 
 TEST(Remainders, AreAnErrorWhereNoProductsCanBeFormed) {
-  class No_Libraries final : public Library_Loader {
-   public:
-    void* symbol(const char*, const char*) override { return nullptr; }
-  };
-  const auto before = std::exchange(Current_Platform().libraries, std::make_shared<No_Libraries>());
+  const Without_Libraries without;
   EXPECT_EQ(Mod("7", "3", false), "#VALUE!");
   EXPECT_EQ(Mod("2", "3", true), "#VALUE!");
   EXPECT_EQ(Mod("0", "3", false), "0");
-  Current_Platform().libraries = before;
 }
 
 TEST(Remainders, CanBeBrokenOff) {
@@ -190,19 +139,6 @@ TEST(Remainders, NeedRoomForWhatIsWrittenOut) {
   const Memory_Guard little(10'000'000);
   EXPECT_EQ(Mod("1E+900000000", "7", true), "#VALUE!");
   EXPECT_EQ(IsOdd_Function("1E+900000000").text(), "#NUM!");
-}
-
-TEST(Parity, IsThatOfTheLastWholeDigit) {
-  In_Each_Locale([] {
-    Random_Numbers random(84);
-    for (int round = 0; round < 2000; ++round) {
-      const std::string number = random.number(50);
-      const std::size_t end = std::min(number.find('.'), number.size());
-      const bool odd = Mod(number.substr(0, end), "2", true).back() == '1';
-      ASSERT_EQ(IsOdd_Function(Localized(number)).boolean(), odd) << number;
-      ASSERT_EQ(IsEven_Function(Localized(number)).boolean(), !odd) << number;
-    }
-  });
 }
 
 }  // namespace

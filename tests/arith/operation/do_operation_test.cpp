@@ -3,10 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <utility>
+#include <vector>
 
-#include "arith/operation/resolve_signs.h"
+#include "support/cells.h"
 #include "support/failures.h"
 #include "support/surroundings.h"
 
@@ -56,21 +55,8 @@ TEST(DoOperation, LetsABreakPassItsHandler) {
   EXPECT_EQ(Do_Operation(operation::add, "1", "1", {}), "2");
 }
 
-// A range of one cell, for operands that are references.
-class Cell final : public Range {
- public:
-  explicit Cell(HostValue value, std::size_t rows = 1) : value_(std::move(value)), rows_(rows) {}
-  std::size_t rows() const override { return rows_; }
-  std::size_t columns() const override { return 1; }
-  HostValue cell(std::size_t, std::size_t) const override { return value_; }
-
- private:
-  HostValue value_;
-  std::size_t rows_;
-};
-
 HostValue Reference(const HostValue& value, std::size_t rows = 1) {
-  return std::shared_ptr<const Range>(std::make_shared<Cell>(value, rows));
+  return Range_Of_Cells(1, std::vector<HostValue>(rows, value));
 }
 
 TEST(DoOperation, ReadsARangeOfOneCellAsThatCell) {
@@ -91,39 +77,6 @@ TEST(DoOperation, ReadsARangeOfOneCellAsThatCell) {
     EXPECT_EQ(Do_Operation(operation::add, c.operand, 0, {.maximum_significant_digits = limit}),
               c.sum);
   }
-}
-
-TEST(ResolveSigns, ReducesSignsToOneOperationAndOneFlag) {
-  constexpr bool negative = true;
-  const struct {
-    std::int16_t code;
-    std::int16_t reduced;
-    bool flag;
-    const char* a;
-    const char* b;
-    const char* first;
-    const char* second;
-  } cases[] = {
-      {1, 1, false, "5", "3", "5", "3"},     {1, 2, false, "5", "-3", "5", "3"},
-      {1, 2, false, "-5", "3", "3", "5"},    {1, 1, negative, "-5", "-3", "5", "3"},
-      {2, 2, false, "5", "3", "5", "3"},     {2, 1, false, "5", "-3", "5", "3"},
-      {2, 1, negative, "-5", "3", "5", "3"}, {2, 2, false, "-5", "-3", "3", "5"},
-      {3, 3, false, "5", "3", "5", "3"},     {3, 3, negative, "5", "-3", "5", "3"},
-      {3, 3, negative, "-5", "3", "5", "3"}, {3, 3, false, "-5", "-3", "5", "3"},
-      {4, 4, false, "5", "3", "5", "3"},     {4, 4, negative, "5", "-3", "5", "3"},
-      {4, 4, negative, "-5", "3", "5", "3"}, {4, 4, false, "-5", "-3", "5", "3"},
-      {5, 5, false, "-5", "-3", "5", "3"},   {6, 6, false, "-5", "3", "5", "3"},
-  };
-  for (const auto& c : cases) {
-    const Operand a(c.a);
-    const Operand b(c.b);
-    const type_SignOp reduced = Resolve_Signs(c.code, a, b);
-    EXPECT_EQ(reduced.Operation, c.reduced) << c.code << ' ' << c.a << ' ' << c.b;
-    EXPECT_EQ(reduced.Operand1->magnitude(), c.first) << c.code << ' ' << c.a << ' ' << c.b;
-    EXPECT_EQ(reduced.Operand2->magnitude(), c.second) << c.code << ' ' << c.a << ' ' << c.b;
-    EXPECT_EQ(reduced.Negative, c.flag) << c.code << ' ' << c.a << ' ' << c.b;
-  }
-  EXPECT_EQ(Resolve_Signs(7, Operand("5"), Operand("3")).Operation, 0);
 }
 
 }  // namespace

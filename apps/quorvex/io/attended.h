@@ -1,0 +1,10 @@
+// Whether somebody is there to answer.
+#pragma once
+
+namespace quorvex {
+
+/// Whether input and output are a terminal that this process may read from: in the background of a
+/// terminal, reading would stop it.
+bool Is_Attended();
+
+}  // namespace quorvex

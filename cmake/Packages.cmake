@@ -1,0 +1,53 @@
+# `cpack` in the build folder, or the target `package`, makes Debian packages: the library, what is
+# needed to build against it, and the tool.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_VENDOR "The Quorvex developers")
+set(CPACK_PACKAGE_CONTACT "${CPACK_PACKAGE_VENDOR} <quorvex@localhost>")
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/src)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+
+set(library_package lib${PROJECT_NAME}${PROJECT_VERSION_MAJOR})
+string(TOLOWER ${library_package} library_package)
+set(same_version "${library_package} (= ${PROJECT_VERSION})")
+
+set(CPACK_DEBIAN_LIB_PACKAGE_NAME ${library_package})
+set(CPACK_DEBIAN_LIB_PACKAGE_SECTION libs)
+set(CPACK_COMPONENT_LIB_DESCRIPTION
+  "${PROJECT_DESCRIPTION}: the library\n Arithmetic on numbers held as text, exact to as many digits as asked for.")
+
+set(CPACK_DEBIAN_DEV_PACKAGE_NAME libquorvex-dev)
+set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "${same_version}")
+set(CPACK_COMPONENT_DEV_DESCRIPTION
+  "${PROJECT_DESCRIPTION}: development files\n Headers in C++, with packages for CMake and pkg-config.")
+
+set(CPACK_DEBIAN_TOOL_PACKAGE_NAME quorvex)
+set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION math)
+set(CPACK_DEBIAN_TOOL_PACKAGE_DEPENDS "${same_version}")
+set(CPACK_COMPONENT_TOOL_DESCRIPTION
+  "${PROJECT_DESCRIPTION}: the tool\n A command-line calculator with a small spreadsheet of its own.")
+
+set(CPACK_COMPONENTS_ALL lib dev)
+if(QUORVEX_TOOL)
+  list(APPEND CPACK_COMPONENTS_ALL tool)
+endif()
+
+# Every package has its folder of documentation, which a library that came as a part of something
+# else leaves to that.
+if(PROJECT_IS_TOP_LEVEL)
+  find_program(GZIP gzip REQUIRED)
+  add_custom_command(OUTPUT changelog.gz
+    COMMAND ${GZIP} -9nc ${PROJECT_SOURCE_DIR}/CHANGELOG.md > changelog.gz
+    DEPENDS CHANGELOG.md VERBATIM)
+  add_custom_target(quorvex_changelog ALL DEPENDS changelog.gz)
+  foreach(component ${CPACK_COMPONENTS_ALL})
+    string(TOUPPER ${component} name)
+    install(FILES README.md ${PROJECT_BINARY_DIR}/changelog.gz
+      DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${name}_PACKAGE_NAME}
+      COMPONENT ${component})
+  endforeach()
+endif()
+include(CPack)

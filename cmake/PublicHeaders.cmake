@@ -1,0 +1,28 @@
+# publish_headers(OUTPUT FROM header... ): writes headers of the library, with all that they include,
+# to OUTPUT/quorvex. There they include each other as <quorvex/...>, so that nothing but `quorvex`
+# stands on the include path of other people's programs. FROM lists the folders to look in.
+function(publish_headers output from)
+  set(waiting ${ARGN})
+  set(published)
+  while(waiting)
+    list(POP_FRONT waiting header)
+    if(header IN_LIST published)
+      continue()
+    endif()
+    list(APPEND published ${header})
+    unset(source)
+    find_file(source ${header} PATHS ${from} NO_DEFAULT_PATH NO_CACHE REQUIRED)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})
+    file(READ ${source} text)
+    string(REGEX MATCHALL "#include \"[^\"]+\"" includes "${text}")
+    list(TRANSFORM includes REPLACE "#include \"(.*)\"" "\\1")
+    list(APPEND waiting ${includes})
+    string(REGEX REPLACE "#include \"([^\"]+)\"" "#include <quorvex/\\1>" text "${text}")
+    file(CONFIGURE OUTPUT ${output}/quorvex/${header} CONTENT "${text}" @ONLY)
+  endwhile()
+  # What was published before and has moved since must not be installed.
+  file(GLOB_RECURSE written RELATIVE ${output}/quorvex ${output}/quorvex/*)
+  list(REMOVE_ITEM written ${published})
+  list(TRANSFORM written PREPEND ${output}/quorvex/)
+  file(REMOVE ${written})
+endfunction()
