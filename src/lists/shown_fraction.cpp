@@ -10,8 +10,7 @@
 namespace quorvex {
 namespace {
 
-NumberText Fraction_Text(const type_Fraction& fraction,
-                         std::optional<std::string_view> separator) {
+NumberText Fraction_Text(const type_Fraction& fraction, std::optional<std::string_view> separator) {
   if (Has_Token_Mark(fraction.divisor)) return fraction.divisor;
   const NumberText between(separator.value_or("").empty() ? "/" : *separator);
   return fraction.Numerator + between + fraction.divisor;

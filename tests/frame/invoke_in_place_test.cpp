@@ -16,7 +16,7 @@ namespace {
 
 // A value with its kind, so that the number 1 and the text 1 differ.
 std::string Seen(const HostValue& value) {
-  const std::string kind = std::to_string(static_cast<int>(value.kind())) + ":";
+  std::string kind = std::to_string(static_cast<int>(value.kind())) + ":";
   switch (value.kind()) {
     case HostValue::Kind::number:
       return kind + std::to_string(value.number());
@@ -44,6 +44,7 @@ std::string Result_Seen(const Call_Result& result) {
 
 std::vector<std::string> All_Seen(const std::vector<HostValue>& values) {
   std::vector<std::string> all;
+  all.reserve(values.size());
   for (const HostValue& value : values) all.push_back(Seen(value));
   return all;
 }
