@@ -76,8 +76,7 @@ class QUORVEX_API HostValue {
   /// A number up to 2^53, within which each has a 64-bit float of its own; beyond that the text of
   /// its digits, so that none is lost.
   template <std::integral Integer>
-  requires(!std::same_as<Integer, bool> && !std::same_as<Integer, char>) HostValue(Integer number)
-  noexcept(Fits_A_Float<Integer>) {
+  requires(!std::same_as<Integer, bool> && !std::same_as<Integer, char>) HostValue(Integer number) {
     if constexpr (!Fits_A_Float<Integer>) {
       constexpr std::int64_t last = std::int64_t{1} << 53;
       if (std::cmp_greater(number, last) || std::cmp_less(number, -last)) {

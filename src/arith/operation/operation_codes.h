@@ -3,16 +3,14 @@
 
 #include <cstdint>
 
-namespace quorvex {
-
 /// Operation codes.
-namespace operation {
+namespace quorvex::operation {
+
 inline constexpr std::int16_t add = 1;
 inline constexpr std::int16_t subtract = 2;
 inline constexpr std::int16_t multiply = 3;
 inline constexpr std::int16_t divide = 4;
 inline constexpr std::int16_t root = 5;
 inline constexpr std::int16_t power = 6;
-}  // namespace operation
 
-}  // namespace quorvex
+}  // namespace quorvex::operation
