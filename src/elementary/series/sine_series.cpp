@@ -83,7 +83,7 @@ Step_Number Cos_Series(const Step_Number& x, const Steps& steps) {
 }
 
 Step_Number Tan_Series(const Step_Number& x, const Steps& steps) {
-  const Step_Number one(1);
+  Step_Number one(1);
   if (Is_Zero_As_Float(x)) return one;
   Sine_Terms terms(one, 0, x, steps);
   Step_Number cosine = terms.term();
