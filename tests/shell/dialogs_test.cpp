@@ -180,19 +180,8 @@ TEST_F(Dialogs, RecalculateOnYesAlone) {
   EXPECT_EQ(cell->written, "=qvxADD(1,2)");
 }
 
-// A store that can be read, and no more.
-class Frozen_Settings final : public Settings_Store {
- public:
-  std::optional<std::string> read(std::string_view, std::string_view, std::string_view) override {
-    return "100";
-  }
-  void write(std::string_view, std::string_view, std::string_view, std::string_view) override {
-    throw Run_Time_Failure(Failure_Number::invalid_call, "The disk is full.");
-  }
-};
-
 TEST_F(Dialogs, ALimitThatCantBeStoredHoldsForTheProcess) {
-  Current_Platform().settings = std::make_shared<Frozen_Settings>();
+  Current_Platform().settings = std::make_shared<Frozen_Settings>("100");
   const auto form = opened(100);
   form->txtMaxSD.type_over("50");
   form->cmdOK_Click();

@@ -8,9 +8,12 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "host/platform.h"
+#include "host/run_time_failure.h"
 #include "host/timer_queue.h"
 #include "shell/shell_state.h"
 #include "text/options.h"
@@ -35,6 +38,21 @@ class Scripted_Box final : public Message_Box {
 
   Message_Answer answer = Message_Answer::no;
   std::vector<Message> messages;
+};
+
+/// A store that can be read, and no more.
+class Frozen_Settings final : public Settings_Store {
+ public:
+  explicit Frozen_Settings(std::optional<std::string> stored) : stored_(std::move(stored)) {}
+  std::optional<std::string> read(std::string_view, std::string_view, std::string_view) override {
+    return stored_;
+  }
+  void write(std::string_view, std::string_view, std::string_view, std::string_view) override {
+    throw Run_Time_Failure(Failure_Number::invalid_call, "The disk is full.");
+  }
+
+ private:
+  std::optional<std::string> stored_;
 };
 
 class Shell_Test : public testing::Test {

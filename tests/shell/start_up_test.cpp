@@ -44,19 +44,8 @@ TEST_F(Start_Up, LoadsTheStoredLimitAndStoresTheFirst) {
   }
 }
 
-// A store on a disk that takes nothing.
-class Read_Only_Settings final : public Settings_Store {
- public:
-  std::optional<std::string> read(std::string_view, std::string_view, std::string_view) override {
-    return std::nullopt;
-  }
-  void write(std::string_view, std::string_view, std::string_view, std::string_view) override {
-    throw Run_Time_Failure(Failure_Number::invalid_call, "The disk is read-only.");
-  }
-};
-
 TEST_F(Start_Up, NeedsNoDiskThatCanBeWritten) {
-  Current_Platform().settings = std::make_shared<Read_Only_Settings>();
+  Current_Platform().settings = std::make_shared<Frozen_Settings>(std::nullopt);
   Set_Default_MaxSD(7);
   cls_Quorvex engine;
   EXPECT_EQ(engine.qvxDEFAULTMAXSD().number(), 100);

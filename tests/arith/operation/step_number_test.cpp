@@ -171,6 +171,18 @@ TEST(StepNumber, GivesTokensAndOddTextsTheirWay) {
   }
 }
 
+// Products a trifle above a half of the last digit that is kept, which the columns that are left
+// out at first bring about.
+TEST(StepNumber, ProductsFromTheirHighColumnsAreInNoDoubt) {
+  Random_Numbers random(7);
+  for (std::size_t round = 0; round < 300; ++round) {
+    const std::string half = "1" + random.digits(19) + "5" + std::string(155 + round % 10, '0');
+    const std::string b = "7" + random.digits(84);
+    const std::string below = Int_Function(Intermediate(operation::divide, half, b, 200));
+    Expect_As_Text(operations[2], Intermediate(operation::add, below, "1", 200), b, 18);
+  }
+}
+
 // The borders of rounding: digits one beside them, and such as division cuts in its own way.
 TEST(StepNumber, RoundsAsTextsDo) {
   const std::string nines(60, '9');

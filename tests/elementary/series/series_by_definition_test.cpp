@@ -6,7 +6,6 @@
 #include <string>
 
 #include "arith/do_operation.h"
-#include "arith/operation/four_operations.h"
 #include "arith/powers/power_function.h"
 #include "elementary/constants.h"
 #include "elementary/exponential.h"
@@ -15,29 +14,19 @@
 #include "elementary/series/sine_series.h"
 #include "host/conversions.h"
 #include "support/random_numbers.h"
+#include "support/text_steps.h"
 #include "text/compare_numbers.h"
 
 namespace quorvex {
 namespace {
 
-// Operations at a limit, on texts.
-struct Chain {
-  double limit;
+NumberText Two_To(int n, double limit) {
+  return Power_Step("2", std::to_string(n), limit);
+}
 
-  NumberText add(const NumberText& a, const NumberText& b) const {
-    return Intermediate(operation::add, a, b, limit);
-  }
-  NumberText multiply(const NumberText& a, const NumberText& b) const {
-    return Intermediate(operation::multiply, a, b, limit);
-  }
-  NumberText divide(const NumberText& a, const NumberText& b) const {
-    return Intermediate(operation::divide, a, b, limit);
-  }
-  NumberText two_to(int n) const { return Power_Step("2", std::to_string(n), limit); }
-  NumberText result(const NumberText& value, double digits) const {
-    return Do_Operation(operation::add, value, 0, {.maximum_significant_digits = digits});
-  }
-};
+NumberText Result(const NumberText& value, double digits) {
+  return Do_Operation(operation::add, value, 0, {.maximum_significant_digits = digits});
+}
 
 NumberText Opposite(const NumberText& number) {
   if (number == "0") return number;
@@ -53,72 +42,72 @@ long Power_As_Text(const NumberText& term) {
 }
 
 NumberText Logarithm(const NumberText& number, int limit) {
-  const Chain chain{static_cast<double>(limit)};
+  const Text_Steps chain{static_cast<double>(limit)};
   const int n =
       static_cast<int>(std::floor(std::log(To_Number(HostValue(number))) / std::log(2.0)));
-  const NumberText power = chain.two_to(std::abs(n));
-  const NumberText y = n < 0 ? chain.multiply(number, power) : chain.divide(number, power);
-  NumberText term = chain.divide(chain.add(y, "-1"), chain.add(y, "1"));
-  const NumberText square = chain.multiply(term, term);
+  const NumberText power = Two_To(std::abs(n), limit);
+  const NumberText y = n < 0 ? chain.product(number, power) : chain.quotient(number, power);
+  NumberText term = chain.quotient(chain.sum(y, "-1"), chain.sum(y, "1"));
+  const NumberText square = chain.product(term, term);
   NumberText sum = term;
   for (int k = 3; k <= 5 * limit; k += 2) {
-    term = chain.multiply(term, square);
-    const NumberText added = chain.divide(term, std::to_string(k));
-    sum = chain.add(sum, added);
+    term = chain.product(term, square);
+    const NumberText added = chain.quotient(term, std::to_string(k));
+    sum = chain.sum(sum, added);
     if (Power_As_Text(added) < -limit) break;
   }
   const NumberText shift =
-      chain.multiply(std::to_string(n), To_Text(Ln2_Digits(static_cast<double>(limit))));
-  return chain.result(chain.add(chain.multiply("2", sum), shift), limit);
+      chain.product(std::to_string(n), To_Text(Ln2_Digits(static_cast<double>(limit))));
+  return Result(chain.sum(chain.product("2", sum), shift), limit);
 }
 
 NumberText Exponential(const NumberText& number, int digits) {
   const int limit = digits + 10;
-  const Chain chain{static_cast<double>(limit)};
+  const Text_Steps chain{static_cast<double>(limit)};
   const bool is_negative = number.starts_with('-');
   const NumberText magnitude = is_negative ? number.substr(1) : number;
   const NumberText ln2 = To_Text(Ln2_Digits(chain.limit));
   const int n =
       static_cast<int>(std::floor(To_Number(HostValue(magnitude)) / To_Number(HostValue(ln2))));
-  NumberText rest = chain.add(magnitude, Opposite(chain.multiply(std::to_string(n), ln2)));
+  NumberText rest = chain.sum(magnitude, Opposite(chain.product(std::to_string(n), ln2)));
   int halvings = 0;
   for (; !Is_True(Compare_Numbers("0.1", rest, false, true)); ++halvings) {
-    rest = chain.divide(rest, "2");
+    rest = chain.quotient(rest, "2");
   }
-  NumberText sum = chain.add("1", rest);
+  NumberText sum = chain.sum("1", rest);
   NumberText term = rest;
   for (int k = 2; k <= 5 * limit; ++k) {
-    term = chain.multiply(term, chain.divide(rest, std::to_string(k)));
-    sum = chain.add(sum, term);
+    term = chain.product(term, chain.quotient(rest, std::to_string(k)));
+    sum = chain.sum(sum, term);
     if (Power_As_Text(term) < -limit) break;
   }
-  for (; halvings > 0; --halvings) sum = chain.multiply(sum, sum);
-  if (n > 0) sum = chain.multiply(sum, chain.two_to(n));
-  if (is_negative) sum = chain.divide("1", sum);
-  return chain.result(chain.multiply("1", sum), digits);
+  for (; halvings > 0; --halvings) sum = chain.product(sum, sum);
+  if (n > 0) sum = chain.product(sum, Two_To(n, limit));
+  if (is_negative) sum = chain.quotient("1", sum);
+  return Result(chain.product("1", sum), digits);
 }
 
 NumberText Sine(const NumberText& x, int limit) {
-  const Chain chain{static_cast<double>(limit)};
+  const Text_Steps chain{static_cast<double>(limit)};
   const NumberText square = Power_Step(x, "2", chain.limit);
   NumberText term = x;
   NumberText sum = x;
   for (int k = 3;; k += 2) {
-    const NumberText divisor = chain.multiply(std::to_string(k), std::to_string(k - 1));
-    term = Opposite(chain.divide(chain.multiply(term, square), divisor));
-    sum = chain.add(sum, term);
+    const NumberText divisor = chain.product(std::to_string(k), std::to_string(k - 1));
+    term = Opposite(chain.quotient(chain.product(term, square), divisor));
+    sum = chain.sum(sum, term);
     if (Power_As_Text(term.starts_with('-') ? term.substr(1) : term) < -limit) return sum;
   }
 }
 
 NumberText Arc_Tangent(const NumberText& x, int limit) {
-  const Chain chain{static_cast<double>(limit)};
-  const NumberText square = chain.multiply(x, x);
+  const Text_Steps chain{static_cast<double>(limit)};
+  const NumberText square = chain.product(x, x);
   NumberText power = x;
   NumberText sum = x;
   for (int k = 3;; k += 2) {
-    power = Opposite(chain.multiply(power, square));
-    sum = chain.add(sum, chain.divide(power, std::to_string(k)));
+    power = Opposite(chain.product(power, square));
+    sum = chain.sum(sum, chain.quotient(power, std::to_string(k)));
     if (Power_As_Text(power.starts_with('-') ? power.substr(1) : power) < -limit) return sum;
   }
 }
