@@ -38,6 +38,10 @@ std::size_t Cut(Raw_Number& raw, std::size_t dropped) {
   return first;
 }
 
+Limb Limb_At(const Number& number, std::int64_t place) {
+  return place < number.low || place >= number.top() ? 0 : number.data()[place - number.low];
+}
+
 void Append(NumberText& text, Limb limb) {
   text.append(digits, '0');
   Write(text.data() + text.size() - digits, limb);
@@ -79,7 +83,7 @@ NumberText Text_Of(const Number& number) {
   }
   for (std::int64_t place = top; place-- > end;) {
     if (place == -1 && top > 0) text += separator;
-    Append(text, place < number.low ? 0 : number.data()[place - number.low]);
+    Append(text, Limb_At(number, place));
     if (place == top - 1 && top > 0) {
       text.erase(text.size() - digits, digits - Count_Digits(number.data()[number.count() - 1]));
     }
@@ -160,6 +164,21 @@ std::strong_ordering Compare_Magnitudes(const Number& a, const Number& b) {
     if (*--above_a != *--above_b) return *above_a <=> *above_b;
   }
   return a.count() <=> b.count();
+}
+
+// The first limb in which they differ tells, unless it does by one: limbs below it may make up for
+// that.
+bool Differ_Within(const Number& a, const Number& b, double digit_count) {
+  const std::int64_t leading = std::max(Leading_Power(a), Leading_Power(b));
+  const double last = static_cast<double>(leading) - digit_count + 1;
+  std::int64_t place = std::max(a.top(), b.top()) - 1;
+  for (; static_cast<double>(place * static_cast<std::int64_t>(digits)) >= last; --place) {
+    if (place < a.low && place < b.low) return false;
+    const Limb x = Limb_At(a, place);
+    const Limb y = Limb_At(b, place);
+    if (x != y) return std::max(x, y) - std::min(x, y) > 1;
+  }
+  return false;
 }
 
 void Trim(const Raw_Number& raw, Number& result) {

@@ -95,6 +95,10 @@ Number Floor(const Number& number);
 
 std::strong_ordering Compare_Magnitudes(const Number& a, const Number& b);
 
+/// True only if two magnitudes above 0 differ by a unit or more of the last of so many digits of
+/// the greater one. False for some that do.
+bool Differ_Within(const Number& a, const Number& b, double digit_count);
+
 /// `count` limbs with room for one more, their first at the power `low` of the base.
 struct Raw_Number {
   Limb* limbs;

@@ -15,6 +15,7 @@
 #include "elementary/series/sine_series.h"
 #include "host/conversions.h"
 #include "support/random_numbers.h"
+#include "support/text_steps.h"
 #include "text/compare_numbers.h"
 
 namespace quorvex {
@@ -33,7 +34,7 @@ struct Chain {
   NumberText divide(const NumberText& a, const NumberText& b) const {
     return Intermediate(operation::divide, a, b, limit);
   }
-  NumberText two_to(int n) const { return Power_Step("2", std::to_string(n), limit); }
+  NumberText two_to(int n) const { return Text_Steps{limit}.power("2", std::to_string(n)); }
   NumberText result(const NumberText& value, double digits) const {
     return Do_Operation(operation::add, value, 0, {.maximum_significant_digits = digits});
   }
@@ -100,7 +101,7 @@ NumberText Exponential(const NumberText& number, int digits) {
 
 NumberText Sine(const NumberText& x, int limit) {
   const Chain chain{static_cast<double>(limit)};
-  const NumberText square = Power_Step(x, "2", chain.limit);
+  const NumberText square = Text_Steps{chain.limit}.power(x, "2");
   NumberText term = x;
   NumberText sum = x;
   for (int k = 3;; k += 2) {
