@@ -1,5 +1,6 @@
 #include "arith/limbs/limb_number.h"
 
+#include "expects.h"
 #include "text/digit_runs.h"
 #include "text/operand.h"
 #include "text/primitives.h"
@@ -119,6 +120,7 @@ Decimal Decimal_Of(const Number& number) {
 }
 
 NumberText Digits_Of(const Number& number) {
+  Expects(!number.is_zero());
   NumberText text(number.count() * digits, '0');
   for (std::size_t place = 0; place < number.count(); ++place) {
     Write(text.data() + text.size() - (place + 1) * digits, number.data()[place]);
@@ -127,6 +129,7 @@ NumberText Digits_Of(const Number& number) {
 }
 
 std::int64_t Leading_Power(const Number& number) {
+  Expects(!number.is_zero());
   const std::int64_t below = (number.top() - 1) * static_cast<std::int64_t>(digits);
   return below + static_cast<std::int64_t>(Count_Digits(number.data()[number.count() - 1])) - 1;
 }
@@ -169,6 +172,7 @@ std::strong_ordering Compare_Magnitudes(const Number& a, const Number& b) {
 // The first limb in which they differ tells, unless it does by one: limbs below it may make up for
 // that.
 bool Differ_Within(const Number& a, const Number& b, double digit_count) {
+  Expects(!a.is_zero() && !b.is_zero());
   const std::int64_t leading = std::max(Leading_Power(a), Leading_Power(b));
   const double last = static_cast<double>(leading) - digit_count + 1;
   std::int64_t place = std::max(a.top(), b.top()) - 1;
@@ -192,6 +196,7 @@ void Trim(const Raw_Number& raw, Number& result) {
 }
 
 void Round(Raw_Number& raw, std::size_t digits_kept, Number& result) {
+  Expects(digits_kept > 0);
   while (raw.count > 0 && raw.limbs[raw.count - 1] == 0) --raw.count;
   if (raw.count > 0) {
     const std::size_t length = (raw.count - 1) * digits + Count_Digits(raw.limbs[raw.count - 1]);
