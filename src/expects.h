@@ -22,9 +22,8 @@ namespace quorvex {
 
 /// Ends the program where a caller breaks a routine's contract, in builds with checks; others don't
 /// look at the condition. What a user gives is never a contract: it gets an error.
-#define Expects(condition)         \
-  ((condition) ? static_cast<void>(0) \
-               : ::quorvex::End_For_Contract(#condition, __FILE__, __LINE__))
+#define Expects(condition) \
+  ((condition) ? static_cast<void>(0) : ::quorvex::End_For_Contract(#condition, __FILE__, __LINE__))
 
 #else
 

@@ -15,9 +15,9 @@
 #include "support/default_limit.h"
 #include "support/failures.h"
 #include "support/random_numbers.h"
-#include "support/text_steps.h"
 #include "support/real_number.h"
 #include "support/surroundings.h"
+#include "support/text_steps.h"
 
 namespace quorvex {
 namespace {

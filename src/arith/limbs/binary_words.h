@@ -1,5 +1,8 @@
 // Fixed-point numbers in words of 64 bits, for long chains of products and quotients that are cut
 // off and not rounded.
+//
+// The whole numbers of fractions/exact_divisor are words of 64 bits too, and have no operation in
+// common with these: they are exact, shrink at every step, and are divided by each other.
 #pragma once
 
 #include <cstddef>

@@ -1,5 +1,10 @@
-// Numbers in limbs of eighteen digits, least first, for divisions that are too short to be worth
-// the products of long texts.
+// Numbers in limbs of eighteen digits, least first, for chains of steps, and for divisions that are
+// too short to be worth the products of long texts.
+//
+// The library of products has limbs of the same size in native/generic/limbs.h, for itself alone:
+// it is loaded by its name, may be missing, and shares no compiled code with the engine. It finds
+// what is no digit while it reads, since that is how its caller learns of it; here digits are known
+// to be some, and reading may yield.
 #pragma once
 
 #include <array>

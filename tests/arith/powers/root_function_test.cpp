@@ -187,7 +187,8 @@ TEST(Roots, CanBeBrokenOff) {
   const Interruption_Guard guard;
   EXPECT_EQ(Failure_Of([] { Root("2", "2", 10); }), Failure_Number::interrupted);
   EXPECT_EQ(Failure_Of([] { Root("2", "3", 10); }), Failure_Number::interrupted);
-  EXPECT_EQ(Failure_Of([] { Mean_Root(Step_Number(2), Step_Number(1), 100000); }), Failure_Number::interrupted);
+  EXPECT_EQ(Failure_Of([] { Mean_Root(Step_Number(2), Step_Number(1), 100000); }),
+            Failure_Number::interrupted);
 }
 
 }  // namespace
