@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "arith/limbs/limb_number.h"
 #include "arith/operation/steps.h"
 #include "arith/powers/root_pair.h"
 #include "host/conversions.h"
@@ -13,7 +14,7 @@ namespace quorvex {
 namespace {
 
 constexpr int stalls_before_end = 3;
-constexpr int rounds_before_stalls = 3;
+constexpr int differences_before_stalls = 2;
 
 // Whether the difference is less than one unit of the last of so many digits of the value.
 bool Is_Below_Digits(const Step_Number& difference, const Step_Number& value, double count) {
@@ -27,23 +28,22 @@ class Stalls {
  public:
   /// The count, if the round stalls; otherwise 0.
   int see(const Step_Number& difference) {
-    ++round_;
-    const bool stalls = round_ > rounds_before_stalls && Is_At_Least(difference, last_);
+    ++seen_;
+    const bool stalls = seen_ > differences_before_stalls && Is_At_Least(difference, last_);
     last_ = difference;
     return stalls ? ++count_ : 0;
   }
 
  private:
-  int round_ = 0;
+  int seen_ = 0;
   int count_ = 0;
   Step_Number last_{0};
 };
 
-// A round of the iteration, and how far its two values are apart.
+// The two values of a round.
 struct Round_Values {
   Step_Number quotient;
   Step_Number mean;
-  Step_Number difference;
 };
 
 Step_Number Distance(const Step_Number& a, const Step_Number& b, const Steps& steps) {
@@ -59,9 +59,7 @@ bool Take_Round(const Step_Number& radicand, const Steps& steps, Round_Values& v
   steps.add(values.mean, values.quotient);
   if (values.mean.is_token()) return false;
   steps.divide(values.mean, Step_Number(2));
-  if (values.mean.is_token()) return false;
-  values.difference = Distance(values.quotient, values.mean, steps);
-  return true;
+  return !values.mean.is_token();
 }
 
 // False where the values differ within the digits that must agree for an end: their texts need not
@@ -69,9 +67,9 @@ bool Take_Round(const Step_Number& radicand, const Steps& steps, Round_Values& v
 // and one that rounding may have changed.
 bool May_Settle(const Round_Values& values, double maxSD) {
   constexpr double spare = 4;
-  const bool are_numbers = values.quotient.is_in_limbs() && values.mean.is_in_limbs() &&
-                           values.difference.is_in_limbs() && maxSD > spare;
-  return !are_numbers || Is_Below_Digits(values.difference, values.quotient, maxSD - spare);
+  if (values.quotient.is_negative()) return false;
+  return maxSD <= spare || !values.quotient.is_in_limbs() || !values.mean.is_in_limbs() ||
+         !limbs::Differ_Within(values.quotient.in_limbs(), values.mean.in_limbs(), maxSD - spare);
 }
 
 Decimal Token_Of_Round(const Round_Values& values) {
@@ -82,29 +80,30 @@ Decimal Token_Of_Round(const Round_Values& values) {
 
 Decimal Mean_Root(const Step_Number& radicand, const Step_Number& start, double maxSD) {
   const Steps steps(maxSD + 1);
-  Round_Values values{Step_Number(0), start, Step_Number(0)};
+  Round_Values values{Step_Number(0), start};
   Stalls stalls;
   for (;;) {
     Yield();
-    if (values.difference.is_token()) return Decimal_Token(values.difference.text());
-    const int count = stalls.see(values.difference);
-    if (count >= stalls_before_end) {
-      // Neighbours that never meet have the root between them.
-      if (Is_Below_Digits(values.difference, values.quotient, maxSD - 1)) {
-        Root_Pair pair(values.quotient, values.mean, maxSD);
-        pair.part();
-        return std::move(pair).root();
-      }
-      if (count > stalls_before_end) return Decimal_Token(num_token);
-    }
     if (!Take_Round(radicand, steps, values)) return Token_Of_Round(values);
-    if (!May_Settle(values, maxSD)) continue;
-    Root_Pair pair(values.quotient, values.mean, maxSD);
-    if (pair.settle()) return std::move(pair).root();
-    // Limits below 0 and next to the ceiling can leave nothing.
-    if (pair.is_empty()) {
-      throw Run_Time_Failure(Failure_Number::type_mismatch, "A value of a root has no digits.");
+    if (May_Settle(values, maxSD)) {
+      Root_Pair pair(values.quotient, values.mean, maxSD);
+      if (pair.settle()) return std::move(pair).root();
+      // Limits below 0 and next to the ceiling can leave nothing.
+      if (pair.is_empty()) {
+        throw Run_Time_Failure(Failure_Number::type_mismatch, "A value of a root has no digits.");
+      }
     }
+    const Step_Number difference = Distance(values.quotient, values.mean, steps);
+    if (difference.is_token()) return Decimal_Token(difference.text());
+    const int count = stalls.see(difference);
+    if (count < stalls_before_end) continue;
+    // Neighbours that never meet have the root between them.
+    if (Is_Below_Digits(difference, values.quotient, maxSD - 1)) {
+      Root_Pair pair(values.quotient, values.mean, maxSD);
+      pair.part();
+      return std::move(pair).root();
+    }
+    if (count > stalls_before_end) return Decimal_Token(num_token);
   }
 }
 

@@ -50,9 +50,10 @@ bool May_Be_Alike(const Value& a, const Value& b, double characters) {
   const double digits = characters - spare;
   const Step_Number& x = a.number();
   const Step_Number& y = b.number();
-  if (digits < 1 || !x.is_in_limbs() || !y.is_in_limbs() || x.is_negative() || y.is_negative()) {
-    return true;
-  }
+  const auto is_told = [](const Step_Number& number) {
+    return number.is_in_limbs() && !number.is_negative() && !number.is_zero();
+  };
+  if (digits < 1 || !is_told(x) || !is_told(y)) return true;
   return !limbs::Differ_Within(x.in_limbs(), y.in_limbs(), digits);
 }
 
