@@ -140,7 +140,7 @@ std::string Newton_Root_By_Text(const std::string& radicand, const std::string& 
   std::array<std::string, 10> history;
   int repeats = 0;
   for (std::size_t round = 0; round < 400; ++round) {
-    const std::string before = value;
+    std::string before = value;
     const std::string quotient = steps.quotient(radicand, steps.power(value, less_one));
     value = steps.quotient(steps.sum(steps.product(less_one, value), quotient), degree);
     if (Has_Token_Mark(value)) return value;
