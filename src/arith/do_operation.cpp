@@ -38,7 +38,7 @@ Decimal Result_Of(const type_SignOp& reduced, double limit, const Operation_Flag
     case operation::power:
       return Power_Function(*reduced.Operand1, *reduced.Operand2, options);
     case operation::root:
-      return Root_Function(*reduced.Operand1, *reduced.Operand2, options, Power_Step);
+      return Root_Function(*reduced.Operand1, *reduced.Operand2, options, Power);
     default:
       return Operate(reduced, limit);
   }

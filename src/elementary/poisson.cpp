@@ -33,7 +33,8 @@ struct Events {
 };
 
 Step_Number Power_Of(const Step_Number& base, const Step_Number& exponent, const Events& events) {
-  return Power(base, exponent, events.steps, events.restricted);
+  const auto power = events.restricted ? Restricted_Power : Power;
+  return power(base, exponent, events.steps);
 }
 
 Step_Number Poisson_Exp_Term(const Events& events) {

@@ -5,6 +5,7 @@
 #include "arith/do_operation.h"
 #include "elementary/constants.h"
 #include "host/conversions.h"
+#include "text/decimal.h"
 #include "text/format_result.h"
 #include "text/limits.h"
 #include "text/primitives.h"
@@ -19,8 +20,9 @@ NumberText Sqrt_Function(const HostValue& num, Radicand radicand, const Format_A
   NumberText root =
       radicand == Radicand::number
           ? Do_Operation(operation::root, num, 2, plain)
-          : Do_Operation(operation::root,
-                         Do_Operation(operation::multiply, num, Pi_Digits(limit), plain), 2, plain);
+          : Do_Operation_On_Texts(operation::root,
+                                  Do_Operation(operation::multiply, num, Pi_Digits(limit), plain),
+                                  "2", Restrictionator(plain));
   const type_Restrictionator options =
       Restrictionator({Missing, format.format_thousands, format.format_currency,
                        format.exponential_notation, limit});

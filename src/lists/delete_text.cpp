@@ -4,6 +4,7 @@
 #include <cstring>
 #include <vector>
 
+#include "expects.h"
 #include "host/platform.h"
 #include "lists/text_matching.h"
 
@@ -65,6 +66,7 @@ class Deletion {
 }  // namespace
 
 void Delete_Every(std::string& text, std::string_view entry) {
+  Expects(!entry.empty());
   if (entry.size() > text.size()) return;
   const std::size_t next = Find_Byte(text, entry.front(), 0);
   if (next < text.size()) Deletion(text, entry).run(next);

@@ -4,6 +4,7 @@
 #include <numeric>
 #include <utility>
 
+#include "expects.h"
 #include "host/platform.h"
 #include "lists/position_tree.h"
 #include "text/comparable_number.h"
@@ -40,6 +41,7 @@ void Mode_Table::add(std::string_view element) {
 }
 
 const NumberText& Mode_Table::most_frequent() const {
+  Expects(!columns_.empty());
   return std::ranges::max_element(columns_, {}, &Column::count)->value;
 }
 

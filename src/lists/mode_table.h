@@ -27,7 +27,7 @@ class Mode_Table {
 
   const std::vector<Column>& columns() const { return columns_; }
 
-  /// The first of the numbers that occurred most often; the table must not be empty.
+  /// The first of the numbers that occurred most often.
   const NumberText& most_frequent() const;
 
   /// The columns by count, highest first, as a sort by exchanges leaves them: it looks through what

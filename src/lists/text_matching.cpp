@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "expects.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 
@@ -11,6 +12,7 @@ namespace quorvex {
 // (D. E. Knuth, J. H. Morris, V. R. Pratt, Fast pattern matching in strings, SIAM J. Comput. 6,
 // 1977).
 Match_Table::Match_Table(std::string_view entry) : entry_(entry) {
+  Expects(!entry.empty());
   if (entry.size() > std::numeric_limits<Length>::max()) {
     throw Run_Time_Failure(Failure_Number::out_of_memory, "A text to look for is too long.");
   }

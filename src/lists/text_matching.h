@@ -14,7 +14,7 @@ class Match_Table {
   /// Four bytes hold it for each byte that is read.
   using Length = std::uint32_t;
 
-  /// `entry` must not be empty, and must outlive the table. Fails with out_of_memory where the
+  /// `entry` must outlive the table. Fails with out_of_memory where the
   /// table has no room.
   explicit Match_Table(std::string_view entry);
 

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "expects.h"
 #include "native/generic/kernels.h"
 #include "native/stair.h"
 
@@ -35,6 +36,7 @@ std::size_t Multiply_Operands(const Operands& operands, char* out, Instructions 
   const Kernels& kernels = Kernels_Of(kind);
   const std::string_view a = operands.a;
   const std::string_view b = operands.b;
+  Expects(!b.empty() && a.size() >= b.size() && a.front() != '0' && b.front() != '0');
   if (a.size() <= tiny_digits && kernels.multiply_tiny != nullptr)
     return kernels.multiply_tiny(a.data(), a.size(), b.data(), b.size(), out);
   if (a.size() <= word_digits) return Multiply_Words(operands, out);

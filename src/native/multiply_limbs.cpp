@@ -1,6 +1,7 @@
 // Short and middling operands by the portable kernels.
 #include <cstring>
 
+#include "expects.h"
 #include "native/generic/karatsuba.h"
 #include "native/generic/limb_division.h"
 #include "native/generic/limbs.h"
@@ -34,6 +35,7 @@ std::size_t Multiply_Few(const Operands& operands, char* out) {
 }  // namespace
 
 std::size_t Multiply_Words(const Operands& operands, char* out) noexcept {
+  Expects(operands.a.size() <= word_digits);
   Limb a = 0;
   Limb b = 0;
   if (!Read_Limbs(operands.a.data(), operands.a.size(), &a)) return 0;

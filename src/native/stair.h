@@ -9,7 +9,7 @@
 
 namespace quorvex::native {
 
-/// Two operands without leading zeros, neither empty, `a` not the shorter one.
+/// Two operands without leading zeros, `a` not the shorter one.
 struct Operands {
   std::string_view a;
   std::string_view b;

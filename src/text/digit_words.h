@@ -10,6 +10,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "expects.h"
+
 namespace quorvex::digit_words {
 
 inline constexpr std::size_t size = 8;
@@ -37,9 +39,10 @@ inline void Store(char* digits, std::uint64_t word) {
   std::memcpy(digits, &word, size);
 }
 
-/// The first `count` digits of a text (1 to 7) in the low bytes of a word, zeros above. The text
-/// must have eight characters all the same.
+/// The first `count` digits of a text in the low bytes of a word, zeros above. The text must have
+/// eight characters all the same.
 inline std::uint64_t Load_First(const char* digits, std::size_t count) {
+  Expects(count > 0 && count < size);
   const auto bits = static_cast<unsigned>(8 * count);
   return (Load(digits) >> (64U - bits)) | (zeros << bits);
 }

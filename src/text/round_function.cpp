@@ -8,6 +8,7 @@
 
 #include "host/conversions.h"
 #include "text/clean_up_number.h"
+#include "text/decimal.h"
 #include "text/digit_runs.h"
 #include "text/format_result.h"
 #include "text/primitives.h"
@@ -147,15 +148,15 @@ NumberText Round_Function(std::string_view num, double num_digits, Rounding_Dire
   if (num.empty() || num_digits < lowest_count) return NumberText(value_token);
   type_CleanUp clean = Clean_Up_Number(num, false, false);
   if (clean.IsError) return NumberText(value_token);
-  Digits number{std::move(clean.NumClean),
-                std::max<Place>(static_cast<Place>(clean.DecPos) - 1, 0)};
+  Decimal read = Read_Decimal(std::move(clean));
+  Digits number{std::move(read.digits), -read.power_of_ten};
   if (!Round(number, Whole_Places(num_digits), direction)) return NumberText(value_token);
 
   type_Restrictionator options =
       Restrictionator({format.format_negative, format.format_thousands, format.format_currency,
                        format.exponential_notation});
   options.maxSD = maximum_digits;
-  return Format_Result({std::move(number.text), -number.decimals, !clean.Positive}, options, false);
+  return Format_Result({std::move(number.text), -number.decimals, read.negative}, options, false);
 }
 
 double Places_Of(const HostValue& num_digits) {

@@ -17,6 +17,7 @@
 #include "support/random_numbers.h"
 #include "support/real_number.h"
 #include "support/surroundings.h"
+#include "support/text_steps.h"
 
 namespace quorvex {
 namespace {
@@ -27,8 +28,8 @@ NumberText Poisson(int target, const NumberText& average, bool cumulative, doubl
 
 NumberText Term(int k, const NumberText& average, double limit) {
   const NumberText e = To_Text(E_Digits(limit));
-  const NumberText exp_term = Power_Step(e, "-" + average, limit);
-  const NumberText power = Power_Step(average, std::to_string(k), limit);
+  const NumberText exp_term = Text_Steps{limit}.power(e, "-" + average);
+  const NumberText power = Text_Steps{limit}.power(average, std::to_string(k));
   return Intermediate(operation::divide, Intermediate(operation::multiply, exp_term, power, limit),
                       Fact_Function(k, {}), limit);
 }

@@ -1,8 +1,10 @@
 // Operations at a limit on texts, which chains of numbers are compared with.
 #pragma once
 
+#include <cmath>
 #include <string_view>
 
+#include "arith/do_operation.h"
 #include "arith/operation/four_operations.h"
 #include "arith/operation/operation_codes.h"
 
@@ -22,6 +24,11 @@ struct Text_Steps {
   }
   NumberText quotient(std::string_view a, std::string_view b) const {
     return Intermediate(operation::divide, a, b, limit);
+  }
+  NumberText power(std::string_view a, std::string_view b) const {
+    type_Restrictionator options;
+    options.maxSD = std::fmin(limit, maximum_digits);
+    return Do_Operation_On_Texts(operation::power, a, b, options, {.intermediate = true});
   }
 };
 

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <functional>
 
+#include "expects.h"
 #include "host/platform.h"
 #include "text/digit_words.h"
 
@@ -98,25 +100,36 @@ bool Propagate(char* out, const char* a, std::size_t length, bool carry) {
   return carry;
 }
 
+// In place, or apart.
+[[maybe_unused]] bool Can_Be_Output(const char* out, const char* input, std::size_t length) {
+  const std::less_equal<> is_behind;
+  return out == input || is_behind(out + length, input) || is_behind(input + length, out);
+}
+
 }  // namespace
 
 bool Add(char* out, const char* a, const char* b, std::size_t length, bool carry) {
+  Expects(Can_Be_Output(out, a, length) && Can_Be_Output(out, b, length));
   return Run<Sum>(out, Text{a}, Text{b}, length, carry);
 }
 
 bool Add_Carry(char* out, const char* a, std::size_t length, bool carry) {
+  Expects(Can_Be_Output(out, a, length));
   return Propagate<Sum>(out, a, length, carry);
 }
 
 bool Subtract(char* out, const char* a, const char* b, std::size_t length, bool borrow) {
+  Expects(Can_Be_Output(out, a, length) && Can_Be_Output(out, b, length));
   return Run<Difference>(out, Text{a}, Text{b}, length, borrow);
 }
 
 bool Subtract_Borrow(char* out, const char* a, std::size_t length, bool borrow) {
+  Expects(Can_Be_Output(out, a, length));
   return Propagate<Difference>(out, a, length, borrow);
 }
 
 bool Complement(char* out, const char* b, std::size_t length) {
+  Expects(Can_Be_Output(out, b, length));
   return Run<Difference>(out, Zeros{}, Text{b}, length, false);
 }
 

@@ -1,7 +1,7 @@
 // Addition and subtraction of spans of ASCII digits, eight digits at a time, from right to left.
 //
-// All spans of a call have the same length. The output may be one of the inputs, but must not
-// overlap them otherwise. Every routine yields to the host within long spans.
+// All spans of a call have the same length. The output may be one of the inputs. Every routine
+// yields to the host within long spans.
 #pragma once
 
 #include <cstddef>

@@ -7,6 +7,7 @@
 #include "arith/division/quick_reciprocal.h"
 #include "arith/limbs/limb_division.h"
 #include "arith/limbs/limb_number.h"
+#include "expects.h"
 
 namespace quorvex::limbs {
 namespace {
@@ -176,6 +177,7 @@ void Raise_Up(Limb* limb, Limb unit) {
 // divisor's N significant ones leave of 10^s, s = p + N - 1. That takes less than ten units of
 // digit p off a / b, which is divided limb by limb, and so needs to be known to some digits only.
 bool Divide(const Number& a, const Number& b, std::size_t digits_kept, Number& result) {
+  Expects(digits_kept > 0);
   if (b.count() != 1 || a.is_zero()) return false;
   const std::size_t p = digits_kept + guard_digits;
   const Significant k = Without_Zeros(*b.data());

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "arith/limbs/limb_long_division.h"
+#include "expects.h"
 
 namespace quorvex::limbs {
 namespace {
@@ -20,6 +21,7 @@ void Pass_Carries_Left(Limb* quotient, std::size_t count) {
 
 bool Divide_Into_One(const Limb* divisor, std::size_t n, Limb* quotient, std::size_t count,
                      std::int64_t* rest) {
+  Expects(n >= 2 && count > 0);
   std::fill_n(rest, n - 1, 0);
   rest[n - 1] = 1;
   Long_Division division(divisor, n, rest);

@@ -6,6 +6,7 @@
 #include "arith/limbs/limb_division.h"
 #include "arith/limbs/limb_long_division.h"
 #include "arith/limbs/limbs.h"
+#include "expects.h"
 #include "host/platform.h"
 #include "text/digit_runs.h"
 
@@ -59,6 +60,8 @@ NumberText Text_Of_Limbs(const Signed_Limb* number, std::size_t n, std::size_t z
 }  // namespace
 
 NumberText Remainder(std::string_view dividend, std::string_view divisor) {
+  Expects(!divisor.empty() && !divisor.starts_with('0') && !dividend.starts_with('0') &&
+          dividend.size() >= divisor.size());
   if (divisor.size() <= digits) return By_One_Limb(dividend, Divisor(Read(divisor)));
   const std::size_t n = Count_For(divisor.size());
   // Both get so many zeros behind that the divisor's first digit stands first in its limb.

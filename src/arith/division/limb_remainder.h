@@ -8,9 +8,9 @@
 
 namespace quorvex::limbs {
 
-/// `dividend` modulo `divisor`, both digits without leading zeros, the divisor above 0 and not
-/// longer than the dividend. Digits without leading zeros, none for 0. The work grows with the
-/// product of the lengths of divisor and quotient.
+/// `dividend` modulo `divisor`, both digits without leading zeros, the divisor not the longer.
+/// Digits without leading zeros, none for 0. The work grows with the product of the lengths of
+/// divisor and quotient.
 NumberText Remainder(std::string_view dividend, std::string_view divisor);
 
 }  // namespace quorvex::limbs

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "arith/limbs/limbs.h"
+#include "expects.h"
 #include "host/platform.h"
 #include "text/digit_runs.h"
 
@@ -77,7 +78,7 @@ NumberText Written(Number number) {
   return text;
 }
 
-// a -= factor b 2^shift, which is no more than a.
+// a -= factor b 2^shift.
 void Subtract_Multiple(Number& a, const Number& b, Word factor, std::size_t shift) {
   const std::size_t bits = shift % word_bits;
   Wide carry = 0;
@@ -93,6 +94,7 @@ void Subtract_Multiple(Number& a, const Number& b, Word factor, std::size_t shif
     borrow = Wide{a[at]} < taken ? 1 : 0;
     a[at] -= static_cast<Word>(taken);
   }
+  Expects(borrow == 0);
   Trim(a);
 }
 

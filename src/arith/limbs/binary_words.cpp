@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "expects.h"
+
 namespace quorvex::words {
 namespace {
 
@@ -72,6 +74,7 @@ Span From_Decimal(const limbs::Number& number, std::int64_t shift, Word* room) {
 }
 
 void Fraction_From_Decimal(const limbs::Number& number, std::size_t count, Word* out) {
+  Expects(!number.is_zero() && !number.negative && number.top() <= 0);
   // 64 bits are 19.3 digits.
   const std::size_t used = count + count / 14 + 1;
   limbs::Scratch scratch(used);
@@ -134,6 +137,7 @@ void Multiply_By_Fraction(Span& a, const Word* fraction_end, Word* scratch) {
 }
 
 Span Divide(Span a, const limbs::Divisor& divisor, Word* out) {
+  Expects(a.count > 0);
   const unsigned shift = divisor.shift();
   const Word shifted = divisor.number() << shift;
   Word rest = a.words[a.count - 1] >> (word_bits - shift);
@@ -148,6 +152,7 @@ Span Divide(Span a, const limbs::Divisor& divisor, Word* out) {
 }
 
 void Add(Span a, Span b) {
+  Expects(a.count >= b.count);
   Word carry = 0;
   for (std::size_t place = 0; place < b.count; ++place) {
     const Wide sum = Wide{a.words[place]} + b.words[place] + carry;
@@ -160,6 +165,7 @@ void Add(Span a, Span b) {
 }
 
 void Subtract(Span a, Span b) {
+  Expects(a.count >= b.count);
   Word borrow = 0;
   for (std::size_t place = 0; place < b.count; ++place) {
     const Wide difference = Wide{a.words[place]} - b.words[place] - borrow;
@@ -169,9 +175,11 @@ void Subtract(Span a, Span b) {
   for (std::size_t place = b.count; borrow != 0 && place < a.count; ++place) {
     borrow = static_cast<Word>(a.words[place]-- == 0);
   }
+  Expects(borrow == 0);
 }
 
 double Ratio(Span a, Span b) {
+  Expects(a.count > 0 && b.count > 0 && b.words[b.count - 1] > 0);
   constexpr double word = 0x1p64;
   if (a.count > b.count + 1) return word;
   if (a.count + 1 < b.count) return 0;

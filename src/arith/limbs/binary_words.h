@@ -1,5 +1,8 @@
 // Fixed-point numbers in words of 64 bits, for long chains of products and quotients that are cut
 // off and not rounded.
+//
+// The whole numbers of fractions/exact_divisor are words of 64 bits too, and have no operation in
+// common with these: they are exact, shrink at every step, and are divided by each other.
 #pragma once
 
 #include <cstddef>
@@ -25,8 +28,7 @@ std::size_t Room_For(std::size_t places);
 /// Fixed-point words of the magnitude of number * 10^shift, at most 20 units of 2^-64 too small.
 Span From_Decimal(const limbs::Number& number, std::int64_t shift, Word* room);
 
-/// The highest `count` words of a number above 0 and below 1, at most two units of the last too
-/// small.
+/// The highest `count` words of a fraction, at most two units of the last too small.
 void Fraction_From_Decimal(const limbs::Number& number, std::size_t count, Word* out);
 
 /// The number of whole words, first of them no fraction, times 10^-shift.
@@ -40,13 +42,13 @@ void Multiply_By_Fraction(Span& a, const Word* fraction_end, Word* scratch);
 /// a / divisor into `out`, which may be that of `a`, cut off.
 Span Divide(Span a, const limbs::Divisor& divisor, Word* out);
 
-/// a + b, in as many words as `a` has. What runs over is lost.
+/// a + b, in the words of `a`. What runs over is lost.
 void Add(Span a, Span b);
 
-/// a - b, for a no smaller one.
+/// a - b, in the words of `a`.
 void Subtract(Span a, Span b);
 
-/// a / b to 15 digits, for whole parts above 0. Where the counts of words differ by two or more,
+/// a / b to 15 digits. Where the counts of words differ by two or more,
 /// the ratio is only known to be above 1 or below.
 double Ratio(Span a, Span b);
 

@@ -8,6 +8,7 @@
 #include <bit>
 
 #include "arith/limbs/limbs.h"
+#include "expects.h"
 
 namespace quorvex::limbs {
 
@@ -15,9 +16,10 @@ constexpr Limb Reciprocal_Of(Limb shifted) {
   return static_cast<Limb>(((Wide{~shifted} << 64U) | ~Limb{0}) / shifted);
 }
 
-/// Divides by a number whose high bit is set; the quotient has to fit 64 bits.
+/// Divides by a number that is shifted to the top. The quotient fits 64 bits.
 inline Limb Divide_Shifted(Wide dividend, Limb divisor, Limb reciprocal, Limb& rest) {
   const auto high = static_cast<Limb>(dividend >> 64U);
+  Expects(divisor >> 63U == 1 && high < divisor);
   const auto low = static_cast<Limb>(dividend);
   const Wide guess = Wide{reciprocal} * high + (Wide{high + 1} << 64U) + low;
   auto quotient = static_cast<Limb>(guess >> 64U);
@@ -37,6 +39,7 @@ inline Limb Divide_Shifted(Wide dividend, Limb divisor, Limb reciprocal, Limb& r
 /// next.
 inline Limb Take_Limb(Wide& column) {
   constexpr unsigned shift = 4;
+  Expects(column >> (128 - shift) == 0);
   constexpr Limb divisor = base << shift;
   constexpr Limb reciprocal = Reciprocal_Of(divisor);
   Limb rest = 0;
@@ -47,12 +50,13 @@ inline Limb Take_Limb(Wide& column) {
 /// Division by a number of one limb.
 class Divisor {
  public:
-  /// `number` is above 0 and below the base.
   explicit Divisor(Limb number)
       : number_(number),
         shift_(static_cast<unsigned>(std::countl_zero(number))),
         shifted_(number << shift_),
-        reciprocal_(Reciprocal_Of(shifted_)) {}
+        reciprocal_(Reciprocal_Of(shifted_)) {
+    Expects(number < base);
+  }
 
   Limb number() const { return number_; }
 
@@ -61,8 +65,9 @@ class Divisor {
   unsigned shift() const { return shift_; }
   Limb reciprocal() const { return reciprocal_; }
 
-  /// Divides rest * base + limb; `rest`, which is below the number, becomes the new rest.
+  /// Divides rest * base + limb; `rest` becomes the new rest.
   Limb divide(Limb& rest, Limb limb) const {
+    Expects(rest < number_);
     Limb shifted_rest = 0;
     const Limb quotient =
         Divide_Shifted((Wide{rest} * base + limb) << shift_, shifted_, reciprocal_, shifted_rest);

@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "arith/limbs/limbs.h"
+#include "expects.h"
 
 namespace quorvex::limbs {
 
@@ -24,10 +25,11 @@ inline constexpr auto signed_base = static_cast<Signed_Limb>(base);
 /// bases, the highest below 1.9.
 class Long_Division {
  public:
-  /// `divisor` has `n` limbs (2 or more), the highest digit not 0. `rest` has as many, each between
-  /// 0 and the base, and is less than the divisor: it is what the dividend begins with.
+  /// `divisor` has `n` limbs. `rest` has as many, each between 0 and the base, and is less than the
+  /// divisor: it is what the dividend begins with.
   Long_Division(const Limb* divisor, std::size_t n, Signed_Limb* rest)
       : divisor_(divisor), n_(n), rest_(rest) {
+    Expects(n >= 2 && divisor[n - 1] >= base / 10 && divisor[n - 1] < base && is_below_divisor());
     const Wide top = Wide{divisor[n - 1]} * base + divisor[n - 2];
     const auto high = static_cast<Limb>(top >> 64U);
     shift_ = static_cast<unsigned>(std::bit_width(high)) + 1;  // to 63 bits

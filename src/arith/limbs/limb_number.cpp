@@ -1,5 +1,6 @@
 #include "arith/limbs/limb_number.h"
 
+#include "expects.h"
 #include "text/digit_runs.h"
 #include "text/operand.h"
 #include "text/primitives.h"
@@ -36,6 +37,10 @@ std::size_t Cut(Raw_Number& raw, std::size_t dropped) {
   raw.limbs[first] -= rest;
   Raise(raw, first, up ? unit : 0);
   return first;
+}
+
+Limb Limb_At(const Number& number, std::int64_t place) {
+  return place < number.low || place >= number.top() ? 0 : number.data()[place - number.low];
 }
 
 void Append(NumberText& text, Limb limb) {
@@ -79,7 +84,7 @@ NumberText Text_Of(const Number& number) {
   }
   for (std::int64_t place = top; place-- > end;) {
     if (place == -1 && top > 0) text += separator;
-    Append(text, place < number.low ? 0 : number.data()[place - number.low]);
+    Append(text, Limb_At(number, place));
     if (place == top - 1 && top > 0) {
       text.erase(text.size() - digits, digits - Count_Digits(number.data()[number.count() - 1]));
     }
@@ -115,6 +120,7 @@ Decimal Decimal_Of(const Number& number) {
 }
 
 NumberText Digits_Of(const Number& number) {
+  Expects(!number.is_zero());
   NumberText text(number.count() * digits, '0');
   for (std::size_t place = 0; place < number.count(); ++place) {
     Write(text.data() + text.size() - (place + 1) * digits, number.data()[place]);
@@ -123,6 +129,7 @@ NumberText Digits_Of(const Number& number) {
 }
 
 std::int64_t Leading_Power(const Number& number) {
+  Expects(!number.is_zero());
   const std::int64_t below = (number.top() - 1) * static_cast<std::int64_t>(digits);
   return below + static_cast<std::int64_t>(Count_Digits(number.data()[number.count() - 1])) - 1;
 }
@@ -162,6 +169,22 @@ std::strong_ordering Compare_Magnitudes(const Number& a, const Number& b) {
   return a.count() <=> b.count();
 }
 
+// The first limb in which they differ tells, unless it does by one: limbs below it may make up for
+// that.
+bool Differ_Within(const Number& a, const Number& b, double digit_count) {
+  Expects(!a.is_zero() && !b.is_zero());
+  const std::int64_t leading = std::max(Leading_Power(a), Leading_Power(b));
+  const double last = static_cast<double>(leading) - digit_count + 1;
+  std::int64_t place = std::max(a.top(), b.top()) - 1;
+  for (; static_cast<double>(place * static_cast<std::int64_t>(digits)) >= last; --place) {
+    if (place < a.low && place < b.low) return false;
+    const Limb x = Limb_At(a, place);
+    const Limb y = Limb_At(b, place);
+    if (x != y) return std::max(x, y) - std::min(x, y) > 1;
+  }
+  return false;
+}
+
 void Trim(const Raw_Number& raw, Number& result) {
   std::size_t end = raw.count;
   std::size_t first = 0;
@@ -173,6 +196,7 @@ void Trim(const Raw_Number& raw, Number& result) {
 }
 
 void Round(Raw_Number& raw, std::size_t digits_kept, Number& result) {
+  Expects(digits_kept > 0);
   while (raw.count > 0 && raw.limbs[raw.count - 1] == 0) --raw.count;
   if (raw.count > 0) {
     const std::size_t length = (raw.count - 1) * digits + Count_Digits(raw.limbs[raw.count - 1]);

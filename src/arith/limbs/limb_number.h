@@ -6,12 +6,14 @@
 #include <compare>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "arith/limbs/limbs.h"
+#include "expects.h"
 #include "host/host_value.h"
 #include "text/decimal.h"
 
@@ -41,8 +43,8 @@ class Store {
   std::size_t size() const { return count_; }
   const Limb* data() const { return count_ > few_.size() ? many_.data() : few_.data(); }
 
-  /// Takes `count` limbs, which are not its own.
   void fill(const Limb* limbs, std::size_t count) {
+    Expects(!owns(limbs));
     count_ = count;
     if (count > few_.size()) [[unlikely]] {
       many_.assign(limbs, limbs + count);
@@ -52,6 +54,13 @@ class Store {
   }
 
  private:
+  bool owns(const Limb* limb) const {
+    const auto lies_in = [&](const Limb* first, std::size_t room) {
+      return !std::less<>()(limb, first) && std::less<>()(limb, first + room);
+    };
+    return lies_in(few_.data(), few_.size()) || lies_in(many_.data(), many_.size());
+  }
+
   std::size_t count_ = 0;
   std::array<Limb, 60> few_;  // more than a thousand digits
   std::vector<Limb> many_;
@@ -95,6 +104,10 @@ Number Floor(const Number& number);
 
 std::strong_ordering Compare_Magnitudes(const Number& a, const Number& b);
 
+/// True only if two magnitudes above 0 differ by a unit or more of the last of so many digits of
+/// the greater one. False for some that do.
+bool Differ_Within(const Number& a, const Number& b, double digit_count);
+
 /// `count` limbs with room for one more, their first at the power `low` of the base.
 struct Raw_Number {
   Limb* limbs;
@@ -106,7 +119,7 @@ struct Raw_Number {
 /// The number without the zeros around it.
 void Trim(const Raw_Number& raw, Number& result);
 
-/// Rounds to so many significant digits (1 or more), half up by the first dropped digit alone.
+/// Rounds to so many significant digits, half up by the first dropped digit alone.
 void Round(Raw_Number& raw, std::size_t digits, Number& result);
 
 // Operations. The result may be one of the operands.

@@ -5,6 +5,7 @@
 
 #include "arith/digits/multiply_digits.h"
 #include "arith/limbs/limb_number.h"
+#include "expects.h"
 #include "host/run_time_failure.h"
 #include "text/tokens.h"
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "expects.h"
 #include "native/generic/digit_words.h"
 
 namespace quorvex::limbs {
@@ -18,6 +19,7 @@ Limb Read_Full(const char* text) {
 }  // namespace
 
 Limb Read(std::string_view text) {
+  Expects(text.size() <= digits);
   if (text.size() == digits) return Read_Full(text.data());
   Limb limb = 0;
   if (text.size() >= word_digits) {
@@ -34,6 +36,7 @@ Limb Read(std::string_view text) {
 }
 
 void Write(char* out, Limb limb) {
+  Expects(limb < base);
   const Limb pair = limb / 100;
   const auto last = static_cast<unsigned>(limb - pair * 100);
   const Limb high = pair / native::ten_to_8;

@@ -1,5 +1,10 @@
-// Numbers in limbs of eighteen digits, least first, for divisions that are too short to be worth
-// the products of long texts.
+// Numbers in limbs of eighteen digits, least first, for chains of steps, and for divisions that are
+// too short to be worth the products of long texts.
+//
+// The library of products has limbs of the same size in native/generic/limbs.h, for itself alone:
+// it is loaded by its name, may be missing, and shares no compiled code with the engine. It finds
+// what is no digit while it reads, since that is how its caller learns of it; here digits are known
+// to be some, and reading may yield.
 #pragma once
 
 #include <array>
@@ -9,6 +14,7 @@
 #include <string_view>
 #include <vector>
 
+#include "expects.h"
 #include "host/platform.h"
 
 namespace quorvex::limbs {
@@ -32,19 +38,21 @@ inline constexpr auto powers_of_ten = [] {
   return powers;
 }();
 
-/// 10 to the `exponent`, of at most 18.
+/// 10 to the `exponent`.
 constexpr Limb Ten_To(std::size_t exponent) {
+  Expects(exponent <= digits);
   return powers_of_ten[exponent];
 }
 
-/// The number that at most eighteen digits write.
+/// The number that so many digits write, eighteen at most.
 Limb Read(std::string_view text);
 
 /// Writes eighteen digits.
 void Write(char* out, Limb limb);
 
-/// How many digits a number above 0 has.
+/// How many digits a limb has, without zeros before them.
 inline std::size_t Count_Digits(Limb limb) {
+  Expects(limb > 0 && limb < base);
   // 1233 / 4096 is a little above log10 of 2, and finds the count or one less.
   const auto guess = static_cast<std::size_t>(std::bit_width(limb)) * 1233U >> 12U;
   return guess + static_cast<std::size_t>(limb >= powers_of_ten[guess]);

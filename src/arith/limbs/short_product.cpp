@@ -3,10 +3,12 @@
 #include <algorithm>
 
 #include "arith/limbs/limb_division.h"
+#include "expects.h"
 
 namespace quorvex::limbs {
 
 void Multiply(Limb* out, const Limb* a, std::size_t a_count, const Limb* b, std::size_t b_count) {
+  Expects(std::min(a_count, b_count) <= 9 && a_count > 0 && b_count > 0);
   // A column is below 9 * 10^36, and what it passes on below 9 bases. It is parted before what it
   // gets is added, so that no column waits for those below it.
   Limb from_first_below = 0;

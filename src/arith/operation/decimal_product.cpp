@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "arith/digits/multiply_digits.h"
+#include "expects.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "text/tokens.h"
@@ -27,6 +28,8 @@ void Check_Size(Decimal& number) {
 Decimal Product(const Decimal& a, const Decimal& b, double limit) {
   if (a.is_token()) return a;
   if (b.is_token()) return b;
+  Expects(!a.digits.starts_with('0') && !a.digits.ends_with('0'));
+  Expects(!b.digits.starts_with('0') && !b.digits.ends_with('0'));
   Yield();
   Decimal product{Multiply_Digits(a.digits, b.digits), a.power_of_ten + b.power_of_ten,
                   a.negative != b.negative};

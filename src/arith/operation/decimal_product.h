@@ -6,7 +6,7 @@
 namespace quorvex {
 
 /// The product as `Do_Operation` gives it at the limit: rounded to two digits more. The factors
-/// have no zeros at either end and are not 0. A token is handed on.
+/// have no zeros at either end. A token is handed on.
 Decimal Product(const Decimal& a, const Decimal& b, double limit);
 
 }  // namespace quorvex

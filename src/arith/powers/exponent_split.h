@@ -12,7 +12,7 @@ struct Exponent_Split {
   NumberText C;
 };
 
-/// The split of a whole number from 4 on that needs the fewest multiplications among those with A a
+/// The split of a whole number above 3 that needs the fewest multiplications among those with A a
 /// half, a quarter, an eighth ... of it: 1000 is 31 * 32 + 8. The search ends where a split costs
 /// no less than the one before.
 ///

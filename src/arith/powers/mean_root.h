@@ -1,7 +1,8 @@
 // Square roots by the mean of a value and its quotient.
 #pragma once
 
-#include "host/host_value.h"
+#include "arith/operation/step_number.h"
+#include "text/decimal.h"
 
 namespace quorvex {
 
@@ -12,6 +13,6 @@ namespace quorvex {
 /// become less three times, the quotient is cut at the limit, or is one of them if that is the
 /// other one rounded. A token of a step is the result, and so is "#NUM!" where a difference that is
 /// greater shrinks no more: of a negative radicand.
-NumberText Mean_Root(const NumberText& radicand, NumberText start, double maxSD);
+Decimal Mean_Root(const Step_Number& radicand, const Step_Number& start, double maxSD);
 
 }  // namespace quorvex

@@ -1,13 +1,13 @@
 #include "arith/powers/newton_root.h"
 
-#include <array>
 #include <cmath>
 #include <cstddef>
-#include <string_view>
+#include <cstdint>
+#include <optional>
 #include <utility>
+#include <vector>
 
-#include "arith/operation/four_operations.h"
-#include "arith/operation/operation_codes.h"
+#include "arith/limbs/limb_number.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
@@ -20,33 +20,79 @@
 namespace quorvex {
 namespace {
 
-// Fails for what can't be compared, a rounded value that became a token among it.
-bool Is_Equal(const NumberText& a, const NumberText& b) {
-  const HostValue answer = Compare_Numbers(a, b, true, false);
-  if (answer.is_text()) {
-    throw Run_Time_Failure(Failure_Number::type_mismatch, "A root's value can't be compared.");
+// A value of the iteration; its text is formed where it is looked at.
+class Value {
+ public:
+  explicit Value(Step_Number number) : number_(std::move(number)) {}
+
+  const Step_Number& number() const { return number_; }
+  const NumberText& text() const {
+    if (!text_) text_ = number_.text();
+    return *text_;
   }
-  return answer.boolean();
+  /// Rounded to so many characters.
+  const NumberText& rounded(double count) const {
+    if (!rounded_) rounded_ = Round_To_Length(text(), count);
+    return *rounded_;
+  }
+
+ private:
+  Step_Number number_;
+  mutable std::optional<NumberText> text_;
+  mutable std::optional<NumberText> rounded_;
+};
+
+// False where two values differ in so many characters of their texts, however these are rounded
+// there: a separator and a zero before it are characters, too. Zeros behind those of a negative
+// number are, so that all of its digits may be beyond.
+bool May_Be_Alike(const Value& a, const Value& b, double characters) {
+  constexpr double spare = 4;
+  const double digits = characters - spare;
+  const Step_Number& x = a.number();
+  const Step_Number& y = b.number();
+  const auto is_told = [](const Step_Number& number) {
+    return number.is_in_limbs() && !number.is_negative() && !number.is_zero();
+  };
+  if (digits < 1 || !is_told(x) || !is_told(y)) return true;
+  return !limbs::Differ_Within(x.in_limbs(), y.in_limbs(), digits);
+}
+
+// The characters of a value's text.
+std::int64_t Length(const Value& value) {
+  const Step_Number& number = value.number();
+  if (!number.is_in_limbs()) return static_cast<std::int64_t>(Count_Characters(value.text()));
+  return Plain_Length(number) + (number.in_limbs().low < 0 ? 1 : 0);
 }
 
 // The last ten values, and how often one came back.
 class History {
  public:
-  History() { values_.fill("x"); }
+  /// Compares values by so many characters.
+  explicit History(double count) : count_(count) {}
 
   /// False when values have come back ten times in all.
-  bool note(NumberText value) {
-    for (const NumberText& each : values_) repeats_ += each == value ? 1 : 0;
-    values_[next_] = std::move(value);
-    next_ = (next_ + 1) % values_.size();
+  bool note(const Value& value) {
+    for (const Value& each : values_) repeats_ += is_repeated(each, value) ? 1 : 0;
+    if (values_.size() < remembered) {
+      values_.push_back(value);
+    } else {
+      values_[next_] = value;
+      next_ = (next_ + 1) % remembered;
+    }
     return repeats_ < most_repeats;
   }
 
   int repeats() const { return repeats_; }
 
  private:
+  bool is_repeated(const Value& a, const Value& b) const {
+    return May_Be_Alike(a, b, count_) && a.rounded(count_) == b.rounded(count_);
+  }
+
   static constexpr int most_repeats = 10;
-  std::array<NumberText, 10> values_;
+  static constexpr std::size_t remembered = 10;
+  double count_;
+  std::vector<Value> values_;
   std::size_t next_ = 0;
   int repeats_ = 0;
 };
@@ -58,10 +104,10 @@ class History {
 // value kept at each power of two finds every circle.)
 class Circle_Watch {
  public:
-  void begin_anew() { kept_.clear(); }
+  void begin_anew() { kept_.reset(); }
 
-  void see(const NumberText& value, const History& history) {
-    if (value == kept_) {
+  void see(const Value& value, const History& history) {
+    if (kept_ && is_same(*kept_, value)) {
       if (has_turned_ && history.repeats() == repeats_) {
         throw Run_Time_Failure(Failure_Number::too_complex,
                                "The values of a root come back in a circle without end.");
@@ -76,7 +122,12 @@ class Circle_Watch {
   }
 
  private:
-  NumberText kept_;
+  static bool is_same(const Value& a, const Value& b) {
+    if (!a.number().is_in_limbs() || !b.number().is_in_limbs()) return a.text() == b.text();
+    return Is_Equal(a.number(), b.number());
+  }
+
+  std::optional<Value> kept_;
   bool has_turned_ = false;
   int repeats_ = 0;
   std::size_t rounds_ = 0;
@@ -96,74 +147,85 @@ void Refuse_Endless_Way(const Newton_Work& work) {
                              " rounds of Newton's iteration or more, which nobody waits for.");
 }
 
-NumberText Time_Of_Day() {
-  return Expand_Exponent(Number_To_Text(Current_Platform().clock->time_of_day()));
+Value Time_Of_Day() {
+  const double time = Current_Platform().clock->time_of_day();
+  return Value(Step_Number(Expand_Exponent(Number_To_Text(time))));
 }
 
 // One digit more than the value before, and otherwise the same.
-bool Only_Grew(const NumberText& value, const NumberText& before, double maxSD) {
-  const std::size_t length = Count_Characters(value);
-  return static_cast<double>(length) > maxSD && length == Count_Characters(before) + 1 &&
-         value.starts_with(before);
+bool Only_Grew(const Value& value, const Value& before, double maxSD) {
+  const std::int64_t length = Length(value);
+  return static_cast<double>(length) > maxSD && length == Length(before) + 1 &&
+         value.text().starts_with(before.text());
 }
 
 class Newton_Iteration {
  public:
-  Newton_Iteration(const NumberText& radicand, const NumberText& degree, double limit,
-                   Power_At_Limit power)
+  Newton_Iteration(const NumberText& radicand, const NumberText& degree, const Steps& steps,
+                   Power_Step power)
       : radicand_(radicand),
         degree_(degree),
-        degree_less_one_(Intermediate(operation::subtract, degree, "1", limit)),
-        limit_(limit),
+        degree_less_one_(steps.difference(degree_, Step_Number(1))),
+        steps_(steps),
         power_(power) {}
 
   /// ((degree - 1) value + radicand / value^(degree - 1)) / degree, or the token of a step.
-  NumberText next(const NumberText& value) const {
-    const NumberText power =
-        Has_Token_Mark(value) ? value : power_(value, degree_less_one_, limit_);
-    const NumberText multiple = step(operation::multiply, degree_less_one_, value);
-    const NumberText quotient = step(operation::divide, radicand_, power);
-    return step(operation::divide, step(operation::add, multiple, quotient), degree_);
+  Step_Number next(const Step_Number& value) const {
+    const Step_Number multiple = step(&Steps::product, degree_less_one_, value);
+    const Step_Number quotient = step(&Steps::quotient, radicand_, raise(value));
+    return step(&Steps::quotient, step(&Steps::sum, multiple, quotient), degree_);
   }
 
  private:
+  using Operation = Step_Number (Steps::*)(Step_Number, const Step_Number&) const;
+
   // Tokens go through the steps as they are; but the one that comes first is the result.
-  NumberText step(std::int16_t code, const NumberText& a, const NumberText& b) const {
-    if (Has_Token_Mark(a)) return a;
-    if (Has_Token_Mark(b)) return b;
-    return Intermediate(code, a, b, limit_);
+  Step_Number step(Operation operation, const Step_Number& a, const Step_Number& b) const {
+    if (a.is_token()) return a;
+    if (b.is_token()) return b;
+    return (steps_.*operation)(a, b);
   }
 
-  const NumberText& radicand_;
-  const NumberText& degree_;
-  NumberText degree_less_one_;
-  double limit_;
-  Power_At_Limit power_;
+  Step_Number raise(const Step_Number& value) const {
+    return value.is_token() ? value : power_(value, degree_less_one_, steps_);
+  }
+
+  Step_Number radicand_;
+  Step_Number degree_;
+  Step_Number degree_less_one_;
+  Steps steps_;
+  Power_Step power_;
 };
+
+Decimal Decimal_Of(const Value& value) {
+  return value.number().is_in_limbs() ? value.number().decimal() : Read_Decimal(value.text());
+}
 
 }  // namespace
 
-NumberText Newton_Root(const NumberText& radicand, const NumberText& degree, NumberText start,
-                       const Newton_Limits& limits, Power_At_Limit power) {
+Decimal Newton_Root(const NumberText& radicand, const NumberText& degree, const NumberText& start,
+                    const Newton_Limits& limits, Power_Step power) {
   Refuse_Endless_Way(Least_Work(radicand, degree, start, limits));
-  const Newton_Iteration iteration(radicand, degree, limits.steps, power);
-  History history;
+  const Newton_Iteration iteration(radicand, degree, Steps(limits.steps), power);
+  const double compared = limits.maxSD - 1;
+  History history(compared);
   Circle_Watch circles;
-  NumberText value = std::move(start);
+  Value value{Step_Number(start)};
   for (;;) {
     Yield();
-    NumberText before = std::move(value);
-    value = iteration.next(before);
-    if (Has_Token_Mark(value)) return value;
-    if (Is_Equal(value, "0")) {
+    const Value before = std::move(value);
+    value = Value(iteration.next(before.number()));
+    if (value.number().is_token()) return Decimal_Token(value.text());
+    if (Is_Equal(value.number(), Step_Number(0))) {
       value = Time_Of_Day();
       circles.begin_anew();
     }
-    if (Only_Grew(value, before, limits.maxSD)) return before;
-    const NumberText rounded = Round_To_Length(value, limits.maxSD - 1);
-    const NumberText rounded_before = Round_To_Length(before, limits.maxSD - 1);
-    if (!history.note(rounded)) return NumberText(num_token);
-    if (Is_Equal(rounded, rounded_before)) return before;
+    if (Only_Grew(value, before, limits.maxSD)) return Decimal_Of(before);
+    if (!history.note(value)) return Decimal_Token(num_token);
+    if (May_Be_Alike(value, before, compared) &&
+        Is_Equal(value.rounded(compared), before.rounded(compared))) {
+      return Decimal_Of(before);
+    }
     circles.see(value, history);
   }
 }

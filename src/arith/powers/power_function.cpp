@@ -172,18 +172,8 @@ Step_Number Take_Step(const Step_Number& a, const Step_Number& b, double limit,
       [](const Run_Time_Failure&) { return Step_Number(value_token); });
 }
 
-}  // namespace
-
-Decimal Power_Function(const Operand& base, const Operand& exponent, const Step_Options& options) {
-  const NumberText number = Clean_Text(base);
-  const NumberText power = Clean_Text(exponent);
-  const double working_digits = Working_Digits(options, number, power);
-  if (Are_Too_Long(options, working_digits)) return Decimal_Token(num_token);
-  return Raise(Significant_Digits(number), power, options.maxSD, working_digits);
-}
-
-Step_Number Power(const Step_Number& base, const Step_Number& exponent, const Steps& steps,
-                  bool restricted) {
+Step_Number Power_Of_Numbers(const Step_Number& base, const Step_Number& exponent,
+                             const Steps& steps, bool restricted) {
   return Take_Step(base, exponent, steps.limit(), [&](double maxSD) {
     const Step_Options options{maxSD, restricted};
     if (!base.is_in_limbs() || !exponent.is_in_limbs()) {
@@ -197,22 +187,29 @@ Step_Number Power(const Step_Number& base, const Step_Number& exponent, const St
   });
 }
 
-Step_Number Root(const Step_Number& radicand, const Step_Number& degree, const Steps& steps) {
-  return Take_Step(radicand, degree, steps.limit(), [&](double maxSD) {
-    return Root_Function(Operand(radicand.text()), Operand(degree.text()), {maxSD}, Power_Step);
-  });
+}  // namespace
+
+Decimal Power_Function(const Operand& base, const Operand& exponent, const Step_Options& options) {
+  const NumberText number = Clean_Text(base);
+  const NumberText power = Clean_Text(exponent);
+  const double working_digits = Working_Digits(options, number, power);
+  if (Are_Too_Long(options, working_digits)) return Decimal_Token(num_token);
+  return Raise(Significant_Digits(number), power, options.maxSD, working_digits);
 }
 
-NumberText Power_Step(std::string_view base, std::string_view exponent, double limit) {
-  return With_Handler(
-      [&] {
-        if (const auto token = Token_Of_Operands(base, exponent)) return NumberText(*token);
-        const type_Restrictionator options = Step_Formats(limit);
-        Decimal result = Power_Function(Operand(base), Operand(exponent), {options.maxSD});
-        if (Has_Token_Mark(result.digits)) return std::move(result.digits);
-        return Format_Result(std::move(result), options, true);
-      },
-      [](const Run_Time_Failure&) { return NumberText(value_token); });
+Step_Number Power(const Step_Number& base, const Step_Number& exponent, const Steps& steps) {
+  return Power_Of_Numbers(base, exponent, steps, false);
+}
+
+Step_Number Restricted_Power(const Step_Number& base, const Step_Number& exponent,
+                             const Steps& steps) {
+  return Power_Of_Numbers(base, exponent, steps, true);
+}
+
+Step_Number Root(const Step_Number& radicand, const Step_Number& degree, const Steps& steps) {
+  return Take_Step(radicand, degree, steps.limit(), [&](double maxSD) {
+    return Root_Function(Operand(radicand.text()), Operand(degree.text()), {maxSD}, Power);
+  });
 }
 
 }  // namespace quorvex

@@ -23,13 +23,12 @@ namespace quorvex {
 /// is longer than the limit can take any time, but yields.
 Decimal Power_Function(const Operand& base, const Operand& exponent, const Step_Options& options);
 
-/// The power and the root at the limit of the steps. With `restricted`, "#NUM!" for operands that
-/// have more than half the ceiling of digits together.
-Step_Number Power(const Step_Number& base, const Step_Number& exponent, const Steps& steps,
-                  bool restricted = false);
+/// The power and the root at the limit of the steps.
+Step_Number Power(const Step_Number& base, const Step_Number& exponent, const Steps& steps);
 Step_Number Root(const Step_Number& radicand, const Step_Number& degree, const Steps& steps);
 
-/// `Power` for texts, which roots are handed.
-NumberText Power_Step(std::string_view base, std::string_view exponent, double limit);
+/// The power, and "#NUM!" for operands that have more than half the ceiling of digits together.
+Step_Number Restricted_Power(const Step_Number& base, const Step_Number& exponent,
+                             const Steps& steps);
 
 }  // namespace quorvex

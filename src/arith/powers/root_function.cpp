@@ -22,34 +22,28 @@ bool Is_Odd_Whole(const NumberText& degree) {
   return (degree.back() - '0') % 2 == 1;
 }
 
-// The root as text with its sign.
-NumberText Root_Text(const Operand& radicand, const Operand& degree, const Step_Options& options,
-                     Power_At_Limit raise) {
-  NumberText number = Clean_Text(radicand);
-  NumberText power = Clean_Text(degree);
-  const double working_digits = Working_Digits(options, power, number);
-  if (Are_Too_Long(options, working_digits)) return NumberText(num_token);
-  if (power == "0") return NumberText(unmarked_div0_token);
-  if (number == "0" || number == "1" || power == "1") return number;
-  if (number.starts_with('-') && !Is_Odd_Whole(power)) return NumberText(num_token);
-  if (power.starts_with('-')) {
-    power.erase(0, 1);
-    number = Intermediate(operation::divide, "1", number, options.maxSD);
-  }
-  // The first step would bring the degree's token before that of the radicand.
-  if (Has_Token_Mark(power)) return power;
-  if (Has_Token_Mark(number)) return number;
-  NumberText start = Root_Estimate(number, power);
-  if (power == "2") return Mean_Root(number, std::move(start), options.maxSD);
-  return Newton_Root(number, power, std::move(start),
-                     {options.maxSD, options.maxSD + working_digits}, raise);
-}
-
 }  // namespace
 
 Decimal Root_Function(const Operand& radicand, const Operand& degree, const Step_Options& options,
-                      Power_At_Limit power) {
-  return Read_Decimal(Root_Text(radicand, degree, options, power));
+                      Power_Step power) {
+  NumberText number = Clean_Text(radicand);
+  NumberText root_of = Clean_Text(degree);
+  const double working_digits = Working_Digits(options, root_of, number);
+  if (Are_Too_Long(options, working_digits)) return Decimal_Token(num_token);
+  if (root_of == "0") return Decimal_Token(unmarked_div0_token);
+  if (number == "0" || number == "1" || root_of == "1") return Read_Decimal(std::move(number));
+  if (number.starts_with('-') && !Is_Odd_Whole(root_of)) return Decimal_Token(num_token);
+  if (root_of.starts_with('-')) {
+    root_of.erase(0, 1);
+    number = Intermediate(operation::divide, "1", number, options.maxSD);
+  }
+  // The first step would bring the degree's token before that of the radicand.
+  if (Has_Token_Mark(root_of)) return Decimal_Token(root_of);
+  if (Has_Token_Mark(number)) return Decimal_Token(number);
+  const NumberText start = Root_Estimate(number, root_of);
+  if (root_of == "2") return Mean_Root(Step_Number(number), Step_Number(start), options.maxSD);
+  return Newton_Root(number, root_of, start, {options.maxSD, options.maxSD + working_digits},
+                     power);
 }
 
 }  // namespace quorvex

@@ -18,6 +18,6 @@ namespace quorvex {
 /// for an iteration that turns in a circle; that of an operand that is no number. Fails with
 /// too_complex for an iteration that can be seen never to end, or later than anybody waits for.
 Decimal Root_Function(const Operand& radicand, const Operand& degree, const Step_Options& options,
-                      Power_At_Limit power);
+                      Power_Step power);
 
 }  // namespace quorvex

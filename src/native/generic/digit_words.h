@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "expects.h"
+
 namespace quorvex::native {
 
 __extension__ using Wide = unsigned __int128;
@@ -84,8 +86,9 @@ static inline std::uint64_t Load_Short(const char* text, std::size_t count) {
          std::uint64_t{Load_Half(text + count - 4)} << 32U;
 }
 
-/// Writes the first `count` (1 to 8) characters of a word.
+/// Writes the first `count` characters of a word.
 static inline void Store_Short(char* text, std::uint64_t word, std::size_t count) {
+  Expects(count > 0 && count <= sizeof word);
   if (count == 8) return Store_Word(text, word);
   if (count >= 4) {
     Store_Half(text, static_cast<std::uint32_t>(word));
@@ -97,8 +100,9 @@ static inline void Store_Short(char* text, std::uint64_t word, std::size_t count
   text[count - 1] = static_cast<char>(word >> (8 * (count - 1)));
 }
 
-/// Writes a number above 0 without leading zeros and returns the count of its digits.
+/// Writes a number without leading zeros and returns the count of its digits.
 static inline std::size_t Write_Number(char* out, std::uint64_t number) {
+  Expects(number > 0);
   if (number >= ten_to_8) {
     const std::uint64_t high = number / ten_to_8;
     const std::size_t count = Write_Number(out, high);

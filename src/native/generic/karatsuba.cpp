@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "expects.h"
 #include "native/generic/schoolbook_portable.h"
 
 namespace quorvex::native {
@@ -10,7 +11,7 @@ namespace {
 // Measured: below this many limbs the plain kernel is faster.
 constexpr std::size_t threshold = 40;
 
-// Adds `b` to the front of `a` and carries on to the end of `a`, which the sum does not pass.
+// Adds `b` to the front of `a` and carries on to the end of `a`.
 void Add_To(Limb* a, std::size_t a_count, const Limb* b, std::size_t b_count) {
   Limb carry = 0;
   for (std::size_t i = 0; i < a_count && (i < b_count || carry != 0); ++i) {
@@ -18,9 +19,10 @@ void Add_To(Limb* a, std::size_t a_count, const Limb* b, std::size_t b_count) {
     carry = sum >= limb_base ? 1 : 0;
     a[i] = sum - carry * limb_base;
   }
+  Expects(carry == 0);
 }
 
-// The same with `b` taken off `a`, which is not the smaller one.
+// The same with `b` taken off `a`.
 void Subtract_From(Limb* a, std::size_t a_count, const Limb* b, std::size_t b_count) {
   Limb borrow = 0;
   for (std::size_t i = 0; i < a_count && (i < b_count || borrow != 0); ++i) {
@@ -28,6 +30,7 @@ void Subtract_From(Limb* a, std::size_t a_count, const Limb* b, std::size_t b_co
     borrow = a[i] < less ? 1 : 0;
     a[i] = a[i] + borrow * limb_base - less;
   }
+  Expects(borrow == 0);
 }
 
 bool Is_Less(const Limb* a, const Limb* b, std::size_t count) {
@@ -88,6 +91,7 @@ void Multiply_Karatsuba(Limb* out, const Limb* a, const Limb* b, std::size_t cou
 
 void Multiply_In_Pieces(Limb* out, const Limb* a, std::size_t a_count, const Limb* b,
                         std::size_t b_count, Limb* scratch) {
+  Expects(b_count > 0 && a_count >= b_count);
   std::fill(out, out + a_count + b_count, 0);
   Limb* const product = scratch;
   Limb* const rest = scratch + 2 * b_count;

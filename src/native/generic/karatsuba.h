@@ -19,8 +19,8 @@ constexpr std::size_t Pieces_Scratch(std::size_t count) {
 /// Writes the 2 * count limbs of a * b. Nothing overlaps.
 void Multiply_Karatsuba(Limb* out, const Limb* a, const Limb* b, std::size_t count, Limb* scratch);
 
-/// Writes the a_count + b_count limbs of a * b, where b is not the longer one and not empty; the
-/// longer operand is cut into pieces of b's length. `scratch` holds Pieces_Scratch(b_count) limbs.
+/// Writes the a_count + b_count limbs of a * b; `a`, the longer operand, is cut into pieces of b's
+/// length. `scratch` holds Pieces_Scratch(b_count) limbs.
 void Multiply_In_Pieces(Limb* out, const Limb* a, std::size_t a_count, const Limb* b,
                         std::size_t b_count, Limb* scratch);
 

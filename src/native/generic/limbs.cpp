@@ -1,5 +1,6 @@
 #include "native/generic/limbs.h"
 
+#include "expects.h"
 #include "native/generic/digit_words.h"
 
 namespace quorvex::native {
@@ -54,7 +55,8 @@ bool Read_Limbs(const char* text, std::size_t count, Limb* limbs) {
 }
 
 std::size_t Write_Limbs(const Limb* limbs, std::size_t count, char* out) {
-  while (limbs[count - 1] == 0) --count;
+  while (count > 0 && limbs[count - 1] == 0) --count;
+  Expects(count > 0);
   std::size_t written = Write_Number(out, limbs[count - 1]);
   for (std::size_t i = count - 1; i-- > 0; written += limb_digits)
     Write_Whole(out + written, limbs[i]);

@@ -20,7 +20,7 @@ inline constexpr std::size_t Limbs_For(std::size_t digits) {
 bool Read_Limbs(const char* text, std::size_t count, Limb* limbs);
 
 /// Writes a number from its first digit that is not zero, and returns how many digits there are.
-/// Nothing is written behind them. The number must not be zero.
+/// Nothing is written behind them.
 std::size_t Write_Limbs(const Limb* limbs, std::size_t count, char* out);
 
 }  // namespace quorvex::native

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "expects.h"
 #include "native/generic/limb_division.h"
 
 namespace quorvex::native {
@@ -18,6 +19,7 @@ Wide Column(const Limb* a, const Limb* b, std::size_t count) {
 
 void Multiply_Schoolbook(Limb* out, const Limb* a, std::size_t a_count, const Limb* b,
                          std::size_t b_count) {
+  Expects(std::min(a_count, b_count) > 0 && std::min(a_count, b_count) <= schoolbook_ceiling);
   Wide column = 0;
   for (std::size_t k = 0; k + 1 < a_count + b_count; ++k) {
     const std::size_t from = k < b_count ? 0 : k - b_count + 1;
@@ -29,6 +31,7 @@ void Multiply_Schoolbook(Limb* out, const Limb* a, std::size_t a_count, const Li
 }
 
 void Square_Schoolbook(Limb* out, const Limb* a, std::size_t count) {
+  Expects(count > 0 && count <= schoolbook_ceiling);
   Wide carry = 0;
   for (std::size_t k = 0; k + 1 < 2 * count; ++k) {
     const std::size_t from = k < count ? 0 : k - count + 1;

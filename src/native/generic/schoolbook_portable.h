@@ -9,8 +9,7 @@ namespace quorvex::native {
 /// 128 bits, 340 * (10^18 - 1)^2 + 2^69 < 2^128.
 inline constexpr std::size_t schoolbook_ceiling = 340;
 
-/// Writes all a_count + b_count limbs of the product. `out` overlaps neither operand; either count
-/// may be the smaller one, which must not pass the ceiling, and neither may be 0.
+/// Writes all a_count + b_count limbs of the product. `out` overlaps neither operand.
 void Multiply_Schoolbook(Limb* out, const Limb* a, std::size_t a_count, const Limb* b,
                          std::size_t b_count);
 

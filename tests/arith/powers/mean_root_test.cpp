@@ -173,7 +173,7 @@ TEST(MeanRoot, OfNeighboursIsTheSameInEveryLocale) {
 }
 
 TEST(MeanRoot, OfWhatHasNoneIsAToken) {
-  EXPECT_EQ(Mean_Root("-2", "1", 11), "#NUM!");
+  EXPECT_EQ(Mean_Root(Step_Number(-2), Step_Number(1), 11).digits, "#NUM!");
 }
 
 }  // namespace

@@ -96,7 +96,7 @@ TEST(NewtonWork, IsNoMoreThanWhatIsDone) {
     const double bound = Least_Work(each.radicand, each.degree, each.start, few).rounds;
     EXPECT_GT(bound, 40) << each.degree;
     const std::size_t yields =
-        Yields_Of([&] { Newton_Root(each.radicand, each.degree, each.start, few, Power_Step); });
+        Yields_Of([&] { Newton_Root(each.radicand, each.degree, each.start, few, Power); });
     EXPECT_LE(bound, static_cast<double>(yields)) << each.degree;
   }
 }
@@ -133,7 +133,7 @@ TEST(NewtonRoot, RefusesAWayThatNobodyWaitsFor) {
                         {Power_Of_Ten(300000), "3"}};
   for (const Case& each : cases) {
     const Newton_Limits all{101, 101 + static_cast<double>(each.radicand.size())};
-    EXPECT_EQ(Failure_Of([&] { Newton_Root(each.radicand, each.degree, "1", all, Power_Step); }),
+    EXPECT_EQ(Failure_Of([&] { Newton_Root(each.radicand, each.degree, "1", all, Power); }),
               Failure_Number::too_complex)
         << each.degree;
     NumberText root;

@@ -165,7 +165,7 @@ TEST(NewtonRoot, BeginsAnewFromTheTimeOfDay) {
   const auto root_at = [](double time) {
     const auto before =
         std::exchange(Current_Platform().clock, std::make_shared<Fixed_Clock>(time));
-    NumberText root = Newton_Root("0.5", "0.5", "1", {10, 20}, Power_Step);
+    NumberText root = Plain_Text(Newton_Root("0.5", "0.5", "1", {10, 20}, Power));
     Current_Platform().clock = before;
     return root;
   };
@@ -176,9 +176,9 @@ TEST(NewtonRoot, BeginsAnewFromTheTimeOfDay) {
 
 TEST(NewtonRoot, OfWhatHasNoneEndsWhereValuesComeBack) {
   // A fourth root of -1 is nowhere on the line: the values leap about until one comes back.
-  EXPECT_EQ(Newton_Root("-1", "4", "0.5", {4, 3}, Power_Step), "#NUM!");
+  EXPECT_EQ(Newton_Root("-1", "4", "0.5", {4, 3}, Power).digits, "#NUM!");
   EXPECT_EQ(Failure_Of([] {
-              Newton_Root("-1", "4", "0.5", {20, 2}, Power_Step);
+              Newton_Root("-1", "4", "0.5", {20, 2}, Power);
             }),
             Failure_Number::too_complex);
 }
@@ -187,7 +187,8 @@ TEST(Roots, CanBeBrokenOff) {
   const Interruption_Guard guard;
   EXPECT_EQ(Failure_Of([] { Root("2", "2", 10); }), Failure_Number::interrupted);
   EXPECT_EQ(Failure_Of([] { Root("2", "3", 10); }), Failure_Number::interrupted);
-  EXPECT_EQ(Failure_Of([] { Mean_Root("2", "1", 100000); }), Failure_Number::interrupted);
+  EXPECT_EQ(Failure_Of([] { Mean_Root(Step_Number(2), Step_Number(1), 100000); }),
+            Failure_Number::interrupted);
 }
 
 }  // namespace

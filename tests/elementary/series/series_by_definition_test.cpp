@@ -6,7 +6,6 @@
 #include <string>
 
 #include "arith/do_operation.h"
-#include "arith/powers/power_function.h"
 #include "elementary/constants.h"
 #include "elementary/exponential.h"
 #include "elementary/logarithm.h"
@@ -19,10 +18,6 @@
 
 namespace quorvex {
 namespace {
-
-NumberText Two_To(int n, double limit) {
-  return Power_Step("2", std::to_string(n), limit);
-}
 
 NumberText Result(const NumberText& value, double digits) {
   return Do_Operation(operation::add, value, 0, {.maximum_significant_digits = digits});
@@ -45,7 +40,7 @@ NumberText Logarithm(const NumberText& number, int limit) {
   const Text_Steps chain{static_cast<double>(limit)};
   const int n =
       static_cast<int>(std::floor(std::log(To_Number(HostValue(number))) / std::log(2.0)));
-  const NumberText power = Two_To(std::abs(n), limit);
+  const NumberText power = chain.power("2", std::to_string(std::abs(n)));
   const NumberText y = n < 0 ? chain.product(number, power) : chain.quotient(number, power);
   NumberText term = chain.quotient(chain.sum(y, "-1"), chain.sum(y, "1"));
   const NumberText square = chain.product(term, term);
@@ -82,14 +77,14 @@ NumberText Exponential(const NumberText& number, int digits) {
     if (Power_As_Text(term) < -limit) break;
   }
   for (; halvings > 0; --halvings) sum = chain.product(sum, sum);
-  if (n > 0) sum = chain.product(sum, Two_To(n, limit));
+  if (n > 0) sum = chain.product(sum, chain.power("2", std::to_string(n)));
   if (is_negative) sum = chain.quotient("1", sum);
   return Result(chain.product("1", sum), digits);
 }
 
 NumberText Sine(const NumberText& x, int limit) {
   const Text_Steps chain{static_cast<double>(limit)};
-  const NumberText square = Power_Step(x, "2", chain.limit);
+  const NumberText square = chain.power(x, "2");
   NumberText term = x;
   NumberText sum = x;
   for (int k = 3;; k += 2) {

@@ -1,0 +1,45 @@
+// Contracts are looked at in builds for finding faults, and in no others.
+#include "expects.h"
+
+#include <gtest/gtest.h>
+
+#include "arith/digits/digit_spans.h"
+#include "arith/limbs/binary_words.h"
+#include "arith/limbs/limb_number.h"
+
+namespace quorvex {
+namespace {
+
+bool Note_Call(int& calls) {
+  ++calls;
+  return true;
+}
+
+TEST(Contracts, AreLookedAtWhereTheBuildSaysSo) {
+  int calls = 0;
+  Expects(Note_Call(calls));
+#if defined(QUORVEX_CONTRACTS)
+  EXPECT_EQ(calls, 1);
+#else
+  EXPECT_EQ(Note_Call(calls) ? calls : 0, 1);
+#endif
+}
+
+#if defined(QUORVEX_CONTRACTS)
+
+TEST(ContractsDeathTest, EndTheProgramWhereTheyAreBroken) {
+  testing::FLAGS_gtest_death_test_style = "threadsafe";
+  limbs::Number number = *limbs::Read_Canonical("12.5");
+  EXPECT_DEATH(number.store.fill(number.data() + 1, 1), "owns");
+  EXPECT_DEATH(limbs::Leading_Power({}), "is_zero");
+  words::Word less = 1;
+  words::Word more = 2;
+  EXPECT_DEATH(words::Subtract({&less, 1}, {&more, 1}), "borrow");
+  char digits[] = "123456789";
+  EXPECT_DEATH(digit_spans::Add(digits + 1, digits, digits, 8, false), "Can_Be_Output");
+}
+
+#endif
+
+}  // namespace
+}  // namespace quorvex
