@@ -31,12 +31,14 @@ bool Read_Console_Line(int descriptor) {
   wchar_t units[4096];
   DWORD count = 0;
   const bool is_read = ::ReadConsoleW(Handle_Of(descriptor), units, 4096, &count, nullptr) != 0;
-  // Every line has an end, so without one it was Ctrl-C that ended the reading.
+  // Every line has an end, so without one it was Ctrl-C that ended the reading; with one, a Ctrl-C
+  // before it is over.
   if (count == 0) Wait_For_Interruption();
-  if (Call_Guard::is_interrupted() || !is_read) {
+  if (count == 0 && (Call_Guard::is_interrupted() || !is_read)) {
     errno = is_read ? EINTR : EIO;
     return false;
   }
+  Call_Guard::forget_interruption();
   constexpr wchar_t control_d = 0x04;
   constexpr wchar_t control_z = 0x1A;
   if (units[0] == control_d || units[0] == control_z) count = 0;
