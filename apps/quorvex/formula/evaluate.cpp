@@ -1,56 +1,20 @@
 #include "formula/evaluate.h"
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 #include <optional>
-#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
 
 #include "formula/literals.h"
+#include "formula/operators.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
-#include "text/options.h"
 
 namespace quorvex {
 
 namespace {
-
-// The sign is put on or taken off as text, so that every digit stays as it is.
-std::string With_Sign_Turned(const std::string& text) {
-  if (text.starts_with('-')) return text.substr(1);
-  if (text.starts_with('(') && text.ends_with(')')) return text.substr(1, text.size() - 2);
-  return "-" + text;
-}
-
-HostValue Negated_Text(cls_Quorvex& engine, const HostValue& text) {
-  if (!engine.qvxISNUMBER(text)) return Error_Code::value;
-  HostValue turned = With_Sign_Turned(text.text());
-  if (engine.qvxISNUMBER(turned)) return turned;
-  // The sign stands within the text, behind a currency symbol or in quote marks.
-  return engine.qvxSUBTRACT(0, text, Missing, Missing, Missing, Missing, maximum_digits);
-}
-
-HostValue Negated(cls_Quorvex& engine, const HostValue& value) {
-  switch (value.kind()) {
-    case HostValue::Kind::empty:
-      return 0;
-    case HostValue::Kind::number:
-      return value.number() == 0 ? 0.0 : -value.number();
-    case HostValue::Kind::text:
-      return Negated_Text(engine, value);
-    case HostValue::Kind::error:
-      return value;
-    case HostValue::Kind::range:
-      if (Is_Single_Cell(value)) return Negated(engine, value.range().cell(1, 1));
-      return Error_Code::value;
-    default:
-      return Error_Code::value;
-  }
-}
 
 // Whether the user has broken the calculation off, or there is no memory to go on with.
 bool Ends_All(const Run_Time_Failure& failure) {
@@ -86,6 +50,15 @@ class Evaluator {
   }
   Call_Result operator()(const Negation& negation) {
     return Negated(engine_, value_of(negation.operand.front()));
+  }
+  Call_Result operator()(const Percent& percent) {
+    return Hundredth(engine_, value_of(percent.operand.front()));
+  }
+  Call_Result operator()(const Chain& chain) {
+    HostValue value = value_of(chain.operands.front());
+    for (std::size_t at = 0; at < chain.operators.size(); ++at)
+      value = Apply(engine_, chain.operators[at], value, value_of(chain.operands[at + 1]));
+    return value;
   }
   Call_Result operator()(const Call& call) {
     std::vector<HostValue> arguments;
@@ -160,11 +133,8 @@ std::string Rendered_List(const List& list) {
 Reference_Source::~Reference_Source() = default;
 
 bool Is_Error_Result(const Call_Result& result) {
-  constexpr std::array<std::string_view, 4> tokens = {"#VALUE!", "#NUM!", "#DIV/0!", "#EXPR!"};
   const auto* value = std::get_if<HostValue>(&result);
-  if (value == nullptr) return false;
-  if (value->kind() == HostValue::Kind::error) return true;
-  return value->is_text() && std::find(tokens.begin(), tokens.end(), value->text()) != tokens.end();
+  return value != nullptr && Is_Error(*value);
 }
 
 Evaluation Evaluate(cls_Quorvex& engine, const Formula& formula, Reference_Source& source) {

@@ -1,10 +1,10 @@
 #include "formula/lexer.h"
 
 #include <algorithm>
+#include <array>
 
 #include "formula/formula.h"
 #include "formula/literals.h"
-#include "host/utf8.h"
 
 namespace quorvex {
 
@@ -23,30 +23,35 @@ bool Is_Word_Character(char c) {
          c == '_' || c == '.' || c == '\\' || c == '?' || c == '$';
 }
 
-Token_Kind Mark_Kind(char c) {
-  switch (c) {
-    case '(':
-      return Token_Kind::open;
-    case ')':
-      return Token_Kind::close;
-    case '{':
-      return Token_Kind::open_array;
-    case '}':
-      return Token_Kind::close_array;
-    case ',':
-      return Token_Kind::comma;
-    case ';':
-      return Token_Kind::semicolon;
-    case ':':
-      return Token_Kind::colon;
-    case '!':
-      return Token_Kind::exclamation;
-    case '-':
-      return Token_Kind::minus;
-    default:
-      return Token_Kind::end;
-  }
-}
+struct Mark {
+  std::string_view spelling;
+  Token_Kind kind;
+};
+
+// Longer ones stand before those that they begin with.
+constexpr std::array marks{
+    Mark{"<>", Token_Kind::not_equal},
+    Mark{"<=", Token_Kind::less_or_equal},
+    Mark{">=", Token_Kind::greater_or_equal},
+    Mark{"(", Token_Kind::open},
+    Mark{")", Token_Kind::close},
+    Mark{"{", Token_Kind::open_array},
+    Mark{"}", Token_Kind::close_array},
+    Mark{",", Token_Kind::comma},
+    Mark{";", Token_Kind::semicolon},
+    Mark{":", Token_Kind::colon},
+    Mark{"!", Token_Kind::exclamation},
+    Mark{"-", Token_Kind::minus},
+    Mark{"+", Token_Kind::plus},
+    Mark{"*", Token_Kind::times},
+    Mark{"/", Token_Kind::slash},
+    Mark{"^", Token_Kind::caret},
+    Mark{"%", Token_Kind::percent},
+    Mark{"&", Token_Kind::ampersand},
+    Mark{"=", Token_Kind::equals},
+    Mark{"<", Token_Kind::less},
+    Mark{">", Token_Kind::greater},
+};
 
 }  // namespace
 
@@ -129,13 +134,8 @@ Token Lexer::take_error() {
 
 Token Lexer::take_mark() {
   const std::string_view rest = text_.substr(position_);
-  const Token_Kind kind = Mark_Kind(rest[0]);
-  if (kind != Token_Kind::end) return take(kind, 1);
-  const std::string mark(rest.substr(0, First_Character_Bytes(rest)));
-  if (std::string_view("+*/^&%<>=").find(mark) != std::string_view::npos) {
-    throw Syntax_Error("\"" + mark + "\" has no meaning here; functions calculate and compare, " +
-                           "as in qvxADD(1, 2)",
-                       position_);
+  for (const auto& [spelling, kind] : marks) {
+    if (rest.starts_with(spelling)) return take(kind, spelling.size());
   }
   throw Syntax_Error("this character has no meaning here", position_);
 }

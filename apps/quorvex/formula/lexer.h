@@ -22,6 +22,18 @@ enum class Token_Kind {
   colon,
   exclamation,
   minus,
+  plus,
+  times,
+  slash,
+  caret,
+  percent,
+  ampersand,
+  equals,
+  not_equal,
+  less,
+  less_or_equal,
+  greater,
+  greater_or_equal,
   end,
 };
 

@@ -1,5 +1,6 @@
 // Reading formulas, by recursive descent; its depth is bounded by `maximum_nesting`.
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -38,7 +39,10 @@ class Parser {
 
  private:
   Expression expression(std::size_t depth);
+  Expression operand(std::size_t depth);
+  Expression with_sign(std::size_t depth);
   Expression negated(std::size_t depth);
+  Expression value(std::size_t depth);
   Expression enclosed(std::size_t depth);
   Expression word(std::size_t depth);
   Expression call(const Token& name, std::size_t depth);
@@ -51,6 +55,10 @@ class Parser {
 
   [[noreturn]] void fail(const std::string& message) const {
     throw Syntax_Error(message, token_.position);
+  }
+  void check_depth(std::size_t depth) const {
+    if (depth <= maximum_nesting) return;
+    fail("the formula is nested deeper than " + std::to_string(maximum_nesting) + " levels");
   }
   Token take() { return std::exchange(token_, lexer_.next()); }
   bool take_if(Token_Kind kind) {
@@ -89,13 +97,91 @@ Cell_Address Cell_Of(const Token& token) {
   return *address;
 }
 
-Expression Parser::expression(std::size_t depth) {
-  if (depth > maximum_nesting) {
-    fail("the formula is nested deeper than " + std::to_string(maximum_nesting) + " levels");
-  }
-  switch (token_.kind) {
+std::optional<Operator> Operator_Of(Token_Kind kind) {
+  switch (kind) {
+    case Token_Kind::plus:
+      return Operator::add;
     case Token_Kind::minus:
-      return negated(depth);
+      return Operator::subtract;
+    case Token_Kind::times:
+      return Operator::multiply;
+    case Token_Kind::slash:
+      return Operator::divide;
+    case Token_Kind::caret:
+      return Operator::power;
+    case Token_Kind::ampersand:
+      return Operator::join;
+    case Token_Kind::equals:
+      return Operator::equal;
+    case Token_Kind::not_equal:
+      return Operator::not_equal;
+    case Token_Kind::less:
+      return Operator::less;
+    case Token_Kind::less_or_equal:
+      return Operator::less_or_equal;
+    case Token_Kind::greater:
+      return Operator::greater;
+    case Token_Kind::greater_or_equal:
+      return Operator::greater_or_equal;
+    default:
+      return std::nullopt;
+  }
+}
+
+// The tree of the operands from `begin` to before `end`, whose operators have `rank` or a higher
+// one. It is built from flat lists, so that each parenthesis costs the parser few calls within each
+// other.
+Expression Grouped(Chain& all, std::size_t begin, std::size_t end, int rank) {
+  if (end - begin == 1) return std::move(all.operands[begin]);
+  Chain chain;
+  std::size_t start = begin;
+  for (std::size_t at = begin; at + 1 < end; ++at) {
+    if (Rank_Of(all.operators[at]) != rank) continue;
+    chain.operands.push_back(Grouped(all, start, at + 1, rank + 1));
+    chain.operators.push_back(all.operators[at]);
+    start = at + 1;
+  }
+  if (chain.operators.empty()) return Grouped(all, begin, end, rank + 1);
+  chain.operands.push_back(Grouped(all, start, end, rank + 1));
+  return {std::move(chain)};
+}
+
+Expression Parser::expression(std::size_t depth) {
+  Expression first = operand(depth);
+  auto op = Operator_Of(token_.kind);
+  if (!op) return first;
+  Chain all;
+  all.operands.push_back(std::move(first));
+  for (; op; op = Operator_Of(token_.kind)) {
+    take();
+    all.operators.push_back(*op);
+    all.operands.push_back(operand(depth));
+  }
+  return Grouped(all, 0, all.operands.size(), loosest_rank);
+}
+
+Expression Parser::operand(std::size_t depth) {
+  Expression operand = with_sign(depth);
+  while (token_.kind == Token_Kind::percent) {
+    check_depth(++depth);
+    take();
+    Percent percent;
+    percent.operand.push_back(std::move(operand));
+    operand = {std::move(percent)};
+  }
+  return operand;
+}
+
+// A sign binds more tightly than any operator.
+Expression Parser::with_sign(std::size_t depth) {
+  check_depth(depth);
+  if (token_.kind == Token_Kind::minus) return negated(depth);
+  if (!take_if(Token_Kind::plus)) return value(depth);
+  return with_sign(depth + 1);
+}
+
+Expression Parser::value(std::size_t depth) {
+  switch (token_.kind) {
     case Token_Kind::open:
       return enclosed(depth);
     case Token_Kind::open_array:
@@ -129,7 +215,7 @@ Expression Parser::negated(std::size_t depth) {
   take();
   if (token_.kind == Token_Kind::number) return {Number_Value(take().spelling, true, ".")};
   Negation negation;
-  negation.operand.push_back(expression(depth + 1));
+  negation.operand.push_back(with_sign(depth + 1));
   return {std::move(negation)};
 }
 
