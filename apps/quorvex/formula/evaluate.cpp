@@ -1,14 +1,19 @@
 #include "formula/evaluate.h"
 
-#include <cmath>
+#include <array>
 #include <optional>
+#include <span>
+#include <string>
 #include <utility>
 #include <variant>
 #include <vector>
 
+#include "formula/elements.h"
 #include "formula/literals.h"
 #include "formula/operators.h"
-#include "host/conversions.h"
+#include "formula/reasons.h"
+#include "formula/truth.h"
+#include "host/failure_watch.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 
@@ -24,19 +29,26 @@ bool Ends_All(const Run_Time_Failure& failure) {
 
 class Evaluator {
  public:
-  Evaluator(cls_Quorvex& engine, const Formula& formula, Reference_Source& source)
-      : engine_(engine), formula_(formula), source_(source) {}
+  Evaluator(cls_Quorvex& engine, const Formula& formula, Reference_Source& source, Explain explain)
+      : engine_(engine), formula_(formula), source_(source), explains_(explain == Explain::yes) {
+    if (explains_) watch_.emplace();
+  }
 
   // Where an inner call has failed first, that tells more than what became of it further out.
   Evaluation evaluate() {
     try {
       Evaluation evaluation{std::visit(*this, formula_.root.node), {}};
-      if (inner_failure_ && Is_Error_Result(evaluation.result))
-        evaluation.reason = inner_failure_->what();
+      if (Is_Error_Result(evaluation.result)) {
+        if (state_.inner_failure) evaluation.reason = state_.inner_failure->what();
+        if (!state_.reason.empty()) state_.notes.push_back(std::move(state_.reason));
+      } else {
+        note_cut(evaluation.result);
+      }
+      evaluation.notes = std::move(state_.notes);
       return evaluation;
     } catch (const Run_Time_Failure& failure) {
-      if (!inner_failure_ || Ends_All(failure)) throw;
-      throw Run_Time_Failure(*inner_failure_);
+      if (!state_.inner_failure || Ends_All(failure)) throw;
+      throw Run_Time_Failure(*state_.inner_failure);
     }
   }
 
@@ -49,16 +61,42 @@ class Evaluator {
     return source_.name(formula_.names[name.index]);
   }
   Call_Result operator()(const Negation& negation) {
-    return Negated(engine_, value_of(negation.operand.front()));
+    const HostValue value = value_of(negation.operand.front());
+    HostValue result = Negated(engine_, value);
+    explain_operator(value, Missing, result);
+    return result;
   }
   Call_Result operator()(const Percent& percent) {
-    return Hundredth(engine_, value_of(percent.operand.front()));
+    const HostValue value = value_of(percent.operand.front());
+    HostValue result = Hundredth(engine_, value);
+    explain_operator(value, Missing, result);
+    return result;
   }
   Call_Result operator()(const Chain& chain) {
-    HostValue value = value_of(chain.operands.front());
+    HostValue value = operand(chain.operands.front());
     for (std::size_t at = 0; at < chain.operators.size(); ++at)
-      value = Apply(engine_, chain.operators[at], value, value_of(chain.operands[at + 1]));
+      value = applied(chain.operators[at], value, operand(chain.operands[at + 1]));
     return value;
+  }
+  Call_Result operator()(const Choice& choice) {
+    switch (choice.kind) {
+      case Choice_Kind::if_else:
+        return if_else(choice.arguments);
+      case Choice_Kind::if_error:
+        return if_error(choice.arguments);
+      case Choice_Kind::all_of:
+        return all_or_any(choice.arguments, false);
+      case Choice_Kind::any_of:
+        return all_or_any(choice.arguments, true);
+      case Choice_Kind::negation:
+        return Each(value_of(choice.arguments.front()), [&](const HostValue& value) {
+          const HostValue truth = Truth_Of(engine_, value);
+          return truth.kind() == HostValue::Kind::boolean ? HostValue(!truth.boolean()) : truth;
+        });
+      default:
+        return Each(value_of(choice.arguments.front()),
+                    [](const HostValue& value) { return HostValue(value.is_empty()); });
+    }
   }
   Call_Result operator()(const Call& call) {
     std::vector<HostValue> arguments;
@@ -69,10 +107,146 @@ class Evaluator {
       one.emplace_back(List(std::move(arguments)));
       arguments = std::move(one);
     }
-    return Invoke(engine_, *call.method, std::move(arguments));
+    if (!explains_) return Invoke(engine_, *call.method, std::move(arguments));
+    arguments.resize(call.method->parameters.size());
+    return explained(*call.method, arguments);
   }
 
  private:
+  using Arguments = std::vector<Expression>;
+
+  // What has gone wrong so far.
+  struct State {
+    std::optional<Run_Time_Failure> inner_failure;
+    std::string reason;
+    std::vector<std::string> notes;
+  };
+
+  // An operator has no use for the range that a single cell is to a function.
+  HostValue operand(const Expression& expression) {
+    if (const auto* index = std::get_if<Reference_Index>(&expression.node)) {
+      const Reference& reference = formula_.references[index->index];
+      if (reference.area.first == reference.area.last) return source_.cell(reference);
+    }
+    return value_of(expression);
+  }
+
+  // The first token tells more than those that it leads to.
+  bool asks_why(const HostValue& result) const {
+    return explains_ && Is_Error(result) && state_.reason.empty() && !state_.inner_failure;
+  }
+
+  Call_Result explained(const Method& method, std::span<HostValue> arguments) {
+    watch_->forget();
+    Add_Surprises(engine_, method, arguments, state_.notes);
+    Call_Result result = Invoke_In_Place(engine_, method, arguments);
+    const auto* value = std::get_if<HostValue>(&result);
+    if (value != nullptr && asks_why(*value))
+      state_.reason = Reason_Of_Call(engine_, method, arguments, *value, watch_->seen());
+    return result;
+  }
+
+  HostValue applied(Operator op, const HostValue& left, const HostValue& right) {
+    if (explains_) watch_->forget();
+    HostValue result = Apply(engine_, op, left, right);
+    explain_operator(left, right, result);
+    return result;
+  }
+
+  void explain_operator(const HostValue& left, const HostValue& right, const HostValue& result) {
+    if (!asks_why(result)) return;
+    const HostValue one = Single(left);
+    const HostValue other = Single(right);
+    if (Is_Error(one) || Is_Error(other)) return;
+    state_.reason = Reason_Of_Operator(engine_, one, other, result, watch_->seen());
+  }
+
+  // Somebody who has asked for so many digits knows that there may be more.
+  void note_cut(const Call_Result& result) {
+    const auto* value = std::get_if<HostValue>(&result);
+    if (!explains_ || value == nullptr || has_own_limit()) return;
+    if (auto note = Note_On_Cut(*value)) state_.notes.push_back(std::move(*note));
+  }
+
+  bool has_own_limit() const {
+    const auto* call = std::get_if<Call>(&formula_.root.node);
+    if (call == nullptr) return false;
+    const auto& parameters = call->method->parameters;
+    for (std::size_t at = 0; at < call->arguments.size() && at < parameters.size(); ++at) {
+      const bool is_given = !std::holds_alternative<Omitted>(call->arguments[at].node);
+      if (is_given && parameters[at].name == "maximum_significant_digits") return true;
+    }
+    return false;
+  }
+
+  HostValue if_else(const Arguments& arguments) {
+    const HostValue condition = value_of(arguments.front());
+    std::array<std::optional<HostValue>, 2> branches;  // calculated where they are needed
+    const auto branch = [&](bool is_true) -> const HostValue& {
+      std::optional<HostValue>& chosen = branches[is_true ? 1 : 0];
+      if (!chosen) chosen = branch_of(arguments, is_true ? 1 : 2);
+      return *chosen;
+    };
+    if (!Is_Block(condition)) {
+      const HostValue truth = Truth_Of(engine_, Single(condition));
+      return Is_Error(truth) ? truth : branch(truth.boolean());
+    }
+    const Elements conditions(condition);
+    return Block_Of(conditions.rows(), conditions.columns(),
+                    [&](std::size_t row, std::size_t column) {
+                      HostValue truth = Truth_Of(engine_, conditions.at(row, column));
+                      if (Is_Error(truth)) return truth;
+                      return Elements(branch(truth.boolean())).at(row, column);
+                    });
+  }
+
+  // An argument left out between separators is 0, and one left out altogether is FALSE.
+  HostValue branch_of(const Arguments& arguments, std::size_t place) {
+    if (place >= arguments.size()) return false;
+    if (std::holds_alternative<Omitted>(arguments[place].node)) return 0;
+    return value_of(arguments[place]);
+  }
+
+  HostValue if_error(const Arguments& arguments) {
+    const State earlier = state_;
+    const HostValue value = value_of(arguments.front());
+    std::optional<HostValue> other;
+    const auto instead = [&]() -> const HostValue& {
+      state_ = earlier;  // it has been dealt with
+      if (!other) other = branch_of(arguments, 1);
+      return *other;
+    };
+    if (!Is_Block(value)) return Is_Error(Single(value)) ? instead() : value;
+    const Elements values(value);
+    return Block_Of(values.rows(), values.columns(), [&](std::size_t row, std::size_t column) {
+      HostValue each = values.at(row, column);
+      return Is_Error(each) ? Elements(instead()).at(row, column) : std::move(each);
+    });
+  }
+
+  // AND and OR: the first condition that is `decisive` decides.
+  HostValue all_or_any(const Arguments& arguments, bool decisive) {
+    bool is_any_told = false;
+    for (const Expression& argument : arguments) {
+      const HostValue value = value_of(argument);
+      const Elements elements(value);
+      for (std::size_t row = 0; row < elements.rows(); ++row) {
+        if (row % steps_between_yields == 0) Yield();
+        for (std::size_t column = 0; column < elements.columns(); ++column) {
+          const HostValue each = elements.at(row, column);
+          HostValue truth = Truth_Of(engine_, each);
+          const bool is_passed_over =
+              Is_Block(value) && (each.is_empty() || (Is_Error(truth) && !Is_Error(each)));
+          if (is_passed_over) continue;
+          if (Is_Error(truth)) return truth;
+          if (truth.boolean() == decisive) return decisive;
+          is_any_told = true;
+        }
+      }
+    }
+    return is_any_told ? HostValue(!decisive) : HostValue(Error_Code::value);
+  }
+
   // A call that fails hands an error value to the function around it.
   HostValue value_of(const Expression& expression) {
     try {
@@ -80,7 +254,7 @@ class Evaluator {
       if (auto* value = std::get_if<HostValue>(&result)) return std::move(*value);
     } catch (const Run_Time_Failure& failure) {
       if (Ends_All(failure)) throw;
-      if (!inner_failure_) inner_failure_ = failure;
+      if (!state_.inner_failure) state_.inner_failure = failure;
     }
     return Error_Code::value;
   }
@@ -88,7 +262,9 @@ class Evaluator {
   cls_Quorvex& engine_;
   const Formula& formula_;
   Reference_Source& source_;
-  std::optional<Run_Time_Failure> inner_failure_;
+  State state_;
+  bool explains_;
+  std::optional<Failure_Watch> watch_;
 };
 
 class No_Worksheet final : public Reference_Source {
@@ -107,58 +283,27 @@ class No_Worksheet final : public Reference_Source {
   }
 };
 
-std::string Rendered_Range(const Range& range) {
-  Array array;
-  array.rows = range.rows();
-  array.columns = range.columns();
-  for (std::size_t row = 1; row <= array.rows; ++row) {
-    Yield();
-    for (std::size_t column = 1; column <= array.columns; ++column) {
-      array.values.push_back(range.cell(row, column));
-    }
-  }
-  return array.values.size() == 1 ? Render(array.values[0]) : Constant_Text(std::move(array));
-}
-
-std::string Rendered_List(const List& list) {
-  Array array;
-  array.rows = 1;
-  array.columns = list.size();
-  array.values = list;
-  return Constant_Text(std::move(array));
-}
-
 }  // namespace
 
 Reference_Source::~Reference_Source() = default;
+
+HostValue Reference_Source::cell(const Reference& reference) {
+  return Single(cells(reference));
+}
 
 bool Is_Error_Result(const Call_Result& result) {
   const auto* value = std::get_if<HostValue>(&result);
   return value != nullptr && Is_Error(*value);
 }
 
-Evaluation Evaluate(cls_Quorvex& engine, const Formula& formula, Reference_Source& source) {
-  return Evaluator(engine, formula, source).evaluate();
+Evaluation Evaluate(cls_Quorvex& engine, const Formula& formula, Reference_Source& source,
+                    Explain explain) {
+  return Evaluator(engine, formula, source, explain).evaluate();
 }
 
-Evaluation Evaluate_Alone(cls_Quorvex& engine, const Formula& formula) {
+Evaluation Evaluate_Alone(cls_Quorvex& engine, const Formula& formula, Explain explain) {
   No_Worksheet source;
-  return Evaluate(engine, formula, source);
-}
-
-std::string Render(const HostValue& value) {
-  switch (value.kind()) {
-    case HostValue::Kind::text:
-      return value.text();
-    case HostValue::Kind::number:
-      return std::isfinite(value.number()) ? Number_To_Text(value.number()) : "#NUM!";
-    case HostValue::Kind::range:
-      return Rendered_Range(value.range());
-    case HostValue::Kind::list:
-      return Rendered_List(value.list());
-    default:
-      return Constant_Text(value);
-  }
+  return Evaluate(engine, formula, source, explain);
 }
 
 }  // namespace quorvex

@@ -6,6 +6,7 @@
 #include <variant>
 #include <vector>
 
+#include "formula/choices.h"
 #include "formula/reference.h"
 #include "frame/catalogue.h"
 #include "host/host_value.h"
@@ -95,8 +96,15 @@ struct Call {
   std::vector<Expression> arguments;
 };
 
+/// A call of IF or its kin.
+struct Choice {
+  Choice_Kind kind = Choice_Kind::if_else;
+  std::vector<Expression> arguments;
+};
+
 struct Expression {
-  std::variant<Omitted, HostValue, Reference_Index, Name_Index, Negation, Percent, Chain, Call>
+  std::variant<Omitted, HostValue, Reference_Index, Name_Index, Negation, Percent, Chain, Call,
+               Choice>
       node;
 };
 

@@ -6,6 +6,7 @@
 #include "formula/formula.h"
 #include "formula/lexer.h"
 #include "formula/literals.h"
+#include "host/platform.h"
 
 namespace quorvex {
 
@@ -81,18 +82,22 @@ class Writer {
       write_operand(chain, at + 1);
     }
   }
-  void operator()(const Call& call) {
-    text_.append(call.method->name) += '(';
-    const char* separator = "";
-    for (const Expression& argument : call.arguments) {
-      text_ += separator;
-      std::visit(*this, argument.node);
-      separator = ",";
+  void operator()(const Call& call) { write_call(call.method->name, call.arguments); }
+  void operator()(const Choice& choice) {
+    for (const Choice_Function& function : Choice_Functions()) {
+      if (function.kind == choice.kind) write_call(function.name, choice.arguments);
     }
-    text_ += ')';
   }
 
  private:
+  void write_call(std::string_view name, const std::vector<Expression>& arguments) {
+    text_.append(name) += '(';
+    for (std::size_t at = 0; at < arguments.size(); ++at) {
+      if (at > 0) text_ += separator_;
+      std::visit(*this, arguments[at].node);
+    }
+    text_ += ')';
+  }
   void write_part(const Expression& part, bool apart) {
     apart = apart || std::holds_alternative<Chain>(part.node);
     if (apart) text_ += '(';
@@ -112,6 +117,8 @@ class Writer {
   }
 
   const Formula& formula_;
+  // A comma between digits might be read as a decimal one.
+  const char separator_ = Current_Separators().decimal() == "," ? ';' : ',';
   std::string text_;
 };
 

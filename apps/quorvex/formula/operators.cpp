@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "formula/elements.h"
-#include "formula/evaluate.h"
 #include "formula/literals.h"
+#include "formula/render.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "text/options.h"
@@ -13,6 +13,11 @@
 namespace quorvex {
 
 namespace {
+
+// What is handed to the engine as it is: most values are.
+bool Is_Plain(const HostValue& value) {
+  return value.kind() == HostValue::Kind::number || value.is_text();
+}
 
 HostValue As_Operand(const HostValue& value) {
   if (value.is_empty()) return 0;
@@ -106,6 +111,7 @@ HostValue Apply_To_Two(cls_Quorvex& engine, Operator op, const HostValue& left,
   if (Is_Error(right)) return right;
   if (op == Operator::join) return Render(left) + Render(right);
   if (Rank_Of(op) == loosest_rank) return Holds(op, Order_Of(engine, left, right));
+  if (Is_Plain(left) && Is_Plain(right)) return Arithmetic(engine, op, left, right);
   return Arithmetic(engine, op, As_Operand(left), As_Operand(right));
 }
 
@@ -134,6 +140,7 @@ HostValue Negated_One(cls_Quorvex& engine, const HostValue& value) {
 }  // namespace
 
 HostValue Apply(cls_Quorvex& engine, Operator op, const HostValue& left, const HostValue& right) {
+  if (Is_Plain(left) && Is_Plain(right)) return Apply_To_Two(engine, op, left, right);
   return Each_Pair(left, right, [&](const HostValue& one, const HostValue& other) {
     return Apply_To_Two(engine, op, one, other);
   });

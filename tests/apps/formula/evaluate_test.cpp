@@ -144,15 +144,49 @@ TEST(Operators, TakeBlocksElementByElement) {
   });
 }
 
+TEST(Choice, LooksAtWhatIsNeeded) {
+  const Locale_Guard locale(Point_Locale());
+  Expect_Shown({
+      {"IF(12345678901234567891>12345678901234567890,\"more\",1/0)", "more"},
+      {"IF(qvxISGREATER(1,2),1/0,\"less\")", "less"},
+      {"IF(0,1)", "FALSE"},
+      {"IF(\"0.00\",1,)", "0"},
+      {"IF(\"abc\",1,2)", "#VALUE!"},
+      {"IF(#N/A,1,2)", "#N/A"},
+      {"IF(1/0,1,2)", "#DIV/0!"},
+      {"IF({1,0;\"x\",TRUE},{1,2;3,4},\"no\")", "{1,\"no\";#VALUE!,4}"},
+      {"if(TRUE,qvxFACT(5),qvxFACT(\"x\"))", "120"},
+      {"IFERROR(1/0,\"none\")", "none"},
+      {"IFERROR(qvxMOD(7,0),0)", "0"},
+      {"IFERROR(qvxSIN(\"x\"),\"none\")", "none"},
+      {"IFERROR(5,1/0)", "5"},
+      {"IFERROR({1,2}/{0,1},\"-\")", "{\"-\",\"2\"}"},
+      {"AND(1,\"true\",2>1)", "TRUE"},
+      {"AND(FALSE,1/0)", "FALSE"},
+      {"AND(TRUE,1/0)", "#DIV/0!"},
+      {"OR(FALSE,1,\"x\")", "TRUE"},
+      {"OR({0,\"x\";0,\"\"})", "FALSE"},
+      {"OR({\"x\"})", "#VALUE!"},
+      {"NOT({1,0})", "{FALSE,TRUE}"},
+      {"ISBLANK(\"\")", "FALSE"},
+      {"IFERROR(IF(AND(1<2,NOT(2<1)),{1,2}*2,0),0)", "{\"2\",\"4\"}"},
+  });
+  cls_Quorvex engine;
+  const auto mended = Evaluate_Alone(engine, Parse_Formula("IFERROR(qvxSIN(\"x\"),1/0)"));
+  EXPECT_EQ(mended.reason.find("An argument is no number"), std::string::npos) << mended.reason;
+}
+
 TEST(EvaluateAlone, PassesRecordsThroughAtTheTopOnly) {
   const Locale_Guard locale(Point_Locale());
   cls_Quorvex engine;
   const Call_Result record =
-      Evaluate_Alone(engine, Parse_Formula("Restrictionator(2,TRUE,,,7)")).result;
+      Evaluate_Alone(engine, Parse_Formula("Restrictionator(2,TRUE,,,7)", Functions::all)).result;
   ASSERT_TRUE(std::holds_alternative<Record>(record));
   EXPECT_EQ(std::get<Record>(record).fields[4].second.number(), 7);
-  EXPECT_EQ(Shown("qvxADD(Restrictionator(),1)"), "#VALUE!");
-  EXPECT_EQ(Shown("-Restrictionator()"), "#VALUE!");
+  for (const char* formula : {"qvxADD(Restrictionator(),1)", "-Restrictionator()"}) {
+    const auto outer = Evaluate_Alone(engine, Parse_Formula(formula, Functions::all)).result;
+    EXPECT_EQ(Render(std::get<HostValue>(outer)), "#VALUE!") << formula;
+  }
 }
 
 TEST(EvaluateAlone, RefusesCellsAndNamesAtTheirPlace) {

@@ -87,8 +87,16 @@ TEST(ParseFormula, TellsWhatIsWrongAndWhere) {
       {"1 %% 2", 5, "expected to end"},
       {"1~2", 1, "no meaning"},
       {"qvxADD(1,2", 6, "not closed"},
-      {"qvxADD(1 2)", 9, "\",\" or \")\""},
-      {"qvxADD(1;2)", 8, "\",\" or \")\""},
+      {"qvxADD(1 2)", 9, "\",\" or \";\" or \")\""},
+      {"qvxADD(1;qvxADD(2,3))", 19, "2,3 is one number here, separate arguments by \";\""},
+      {"qvxADD(1,2;)", 11, "number2 is missing"},
+      {"1,5", 1, "decimals are written as 1.5, or as 1,5"},
+      {"IF(1)", 4, "too few arguments for IF(condition"},
+      {"NOT(1,2)", 6, "too many arguments for NOT"},
+      {"AND", 0, "with parentheses: AND(condition1"},
+      {"MAX(1,2)", 0, "unknown function \"MAX\"; use qvxMAX"},
+      {"Cos_Function(1)", 0, "unknown function"},
+      {"average(1,2)", 0, "use qvxAVERAGE, with \"format:MSD=50\""},
       {"qvxADD(1,2))", 11, "expected to end"},
       {"qvxADD(", 7, "ends too early"},
       {"1€", 0, "no number"},
@@ -214,6 +222,46 @@ TEST(NumberLiterals, HaveAPointInFormulasAndTheLocaleSeparatorAsText) {
   EXPECT_EQ(Constant("-1.5").number(), -1.5);
   EXPECT_EQ(Constant("0.12345678901234567").text(), "0,12345678901234567");
   EXPECT_EQ(Constant("12345.678901234567E+2").text(), "1,2345678901234567E+6");
+}
+
+std::string Read_And_Written(const std::string& typed) {
+  try {
+    return Formula_Text(Parse_Formula(typed));
+  } catch (const Syntax_Error& error) {
+    return std::to_string(error.position()) + ": " + error.what();
+  }
+}
+
+TEST(DecimalComma, IsReadInItsLocaleAndBesideSemicolons) {
+  struct {
+    const char* typed;
+    const char* by_point;  // a part of what is written or told
+    const char* by_comma;
+  } const cases[] = {
+      {"qvxADD(1,5;2)", "qvxADD(1.5,2)", "qvxADD(1.5;2)"},
+      {"qvxADD(1;2,25)", "qvxADD(1,2.25)", "qvxADD(1;2.25)"},
+      {"qvxADD(A1;\"a;b\")", "qvxADD(A1,\"a;b\")", "qvxADD(A1;\"a;b\")"},
+      {"qvxADD(1.5;.5)", "qvxADD(1.5,0.5)", "qvxADD(1.5;0.5)"},
+      {"-1,5%", "2: the formula was expected to end here", "-1.5%"},
+      {"qvxADD(A1,B1)", "qvxADD(A1,B1)", "qvxADD(A1;B1)"},
+      {"qvxADD(1, 5)", "qvxADD(1,5)", "qvxADD(1;5)"},
+      {"qvxADD(1,5)", "qvxADD(1,5)", "1,5 is one number here, separate arguments by \";\""},
+      {"qvxSUM2(1,5)", "qvxSUM2(1,5)", "qvxSUM2(1.5)"},
+      {"qvxDIVIDE(1,7,,,,,50)", "qvxDIVIDE(1,7,,,,,50)", "decimal separator of your locale"},
+      {"qvxADD(A1,1,5)", "qvxADD(A1,1,5)", "decimal separator of your locale"},
+      {"qvxSUM2({1,5;2,25})", "qvxSUM2({1,5;2,25})", "qvxSUM2({1,5;2,25})"},
+      {"IF(1,5>1;2;3)", "IF(1.5>1,2,3)", "IF(1.5>1;2;3)"},
+      {"qvxADD(1.2,3;1)", "10: \",\" is the decimal", "10: \",\" is the decimal"},
+      {"12345678901234567,5;", "19: ", "19: "},
+  };
+  for (const auto& [typed, by_point, by_comma] : cases) {
+    for (const auto& [locale, expected] :
+         {std::pair(Point_Locale(), by_point), std::pair(Comma_Locale(), by_comma)}) {
+      const Locale_Guard guard(locale);
+      const std::string written = Read_And_Written(typed);
+      EXPECT_NE(written.find(expected), std::string::npos) << typed << ": " << written;
+    }
+  }
 }
 
 TEST(MarkPlace, PutsACaretUnderTheCharacter) {
