@@ -1,5 +1,6 @@
 #include "formula/evaluate.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <span>
@@ -27,6 +28,14 @@ bool Ends_All(const Run_Time_Failure& failure) {
          failure.number() == Failure_Number::out_of_memory;
 }
 
+// Whether that is an error, or a block with one in it.
+bool Has_Error(const Call_Result& result) {
+  const auto* value = std::get_if<HostValue>(&result);
+  if (value == nullptr) return false;
+  if (value->kind() != HostValue::Kind::array) return Is_Error(*value);
+  return std::ranges::any_of(value->array().values, Is_Error);
+}
+
 class Evaluator {
  public:
   Evaluator(cls_Quorvex& engine, const Formula& formula, Reference_Source& source, Explain explain)
@@ -40,10 +49,11 @@ class Evaluator {
       Evaluation evaluation{std::visit(*this, formula_.root.node), {}};
       if (Is_Error_Result(evaluation.result)) {
         if (state_.inner_failure) evaluation.reason = state_.inner_failure->what();
-        if (!state_.reason.empty()) state_.notes.push_back(std::move(state_.reason));
       } else {
         note_cut(evaluation.result);
       }
+      if (!state_.reason.empty() && Has_Error(evaluation.result))
+        state_.notes.push_back(std::move(state_.reason));
       evaluation.notes = std::move(state_.notes);
       return evaluation;
     } catch (const Run_Time_Failure& failure) {
@@ -153,12 +163,25 @@ class Evaluator {
     return result;
   }
 
+  // Of several tokens in a block the first one is explained.
   void explain_operator(const HostValue& left, const HostValue& right, const HostValue& result) {
-    if (!asks_why(result)) return;
-    const HostValue one = Single(left);
-    const HostValue other = Single(right);
-    if (Is_Error(one) || Is_Error(other)) return;
-    state_.reason = Reason_Of_Operator(engine_, one, other, result, watch_->seen());
+    if (result.kind() != HostValue::Kind::array) {
+      if (asks_why(result)) explain_pair(Single(left), Single(right), result);
+      return;
+    }
+    if (!explains_) return;
+    const Array& block = result.array();
+    const auto found = std::ranges::find_if(block.values, Is_Error);
+    if (found == block.values.end() || !asks_why(*found)) return;
+    const auto place = static_cast<std::size_t>(found - block.values.begin());
+    const std::size_t row = place / block.columns;
+    const std::size_t column = place % block.columns;
+    explain_pair(Elements(left).at(row, column), Elements(right).at(row, column), *found);
+  }
+
+  void explain_pair(const HostValue& left, const HostValue& right, const HostValue& result) {
+    if (Is_Error(left) || Is_Error(right)) return;
+    state_.reason = Reason_Of_Operator(engine_, left, right, result, watch_->seen());
   }
 
   // Somebody who has asked for so many digits knows that there may be more.

@@ -43,6 +43,7 @@ TEST(Notes, NameTheArgumentAndTheCause) {
       {"qvxADD(\"1E+9999999999\",1)", "it has more digits than a number may have"},
       {"\"50%\"*2", "\"50%\" is no number: percent signs are not read."},
       {"-\"x\"", "\"x\" is no number."},
+      {"{1,2;\"5 %\",3}*2", "\"5 %\" is no number"},
       {"1/0", "The divisor is 0."},
       {"IFERROR(qvxADD(\"x\",1),0)", ""},
       {"#N/A", ""},
