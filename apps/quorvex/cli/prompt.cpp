@@ -126,9 +126,8 @@ class Prompt {
     const std::string_view rest = Trimmed(line.substr(word.size()));
     const bool is_help = Same_Word(word, "help") || word == "?";
     // A line like "digits = 5" gives a name.
-    if (rest.starts_with('=')) {
-      calculate(line);
-    } else if ((is_help || Same_Word(word, "functions")) && !rest.empty()) {
+    if (rest.starts_with('=')) return calculate(line);
+    if ((is_help || Same_Word(word, "functions")) && !rest.empty()) {
       Explain_Function(session_, rest);
     } else if (is_help || Same_Word(word, "functions")) {
       session_.output().buffer() += is_help ? std::string(prompt_help) : Function_List();
@@ -150,6 +149,7 @@ class Prompt {
     const auto [name, formula] = Read_Definition(line);
     HostValue result;
     Formulas(session_, &names_).calculate(name.empty() ? line : formula, {}, &result);
+    session_.output().flush();
     if (result.is_missing()) return;
     if (!name.empty()) names_.set(name, result);
     names_.set_last_result(result);
