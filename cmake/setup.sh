@@ -3,7 +3,7 @@
 
 build_packages=(g++ cmake ninja-build pkg-config libcli11-dev nlohmann-json3-dev libedit-dev)
 test_packages=(git libgtest-dev libgmp-dev libmpfr-dev clang libclang-rt-14-dev clang-format clang-tidy
-  locales dpkg-dev file)
+  locales dpkg-dev file python3 parallel)
 calc_packages=(libreoffice-dev libreoffice-calc)
 calc_test_packages=(python3 python3-uno xvfb procps util-linux)
 windows_packages=(g++-mingw-w64-x86-64-posix mingw-w64-tools wine64 fp-utils-3.2.2 googletest libgmp-dev
@@ -33,14 +33,31 @@ need_packages() {
     "${missing[@]}" >/dev/null
 }
 
-# build PRESET [TARGET ...]: quiet while all goes well.
+# How far a build is: on a terminal a line that counts, elsewhere a line now and then.
+show_progress() {
+  local line next=0
+  while IFS= read -r line; do
+    [[ $line =~ ^\[([0-9]+)/([0-9]+)\] ]] || continue
+    if [ -t 2 ]; then
+      printf '\r  %d of %d steps ' "${BASH_REMATCH[1]}" "${BASH_REMATCH[2]}" >&2
+    elif [ "${BASH_REMATCH[1]}" -ge $next ]; then
+      echo "  ${BASH_REMATCH[1]} of ${BASH_REMATCH[2]} steps" >&2
+      next=$((BASH_REMATCH[1] + BASH_REMATCH[2] / 4 + 1))
+    fi
+  done
+  [ ! -t 2 ] || printf '\r\033[K' >&2
+}
+
+# build PRESET [TARGET ...]: tells how far it is, and shows what the tools say only if one fails.
 build() {
   local preset=$1 log
   shift
   log=$(mktemp)
   echo "Building ($preset)..." >&2
+  [ -e "build/$preset/build.ninja" ] ||
+    echo "  The first build compiles all of it, which takes some minutes." >&2
   if ! { cmake --preset "$preset" ${QUORVEX_OPTIONS:-} && cmake --build --preset "$preset" ${1:+--target "$@"}; } \
-      >"$log" 2>&1; then
+      2>&1 | tee "$log" | show_progress; then
     cat "$log" >&2
     rm -f "$log"
     exit 1

@@ -4,11 +4,14 @@
 #include <exception>
 #include <new>
 #include <utility>
+#include <vector>
 
 #include "batch/json_document.h"
-#include "batch/request.h"
 #include "batch/value_codec.h"
+#include "formula/literals.h"
+#include "formula/reasons.h"
 #include "frame/catalogue.h"
+#include "host/failure_watch.h"
 
 namespace quorvex {
 namespace {
@@ -30,7 +33,8 @@ void Append_Record(std::string& out, const Record& record) {
 }
 
 // A method without a result answers with a missing value.
-void Append_Result(std::string& out, std::string_view id, const Call_Result& result) {
+void Append_Result(std::string& out, std::string_view id, const Call_Result& result,
+                   std::string_view reason) {
   Append_Start(out, id);
   if (const auto* record = std::get_if<Record>(&result)) {
     Append_Record(out, *record);
@@ -39,10 +43,40 @@ void Append_Result(std::string& out, std::string_view id, const Call_Result& res
     out += "\"value\":";
     Append_Json(out, value != nullptr ? *value : Missing);
   }
+  if (!reason.empty()) {
+    out += ",\"reason\":";
+    Append_Json_String(out, reason);
+  }
   out += '}';
 }
 
+// Sentences on a result, one behind the other.
+std::string Joined(const std::vector<std::string>& sentences) {
+  std::string text;
+  for (const std::string& sentence : sentences) text += (text.empty() ? "" : " ") + sentence;
+  return text;
+}
+
 }  // namespace
+
+Call_Result Answerer::explained(Request& request, std::string& reason) {
+  const Method& method = *request.method;
+  request.arguments.resize(method.parameters.size());
+  std::vector<std::string> notes;
+  Add_Surprises(engine_, method, request.arguments, notes);
+  const Failure_Watch watch;
+  Call_Result result = Invoke_In_Place(engine_, method, request.arguments);
+  if (const auto* value = std::get_if<HostValue>(&result)) {
+    if (Is_Error(*value)) {
+      std::string why = Reason_Of_Call(engine_, method, request.arguments, *value, watch.seen());
+      if (!why.empty()) notes.push_back(std::move(why));
+    } else if (auto note = Note_On_Cut(*value)) {
+      notes.push_back(std::move(*note));
+    }
+  }
+  reason = Joined(notes);
+  return result;
+}
 
 void Append_Failure(std::string& out, std::string_view id, const Run_Time_Failure& failure) {
   Append_Start(out, id);
@@ -70,7 +104,13 @@ void Answerer::append_answer(std::string& out, std::string_view line) {
     if (request.method == nullptr || !request.problem.empty())
       return Append_Invalid(out, request.id, request.problem);
     if (guard_ != nullptr) guard_->begin_call();
-    Append_Result(out, request.id, Invoke(engine_, *request.method, std::move(request.arguments)));
+    const std::string missing = Missing_Argument(request);
+    if (!missing.empty()) throw Run_Time_Failure(Failure_Number::type_mismatch, missing);
+    std::string reason;
+    const Call_Result result = request.explain
+                                   ? explained(request, reason)
+                                   : Invoke(engine_, *request.method, std::move(request.arguments));
+    Append_Result(out, request.id, result, reason);
   } catch (const Run_Time_Failure& failure) {
     fail(failure);
   } catch (const std::bad_alloc&) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "batch/request.h"
 #include "frame/class/cls_Quorvex.h"
 #include "host/run_time_failure.h"
 #include "io/call_guard.h"
@@ -22,6 +23,8 @@ class Answerer {
   void append_answer(std::string& out, std::string_view line);
 
  private:
+  Call_Result explained(Request& request, std::string& reason);
+
   cls_Quorvex engine_;
   std::shared_ptr<Call_Guard> guard_;
 };

@@ -2,11 +2,13 @@
 #include "batch/request.h"
 
 #include <algorithm>
+#include <array>
+#include <string_view>
 #include <utility>
 
 #include "batch/json_document.h"
 #include "batch/value_codec.h"
-#include "formula/formula.h"
+#include "formula/find_function.h"
 
 namespace quorvex {
 namespace {
@@ -25,7 +27,7 @@ std::string Counted(std::size_t count, std::string_view noun) {
 }
 
 std::string Unknown_Function(std::string_view name) {
-  const auto nearest = Nearest_Function(name);
+  const auto nearest = Nearest_Function(name, Functions::all);
   return "there is no function " + Quoted(name) +
          (nearest ? "; did you mean " + std::string(*nearest) + "?" : "");
 }
@@ -61,6 +63,7 @@ void Take_Positional(json& values, Request& request) {
     request.arguments.push_back(Value_From_Json(std::move(value), parameter.name));
     Check_List(parameter, request.arguments.back());
   }
+  request.given.assign(request.arguments.size(), true);
 }
 
 void Take_Named(json& values, std::size_t positional, Request& request) {
@@ -76,7 +79,11 @@ void Take_Named(json& values, std::size_t positional, Request& request) {
     const auto index = static_cast<std::size_t>(found - parameters.begin());
     if (index < positional)
       throw Invalid_Request("the argument " + Quoted(found->name) + " is given twice");
-    if (request.arguments.size() <= index) request.arguments.resize(index + 1);
+    if (request.arguments.size() <= index) {
+      request.arguments.resize(index + 1);
+      request.given.resize(index + 1);
+    }
+    request.given[index] = true;
     request.arguments[index] = Value_From_Json(std::move(entry.value()), found->name);
     Check_List(*found, request.arguments[index]);
   }
@@ -86,7 +93,8 @@ void Check_Keys(const json& root) {
   for (auto entry = root.begin(); entry != root.end(); ++entry) {
     // A file of golden cases can be sent as it is: "expect" is for its reader.
     const auto& key = entry.key();
-    if (key != "call" && key != "args" && key != "named" && key != "expect")
+    constexpr std::array<std::string_view, 5> known{"call", "args", "named", "expect", "explain"};
+    if (std::ranges::find(known, key) == known.end())
       throw Invalid_Request("the key " + Quoted(key) + " is not known");
   }
 }
@@ -94,6 +102,10 @@ void Check_Keys(const json& root) {
 void Read_Document(json& root, Request& request) {
   if (!root.is_object()) throw Invalid_Request("a request is an object: {\"call\": ...}");
   Check_Keys(root);
+  if (const auto explain = root.find("explain"); explain != root.end()) {
+    if (!explain->is_boolean()) throw Invalid_Request("\"explain\" has to be true or false");
+    request.explain = explain->get<bool>();
+  }
   request.method = &Called_Method(root);
   if (const auto values = root.find("args"); values != root.end())
     Take_Positional(*values, request);
@@ -113,6 +125,18 @@ Request Read_Request(std::string_view line) {
     request.problem = invalid.what();
   }
   return request;
+}
+
+std::string Missing_Argument(const Request& request) {
+  const auto& parameters = request.method->parameters;
+  for (std::size_t at = 0; at < parameters.size(); ++at) {
+    const bool is_given = at < request.given.size() && request.given[at];
+    if (is_given || parameters[at].optional || parameters[at].kind == Parameter_Kind::list)
+      continue;
+    return "Too few arguments: " + std::string(parameters[at].name) + " is missing in " +
+           Signature(*request.method) + ".";
+  }
+  return {};
 }
 
 bool Is_Blank_Line(std::string_view line) {

@@ -2,12 +2,15 @@
 #include "cli/common_options.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cmath>
+#include <string_view>
 #include <utility>
 
 #include "cli/session.h"
 #include "host/conversions.h"
 #include "host/platform.h"
+#include "io/memory_bound.h"
 #include "text/options.h"
 
 namespace quorvex {
@@ -57,6 +60,25 @@ std::string Check_Timeout(const std::string& text) {
   return is_good ? "" : "a number of seconds above 0 is needed, not " + text;
 }
 
+// Nothing for what is no size: a number with K, M, G or T behind it, or bytes.
+std::optional<double> Bytes_Of(const std::string& size) {
+  constexpr std::string_view units = "KMGT";
+  const std::size_t digits = std::min(size.find_first_not_of("0123456789."), size.size());
+  std::string unit = To_Capitals(size.substr(digits));
+  if (unit.ends_with('B')) unit.pop_back();
+  double bytes = 0;
+  if (digits == 0 || unit.size() > 1 || !CLI::detail::lexical_cast(size.substr(0, digits), bytes))
+    return std::nullopt;
+  const std::size_t power = unit.empty() ? 0 : units.find(unit) + 1;
+  if (!unit.empty() && power == 0) return std::nullopt;
+  bytes *= std::pow(1024, power);
+  return bytes >= 1 ? std::optional(bytes) : std::nullopt;
+}
+
+std::string Check_Memory(const std::string& text) {
+  return Bytes_Of(text) ? "" : "a size like 500M or 4G is needed, not " + text;
+}
+
 }  // namespace
 
 void Add_Common_Options(CLI::App& command, Common_Options& options) {
@@ -73,10 +95,19 @@ void Add_Common_Options(CLI::App& command, Common_Options& options) {
       "Currency symbol, with the blank beside it (\"CHF \")");
   add("--currency-side", options.currency_side, "before|after", "Place of the symbol")
       ->check(CLI::Validator(Check_Side, ""));
-  add("--digits", options.digits, "N", "Significant digits where a call gives none")
+  add("-d,--digits", options.digits, "N", "Significant digits where a call gives none")
       ->check(CLI::Validator(Check_Digits, ""));
   add("--timeout", options.timeout, "SECONDS", "End a calculation that takes longer")
       ->check(CLI::Validator(Check_Timeout, ""));
+  command
+      .add_option_function<std::string>(
+          "--memory", [&options](const std::string& size) { options.memory = Bytes_Of(size); },
+          "End a calculation that needs more memory than this, as 500M or 4G (half of what the "
+          "machine has, and 2G at most, where nothing else is said)")
+      ->type_name("SIZE")
+      ->group("Number format and limits")
+      ->check(CLI::Validator(Check_Memory, ""));
+  command.add_flag("--quiet", options.quiet, "Tell no notes about results");
 }
 
 namespace {
@@ -121,6 +152,7 @@ std::shared_ptr<Call_Guard> Apply(const Common_Options& options) {
     auto& settings = Current_Platform().settings;
     settings = std::make_shared<Settings_Of_Run>(settings, *options.digits);
   }
+  Bound_Memory(options.memory.value_or(Usual_Memory_Bound()));
   std::optional<Seconds> limit;
   if (options.timeout) limit = Seconds(*options.timeout);
   auto guard = std::make_shared<Call_Guard>(limit);

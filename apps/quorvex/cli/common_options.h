@@ -21,6 +21,8 @@ struct Common_Options {
   std::optional<std::string> currency_side;
   std::optional<double> digits;
   std::optional<double> timeout;
+  std::optional<double> memory;  // bytes
+  bool quiet = false;
 };
 
 /// Gives a command these options.

@@ -3,13 +3,18 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <new>
 #include <optional>
+#include <utility>
 
 #include "batch/request.h"
 #include "formula/evaluate.h"
 #include "formula/formula.h"
+#include "formula/utf8.h"
+#include "formula/visible.h"
 #include "host/run_time_failure.h"
+#include "io/terminal_width.h"
 #include "sheet/result_text.h"
 
 namespace quorvex {
@@ -19,62 +24,88 @@ bool Is_Note(std::string_view line) {
   return line == "#" || line.starts_with("# ") || line.starts_with("#\t");
 }
 
+// Long lines in pieces as long as the terminal is wide.
+std::string Folded(std::string_view text, std::size_t width) {
+  std::string folded;
+  while (!text.empty()) {
+    std::string_view line = text.substr(0, text.find('\n'));
+    text.remove_prefix(std::min(line.size() + 1, text.size()));
+    if (!folded.empty()) folded += '\n';
+    for (std::size_t piece = Bytes_Of_Characters(line, width); piece < line.size();
+         piece = Bytes_Of_Characters(line, width)) {
+      folded.append(line.substr(0, piece)).append("\n");
+      line.remove_prefix(piece);
+    }
+    folded += line;
+  }
+  return folded;
+}
+
 Outcome Show(Session& session, const Call_Result& result) {
   Line_Writer& output = session.output();
   std::string text;
   Append_Result_Lines(text, result);
   if (!text.empty()) {
     text.pop_back();
-    output.write_line(text);
+    const auto terminal = Terminal_Width();
+    output.write_line(terminal ? Folded(Visible(text, "\n\t"), *terminal) : text);
   }
   return Is_Error_Result(result) ? Outcome::failed_calculation : Outcome::success;
 }
 
 }  // namespace
 
-Outcome Calculate(Session& session, std::string_view formula, std::string_view place) {
+Evaluation Formulas::evaluate(std::string_view formula) {
+  const Explain explain = session_.is_quiet() ? Explain::no : Explain::yes;
+  const Formula read = Parse_Formula(formula);
+  return source_ == nullptr ? Evaluate_Alone(session_.engine(), read, explain)
+                            : Evaluate(session_.engine(), read, *source_, explain);
+}
+
+Outcome Formulas::calculate(std::string_view formula, std::string_view place, HostValue* result) {
   const std::string before(place);
   try {
-    session.guard().begin_call();
-    const Evaluation evaluation = Evaluate_Alone(session.engine(), Parse_Formula(formula));
-    const Outcome outcome = Show(session, evaluation.result);
-    if (!evaluation.reason.empty()) session.error(before + evaluation.reason);
+    session_.guard().begin_call();
+    const Evaluation evaluation = evaluate(formula);
+    const auto* value = std::get_if<HostValue>(&evaluation.result);
+    if (result != nullptr && value != nullptr) *result = *value;
+    const Outcome outcome = Show(session_, evaluation.result);
+    if (!evaluation.reason.empty()) session_.error(before + evaluation.reason);
+    for (const std::string& note : evaluation.notes) session_.note(before + note);
     return outcome;
   } catch (const Syntax_Error& syntax) {
-    session.error_at(before + syntax.what(), formula, syntax.position());
+    session_.error_at(before + syntax.what(), formula, syntax.position());
     return Outcome::wrong_usage;
   } catch (const Run_Time_Failure& failure) {
-    session.error(before + failure.what());
+    session_.error(before + failure.what());
   } catch (const std::bad_alloc&) {
-    session.error(before + "There is not enough memory.");
+    session_.error(before + "There is not enough memory.");
   }
   return Outcome::failed_calculation;
 }
 
-Outcome Calculate_All(Session& session, const std::vector<std::string>& formulas) {
+Outcome Formulas::calculate_all(const std::vector<std::string>& formulas) {
   Outcome outcome = Outcome::success;
-  for (const std::string& formula : formulas) {
-    outcome =
-        Worse_Of(outcome, formula == "-" ? Calculate_Input(session) : Calculate(session, formula));
-  }
-  session.output().flush();
+  for (const std::string& formula : formulas)
+    outcome = Worse_Of(outcome, formula == "-" ? calculate_input() : calculate(formula));
+  session_.output().flush();
   return outcome;
 }
 
-Outcome Calculate_Input(Session& session) {
+Outcome Formulas::calculate_input() {
   Outcome outcome = Outcome::success;
   Line_Reader reader(STDIN_FILENO);
   std::size_t number = 0;
-  while (const auto line = reader.next_line(session.output())) {
+  while (const auto line = reader.next_line(session_.output())) {
     const std::string place = "line " + std::to_string(++number) + ": ";
     if (reader.was_too_long()) {
-      session.error(place + std::string(too_long_line));
+      session_.error(place + std::string(too_long_line));
       outcome = Outcome::wrong_usage;
     } else if (!Is_Blank_Line(*line) && !Is_Note(*line)) {
-      outcome = Worse_Of(outcome, Calculate(session, *line, place));
+      outcome = Worse_Of(outcome, calculate(*line, place));
     }
   }
-  session.output().flush();
+  session_.output().flush();
   return outcome;
 }
 

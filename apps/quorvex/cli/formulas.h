@@ -6,19 +6,35 @@
 #include <vector>
 
 #include "cli/session.h"
-#include "frame/catalogue.h"
+#include "formula/evaluate.h"
 
 namespace quorvex {
 
-/// Calculates a formula and writes its result, or what is wrong with it; `place` (as "line 3: ")
-/// comes before a message. An error as the result counts as a failed calculation.
-Outcome Calculate(Session& session, std::string_view formula, std::string_view place = {});
+/// Calculates formulas and writes their results, or what is wrong with them. An error as the result
+/// counts as a failed calculation.
+class Formulas {
+ public:
+  /// `source` is where formulas find cells and names; null where there is no worksheet.
+  explicit Formulas(Session& session, Reference_Source* source = nullptr)
+      : session_(session), source_(source) {}
 
-/// Calculates the formulas in order; "-" stands for those on standard input.
-Outcome Calculate_All(Session& session, const std::vector<std::string>& formulas);
+  /// `place` (as "line 3: ") comes before a message. The value is kept in `result`; what is none,
+  /// or couldn't be calculated, leaves it as it is.
+  Outcome calculate(std::string_view formula, std::string_view place = {},
+                    HostValue* result = nullptr);
 
-/// Calculates the formulas on standard input, one a line. Blank lines are skipped, and notes: lines
-/// of "#" alone or followed by a blank. (#N/A is a formula.)
-Outcome Calculate_Input(Session& session);
+  /// In order; "-" stands for the formulas on standard input.
+  Outcome calculate_all(const std::vector<std::string>& formulas);
+
+  /// The formulas on standard input, one a line. Blank lines are skipped, and notes: lines of "#"
+  /// alone or followed by a blank. (#N/A is a formula.)
+  Outcome calculate_input();
+
+ private:
+  Evaluation evaluate(std::string_view formula);
+
+  Session& session_;
+  Reference_Source* source_;
+};
 
 }  // namespace quorvex

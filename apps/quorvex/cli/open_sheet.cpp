@@ -1,14 +1,23 @@
 // A worksheet from a CSV file that is open in the embedded spreadsheet.
 #include "cli/open_sheet.h"
 
+#include <filesystem>
+#include <map>
 #include <sstream>
 #include <stdexcept>
+#include <string_view>
+#include <system_error>
+#include <utility>
+#include <vector>
 
+#include "cli/quiet_face.h"
 #include "formula/formula.h"
 #include "formula/reference.h"
+#include "formula/visible.h"
 #include "host/run_time_failure.h"
 #include "io/paths.h"
 #include "io/progress_bar.h"
+#include "io/terminal_width.h"
 #include "sheet/csv.h"
 #include "sheet/grid.h"
 #include "sheet/recalculate.h"
@@ -47,7 +56,9 @@ void Report(Session& session, const std::string& place, const Cell& cell,
 
 Outcome Report_Problems(Session& session, const std::string& file, const Worksheet& sheet) {
   std::size_t count = 0;
+  Outcome outcome = Outcome::success;
   for (const auto& [address, cell] : sheet.cells()) {
+    if (cell.has_failed()) outcome = Outcome::failed_calculation;
     const Cell_Problem* problem = cell.trouble();
     if (problem == nullptr || ++count > most_problems) continue;
     Report(session, file + ": " + Address_Text(address) + ": ", cell, *problem);
@@ -56,23 +67,23 @@ Outcome Report_Problems(Session& session, const std::string& file, const Workshe
     session.error(file + ": and " + std::to_string(count - most_problems) +
                   " more cells with problems");
   }
-  return count > 0 ? Outcome::failed_calculation : Outcome::success;
+  return outcome;
 }
 
-// The grid goes out before what is said about its cells.
-void Show_Sheet(Session& session, const Worksheet& sheet, const Sheet_Options& options) {
-  if (!options.output.empty() && options.output != "-") {
-    Save_Csv(Path_Of(options.output), sheet);
-    return;
+// A column of formulas alike has notes alike: each is told once, with the count of the others.
+void Report_Notes(Session& session, const std::string& file, const Worksheet& sheet) {
+  std::vector<std::pair<Cell_Address, const std::string*>> first;
+  std::map<std::string_view, std::size_t> counts;
+  for (const auto& [address, cell] : sheet.cells()) {
+    if (!cell.calculation || !cell.calculation->notes) continue;
+    for (const std::string& note : *cell.calculation->notes)
+      if (++counts[note] == 1 && first.size() < most_problems) first.emplace_back(address, &note);
   }
-  std::ostringstream text;
-  if (options.output == "-") {
-    Write_Csv(text, sheet);
-  } else {
-    Print_Grid(text, sheet, {.width_limit = options.width});
+  for (const auto& [address, note] : first) {
+    const std::size_t others = counts[*note] - 1;
+    session.note(file + ": " + Address_Text(address) + ": " + *note +
+                 (others > 0 ? " (and " + std::to_string(others) + " more such cells)" : ""));
   }
-  session.output().buffer() += text.str();
-  session.output().flush();
 }
 
 }  // namespace
@@ -80,10 +91,51 @@ void Show_Sheet(Session& session, const Worksheet& sheet, const Sheet_Options& o
 Open_Sheet::Open_Sheet(Session& session, Sheet_Options options)
     : session_(session), options_(std::move(options)) {}
 
+void Open_Sheet::check_output() const {
+  if (options_.force || options_.output.empty() || options_.output == "-") return;
+  std::error_code is_elsewhere;
+  if (!std::filesystem::equivalent(Path_Of(options_.file), Path_Of(options_.output),
+                                   is_elsewhere) ||
+      is_elsewhere)
+    return;
+  throw Usage_Error(
+      options_.output + " is the worksheet itself, and would hold values instead of its formulas",
+      "Write to another file, or give --force.");
+}
+
+// The grid goes out before what is said about its cells.
+void Open_Sheet::show() const {
+  const Csv_Content content = options_.formulas ? Csv_Content::formulas : Csv_Content::values;
+  if (!options_.output.empty() && options_.output != "-") {
+    Save_Csv(Path_Of(options_.output), *sheet_, form_, content);
+    return;
+  }
+  const auto terminal = Terminal_Width();
+  std::ostringstream text;
+  bool is_whole = true;
+  if (options_.output == "-" || options_.formulas) {
+    Write_Csv(text, *sheet_, form_, content);
+  } else {
+    Grid_Options grid;
+    grid.width_limit = options_.width.value_or(0);
+    if (!options_.width) grid.total_width = terminal.value_or(0);
+    is_whole = Print_Grid(text, *sheet_, grid);
+  }
+  session_.output().buffer() += For_Output(text.str(), terminal.has_value());
+  session_.output().flush();
+  if (!is_whole) {
+    session_.hint(
+        "Columns are shortened to fit the terminal (\u2026); --width 0 shows all, and so "
+        "does -o FILE.");
+  }
+}
+
 Outcome Open_Sheet::load() {
+  check_output();
   auto book = std::make_shared<Workbook>();
+  book->set_explains(!session_.is_quiet());
   Worksheet& sheet = book->add("Sheet1");
-  Load_Csv(Path_Of(options_.file), sheet);
+  form_ = Load_Csv(Path_Of(options_.file), sheet, options_.separator);
   for (const std::string& definition : options_.names) Define_Name(sheet, definition);
   sheet_ = &sheet;
   application_ = std::make_shared<Sheet_Application>();
@@ -101,15 +153,19 @@ Outcome Open_Sheet::update() {
 
 Outcome Open_Sheet::calculate(const std::function<void(const Progress&)>& work) {
   try {
+    // What a file holds is no wish of the user to see a dialog.
+    const Closed_Forms closed;
     Progress_Bar bar("Calculating");
     session_.guard().begin_call();
     work([&bar](std::size_t done, std::size_t all) { bar.show(done, all); });
   } catch (const Run_Time_Failure& failure) {
-    session_.error(options_.file + ": " + failure.what());
+    session_.error(file_name() + ": " + failure.what());
     return Outcome::failed_calculation;
   }
-  Show_Sheet(session_, *sheet_, options_);
-  return Report_Problems(session_, options_.file, *sheet_);
+  if (!options_.silent) show();
+  const Outcome outcome = Report_Problems(session_, file_name(), *sheet_);
+  Report_Notes(session_, file_name(), *sheet_);
+  return outcome;
 }
 
 }  // namespace quorvex

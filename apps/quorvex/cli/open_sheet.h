@@ -4,10 +4,12 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/session.h"
+#include "sheet/csv.h"
 #include "sheet/sheet_application.h"
 
 namespace quorvex {
@@ -15,8 +17,12 @@ namespace quorvex {
 struct Sheet_Options {
   std::string file;
   std::string output;  // a CSV file, or "-" for CSV on standard output; empty for a printed grid
-  std::vector<std::string> names;  // NAME=REFERENCE
-  std::size_t width = 0;           // 0 cuts nothing
+  std::vector<std::string> names;    // NAME=REFERENCE
+  std::optional<std::size_t> width;  // 0 cuts nothing; without one, columns are fit to a terminal
+  std::optional<char> separator;     // of the cells of the file, if it is not to be found out
+  bool formulas = false;             // written in the place of their values
+  bool force = false;                // the file itself may be written onto
+  bool silent = false;               // nothing is printed or written
   bool watch = false;
 };
 
@@ -33,12 +39,19 @@ class Open_Sheet {
   /// nothing where it has written none. Throws `File_Error`.
   Outcome update();
 
+  /// Null before a file was read.
+  const Worksheet* worksheet() const { return sheet_; }
+
  private:
   Outcome calculate(const std::function<void(const Progress&)>& work);
+  std::string file_name() const { return File_Name(options_.file); }
+  void check_output() const;
+  void show() const;
 
   Session& session_;
   Sheet_Options options_;
   std::shared_ptr<Sheet_Application> application_;
+  Csv_Form form_;
   const Worksheet* sheet_ = nullptr;  // of the application
 };
 

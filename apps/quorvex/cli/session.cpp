@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "formula/formula.h"
+#include "formula/visible.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
@@ -70,8 +71,8 @@ void Session::start_engine() {
 void Session::write_message(std::string_view label, std::string_view colour,
                             std::string_view message) {
   output_.flush();
-  std::cerr << (is_coloured_ ? colour : "") << label << (is_coloured_ ? "\033[0m " : " ") << message
-            << '\n'
+  std::cerr << (is_coloured_ ? colour : "") << label << (is_coloured_ ? "\033[0m " : " ")
+            << Visible(message) << '\n'
             << std::flush;
 }
 
@@ -84,9 +85,13 @@ void Session::warning(std::string_view message) {
   write_message("warning:", "\033[1;33m", message);
 }
 
+void Session::note(std::string_view message) {
+  if (!is_quiet_) write_message("note:", "\033[1;36m", message);
+}
+
 void Session::hint(std::string_view advice) {
   output_.flush();
-  std::cerr << advice << '\n' << std::flush;
+  std::cerr << Visible(advice, "\n") << '\n' << std::flush;
 }
 
 void Session::error_at(std::string_view message, std::string_view formula, std::size_t position) {

@@ -57,6 +57,10 @@ class Session {
   void error(std::string_view message, std::string_view detail = {});
   /// The same for what doesn't keep the run from going on.
   void warning(std::string_view message);
+  /// A line about a result, for people: not where the run is quiet.
+  void note(std::string_view message);
+  void set_quiet(bool on) { is_quiet_ = on; }
+  bool is_quiet() const { return is_quiet_; }
   /// Writes a line of advice to standard error.
   void hint(std::string_view advice);
   /// As `error`, for a place in a formula, which is shown with the place marked.
@@ -70,6 +74,7 @@ class Session {
   std::shared_ptr<Call_Guard> guard_;
   Line_Writer output_;
   bool is_coloured_;
+  bool is_quiet_ = false;
 };
 
 }  // namespace quorvex

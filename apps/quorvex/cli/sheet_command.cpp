@@ -21,6 +21,7 @@ namespace quorvex {
 namespace {
 
 constexpr std::chrono::milliseconds glance_interval(250);
+constexpr int glances_before_gone = 4;
 
 // What tells one state of a file from another.
 struct File_Stamp {
@@ -57,12 +58,7 @@ class Watch {
       const auto limit = std::exchange(limit_, Stored_MaxSD());
       try {
         if (limit_ != limit) follow_limit();
-        if (!file_stamp_) {
-          file_stamp_ = file;
-        } else if (file_stamp_ != file) {
-          session_.hint(file_ + " has changed.");
-          sheet_.load();
-        }
+        follow_file(file);
       } catch (const File_Error& error) {
         session_.error(error.what());
       } catch (const Usage_Error& error) {
@@ -77,6 +73,20 @@ class Watch {
   void look() {
     file_stamp_ = Stamp_Of(file_);
     limit_ = Stored_MaxSD();
+  }
+
+  // Editors take a file away for a moment while they save it: only what is gone for longer is told.
+  void follow_file(const std::optional<File_Stamp>& before) {
+    if (!file_stamp_) {
+      file_stamp_ = before;
+      if (++glances_without_file_ == glances_before_gone)
+        session_.warning(file_ + " is gone; waiting for it to come back.");
+      return;
+    }
+    const bool is_back = std::exchange(glances_without_file_, 0) >= glances_before_gone;
+    if (!is_back && file_stamp_ == before) return;
+    session_.hint(file_ + (is_back ? " is back." : " has changed."));
+    sheet_.load();
   }
 
   void follow_limit() {
@@ -96,12 +106,15 @@ class Watch {
   std::string file_;
   Open_Sheet sheet_;
   std::optional<File_Stamp> file_stamp_;
+  int glances_without_file_ = 0;
   std::optional<std::string> limit_;
 };
 
 }  // namespace
 
 Outcome Calculate_Sheet(Session& session, const Sheet_Options& options) {
+  if (options.watch && options.file == "-")
+    throw Usage_Error("--watch follows a file, and standard input is none");
   if (!options.watch) return Open_Sheet(session, options).load();
   session.engine();  // which may store the first limit
   Watch watch(session, options);

@@ -1,19 +1,17 @@
 // The forms on a terminal.
 #include "cli/terminal_face.h"
 
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <optional>
 #include <string_view>
 #include <utility>
 
 #include "cli/quiet_face.h"
+#include "formula/literals.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "io/attended.h"
-#include "io/descriptor.h"
+#include "io/typed_line.h"
 #include "io/wrapped.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMaxSD.h"
@@ -21,20 +19,6 @@
 
 namespace quorvex {
 namespace {
-
-// Nothing at the end of the input and when the user breaks off. Reads no further than the line:
-// message boxes read the same input.
-std::optional<std::string> Typed_Line() {
-  std::string line;
-  for (;;) {
-    char character = 0;
-    const ssize_t got = Read_Some(STDIN_FILENO, &character, 1);
-    if (got < 0 && errno == EINTR && !Call_Guard::is_interrupted()) continue;
-    if (got <= 0) return std::nullopt;
-    if (character == '\n') return line;
-    if (character != '\r') line += character;
-  }
-}
 
 // Answers No to every question, as long as it stands in the place of the platform's message box.
 class Unasked {
@@ -59,38 +43,65 @@ std::string Wrapped_Paragraphs(std::string_view text) {
   return wrapped;
 }
 
-// The platform's box behind the output so far, its text in lines of the page's width.
+std::string Title_Line(std::string_view title, Message_Icon icon) {
+  std::string line(title);
+  if (icon == Message_Icon::warning) line += ": warning";
+  if (icon == Message_Icon::error) line += ": error";
+  return line + "\n";
+}
+
+// Messages and questions behind the output so far, in lines of the page's width.
 class Orderly_Box final : public Message_Box {
  public:
-  Orderly_Box(Session& session, std::shared_ptr<Message_Box> box)
-      : session_(session), box_(std::move(box)) {}
+  Orderly_Box(Session& session, std::shared_ptr<Terminal_Face> face)
+      : session_(session), face_(std::move(face)) {}
 
   Message_Answer show(std::string_view title, std::string_view text, Message_Icon icon,
                       Message_Buttons buttons) override {
+    const bool asks = buttons == Message_Buttons::yes_no;
+    if (!Is_Attended()) return asks ? Message_Answer::no : Message_Answer::ok;
+    session_.output().buffer() += Title_Line(title, icon) + Wrapped_Paragraphs(text);
     session_.output().flush();
-    std::string wrapped = Wrapped_Paragraphs(text);
-    if (!wrapped.empty()) wrapped.pop_back();
-    return box_->show(title, wrapped, icon, buttons);
+    if (!asks) return Message_Answer::ok;
+    return face_->asks_yes() ? Message_Answer::yes : Message_Answer::no;
   }
 
  private:
   Session& session_;
-  std::shared_ptr<Message_Box> box_;
+  std::shared_ptr<Terminal_Face> face_;
 };
 
 }  // namespace
 
 std::shared_ptr<Terminal_Face> Show_Forms(Session& session) {
   auto face = std::make_shared<Terminal_Face>(session);
-  Set_Form_Face(face);
-  std::shared_ptr<Message_Box>& box = Current_Platform().message_box;
-  box = std::make_shared<Orderly_Box>(session, box);
+  Use_Face(face);
+  Current_Platform().message_box = std::make_shared<Orderly_Box>(session, face);
   return face;
 }
 
 void Terminal_Face::write(const std::string& text) {
   session_.output().buffer() += text;
   session_.output().flush();
+}
+
+// A line that answers nothing was typed ahead, or for the prompt.
+bool Terminal_Face::hands_on(const std::string& line) {
+  if (!taker_) return false;
+  taker_(line);
+  return true;
+}
+
+bool Terminal_Face::asks_yes() {
+  for (;;) {
+    write("Yes or no? [y/N] ");
+    const auto line = Typed_Line();
+    if (!line) write("\n");
+    if (!line || line->empty() || *line == "n" || *line == "N" || Same_Word(*line, "no"))
+      return false;
+    if (*line == "y" || *line == "Y" || Same_Word(*line, "yes")) return true;
+    if (hands_on(*line)) return false;
+  }
 }
 
 void Terminal_Face::show(frmAbout& form) {
@@ -106,7 +117,11 @@ void Terminal_Face::show(frmAbout& form) {
     const auto line = Typed_Line();
     if (!line) write("\n");
     if (!line || line->empty()) return form.cmdOK_Click();
-    if (*line == "s" || *line == "S") form.cmdMaxSD_Click();
+    if (*line == "s" || *line == "S") {
+      form.cmdMaxSD_Click();
+    } else if (hands_on(*line)) {
+      return form.cmdOK_Click();
+    }
   }
 }
 
@@ -120,6 +135,11 @@ void Terminal_Face::show(frmMaxSD& form) {
     const auto line = Typed_Line();
     if (!line) {
       write("\n");
+      return form.cmdCancel_Click();
+    }
+    const bool is_answer = line->find_first_not_of("0123456789") == std::string::npos;
+    if (!is_answer && hands_on(*line)) {
+      write("The limit stays as it is.\n");
       return form.cmdCancel_Click();
     }
     if (!line->empty()) form.txtMaxSD.type_over(*line);

@@ -2,55 +2,25 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <optional>
-#include <string_view>
+#include <span>
+#include <string>
 #include <utility>
 #include <variant>
 #include <vector>
 
+#include "formula/elements.h"
 #include "formula/literals.h"
-#include "host/conversions.h"
+#include "formula/operators.h"
+#include "formula/reasons.h"
+#include "formula/truth.h"
+#include "host/failure_watch.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
-#include "text/options.h"
 
 namespace quorvex {
 
 namespace {
-
-// The sign is put on or taken off as text, so that every digit stays as it is.
-std::string With_Sign_Turned(const std::string& text) {
-  if (text.starts_with('-')) return text.substr(1);
-  if (text.starts_with('(') && text.ends_with(')')) return text.substr(1, text.size() - 2);
-  return "-" + text;
-}
-
-HostValue Negated_Text(cls_Quorvex& engine, const HostValue& text) {
-  if (!engine.qvxISNUMBER(text)) return Error_Code::value;
-  HostValue turned = With_Sign_Turned(text.text());
-  if (engine.qvxISNUMBER(turned)) return turned;
-  // The sign stands within the text, behind a currency symbol or in quote marks.
-  return engine.qvxSUBTRACT(0, text, Missing, Missing, Missing, Missing, maximum_digits);
-}
-
-HostValue Negated(cls_Quorvex& engine, const HostValue& value) {
-  switch (value.kind()) {
-    case HostValue::Kind::empty:
-      return 0;
-    case HostValue::Kind::number:
-      return value.number() == 0 ? 0.0 : -value.number();
-    case HostValue::Kind::text:
-      return Negated_Text(engine, value);
-    case HostValue::Kind::error:
-      return value;
-    case HostValue::Kind::range:
-      if (Is_Single_Cell(value)) return Negated(engine, value.range().cell(1, 1));
-      return Error_Code::value;
-    default:
-      return Error_Code::value;
-  }
-}
 
 // Whether the user has broken the calculation off, or there is no memory to go on with.
 bool Ends_All(const Run_Time_Failure& failure) {
@@ -58,21 +28,37 @@ bool Ends_All(const Run_Time_Failure& failure) {
          failure.number() == Failure_Number::out_of_memory;
 }
 
+// Whether that is an error, or a block with one in it.
+bool Has_Error(const Call_Result& result) {
+  const auto* value = std::get_if<HostValue>(&result);
+  if (value == nullptr) return false;
+  if (value->kind() != HostValue::Kind::array) return Is_Error(*value);
+  return std::ranges::any_of(value->array().values, Is_Error);
+}
+
 class Evaluator {
  public:
-  Evaluator(cls_Quorvex& engine, const Formula& formula, Reference_Source& source)
-      : engine_(engine), formula_(formula), source_(source) {}
+  Evaluator(cls_Quorvex& engine, const Formula& formula, Reference_Source& source, Explain explain)
+      : engine_(engine), formula_(formula), source_(source), explains_(explain == Explain::yes) {
+    if (explains_) watch_.emplace();
+  }
 
   // Where an inner call has failed first, that tells more than what became of it further out.
   Evaluation evaluate() {
     try {
       Evaluation evaluation{std::visit(*this, formula_.root.node), {}};
-      if (inner_failure_ && Is_Error_Result(evaluation.result))
-        evaluation.reason = inner_failure_->what();
+      if (Is_Error_Result(evaluation.result)) {
+        if (state_.inner_failure) evaluation.reason = state_.inner_failure->what();
+      } else {
+        note_cut(evaluation.result);
+      }
+      if (!state_.reason.empty() && Has_Error(evaluation.result))
+        state_.notes.push_back(std::move(state_.reason));
+      evaluation.notes = std::move(state_.notes);
       return evaluation;
     } catch (const Run_Time_Failure& failure) {
-      if (!inner_failure_ || Ends_All(failure)) throw;
-      throw Run_Time_Failure(*inner_failure_);
+      if (!state_.inner_failure || Ends_All(failure)) throw;
+      throw Run_Time_Failure(*state_.inner_failure);
     }
   }
 
@@ -85,7 +71,42 @@ class Evaluator {
     return source_.name(formula_.names[name.index]);
   }
   Call_Result operator()(const Negation& negation) {
-    return Negated(engine_, value_of(negation.operand.front()));
+    const HostValue value = value_of(negation.operand.front());
+    HostValue result = Negated(engine_, value);
+    explain_operator(value, Missing, result);
+    return result;
+  }
+  Call_Result operator()(const Percent& percent) {
+    const HostValue value = value_of(percent.operand.front());
+    HostValue result = Hundredth(engine_, value);
+    explain_operator(value, Missing, result);
+    return result;
+  }
+  Call_Result operator()(const Chain& chain) {
+    HostValue value = operand(chain.operands.front());
+    for (std::size_t at = 0; at < chain.operators.size(); ++at)
+      value = applied(chain.operators[at], value, operand(chain.operands[at + 1]));
+    return value;
+  }
+  Call_Result operator()(const Choice& choice) {
+    switch (choice.kind) {
+      case Choice_Kind::if_else:
+        return if_else(choice.arguments);
+      case Choice_Kind::if_error:
+        return if_error(choice.arguments);
+      case Choice_Kind::all_of:
+        return all_or_any(choice.arguments, false);
+      case Choice_Kind::any_of:
+        return all_or_any(choice.arguments, true);
+      case Choice_Kind::negation:
+        return Each(value_of(choice.arguments.front()), [&](const HostValue& value) {
+          const HostValue truth = Truth_Of(engine_, value);
+          return truth.kind() == HostValue::Kind::boolean ? HostValue(!truth.boolean()) : truth;
+        });
+      default:
+        return Each(value_of(choice.arguments.front()),
+                    [](const HostValue& value) { return HostValue(value.is_empty()); });
+    }
   }
   Call_Result operator()(const Call& call) {
     std::vector<HostValue> arguments;
@@ -96,10 +117,159 @@ class Evaluator {
       one.emplace_back(List(std::move(arguments)));
       arguments = std::move(one);
     }
-    return Invoke(engine_, *call.method, std::move(arguments));
+    if (!explains_) return Invoke(engine_, *call.method, std::move(arguments));
+    arguments.resize(call.method->parameters.size());
+    return explained(*call.method, arguments);
   }
 
  private:
+  using Arguments = std::vector<Expression>;
+
+  // What has gone wrong so far.
+  struct State {
+    std::optional<Run_Time_Failure> inner_failure;
+    std::string reason;
+    std::vector<std::string> notes;
+  };
+
+  // An operator has no use for the range that a single cell is to a function.
+  HostValue operand(const Expression& expression) {
+    if (const auto* index = std::get_if<Reference_Index>(&expression.node)) {
+      const Reference& reference = formula_.references[index->index];
+      if (reference.area.first == reference.area.last) return source_.cell(reference);
+    }
+    return value_of(expression);
+  }
+
+  // The first token tells more than those that it leads to.
+  bool asks_why(const HostValue& result) const {
+    return explains_ && Is_Error(result) && state_.reason.empty() && !state_.inner_failure;
+  }
+
+  Call_Result explained(const Method& method, std::span<HostValue> arguments) {
+    watch_->forget();
+    Add_Surprises(engine_, method, arguments, state_.notes);
+    Call_Result result = Invoke_In_Place(engine_, method, arguments);
+    const auto* value = std::get_if<HostValue>(&result);
+    if (value != nullptr && asks_why(*value))
+      state_.reason = Reason_Of_Call(engine_, method, arguments, *value, watch_->seen());
+    return result;
+  }
+
+  HostValue applied(Operator op, const HostValue& left, const HostValue& right) {
+    if (explains_) watch_->forget();
+    HostValue result = Apply(engine_, op, left, right);
+    explain_operator(left, right, result);
+    return result;
+  }
+
+  // Of several tokens in a block the first one is explained.
+  void explain_operator(const HostValue& left, const HostValue& right, const HostValue& result) {
+    if (result.kind() != HostValue::Kind::array) {
+      if (asks_why(result)) explain_pair(Single(left), Single(right), result);
+      return;
+    }
+    if (!explains_) return;
+    const Array& block = result.array();
+    const auto found = std::ranges::find_if(block.values, Is_Error);
+    if (found == block.values.end() || !asks_why(*found)) return;
+    const auto place = static_cast<std::size_t>(found - block.values.begin());
+    const std::size_t row = place / block.columns;
+    const std::size_t column = place % block.columns;
+    explain_pair(Elements(left).at(row, column), Elements(right).at(row, column), *found);
+  }
+
+  void explain_pair(const HostValue& left, const HostValue& right, const HostValue& result) {
+    if (Is_Error(left) || Is_Error(right)) return;
+    state_.reason = Reason_Of_Operator(engine_, left, right, result, watch_->seen());
+  }
+
+  // Somebody who has asked for so many digits knows that there may be more.
+  void note_cut(const Call_Result& result) {
+    const auto* value = std::get_if<HostValue>(&result);
+    if (!explains_ || value == nullptr || has_own_limit()) return;
+    if (auto note = Note_On_Cut(*value)) state_.notes.push_back(std::move(*note));
+  }
+
+  bool has_own_limit() const {
+    const auto* call = std::get_if<Call>(&formula_.root.node);
+    if (call == nullptr) return false;
+    const auto& parameters = call->method->parameters;
+    for (std::size_t at = 0; at < call->arguments.size() && at < parameters.size(); ++at) {
+      const bool is_given = !std::holds_alternative<Omitted>(call->arguments[at].node);
+      if (is_given && parameters[at].name == "maximum_significant_digits") return true;
+    }
+    return false;
+  }
+
+  HostValue if_else(const Arguments& arguments) {
+    const HostValue condition = value_of(arguments.front());
+    std::array<std::optional<HostValue>, 2> branches;  // calculated where they are needed
+    const auto branch = [&](bool is_true) -> const HostValue& {
+      std::optional<HostValue>& chosen = branches[is_true ? 1 : 0];
+      if (!chosen) chosen = branch_of(arguments, is_true ? 1 : 2);
+      return *chosen;
+    };
+    if (!Is_Block(condition)) {
+      const HostValue truth = Truth_Of(engine_, Single(condition));
+      return Is_Error(truth) ? truth : branch(truth.boolean());
+    }
+    const Elements conditions(condition);
+    return Block_Of(conditions.rows(), conditions.columns(),
+                    [&](std::size_t row, std::size_t column) {
+                      HostValue truth = Truth_Of(engine_, conditions.at(row, column));
+                      if (Is_Error(truth)) return truth;
+                      return Elements(branch(truth.boolean())).at(row, column);
+                    });
+  }
+
+  // An argument left out between separators is 0, and one left out altogether is FALSE.
+  HostValue branch_of(const Arguments& arguments, std::size_t place) {
+    if (place >= arguments.size()) return false;
+    if (std::holds_alternative<Omitted>(arguments[place].node)) return 0;
+    return value_of(arguments[place]);
+  }
+
+  HostValue if_error(const Arguments& arguments) {
+    const State earlier = state_;
+    const HostValue value = value_of(arguments.front());
+    std::optional<HostValue> other;
+    const auto instead = [&]() -> const HostValue& {
+      state_ = earlier;  // it has been dealt with
+      if (!other) other = branch_of(arguments, 1);
+      return *other;
+    };
+    if (!Is_Block(value)) return Is_Error(Single(value)) ? instead() : value;
+    const Elements values(value);
+    return Block_Of(values.rows(), values.columns(), [&](std::size_t row, std::size_t column) {
+      HostValue each = values.at(row, column);
+      return Is_Error(each) ? Elements(instead()).at(row, column) : std::move(each);
+    });
+  }
+
+  // AND and OR: the first condition that is `decisive` decides.
+  HostValue all_or_any(const Arguments& arguments, bool decisive) {
+    bool is_any_told = false;
+    for (const Expression& argument : arguments) {
+      const HostValue value = value_of(argument);
+      const Elements elements(value);
+      for (std::size_t row = 0; row < elements.rows(); ++row) {
+        if (row % steps_between_yields == 0) Yield();
+        for (std::size_t column = 0; column < elements.columns(); ++column) {
+          const HostValue each = elements.at(row, column);
+          HostValue truth = Truth_Of(engine_, each);
+          const bool is_passed_over =
+              Is_Block(value) && (each.is_empty() || (Is_Error(truth) && !Is_Error(each)));
+          if (is_passed_over) continue;
+          if (Is_Error(truth)) return truth;
+          if (truth.boolean() == decisive) return decisive;
+          is_any_told = true;
+        }
+      }
+    }
+    return is_any_told ? HostValue(!decisive) : HostValue(Error_Code::value);
+  }
+
   // A call that fails hands an error value to the function around it.
   HostValue value_of(const Expression& expression) {
     try {
@@ -107,7 +277,7 @@ class Evaluator {
       if (auto* value = std::get_if<HostValue>(&result)) return std::move(*value);
     } catch (const Run_Time_Failure& failure) {
       if (Ends_All(failure)) throw;
-      if (!inner_failure_) inner_failure_ = failure;
+      if (!state_.inner_failure) state_.inner_failure = failure;
     }
     return Error_Code::value;
   }
@@ -115,7 +285,9 @@ class Evaluator {
   cls_Quorvex& engine_;
   const Formula& formula_;
   Reference_Source& source_;
-  std::optional<Run_Time_Failure> inner_failure_;
+  State state_;
+  bool explains_;
+  std::optional<Failure_Watch> watch_;
 };
 
 class No_Worksheet final : public Reference_Source {
@@ -134,61 +306,27 @@ class No_Worksheet final : public Reference_Source {
   }
 };
 
-std::string Rendered_Range(const Range& range) {
-  Array array;
-  array.rows = range.rows();
-  array.columns = range.columns();
-  for (std::size_t row = 1; row <= array.rows; ++row) {
-    Yield();
-    for (std::size_t column = 1; column <= array.columns; ++column) {
-      array.values.push_back(range.cell(row, column));
-    }
-  }
-  return array.values.size() == 1 ? Render(array.values[0]) : Constant_Text(std::move(array));
-}
-
-std::string Rendered_List(const List& list) {
-  Array array;
-  array.rows = 1;
-  array.columns = list.size();
-  array.values = list;
-  return Constant_Text(std::move(array));
-}
-
 }  // namespace
 
 Reference_Source::~Reference_Source() = default;
 
+HostValue Reference_Source::cell(const Reference& reference) {
+  return Single(cells(reference));
+}
+
 bool Is_Error_Result(const Call_Result& result) {
-  constexpr std::array<std::string_view, 4> tokens = {"#VALUE!", "#NUM!", "#DIV/0!", "#EXPR!"};
   const auto* value = std::get_if<HostValue>(&result);
-  if (value == nullptr) return false;
-  if (value->kind() == HostValue::Kind::error) return true;
-  return value->is_text() && std::find(tokens.begin(), tokens.end(), value->text()) != tokens.end();
+  return value != nullptr && Is_Error(*value);
 }
 
-Evaluation Evaluate(cls_Quorvex& engine, const Formula& formula, Reference_Source& source) {
-  return Evaluator(engine, formula, source).evaluate();
+Evaluation Evaluate(cls_Quorvex& engine, const Formula& formula, Reference_Source& source,
+                    Explain explain) {
+  return Evaluator(engine, formula, source, explain).evaluate();
 }
 
-Evaluation Evaluate_Alone(cls_Quorvex& engine, const Formula& formula) {
+Evaluation Evaluate_Alone(cls_Quorvex& engine, const Formula& formula, Explain explain) {
   No_Worksheet source;
-  return Evaluate(engine, formula, source);
-}
-
-std::string Render(const HostValue& value) {
-  switch (value.kind()) {
-    case HostValue::Kind::text:
-      return value.text();
-    case HostValue::Kind::number:
-      return std::isfinite(value.number()) ? Number_To_Text(value.number()) : "#NUM!";
-    case HostValue::Kind::range:
-      return Rendered_Range(value.range());
-    case HostValue::Kind::list:
-      return Rendered_List(value.list());
-    default:
-      return Constant_Text(value);
-  }
+  return Evaluate(engine, formula, source, explain);
 }
 
 }  // namespace quorvex

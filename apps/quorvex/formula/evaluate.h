@@ -2,8 +2,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "formula/formula.h"
+#include "formula/render.h"
 #include "frame/catalogue.h"
 #include "frame/class/cls_Quorvex.h"
 #include "host/host_value.h"
@@ -20,6 +22,8 @@ class Reference_Source {
 
   /// A range over the cells, or an error value.
   virtual HostValue cells(const Reference& reference) = 0;
+  /// The value of a reference to a single cell.
+  virtual HostValue cell(const Reference& reference);
   virtual HostValue name(const Name_Use& use) = 0;
 };
 
@@ -28,22 +32,25 @@ struct Evaluation {
   Call_Result result;
   /// Where the result is an error and a function within had failed: why. Else empty.
   std::string reason;
+  /// Where explanations are wanted: why the first token came, and what may surprise, a sentence
+  /// each.
+  std::vector<std::string> notes = {};
 };
+
+enum class Explain { no, yes };
 
 /// Calculates a formula. A function that fails, or gives a record, or nothing, gives #VALUE! to the
 /// function that it is an argument of. The result may be a range. The `Run_Time_Failure` of the
 /// outermost function is let through, or of the function within that failed first; and from any of
 /// them a break and a lack of memory.
-Evaluation Evaluate(cls_Quorvex& engine, const Formula& formula, Reference_Source& source);
+Evaluation Evaluate(cls_Quorvex& engine, const Formula& formula, Reference_Source& source,
+                    Explain explain = Explain::no);
 
 /// Calculates a formula where there is no worksheet: a cell or a name in it is a `Syntax_Error`.
-Evaluation Evaluate_Alone(cls_Quorvex& engine, const Formula& formula);
+Evaluation Evaluate_Alone(cls_Quorvex& engine, const Formula& formula,
+                          Explain explain = Explain::no);
 
 /// Whether that is an error value, or a token that stands for one.
 bool Is_Error_Result(const Call_Result& result);
-
-/// A value as it is shown: text as it is, numbers in the user's locale, TRUE and FALSE, #N/A and
-/// its like, blank as empty text, arrays as {1,2;3,4}.
-std::string Render(const HostValue& value);
 
 }  // namespace quorvex

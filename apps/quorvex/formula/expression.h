@@ -6,6 +6,7 @@
 #include <variant>
 #include <vector>
 
+#include "formula/choices.h"
 #include "formula/reference.h"
 #include "frame/catalogue.h"
 #include "host/host_value.h"
@@ -44,13 +45,67 @@ struct Negation {
   std::vector<Expression> operand;  // exactly one
 };
 
+/// A percent sign behind a value.
+struct Percent {
+  std::vector<Expression> operand;  // exactly one
+};
+
+enum class Operator : unsigned char {
+  equal,
+  not_equal,
+  less,
+  less_or_equal,
+  greater,
+  greater_or_equal,
+  join,
+  add,
+  subtract,
+  multiply,
+  divide,
+  power,
+};
+
+/// Operators that bind more tightly have a higher rank; those of one rank go from left to right.
+inline constexpr int loosest_rank = 0;
+constexpr int Rank_Of(Operator op) {
+  switch (op) {
+    case Operator::join:
+      return 1;
+    case Operator::add:
+    case Operator::subtract:
+      return 2;
+    case Operator::multiply:
+    case Operator::divide:
+      return 3;
+    case Operator::power:
+      return 4;
+    default:
+      return loosest_rank;
+  }
+}
+
+/// Operands with operators of one rank between them. A sum of a thousand terms is one chain, not a
+/// tree a thousand levels deep.
+struct Chain {
+  std::vector<Expression> operands;
+  std::vector<Operator> operators;  // one fewer
+};
+
 struct Call {
   const Method* method = nullptr;
   std::vector<Expression> arguments;
 };
 
+/// A call of IF or its kin.
+struct Choice {
+  Choice_Kind kind = Choice_Kind::if_else;
+  std::vector<Expression> arguments;
+};
+
 struct Expression {
-  std::variant<Omitted, HostValue, Reference_Index, Name_Index, Negation, Call> node;
+  std::variant<Omitted, HostValue, Reference_Index, Name_Index, Negation, Percent, Chain, Call,
+               Choice>
+      node;
 };
 
 }  // namespace quorvex

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "formula/expression.h"
+#include "formula/find_function.h"
 
 namespace quorvex {
 
@@ -37,11 +38,15 @@ struct Formula {
 /// Reads a formula: =NAME(arg, arg), the "=" optional. Functions are looked up in the catalogue and
 /// the count of their arguments is checked. Throws `Syntax_Error`.
 ///
+/// Arguments are separated by "," or by ";". Where the locale has a decimal comma, and in a formula
+/// with ";" between arguments wherever it is read, a comma between two digits is a decimal
+/// separator, as "." is everywhere; "," then separates no arguments beside such a number.
+///
 /// A number that a 64-bit float gives back unchanged at 15 digits is a number, a longer one is
 /// number text in the current locale, so that none of its digits is lost.
-Formula Parse_Formula(std::string_view text);
+Formula Parse_Formula(std::string_view text, Functions functions = Functions::of_worksheets);
 
-/// The formula as text, without "=". Reading it again gives the same formula.
+/// The formula as text, without "=". Reading it again under this locale gives the same formula.
 std::string Formula_Text(const Formula& formula);
 
 /// A constant as a formula writes it: 1.5, "text", TRUE, #N/A, {1,2;3,4}.
@@ -50,9 +55,6 @@ std::string Constant_Text(const HostValue& constant);
 /// True for what can name cells or a formula on a worksheet: a word that is neither like a cell nor
 /// a constant nor a function.
 bool Is_Valid_Name(std::string_view text);
-
-/// The function whose name is nearest to what was typed; nothing if none is near.
-std::optional<std::string_view> Nearest_Function(std::string_view typed);
 
 /// The formula and, on a second line, a caret under the place; a long formula is cut to what
 /// stands around it.

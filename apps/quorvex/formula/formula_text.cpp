@@ -6,6 +6,7 @@
 #include "formula/formula.h"
 #include "formula/lexer.h"
 #include "formula/literals.h"
+#include "host/platform.h"
 
 namespace quorvex {
 
@@ -35,6 +36,12 @@ std::string Sheet_Prefix(const std::string& sheet) {
   return (plain ? sheet : Quoted(sheet, '\'')) + "!";
 }
 
+std::string_view Operator_Text(Operator op) {
+  constexpr std::array<std::string_view, 12> texts{
+      "=", "<>", "<", "<=", ">", ">=", "&", "+", "-", "*", "/", "^"};
+  return texts[static_cast<std::size_t>(op)];
+}
+
 // Calls the overload for what stands at each node. A chain of a few hundred levels at most.
 class Writer {
  public:
@@ -61,23 +68,57 @@ class Writer {
     // Right behind it, a number would take the minus for its own.
     const bool apart = constant != nullptr && constant->kind() == HostValue::Kind::number &&
                        constant->number() >= 0;
-    text_ += apart ? "-(" : "-";
-    std::visit(*this, operand);
-    if (apart) text_ += ')';
+    text_ += '-';
+    write_part(negation.operand.front(), apart || std::holds_alternative<Percent>(operand));
   }
-  void operator()(const Call& call) {
-    text_.append(call.method->name) += '(';
-    const char* separator = "";
-    for (const Expression& argument : call.arguments) {
-      text_ += separator;
-      std::visit(*this, argument.node);
-      separator = ",";
+  void operator()(const Percent& percent) {
+    write_part(percent.operand.front(), false);
+    text_ += '%';
+  }
+  void operator()(const Chain& chain) {
+    write_operand(chain, 0);
+    for (std::size_t at = 0; at < chain.operators.size(); ++at) {
+      text_ += Operator_Text(chain.operators[at]);
+      write_operand(chain, at + 1);
     }
-    text_ += ')';
+  }
+  void operator()(const Call& call) { write_call(call.method->name, call.arguments); }
+  void operator()(const Choice& choice) {
+    for (const Choice_Function& function : Choice_Functions()) {
+      if (function.kind == choice.kind) write_call(function.name, choice.arguments);
+    }
   }
 
  private:
+  void write_call(std::string_view name, const std::vector<Expression>& arguments) {
+    text_.append(name) += '(';
+    for (std::size_t at = 0; at < arguments.size(); ++at) {
+      if (at > 0) text_ += separator_;
+      std::visit(*this, arguments[at].node);
+    }
+    text_ += ')';
+  }
+  void write_part(const Expression& part, bool apart) {
+    apart = apart || std::holds_alternative<Chain>(part.node);
+    if (apart) text_ += '(';
+    std::visit(*this, part.node);
+    if (apart) text_ += ')';
+  }
+  // Only what binds more tightly needs no parentheses.
+  void write_operand(const Chain& chain, std::size_t at) {
+    const auto* inner = std::get_if<Chain>(&chain.operands[at].node);
+    const bool is_tighter =
+        inner != nullptr && Rank_Of(inner->operators.front()) > Rank_Of(chain.operators.front());
+    if (is_tighter) {
+      std::visit(*this, chain.operands[at].node);
+    } else {
+      write_part(chain.operands[at], false);
+    }
+  }
+
   const Formula& formula_;
+  // A comma between digits might be read as a decimal one.
+  const char separator_ = Current_Separators().decimal() == "," ? ';' : ',';
   std::string text_;
 };
 

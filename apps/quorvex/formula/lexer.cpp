@@ -1,10 +1,10 @@
 #include "formula/lexer.h"
 
 #include <algorithm>
+#include <array>
 
 #include "formula/formula.h"
 #include "formula/literals.h"
-#include "host/utf8.h"
 
 namespace quorvex {
 
@@ -23,30 +23,43 @@ bool Is_Word_Character(char c) {
          c == '_' || c == '.' || c == '\\' || c == '?' || c == '$';
 }
 
-Token_Kind Mark_Kind(char c) {
-  switch (c) {
-    case '(':
-      return Token_Kind::open;
-    case ')':
-      return Token_Kind::close;
-    case '{':
-      return Token_Kind::open_array;
-    case '}':
-      return Token_Kind::close_array;
-    case ',':
-      return Token_Kind::comma;
-    case ';':
-      return Token_Kind::semicolon;
-    case ':':
-      return Token_Kind::colon;
-    case '!':
-      return Token_Kind::exclamation;
-    case '-':
-      return Token_Kind::minus;
-    default:
-      return Token_Kind::end;
-  }
+std::size_t Leading_Digits(std::string_view text) {
+  return std::min(text.find_first_not_of("0123456789"), text.size());
 }
+
+bool Has_Comma_And_Digit(std::string_view text) {
+  return text.size() > 1 && text[0] == ',' && Is_Digit(text[1]);
+}
+
+struct Mark {
+  std::string_view spelling;
+  Token_Kind kind;
+};
+
+// Longer ones stand before those that they begin with.
+constexpr std::array marks{
+    Mark{"<>", Token_Kind::not_equal},
+    Mark{"<=", Token_Kind::less_or_equal},
+    Mark{">=", Token_Kind::greater_or_equal},
+    Mark{"(", Token_Kind::open},
+    Mark{")", Token_Kind::close},
+    Mark{"{", Token_Kind::open_array},
+    Mark{"}", Token_Kind::close_array},
+    Mark{",", Token_Kind::comma},
+    Mark{";", Token_Kind::semicolon},
+    Mark{":", Token_Kind::colon},
+    Mark{"!", Token_Kind::exclamation},
+    Mark{"-", Token_Kind::minus},
+    Mark{"+", Token_Kind::plus},
+    Mark{"*", Token_Kind::times},
+    Mark{"/", Token_Kind::slash},
+    Mark{"^", Token_Kind::caret},
+    Mark{"%", Token_Kind::percent},
+    Mark{"&", Token_Kind::ampersand},
+    Mark{"=", Token_Kind::equals},
+    Mark{"<", Token_Kind::less},
+    Mark{">", Token_Kind::greater},
+};
 
 }  // namespace
 
@@ -108,10 +121,16 @@ Token Lexer::take_quoted(Token_Kind kind, char quote, const char* complaint) {
 }
 
 Token Lexer::take_number() {
-  const std::size_t length = Number_Length(text_.substr(position_), ".");
+  const std::string_view rest = text_.substr(position_);
+  std::size_t length = Number_Length(rest, ".");
+  if (has_decimal_comma_ && !in_array_ && Has_Comma_And_Digit(rest.substr(Leading_Digits(rest))))
+    length = Number_Length(rest, ",");
   if (length == 0 || Word_Length(text_.substr(position_ + length)) > 0) {
-    throw Syntax_Error("this is no number; digits with one \".\" were expected, or 1.5E+3",
-                       position_);
+    throw Syntax_Error(
+        has_decimal_comma_
+            ? "this is no number; digits with one \",\" or \".\" were expected, or 1.5E+3"
+            : "this is no number; digits with one \".\" were expected, or 1.5E+3",
+        position_);
   }
   return take(Token_Kind::number, length);
 }
@@ -129,15 +148,28 @@ Token Lexer::take_error() {
 
 Token Lexer::take_mark() {
   const std::string_view rest = text_.substr(position_);
-  const Token_Kind kind = Mark_Kind(rest[0]);
-  if (kind != Token_Kind::end) return take(kind, 1);
-  const std::string mark(rest.substr(0, First_Character_Bytes(rest)));
-  if (std::string_view("+*/^&%<>=").find(mark) != std::string_view::npos) {
-    throw Syntax_Error("\"" + mark + "\" has no meaning here; functions calculate and compare, " +
-                           "as in qvxADD(1, 2)",
-                       position_);
+  for (const auto& [spelling, kind] : marks) {
+    if (!rest.starts_with(spelling)) continue;
+    if (kind == Token_Kind::open_array) in_array_ = true;
+    if (kind == Token_Kind::close_array) in_array_ = false;
+    return take(kind, spelling.size());
   }
   throw Syntax_Error("this character has no meaning here", position_);
+}
+
+bool Has_Semicolon(std::string_view formula) {
+  bool in_array = false;
+  for (std::size_t at = 0; at < formula.size(); ++at) {
+    const char c = formula[at];
+    if (c == '"' || c == '\'') {
+      at = std::min(formula.find(c, at + 1), formula.size());
+    } else if (c == '{' || c == '}') {
+      in_array = c == '{';
+    } else if (c == ';' && !in_array) {
+      return true;
+    }
+  }
+  return false;
 }
 
 std::string Unquoted(std::string_view spelling) {

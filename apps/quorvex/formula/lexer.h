@@ -22,6 +22,18 @@ enum class Token_Kind {
   colon,
   exclamation,
   minus,
+  plus,
+  times,
+  slash,
+  caret,
+  percent,
+  ampersand,
+  equals,
+  not_equal,
+  less,
+  less_or_equal,
+  greater,
+  greater_or_equal,
   end,
 };
 
@@ -34,8 +46,10 @@ struct Token {
 /// Splits a formula into tokens, one at a time. Throws `Syntax_Error` for what is none.
 class Lexer {
  public:
-  /// `text` is valid UTF-8 and outlives the lexer.
-  Lexer(std::string_view text, std::size_t position) : text_(text), position_(position) {}
+  /// `text` is valid UTF-8 and outlives the lexer. Numbers may have a decimal comma, if told so,
+  /// but for those of array constants, whose values it separates.
+  Lexer(std::string_view text, std::size_t position, bool has_decimal_comma)
+      : text_(text), position_(position), has_decimal_comma_(has_decimal_comma) {}
 
   Token next();
 
@@ -49,7 +63,12 @@ class Lexer {
 
   std::string_view text_;
   std::size_t position_;
+  bool has_decimal_comma_;
+  bool in_array_ = false;
 };
+
+/// Whether a ";" separates arguments in a formula.
+bool Has_Semicolon(std::string_view formula);
 
 /// Bytes of the word that a text begins with: letters of any script, digits, and _ . \ ? $.
 std::size_t Word_Length(std::string_view text);

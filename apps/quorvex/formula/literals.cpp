@@ -192,6 +192,16 @@ std::optional<Error_Code> Leading_Error(std::string_view text) {
   return std::nullopt;
 }
 
+bool Is_Token(std::string_view text) {
+  constexpr std::array<std::string_view, 7> tokens = {"#VALUE!", "#NUM!",  "#DIV/0!", "#EXPR!",
+                                                      "VALUE!",  "DIV/0!", "NUM!"};
+  return text.ends_with('!') && std::find(tokens.begin(), tokens.end(), text) != tokens.end();
+}
+
+bool Is_Error(const HostValue& value) {
+  return value.kind() == HostValue::Kind::error || (value.is_text() && Is_Token(value.text()));
+}
+
 bool Same_Word(std::string_view one, std::string_view other) {
   return std::equal(one.begin(), one.end(), other.begin(), other.end(),
                     [](char left, char right) { return Capital(left) == Capital(right); });

@@ -28,6 +28,13 @@ std::string_view Error_Text(Error_Code error);
 /// The error literal that a text begins with, in any case of letters.
 std::optional<Error_Code> Leading_Error(std::string_view text);
 
+/// True for a text by which functions tell of an error: #VALUE! and its like, and those that a few
+/// functions spell without the "#".
+bool Is_Token(std::string_view text);
+
+/// True for an error value, and for a text that is a token.
+bool Is_Error(const HostValue& value);
+
 /// The same word but for the case of the letters A to Z.
 bool Same_Word(std::string_view one, std::string_view other);
 

@@ -2,6 +2,7 @@
 
 #include "formula/formula.h"
 #include "formula/utf8.h"
+#include "formula/visible.h"
 #include "host/utf8.h"
 
 namespace quorvex {
@@ -19,12 +20,18 @@ std::size_t Back_By_Characters(std::string_view text, std::size_t position, std:
   return position;
 }
 
-// A line break or a tab would take the caret away from its place.
+// A line break, a tab or what changes the direction would take the caret away from its place.
 std::string On_One_Line(std::string_view text) {
-  std::string line(text);
-  std::replace_if(
-      line.begin(), line.end(),
-      [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }, ' ');
+  std::string line;
+  while (!text.empty()) {
+    const std::string_view character = text.substr(0, First_Character_Bytes(text));
+    if (character.size() == 1 && (character[0] == '\n' || character[0] == '\t')) {
+      line += ' ';
+    } else {
+      line += Visible(character) == character ? character : "\uFFFD";
+    }
+    text.remove_prefix(character.size());
+  }
   return line;
 }
 

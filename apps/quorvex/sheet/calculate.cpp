@@ -26,6 +26,12 @@ class Sheet_References final : public Reference_Source {
     return Range_Of(*sheet, reference.area);
   }
 
+  HostValue cell(const Reference& reference) override {
+    const Worksheet* sheet = Sheet_Meant(workbook_, calculation_, reference.sheet);
+    if (sheet == nullptr) return no_sheet(reference.sheet, reference.position);
+    return sheet->value(reference.area.first);
+  }
+
   HostValue name(const Name_Use& use) override {
     const Worksheet* sheet = Sheet_Meant(workbook_, calculation_, use.sheet);
     if (sheet == nullptr) return no_sheet(use.sheet, use.position);
@@ -63,6 +69,7 @@ struct Outcome {
   HostValue value;
   std::optional<Cell_Problem> problem;
   HostValue spill = {};  // an array, whose other values go to the cells beside
+  std::vector<std::string> notes = {};
 };
 
 Outcome Failed(const std::string& message) {
@@ -102,12 +109,13 @@ Outcome Cell_Outcome(const Call_Result& result) {
 }
 
 // A name may stand for a range, which the formulas that use it read.
-Outcome Outcome_For(const Calculation& calculation, const Evaluation& evaluation) {
+Outcome Outcome_For(const Calculation& calculation, Evaluation evaluation) {
   const auto* value = std::get_if<HostValue>(&evaluation.result);
   const bool is_whole = !calculation.name.empty() && value != nullptr;
   Outcome outcome = is_whole ? Outcome{*value, {}} : Cell_Outcome(evaluation.result);
   if (!evaluation.reason.empty())
     outcome.problem = Cell_Problem{Cell_Problem::Kind::failure, evaluation.reason};
+  outcome.notes = std::move(evaluation.notes);
   return outcome;
 }
 
@@ -118,10 +126,13 @@ std::string Obstacle_Text(Cell_Address obstacle) {
 
 }  // namespace
 
-void Calculate(const Workbook& workbook, cls_Quorvex& engine, Calculation& calculation) {
+void Calculate(const Workbook& workbook, cls_Quorvex& engine, Calculation& calculation,
+               Explain explain) {
   Sheet_References references(workbook, calculation);
   Outcome outcome = With_Handler(
-      [&] { return Outcome_For(calculation, Evaluate(engine, calculation.formula, references)); },
+      [&] {
+        return Outcome_For(calculation, Evaluate(engine, calculation.formula, references, explain));
+      },
       [](const Run_Time_Failure& failure) { return Failed(failure.what()); });
   if (!outcome.problem) outcome.problem = references.problem();
   calculation.spill = std::move(outcome.spill);
@@ -134,6 +145,10 @@ void Calculate(const Workbook& workbook, cls_Quorvex& engine, Calculation& calcu
   }
   calculation.value = std::move(outcome.value);
   calculation.problem.reset();
+  calculation.notes.reset();
+  if (!outcome.notes.empty()) {
+    calculation.notes = std::make_unique<std::vector<std::string>>(std::move(outcome.notes));
+  }
   if (outcome.problem) {
     calculation.problem = std::make_unique<Cell_Problem>(std::move(*outcome.problem));
   }

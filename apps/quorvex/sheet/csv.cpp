@@ -1,8 +1,10 @@
 #include "sheet/csv.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fstream>
-#include <ostream>
+#include <functional>
+#include <iostream>
 #include <random>
 #include <sstream>
 #include <string>
@@ -10,7 +12,9 @@
 
 #include "formula/utf8.h"
 #include "host/platform.h"
+#include "io/signal_cleanup.h"
 #include "sheet/csv_reader.h"
+#include "sheet/number_looks.h"
 
 namespace quorvex {
 
@@ -34,7 +38,14 @@ std::string System_Message(int error) {
   return std::error_code(error, std::generic_category()).message();
 }
 
+std::string Standard_Input() {
+  std::ostringstream text;
+  if (std::cin.peek() != std::istream::traits_type::eof()) text << std::cin.rdbuf();
+  return std::move(text).str();
+}
+
 std::string Contents(const fs::path& file) {
+  if (file == "-") return Standard_Input();
   std::error_code error;
   const fs::file_status status = fs::status(file, error);
   if (status.type() == fs::file_type::not_found) {
@@ -52,27 +63,93 @@ std::string Contents(const fs::path& file) {
   return std::move(text).str();
 }
 
-void Write_Cell(std::ostream& out, const std::string& value) {
-  const bool plain = value.find_first_of(",\"\r\n") == std::string::npos &&
-                     !value.starts_with(' ') && !value.ends_with(' ') && !value.starts_with('#');
-  if (plain) {
-    out << value;
-    return;
-  }
-  out << '"';
-  for (const char c : value) {
-    if (c == '"') out << c;
-    out << c;
-  }
-  out << '"';
-}
+class Csv_Writer {
+ public:
+  Csv_Writer(std::ostream& out, const Worksheet& sheet, Csv_Form form, Csv_Content content)
+      : out_(out), sheet_(sheet), form_(form), content_(content) {}
 
-void Write_To(const fs::path& file, const Worksheet& sheet) {
+  void write() {
+    if (form_.is_announced) out_ << "sep=" << form_.separator << '\n';
+    const auto used = sheet_.used_range();
+    if (!used) return;
+    // Nothing else would tell a reader which of the marks in its cells are separators.
+    is_single_column_ = used->last.column == 1;
+    auto cell = sheet_.cells().begin();
+    for (std::uint32_t row = 1; row <= used->last.row; ++row) {
+      Yield();
+      for (std::uint32_t column = 1; column <= used->last.column; ++column) {
+        if (column > 1) out_ << form_.separator;
+        if (cell == sheet_.cells().end() || cell->first != Cell_Address{row, column}) continue;
+        const Cell& stored = cell->second;
+        if (stored.typed.empty() || stored.typed.front() == '=' || stored.constant.is_text()) {
+          write_cell(text_of(stored));
+        } else {
+          write_cell(stored.typed);
+        }
+        ++cell;
+      }
+      out_ << '\n';
+    }
+  }
+
+ private:
+  std::string text_of(const Cell& cell) const {
+    const bool is_formula = cell.typed.starts_with('=');
+    if (is_formula && content_ == Csv_Content::formulas) return cell.typed;
+    std::string text = is_formula || cell.typed.empty() ? Shown_Value(cell) : cell.typed;
+    if (cell.value().is_text()) Disarm(text);
+    return text;
+  }
+
+  // Number text begins with a minus, too, and is what it looks like everywhere.
+  static void Disarm(std::string& text) {
+    constexpr std::string_view openings = "=+-@\t\r";
+    if (text.empty() || openings.find(text.front()) == std::string_view::npos) return;
+    if (!Looks_Like_Number(text)) text.insert(0, 1, '\'');
+  }
+
+  bool is_plain(const std::string& text) const {
+    if (text.empty()) return true;
+    const bool is_risky =
+        std::any_of(text.begin(), text.end(), [this](char c) { return is_mark(c); });
+    return !is_risky && text.front() != ' ' && text.back() != ' ' && text.front() != '#' &&
+           Announcement_Length(text) == 0;
+  }
+
+  bool is_mark(char c) const {
+    if (c == form_.separator || c == '"' || c == '\n' || c == '\r') return true;
+    return is_single_column_ && (c == ',' || c == ';' || c == '\t');
+  }
+
+  void write_cell(const std::string& text) {
+    if (is_plain(text)) {
+      out_ << text;
+      return;
+    }
+    out_ << '"';
+    for (const char c : text) {
+      if (c == '"') out_ << c;
+      out_ << c;
+    }
+    out_ << '"';
+  }
+
+  std::ostream& out_;
+  const Worksheet& sheet_;
+  Csv_Form form_;
+  Csv_Content content_;
+  bool is_single_column_ = false;
+};
+
+using Write = std::function<void(std::ostream&)>;
+
+// `named` is what the user calls the file.
+void Write_To(const fs::path& file, const fs::path& named, const Write& write) {
   errno = 0;
   std::ofstream out(file, std::ios::binary);
-  if (out) Write_Csv(out, sheet);
+  if (out) write(out);
   out.close();
-  if (!out) throw File_Error(file.string() + " can't be written: " + System_Message(errno) + ".");
+  if (!out) throw File_Error(named.string() + " can't be written: " + System_Message(errno) + ".");
 }
 
 // Beside the file itself, since only within one folder a renaming replaces it as a whole.
@@ -82,17 +159,18 @@ fs::path Temporary_Beside(const fs::path& file) {
   return temporary;
 }
 
-void Replace(const fs::path& file, const Worksheet& sheet) {
+void Replace(const fs::path& file, const fs::path& named, const Write& write) {
   const fs::path temporary = Temporary_Beside(file);
+  const Signal_Cleanup cleanup(temporary);
   std::error_code ignored;
   try {
-    Write_To(temporary, sheet);
+    Write_To(temporary, named, write);
     const fs::file_status old = fs::status(file, ignored);
     if (fs::exists(old)) fs::permissions(temporary, old.permissions(), ignored);
     fs::rename(temporary, file);
   } catch (const fs::filesystem_error& error) {
     fs::remove(temporary, ignored);
-    throw File_Error(file.string() + " can't be written: " + error.code().message() + ".");
+    throw File_Error(named.string() + " can't be written: " + error.code().message() + ".");
   } catch (...) {
     fs::remove(temporary, ignored);
     throw;
@@ -101,40 +179,37 @@ void Replace(const fs::path& file, const Worksheet& sheet) {
 
 }  // namespace
 
-void Read_Csv(std::string_view text, std::string_view source, Worksheet& sheet) {
+std::string File_Name(const fs::path& file) {
+  return file == "-" ? "standard input" : file.string();
+}
+
+Csv_Form Read_Csv(std::string_view text, std::string_view source, Worksheet& sheet,
+                  std::optional<char> separator) {
   Require_Text(text, source);
   if (text.starts_with(byte_order_mark)) text.remove_prefix(byte_order_mark.size());
-  Csv_Reader(text, source, sheet).read();
+  Csv_Form form = Form_Of(text);
+  if (separator) form.separator = *separator;
+  Csv_Reader(text, source, sheet, form.separator).read(Announcement_Length(text));
+  return form;
 }
 
-void Load_Csv(const fs::path& file, Worksheet& sheet) {
-  Read_Csv(Contents(file), file.string(), sheet);
+Csv_Form Load_Csv(const fs::path& file, Worksheet& sheet, std::optional<char> separator) {
+  return Read_Csv(Contents(file), File_Name(file), sheet, separator);
 }
 
-void Write_Csv(std::ostream& out, const Worksheet& sheet) {
-  const auto used = sheet.used_range();
-  if (!used) return;
-  auto cell = sheet.cells().begin();
-  for (std::uint32_t row = 1; row <= used->last.row; ++row) {
-    Yield();
-    for (std::uint32_t column = 1; column <= used->last.column; ++column) {
-      if (column > 1) out << ',';
-      if (cell == sheet.cells().end() || cell->first != Cell_Address{row, column}) continue;
-      Write_Cell(out, Shown_Value(cell->second));
-      ++cell;
-    }
-    out << '\n';
-  }
+void Write_Csv(std::ostream& out, const Worksheet& sheet, Csv_Form form, Csv_Content content) {
+  Csv_Writer(out, sheet, form, content).write();
 }
 
-void Save_Csv(const fs::path& file, const Worksheet& sheet) {
+void Save_Csv(const fs::path& file, const Worksheet& sheet, Csv_Form form, Csv_Content content) {
+  const Write write = [&](std::ostream& out) { Write_Csv(out, sheet, form, content); };
   std::error_code error;
   const fs::file_status status = fs::status(file, error);
   if (fs::is_directory(status)) throw File_Error(file.string() + " is a directory, not a file.");
   // A pipe or a terminal takes the text as it comes and can't be replaced.
-  if (fs::exists(status) && !fs::is_regular_file(status)) return Write_To(file, sheet);
+  if (fs::exists(status) && !fs::is_regular_file(status)) return Write_To(file, file, write);
   const fs::path target = fs::weakly_canonical(file, error);
-  Replace(error ? file : target, sheet);
+  Replace(error ? file : target, file, write);
 }
 
 }  // namespace quorvex

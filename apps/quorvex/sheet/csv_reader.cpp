@@ -8,7 +8,8 @@
 
 namespace quorvex {
 
-void Csv_Reader::read() {
+void Csv_Reader::read(std::size_t start) {
+  at_ = start;
   while (at_ < text_.size()) {
     read_line();
     end_line();
@@ -21,9 +22,10 @@ void Csv_Reader::read_line() {
     fail("a worksheet has no more than " + std::to_string(maximum_rows) + " rows", at_);
   }
   if (text_.substr(at_).starts_with("# ")) return read_note();
+  cut_formula_.reset();
   for (;;) {
     read_cell();
-    if (at_ == text_.size() || text_[at_] != ',') return;
+    if (at_ == text_.size() || text_[at_] != separator_) return;
     ++at_;
     ++cell_.column;
   }
@@ -37,7 +39,12 @@ void Csv_Reader::read_note() {
 
 void Csv_Reader::read_cell() {
   if (at_ < text_.size() && text_[at_] == '"') return put(quoted_cell());
-  const std::size_t end = std::min(text_.find_first_of(",\r\n\"", at_), text_.size());
+  read_plain_cell();
+}
+
+void Csv_Reader::read_plain_cell() {
+  const std::size_t start = at_;
+  const std::size_t end = std::min(text_.find_first_of(cell_ends_, at_), text_.size());
   if (end < text_.size() && text_[end] == '"') {
     fail(
         "a quote mark inside a cell that has none at its start; put the whole cell in quote "
@@ -46,6 +53,11 @@ void Csv_Reader::read_cell() {
   }
   put(text_.substr(at_, end - at_));
   at_ = end;
+  const bool is_cut = at_ < text_.size() && text_[at_] == separator_ && text_[start] == '=' &&
+                      sheet_.advise(cell_,
+                                    "; the cell ends here, at a separator: put the formula in "
+                                    "quote marks, as in \"=qvxADD(A1,B1)\"");
+  if (is_cut) cut_formula_ = start;
 }
 
 std::string Csv_Reader::quoted_cell() {
@@ -60,7 +72,13 @@ std::string Csv_Reader::quoted_cell() {
     cell += '"';
     ++at_;
   }
-  if (at_ < text_.size() && text_[at_] != ',' && !at_line_end()) {
+  if (at_ < text_.size() && text_[at_] != separator_ && !at_line_end()) {
+    if (cut_formula_) {
+      fail(
+          "a formula with separators or quote marks in it stands in quote marks, and those in it "
+          "are doubled: \"=qvxADD(A1,\"\"5\"\")\"",
+          *cut_formula_);
+    }
     fail("text behind a closing quote mark; a quote mark inside a cell is written twice", at_);
   }
   return cell;

@@ -8,8 +8,10 @@
 #include <string_view>
 
 #include "formula/utf8.h"
+#include "formula/visible.h"
 #include "host/platform.h"
 #include "host/utf8.h"
+#include "sheet/number_looks.h"
 
 namespace quorvex {
 
@@ -18,47 +20,12 @@ namespace {
 using Cell_Place = std::map<Cell_Address, Cell>::const_iterator;
 
 constexpr std::string_view column_gap = "  ";
-
-// Control characters would break the lines, or command the terminal; their pictures don't.
-std::string Without_Controls(const std::string& value) {
-  std::string shown;
-  shown.reserve(value.size());
-  for (const char c : value) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < 0x20 || byte == 0x7F) {
-      Append_Character(shown, byte == 0x7F ? U'\u2421' : U'\u2400' + byte);
-    } else {
-      shown += c;
-    }
-  }
-  return shown;
-}
+constexpr std::size_t narrowest = 4;  // of the columns that have to give way
 
 std::string Cut(std::string value, std::size_t limit) {
   if (limit == 0 || Count_Characters(value) <= limit) return value;
   value.resize(Bytes_Of_Characters(value, limit - 1));
   return value + "…";
-}
-
-void Erase_All(std::string& text, std::string_view part) {
-  if (part.empty()) return;
-  for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at)) {
-    text.erase(at, part.size());
-  }
-}
-
-// Whether a text is best set like a number. The engine is not asked: looks are what counts here.
-bool Looks_Like_Number(std::string text) {
-  const Separators separators = Current_Separators();
-  if (text.size() > 256) return text.find_first_not_of("0123456789.,-") == std::string::npos;
-  Erase_All(text, Current_Currency().symbol());
-  Erase_All(text, separators.thousands());
-  Erase_All(text, separators.decimal());
-  const std::size_t exponent = text.find('E');
-  if (exponent != std::string::npos) text.erase(exponent, 2);
-  if (text.starts_with('(') && text.ends_with(')')) text = text.substr(1, text.size() - 2);
-  if (text.starts_with('-')) text.erase(0, 1);
-  return !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
 }
 
 bool Sets_Right(const Cell& cell) {
@@ -71,7 +38,10 @@ class Grid {
  public:
   Grid(const Worksheet& sheet, const Grid_Options& options) : sheet_(sheet), options_(options) {
     for (auto place = sheet.cells().begin(); place != sheet.cells().end(); ++place) measure(place);
+    if (options.total_width > 0) fit(options.total_width);
   }
+
+  bool is_shortened() const { return column_limit_ > 0; }
 
   void print(std::ostream& out) const {
     std::uint32_t row = 1;
@@ -84,8 +54,8 @@ class Grid {
   }
 
  private:
-  std::string shown(const Cell& cell) const {
-    return Cut(Without_Controls(Shown_Value(cell)), options_.width_limit);
+  static std::string shown(const Cell& cell, std::size_t limit) {
+    return Cut(Visible(Shown_Value(cell)), limit);
   }
 
   bool is_last_in_row(Cell_Place place) const {
@@ -97,11 +67,32 @@ class Grid {
     return place == sheet_.cells().begin() || std::prev(place)->first.row != place->first.row;
   }
 
+  bool is_note(Cell_Place place) const {
+    return !Sets_Right(place->second) && is_first_in_row(place) && is_last_in_row(place);
+  }
+
   void measure(Cell_Place place) {
     const auto& [address, cell] = *place;
     std::size_t& width = widths_[address.column];
-    if (!Sets_Right(cell) && is_first_in_row(place) && is_last_in_row(place)) return;
-    width = std::max(width, Count_Characters(shown(cell)));
+    if (is_note(place)) return;
+    width = std::max(width, Count_Characters(shown(cell, options_.width_limit)));
+  }
+
+  std::size_t width_at_limit(std::size_t limit) const {
+    std::size_t width = 0;
+    for (const auto& [column, widest] : widths_)
+      width += std::min(widest, limit) + column_gap.size();
+    return width - std::min(width, column_gap.size());
+  }
+
+  // The widest columns give way first.
+  void fit(std::size_t total) {
+    std::size_t limit = std::max(total, narrowest);
+    while (limit > narrowest && width_at_limit(limit) > total) --limit;
+    for (auto& [column, width] : widths_) {
+      if (width <= limit) continue;
+      width = column_limit_ = limit;
+    }
   }
 
   // Prints the row of cells that begins at `place`; gives where the next one begins.
@@ -111,7 +102,8 @@ class Grid {
     for (bool last = false; !last; ++place) {
       const auto& [address, cell] = *place;
       for (; column->first < address.column; ++column) blanks += column->second + column_gap.size();
-      const std::string text = shown(cell);
+      const bool is_cut = is_shortened() && !is_note(place);
+      const std::string text = shown(cell, is_cut ? column->second : options_.width_limit);
       const std::size_t used = Count_Characters(text);
       const std::size_t spare = column->second > used ? column->second - used : 0;
       const bool right = Sets_Right(cell);
@@ -127,12 +119,15 @@ class Grid {
   const Worksheet& sheet_;
   const Grid_Options& options_;
   std::map<std::uint32_t, std::size_t> widths_;
+  std::size_t column_limit_ = 0;  // of the columns that were shortened; 0 if none was
 };
 
 }  // namespace
 
-void Print_Grid(std::ostream& out, const Worksheet& sheet, const Grid_Options& options) {
-  Grid(sheet, options).print(out);
+bool Print_Grid(std::ostream& out, const Worksheet& sheet, const Grid_Options& options) {
+  const Grid grid(sheet, options);
+  grid.print(out);
+  return !grid.is_shortened();
 }
 
 }  // namespace quorvex

@@ -19,7 +19,12 @@ class Workbook {
   /// In the order in which they were added.
   const std::vector<std::unique_ptr<Worksheet>>& worksheets() const { return worksheets_; }
 
+  /// Whether formulas are calculated with explanations of what they give.
+  bool explains() const { return explains_; }
+  void set_explains(bool on) { explains_ = on; }
+
  private:
+  bool explains_ = false;
   std::vector<std::unique_ptr<Worksheet>> worksheets_;
 };
 

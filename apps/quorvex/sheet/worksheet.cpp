@@ -86,6 +86,13 @@ void Worksheet::clear(Cell_Address address) {
   if (--count->second == 0) cells_in_column_.erase(count);
 }
 
+bool Worksheet::advise(Cell_Address address, std::string_view advice) {
+  const auto found = cells_.find(address);
+  if (found == cells_.end() || !found->second.problem) return false;
+  found->second.problem->message += advice;
+  return true;
+}
+
 Cell& Worksheet::cell_at(Cell_Address address) {
   Require_Cell(address);
   // Files fill a worksheet row by row, so the end is the likely place.
@@ -151,6 +158,10 @@ void Worksheet::define_name(std::string_view name, std::string_view refers_to) {
 const Defined_Name* Worksheet::find_name(std::string_view name) const {
   const auto found = names_.find(To_Capitals(name));
   return found == names_.end() ? nullptr : &found->second;
+}
+
+bool Cell::has_failed() const {
+  return trouble() != nullptr || ((calculation || spilled_from) && Is_Error(value()));
 }
 
 std::string Shown_Value(const Cell& cell) {

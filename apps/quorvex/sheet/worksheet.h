@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "formula/formula.h"
 #include "formula/reference.h"
@@ -40,6 +41,7 @@ struct Calculation {
   Formula formula;
   HostValue value = HostValue::Empty();
   std::unique_ptr<Cell_Problem> problem;
+  std::unique_ptr<std::vector<std::string>> notes;  // why a token came, and what may surprise
   HostValue spill;                       // the array that a cell's formula gave, if it did
   std::optional<Cell_Address> obstacle;  // the cell that leaves the array no room
   bool spill_moved = false;              // the array filled other cells than before, or otherwise
@@ -65,6 +67,8 @@ struct Cell {
   const Cell_Problem* trouble() const {
     return calculation ? calculation->problem.get() : problem.get();
   }
+  /// Whether a formula has given an error or a token, or could not be read.
+  bool has_failed() const;
 };
 
 /// The value as shown; #CIRCULAR! on a circular reference, #SPILL! for an array without room.
@@ -95,6 +99,8 @@ class Worksheet {
   /// Fills a cell with text, whatever it looks like.
   void set_text(Cell_Address address, std::string text);
   void clear(Cell_Address address);
+  /// Adds to what is told of a formula that can't be read; false if the cell holds none such.
+  bool advise(Cell_Address address, std::string_view advice);
 
   /// The text typed into a cell, a formula with its "="; empty for a blank cell.
   std::string_view typed(Cell_Address address) const;

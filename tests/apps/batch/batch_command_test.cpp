@@ -25,7 +25,8 @@ TEST(BatchCommand, AnswersALineForEachAndNeverStops) {
       "{\"id\":1,\"value\":\"3.5\"}\n"
       "{\"invalid\":\"not well-formed JSON at byte 2: invalid literal\"}\n"
       "{\"id\":\"a\",\"value\":-1}\n"
-      "{\"id\":2,\"failure\":\"A missing argument has no text.\",\"number\":13}\n"
+      "{\"id\":2,\"failure\":\"Too few arguments: num is missing in "
+      "qvxSIGN(num).\",\"number\":13}\n"
       "{\"value\":\"#VALUE!\"}\n"
       "{\"value\":false}\n";
   for (const char* jobs : {"1", "3"}) {

@@ -41,6 +41,10 @@ TEST(CommandLine, CalculatesFormulas) {
       {{"-"}, "1\n\n# a note\n#\nqvxADD(1,\r\n#N/A\n-2", "1\n#N/A\n-2\n", "line 5: ", 2},
       {{}, "qvxADD(1,1)\n", "2\n", "", 0},
       {{"1", "-", "3"}, "2\n", "1\n2\n3\n", "", 0},
+      // Operators, choice and a shorter limit.
+      {{"-d", "5", "100*1.05^30", "IF(1<2,\"less\",1/0)"}, "", "432.1942\nless\n", "", 0},
+      {{"-d50", "1/7"}, "", "0.142857142857142857142857142857142857142857142857143\n", "", 0},
+      {{"MAX(1,2)"}, "", "", "use qvxMAX", 2},
       // What begins with a minus: a formula if it can be no option.
       {{"-5"}, "", "-5\n", "", 0},
       {{"-qvxADD(1,2)"}, "", "-3\n", "", 0},
@@ -48,7 +52,10 @@ TEST(CommandLine, CalculatesFormulas) {
       {{"--digits", "3", "--", "-qvxADD(1,2.345)"}, "", "-3.345\n", "", 0},
       {{"-q"}, "", "", "Write -- before a formula", 2},
       // Errors as results.
-      {{"qvxADD(\"x\",1)"}, "", "#VALUE!\n", "", 1},
+      {{"qvxADD(\"50%\",1)"}, "", "#VALUE!\n", "note: number1 of qvxADD: \"50%\" is no number", 1},
+      {{"--quiet", "qvxADD(\"50%\",1)"}, "", "#VALUE!\n", "", 1},
+      {{"-"}, "1\n1/0\n", "1\n#DIV/0!\n", "note: line 2: The divisor is 0.", 1},
+      {{"qvxMOD(7,0)"}, "", "DIV/0!\n", "divides by 0", 1},
       {{"#N/A"}, "", "#N/A\n", "", 1},
       {{"\"#VALUE\""}, "", "#VALUE\n", "", 0},
       {{"qvxSIGN({1,2})", "1"}, "", "1\n", "error: ", 1},
@@ -59,6 +66,17 @@ TEST(CommandLine, CalculatesFormulas) {
       {{"\xFF(1)"}, "", "", "error: ", 2},
   };
   for (const Tool_Case& each : cases) Expect(each);
+}
+
+TEST(CommandLine, FormulasUseTheCellsOfASheet) {
+  const Temporary_Folder folder;
+  const std::string file = folder.write("prices.csv", "item,price\ntea,2.5\nmilk,=B2*2\n");
+  Expect({{"--sheet", file, "qvxSUM2(B2:B3)", "B3&\" pcs\""}, "", "7.5\n5 pcs\n", "", 0});
+  Expect({{"--sheet", file, "-"}, "B2:B3*2\n", " 5\n10\n", "", 0});
+  Expect({{"--sheet", file, "rate"}, "", "", "there is no name \"rate\"", 2});
+  Expect({{"--sheet", file, "Other!A1"}, "", "", "no worksheet \"Other\"", 2});
+  const std::string failed = folder.write("failed.csv", "=1/0\n");
+  Expect({{"--sheet", failed, "1"}, "", "1\n", "A1: The divisor is 0.", 1});
 }
 
 TEST(CommandLine, TakesLocaleAndLimits) {
@@ -73,6 +91,10 @@ TEST(CommandLine, TakesLocaleAndLimits) {
       {{"--decimal", ",", "--thousands", ".", "0.5"}, "", "0,5\n", "", 0},
       {{"--decimal", "--", "--thousands", "-", "1"}, "", "", "error: ", 2},
       {{"--decimal", ",", "1"}, "", "", "error: ", 2},
+      {{"--decimal", ",", "--thousands", ".", "qvxADD(1,5;A1)"}, "", "", "A1 refers", 2},
+      {{"--decimal", ",", "--thousands", ".", "1,5+1"}, "", "2,5\n", "", 0},
+      {{"--memory", "10M", "qvxADD(\"1E+99999999\",1)"}, "", "#VALUE!\n", "not enough memory", 1},
+      {{"--memory", "much", "1"}, "", "", "a size like 500M", 2},
       {{"--locale", "xx_XX", "1"}, "", "", "no locale \"xx_XX\"", 2},
       {{"--locale", "C", "--decimal", ",", "1"}, "", "", "give it, or the parts", 2},
       {{"--currency-side", "left", "1"}, "", "", "before or after is needed, not left", 2},

@@ -108,6 +108,63 @@ TEST(Prompt, RecalculatesTheOpenWorksheetOnYesAlone) {
   EXPECT_EQ(terminal.end(), 0);
 }
 
+TEST(Prompt, KnowsTheSheetTheLastResultAndNames) {
+  const Temporary_Folder folder;
+  const std::string file = folder.write("prices.csv", "item,price\ntea,2.5\nmilk,=B2*2\n");
+  Terminal terminal(folder.path());
+  terminal.type_at_prompt("A1\n");
+  EXPECT_TRUE(terminal.shows("no worksheet is open")) << terminal.shown();
+  terminal.type_at_prompt("sheet " + file.substr(0, file.size() - 5) + "\t\n");
+  EXPECT_TRUE(terminal.shows("milk      5\r\n")) << terminal.shown();
+  terminal.type_at_prompt("qvxSUM2(B2:B3)\n");
+  EXPECT_TRUE(terminal.shows("\n7.5\r\n")) << terminal.shown();
+  terminal.type_at_prompt("rate = ans*2\n");
+  EXPECT_TRUE(terminal.shows("\n15\r\n")) << terminal.shown();
+  terminal.type_at_prompt("Rate=rate+1\n");
+  EXPECT_TRUE(terminal.shows("\n16\r\n")) << terminal.shown();
+  terminal.type_at_prompt("=rate=16\n");
+  EXPECT_TRUE(terminal.shows("\nTRUE\r\n")) << terminal.shown();
+  terminal.type_at_prompt("nowhere+1\n");
+  EXPECT_TRUE(terminal.shows("there is no name \"nowhere\"")) << terminal.shown();
+  terminal.type_at_prompt("digits 5\n");
+  terminal.type_at_prompt("1/7\n");
+  EXPECT_TRUE(terminal.shows("\n0.142857\r\n")) << terminal.shown();
+  terminal.type_at_prompt("digits 0\n");
+  EXPECT_TRUE(terminal.shows("a whole number from 1")) << terminal.shown();
+  terminal.type_at_prompt("help root\n");
+  EXPECT_TRUE(terminal.shows("qvxROOT(number1")) << terminal.shown();
+  terminal.type_at_prompt("functions logarithm\n");
+  EXPECT_TRUE(terminal.shows("qvxLN")) << terminal.shown();
+  terminal.type_at_prompt("qvxFORMAT(1,,,,,,300)\n");  // the terminal has 200 columns
+  EXPECT_TRUE(terminal.shows("\n1." + std::string(198, '0') + "\r\n00")) << terminal.shown();
+}
+
+TEST(Prompt, HandsOnWhatWasTypedForSomethingElse) {
+  const Temporary_Folder folder;
+  const std::string file = folder.write("third.csv", "=1/3\n");
+  Terminal terminal(folder.path());
+  terminal.type_at_prompt("settings\n");
+  terminal.type_at("Digits [100]: ", "1+1\n");
+  EXPECT_TRUE(terminal.shows("The limit stays as it is.")) << terminal.shown();
+  EXPECT_TRUE(terminal.shows("> 1+1\r\n2\r\n")) << terminal.shown();
+  terminal.type_at_prompt("sheet " + file + "\n");
+  terminal.type_at_prompt("settings\n");
+  terminal.type_at("Digits [100]: ", "6\n");
+  terminal.type_at("[y/N] ", "2*3\n");
+  EXPECT_TRUE(terminal.shows("> 2*3\r\n6\r\n")) << terminal.shown();
+  EXPECT_EQ(terminal.shown().find("0.3333"), std::string::npos) << terminal.shown();
+}
+
+TEST(Prompt, SheetsOpenNoForms) {
+  const Temporary_Folder folder;
+  const std::string file = folder.write("about.csv", "=qvxABOUT()\n\x1B[31mred\n\u202Eback\n");
+  Terminal terminal(folder.path(), {"sheet", file});
+  EXPECT_EQ(terminal.end(), 0);
+  EXPECT_EQ(terminal.shown().find("About Quorvex"), std::string::npos) << terminal.shown();
+  EXPECT_NE(terminal.shown().find("\u241B[31mred"), std::string::npos) << terminal.shown();
+  EXPECT_NE(terminal.shown().find("<U+202E>back"), std::string::npos) << terminal.shown();
+}
+
 TEST(Prompt, InterruptGivesUpTheLineAndCtrlDLeaves) {
   const Temporary_Folder folder;
   Terminal terminal(folder.path());

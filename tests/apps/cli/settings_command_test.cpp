@@ -225,6 +225,10 @@ TEST_F(Settings, AreFollowedByAWorksheetThatIsWatched) {
   EXPECT_TRUE(terminal.shows("The default limit is 4 now.\r\n0.33333\r\n")) << terminal.shown();
   folder_.write("thirds.csv", "\"=qvxADD(40,2)\"\n");
   EXPECT_TRUE(terminal.shows("has changed.\r\n42\r\n")) << terminal.shown();
+  fs::remove(sheet);
+  EXPECT_TRUE(terminal.shows("is gone; waiting for it to come back.")) << terminal.shown();
+  folder_.write("thirds.csv", "=1+1\n");
+  EXPECT_TRUE(terminal.shows("is back.\r\n2\r\n")) << terminal.shown();
   fs::remove(file());
   EXPECT_TRUE(terminal.shows("no longer stored. It stays 4 here.")) << terminal.shown();
   terminal.type("\x03");

@@ -1,7 +1,11 @@
 // `quorvex sheet` as its users meet it.
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <filesystem>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -56,6 +60,52 @@ TEST(SheetCommand, WritesCsv) {
   EXPECT_EQ(Run_Tool({"sheet", "-o", "-", file}).output, calculated);
 }
 
+void Expect_Refusal(const std::vector<std::string>& arguments) {
+  std::vector<std::string> words = {"sheet"};
+  for (const std::string& argument : arguments) words.push_back(argument);
+  const Tool_Run run = Run_Tool(words);
+  EXPECT_EQ(run.exit_code, 2) << words.back();
+  EXPECT_EQ(run.errors.find("error: "), 0U) << run.errors;
+  EXPECT_EQ(run.output, "") << words.back();
+}
+
+TEST(SheetCommand, WritesOntoTheSheetItselfOnlyWhenForced) {
+  const Temporary_Folder folder;
+  const std::string file = folder.write("self.csv", "00123,=1+1\n");
+  Run_Tool({"sheet", file, "-o", file});
+  Expect_Refusal(
+      {file, "-o",
+       folder.path().string() + "/../" + folder.path().filename().string() + "/self.csv"});
+  EXPECT_EQ(File_Text(file), "00123,=1+1\n");
+  EXPECT_EQ(Run_Tool({"sheet", file, "--formulas"}).output, "00123,=1+1\n");
+  EXPECT_EQ(Run_Tool({"sheet", file, "-o", file, "--force"}).exit_code, 0);
+  EXPECT_EQ(File_Text(file), "00123,2\n");
+}
+
+TEST(SheetCommand, ReadsStandardInputAndNamesIt) {
+  EXPECT_EQ(Run_Tool({"sheet", "-", "-o", "-"}, "a;b\n1;=A2*2\n").output, "a;b\n1;2\n");
+  EXPECT_EQ(Run_Tool({"sheet", "-", "--separator", "|", "-o", "-"}, "1|=A1*2\n").output, "1|2\n");
+  const Tool_Run run = Run_Tool({"sheet", "-"}, "=A1");
+  EXPECT_EQ(run.errors.find("error: standard input: A1: "), 0U) << run.errors;
+}
+
+TEST(SheetCommand, LeavesNothingBehindWhereAFileMayNotGrow) {
+  const Temporary_Folder folder;
+  const std::string file = folder.write("long.csv", std::string(8192, 'x') + "\n");
+  const std::string out = (folder.path() / "out.csv").string();
+  const pid_t process = ::fork();
+  if (process == 0) {
+    const rlimit limit{4096, 4096};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    ::execl(QUORVEX_TOOL, "quorvex", "sheet", file.c_str(), "-o", out.c_str(), nullptr);
+    ::_exit(127);
+  }
+  int status = 0;
+  ::waitpid(process, &status, 0);
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 2) << status;
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
+}
+
 TEST(SheetCommand, DefinesNames) {
   const Temporary_Folder folder;
   const std::string file = folder.write("names.csv", "\"=qvxADD(rate,base)\"\n");
@@ -77,6 +127,31 @@ TEST(SheetCommand, TellsWhichCellsFailed) {
   EXPECT_NE(run.output.find("#CIRCULAR!"), std::string::npos) << run.output;
 }
 
+TEST(SheetCommand, TellsOnceWhyCellsHoldTokens) {
+  const Temporary_Folder folder;
+  const std::string file = folder.write("tokens.csv", "50%\n=A1*2\n=A1*2\n=A2+1\n=qvxFACT(100)\n");
+  const Tool_Run run = Run_Tool({"sheet", file});
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_NE(run.errors.find("A2: \"50%\" is no number: percent signs are not read. "
+                            "(and 1 more such cells)\n"),
+            std::string::npos)
+      << run.errors;
+  EXPECT_NE(run.errors.find("A5: The result has 158 digits"), std::string::npos) << run.errors;
+  EXPECT_EQ(run.errors.find("A4"), std::string::npos) << run.errors;
+  const Tool_Run quiet = Run_Tool({"sheet", file, "--quiet"});
+  EXPECT_EQ(quiet.errors, "");
+  EXPECT_EQ(quiet.exit_code, 1);
+}
+
+TEST(SheetCommand, MemoryIsBounded) {
+  const Temporary_Folder folder;
+  const std::string cell = "\"=qvxADD(\"\"1E+999999999\"\",1)\"\n";
+  const Tool_Run run = Run_Tool({"sheet", folder.write("large.csv", cell + cell + cell)});
+  EXPECT_EQ(run.output, "#VALUE!\n#VALUE!\n#VALUE!\n");
+  EXPECT_NE(run.errors.find("There is not enough memory"), std::string::npos) << run.errors;
+  EXPECT_EQ(run.exit_code, 1);
+}
+
 TEST(SheetCommand, ManyFailuresAreCounted) {
   const Temporary_Folder folder;
   std::string rows;
@@ -84,15 +159,6 @@ TEST(SheetCommand, ManyFailuresAreCounted) {
   const Tool_Run run = Run_Tool({"sheet", folder.write("many.csv", rows)});
   EXPECT_EQ(run.exit_code, 1);
   EXPECT_NE(run.errors.find("and 20 more cells"), std::string::npos) << run.errors;
-}
-
-void Expect_Refusal(const std::vector<std::string>& arguments) {
-  std::vector<std::string> words = {"sheet"};
-  for (const std::string& argument : arguments) words.push_back(argument);
-  const Tool_Run run = Run_Tool(words);
-  EXPECT_EQ(run.exit_code, 2) << words.back();
-  EXPECT_EQ(run.errors.find("error: "), 0U) << run.errors;
-  EXPECT_EQ(run.output, "") << words.back();
 }
 
 TEST(SheetCommand, RefusesWhatIsNoWorksheet) {
@@ -110,7 +176,9 @@ TEST(SheetCommand, RefusesBadOptions) {
   Expect_Refusal({good, "--name", "no equals"});
   Expect_Refusal({good, "--name", "x=qvxADD("});
   Expect_Refusal({good, "--name", "A1=B2"});
-  Expect_Refusal({good, "--width", "0"});
+  Expect_Refusal({good, "--width", "-1"});
+  Expect_Refusal({good, "--separator", "xy"});
+  Expect_Refusal({"-", "--watch"});
   Expect_Refusal({good, "-o", (folder.path() / "no" / "folder.csv").string()});
 }
 

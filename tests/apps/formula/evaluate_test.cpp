@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "host/run_time_failure.h"
 #include "support/failures.h"
@@ -60,22 +61,132 @@ TEST(EvaluateAlone, NegatesTextWithoutTouchingItsDigits) {
       {"--0", "0"},
       {"-\"abc\"", "#VALUE!"},
       {"-\"\"", "#VALUE!"},
-      {"-TRUE", "#VALUE!"},
+      {"-TRUE", "-1"},
       {"-#N/A", "#N/A"},
-      {"-{1,2}", "#VALUE!"},
+      {"-{1,\"x\";TRUE,2}", "{-1,#VALUE!;-1,-2}"},
   };
   for (const auto& [formula, shown] : cases) EXPECT_EQ(Shown(formula), shown) << formula;
+}
+
+struct Shown_Case {
+  const char* formula;
+  const char* shown;
+};
+
+void Expect_Shown(const std::vector<Shown_Case>& cases) {
+  for (const auto& [formula, shown] : cases) EXPECT_EQ(Shown(formula), shown) << formula;
+}
+
+TEST(Operators, CalculateByTheEngine) {
+  const Locale_Guard locale(Point_Locale());
+  Expect_Shown({
+      {"1+2*3^2-4/8", "18.5"},
+      {"-2^2", "4"},
+      {"0-2^2", "-4"},
+      {"2^3^2", "64"},
+      {"2^-1", "0.5"},
+      {"10-4-3", "3"},
+      {"8/4/2", "1"},
+      {"12345678901234567890.5*2", "24691357802469135781"},
+      {"100*1.05^30", "432.1942375150662009157288198886473341473378241062164306640625"},
+      {"50%", "0.5"},
+      {"200*-5%%", "-0.1"},
+      {"\"$1,000\"+1", "1001"},
+      {"TRUE+TRUE", "2"},
+      {"1&TRUE&\" pcs\"&-0.5", "1TRUE pcs-0.5"},
+      {"1+2&3*4", "312"},
+  });
+}
+
+TEST(Operators, PassErrorsAndTokensOn) {
+  const Locale_Guard locale(Point_Locale());
+  Expect_Shown({
+      {"1/0", "#DIV/0!"},
+      {"1/0+1", "#DIV/0!"},
+      {"\"x\"+1", "#VALUE!"},
+      {"\"a\"&#N/A&\"#NUM!\"", "#N/A"},
+      {"\"#NUM!\"=1", "#NUM!"},
+      {"qvxMOD(7,0)+1", "DIV/0!"},
+      {"qvxMOD(1,\"x\")*2", "#VALUE!"},
+      {"-qvxMOD(7,0)%", "DIV/0!"},
+  });
+}
+
+TEST(Operators, CompareLongNumbersAndTextAsSpreadsheetsDo) {
+  const Locale_Guard locale(Point_Locale());
+  Expect_Shown({
+      {"12345678901234567891>12345678901234567890", "TRUE"},
+      {"\"10\">\"9\"", "TRUE"},
+      {"\"1.50\"=1.5", "TRUE"},
+      {"0.1+0.2=0.3", "TRUE"},
+      {"\"$5\"<6", "TRUE"},
+      {"\"abc\"=\"ABC\"", "TRUE"},
+      {"\"ä\"=\"Ä\"", "TRUE"},
+      {"\"b\">\"a\"", "TRUE"},
+      {"\"a\">99", "TRUE"},
+      {"FALSE>\"z\"", "TRUE"},
+      {"FALSE<TRUE", "TRUE"},
+      {"1<>1", "FALSE"},
+      {"2>=3", "FALSE"},
+      {"1<2=TRUE", "TRUE"},
+  });
+}
+
+TEST(Operators, TakeBlocksElementByElement) {
+  const Locale_Guard locale(Point_Locale());
+  Expect_Shown({
+      {"{1,2;3,4}*10", "{\"10\",\"20\";\"30\",\"40\"}"},
+      {"{1;2}+{10,20}", "{\"11\",\"21\";\"12\",\"22\"}"},
+      {"{1,2,3}+{1,2}", "{\"2\",\"4\",#N/A}"},
+      {"{1,\"x\"}>0", "{TRUE,TRUE}"},
+      {"{5,\"x\"}%", "{\"0.05\",\"#VALUE!\"}"},
+      {"qvxSUM2({1,2}*{3,4})", "11"},
+  });
+}
+
+TEST(Choice, LooksAtWhatIsNeeded) {
+  const Locale_Guard locale(Point_Locale());
+  Expect_Shown({
+      {"IF(12345678901234567891>12345678901234567890,\"more\",1/0)", "more"},
+      {"IF(qvxISGREATER(1,2),1/0,\"less\")", "less"},
+      {"IF(0,1)", "FALSE"},
+      {"IF(\"0.00\",1,)", "0"},
+      {"IF(\"abc\",1,2)", "#VALUE!"},
+      {"IF(#N/A,1,2)", "#N/A"},
+      {"IF(1/0,1,2)", "#DIV/0!"},
+      {"IF({1,0;\"x\",TRUE},{1,2;3,4},\"no\")", "{1,\"no\";#VALUE!,4}"},
+      {"if(TRUE,qvxFACT(5),qvxFACT(\"x\"))", "120"},
+      {"IFERROR(1/0,\"none\")", "none"},
+      {"IFERROR(qvxMOD(7,0),0)", "0"},
+      {"IFERROR(qvxSIN(\"x\"),\"none\")", "none"},
+      {"IFERROR(5,1/0)", "5"},
+      {"IFERROR({1,2}/{0,1},\"-\")", "{\"-\",\"2\"}"},
+      {"AND(1,\"true\",2>1)", "TRUE"},
+      {"AND(FALSE,1/0)", "FALSE"},
+      {"AND(TRUE,1/0)", "#DIV/0!"},
+      {"OR(FALSE,1,\"x\")", "TRUE"},
+      {"OR({0,\"x\";0,\"\"})", "FALSE"},
+      {"OR({\"x\"})", "#VALUE!"},
+      {"NOT({1,0})", "{FALSE,TRUE}"},
+      {"ISBLANK(\"\")", "FALSE"},
+      {"IFERROR(IF(AND(1<2,NOT(2<1)),{1,2}*2,0),0)", "{\"2\",\"4\"}"},
+  });
+  cls_Quorvex engine;
+  const auto mended = Evaluate_Alone(engine, Parse_Formula("IFERROR(qvxSIN(\"x\"),1/0)"));
+  EXPECT_EQ(mended.reason.find("An argument is no number"), std::string::npos) << mended.reason;
 }
 
 TEST(EvaluateAlone, PassesRecordsThroughAtTheTopOnly) {
   const Locale_Guard locale(Point_Locale());
   cls_Quorvex engine;
   const Call_Result record =
-      Evaluate_Alone(engine, Parse_Formula("Restrictionator(2,TRUE,,,7)")).result;
+      Evaluate_Alone(engine, Parse_Formula("Restrictionator(2,TRUE,,,7)", Functions::all)).result;
   ASSERT_TRUE(std::holds_alternative<Record>(record));
   EXPECT_EQ(std::get<Record>(record).fields[4].second.number(), 7);
-  EXPECT_EQ(Shown("qvxADD(Restrictionator(),1)"), "#VALUE!");
-  EXPECT_EQ(Shown("-Restrictionator()"), "#VALUE!");
+  for (const char* formula : {"qvxADD(Restrictionator(),1)", "-Restrictionator()"}) {
+    const auto outer = Evaluate_Alone(engine, Parse_Formula(formula, Functions::all)).result;
+    EXPECT_EQ(Render(std::get<HostValue>(outer)), "#VALUE!") << formula;
+  }
 }
 
 TEST(EvaluateAlone, RefusesCellsAndNamesAtTheirPlace) {

@@ -51,6 +51,15 @@ TEST(ParseFormula, TakesTheGrammarAndWritesItBack) {
       {"-(5)", "-(5)"},
       {"-(0)", "-(0)"},
       {"((qvxSIGN((A1))))", "qvxSIGN(A1)"},
+      {"1+2*3^4 = \"a\" & -5%", "1+2*3^4=\"a\"&-5%"},
+      {"(1+2)*3-(4-5)-6", "(1+2)*3-(4-5)-6"},
+      {"((1*2))+(3)<>(4>=5)<=6", "1*2+3<>(4>=5)<=6"},
+      {"-2^+2^-(3)", "-2^2^-(3)"},
+      {"-(2^2)%", "-(2^2)%"},
+      {"-(5%)", "-(5%)"},
+      {"(A1%)%", "A1%%"},
+      {"(A1:A3+1)%", "(A1:A3+1)%"},
+      {"+A1", "A1"},
       {"1e5", "100000"},
       {"1E-7", "1e-07"},
       {"qvxADD(qvxADD(1,2),-qvxADD(3,4))", "qvxADD(qvxADD(1,2),-qvxADD(3,4))"},
@@ -72,15 +81,24 @@ TEST(ParseFormula, TellsWhatIsWrongAndWhere) {
   } const cases[] = {
       {"", 0, "empty"},
       {" = ", 3, "empty"},
-      {"==1", 1, "no meaning"},
+      {"==1", 1, "a value was expected"},
+      {"1+*2", 2, "a value was expected"},
+      {"A1=>2", 3, "a value was expected"},
+      {"1 %% 2", 5, "expected to end"},
+      {"1~2", 1, "no meaning"},
       {"qvxADD(1,2", 6, "not closed"},
-      {"qvxADD(1 2)", 9, "\",\" or \")\""},
-      {"qvxADD(1;2)", 8, "\",\" or \")\""},
+      {"qvxADD(1 2)", 9, "\",\" or \";\" or \")\""},
+      {"qvxADD(1;qvxADD(2,3))", 19, "2,3 is one number here, separate arguments by \";\""},
+      {"qvxADD(1,2;)", 11, "number2 is missing"},
+      {"1,5", 1, "decimals are written as 1.5, or as 1,5"},
+      {"IF(1)", 4, "too few arguments for IF(condition"},
+      {"NOT(1,2)", 6, "too many arguments for NOT"},
+      {"AND", 0, "with parentheses: AND(condition1"},
+      {"MAX(1,2)", 0, "unknown function \"MAX\"; use qvxMAX"},
+      {"Cos_Function(1)", 0, "unknown function"},
+      {"average(1,2)", 0, "use qvxAVERAGE, with \"format:MSD=50\""},
       {"qvxADD(1,2))", 11, "expected to end"},
       {"qvxADD(", 7, "ends too early"},
-      {"1+2", 1, "functions calculate"},
-      {"A1*B1", 2, "functions calculate"},
-      {"qvxADD(1,2)-3", 11, "expected to end"},
       {"1€", 0, "no number"},
       {"1.2.3", 0, "no number"},
       {"1E", 0, "no number"},
@@ -112,6 +130,7 @@ TEST(ParseFormula, TellsWhatIsWrongAndWhere) {
       {"qvxADD(1,\xFF)", 9, "UTF-8"},
       {too_deep + "A1", maximum_nesting + 1, "deeper than 256 levels"},
       {Repeated("(", 1000000), maximum_nesting + 1, "deeper than 256 levels"},
+      {"1" + Repeated("%", 1000000), maximum_nesting + 1, "deeper than 256 levels"},
       {Repeated("qvxSIGN(", 300), 8 * (maximum_nesting + 1), "deeper than 256 levels"},
   };
   for (const auto& [typed, position, message] : cases) {
@@ -136,6 +155,8 @@ TEST(ParseFormula, ReadsMegabytesInLinearTime) {
   const std::string many = "{1" + Repeated(",1", 1000000) + "}";
   const std::string wide = "qvxSIGN(" + Repeated(" ", 2000000) + "A1)";
   const std::string long_number = "qvxSIGN(1" + Repeated("0123456789", 200000) + ")";
+  const std::string sum = "1" + Repeated("+2*A1", 300000);
+  EXPECT_EQ(Formula_Text(Parse_Formula(sum)), sum);
   const std::string long_text = "\"" + Repeated("\"\"", 1000000) + "\"";
   EXPECT_EQ(Formula_Text(Parse_Formula(many)), many);
   EXPECT_EQ(Formula_Text(Parse_Formula(wide)), "qvxSIGN(A1)");
@@ -203,7 +224,49 @@ TEST(NumberLiterals, HaveAPointInFormulasAndTheLocaleSeparatorAsText) {
   EXPECT_EQ(Constant("12345.678901234567E+2").text(), "1,2345678901234567E+6");
 }
 
+std::string Read_And_Written(const std::string& typed) {
+  try {
+    return Formula_Text(Parse_Formula(typed));
+  } catch (const Syntax_Error& error) {
+    return std::to_string(error.position()) + ": " + error.what();
+  }
+}
+
+TEST(DecimalComma, IsReadInItsLocaleAndBesideSemicolons) {
+  struct {
+    const char* typed;
+    const char* by_point;  // a part of what is written or told
+    const char* by_comma;
+  } const cases[] = {
+      {"qvxADD(1,5;2)", "qvxADD(1.5,2)", "qvxADD(1.5;2)"},
+      {"qvxADD(1;2,25)", "qvxADD(1,2.25)", "qvxADD(1;2.25)"},
+      {"qvxADD(A1;\"a;b\")", "qvxADD(A1,\"a;b\")", "qvxADD(A1;\"a;b\")"},
+      {"qvxADD(1.5;.5)", "qvxADD(1.5,0.5)", "qvxADD(1.5;0.5)"},
+      {"-1,5%", "2: the formula was expected to end here", "-1.5%"},
+      {"qvxADD(A1,B1)", "qvxADD(A1,B1)", "qvxADD(A1;B1)"},
+      {"qvxADD(1, 5)", "qvxADD(1,5)", "qvxADD(1;5)"},
+      {"qvxADD(1,5)", "qvxADD(1,5)", "1,5 is one number here, separate arguments by \";\""},
+      {"qvxSUM2(1,5)", "qvxSUM2(1,5)", "qvxSUM2(1.5)"},
+      {"qvxDIVIDE(1,7,,,,,50)", "qvxDIVIDE(1,7,,,,,50)", "decimal separator of your locale"},
+      {"qvxADD(A1,1,5)", "qvxADD(A1,1,5)", "decimal separator of your locale"},
+      {"qvxSUM2({1,5;2,25})", "qvxSUM2({1,5;2,25})", "qvxSUM2({1,5;2,25})"},
+      {"IF(1,5>1;2;3)", "IF(1.5>1,2,3)", "IF(1.5>1;2;3)"},
+      {"qvxADD(1.2,3;1)", "10: \",\" is the decimal", "10: \",\" is the decimal"},
+      {"12345678901234567,5;", "19: ", "19: "},
+  };
+  for (const auto& [typed, by_point, by_comma] : cases) {
+    for (const auto& [locale, expected] :
+         {std::pair(Point_Locale(), by_point), std::pair(Comma_Locale(), by_comma)}) {
+      const Locale_Guard guard(locale);
+      const std::string written = Read_And_Written(typed);
+      EXPECT_NE(written.find(expected), std::string::npos) << typed << ": " << written;
+    }
+  }
+}
+
 TEST(MarkPlace, PutsACaretUnderTheCharacter) {
+  const std::string sum = "1" + Repeated("+2*A1", 300000);
+  EXPECT_EQ(Formula_Text(Parse_Formula(sum)), sum);
   const std::string long_text = Repeated("ä", 200);
   EXPECT_EQ(Mark_Place("qvxADD(1", 6), "qvxADD(1\n      ^");
   EXPECT_EQ(Mark_Place("\"äöü\")", 8), "\"äöü\")\n     ^");

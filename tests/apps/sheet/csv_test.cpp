@@ -17,9 +17,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string Written(const Worksheet& sheet) {
+std::string Written(const Worksheet& sheet, Csv_Form form) {
   std::ostringstream out;
-  Write_Csv(out, sheet);
+  Write_Csv(out, sheet, form);
   return out.str();
 }
 
@@ -46,17 +46,23 @@ TEST(Csv, ComesOutAsItWentIn) {
       {"\"a,b\",\"say \"\"x\"\"\"\n\"two\nlines\"\n",
        "\"a,b\",\"say \"\"x\"\"\"\n\"two\nlines\",\n"},
       {"\"\",x", ",x\n"},
-      {"12345678901234567890.50,1.50,true", "12345678901234567890.50,1.5,TRUE\n"},
+      {"12345678901234567890.50,1.50,true\n00123,1E5,",
+       "12345678901234567890.50,1.50,true\n00123,1E5,\n"},
       {"# a note, with \"marks\n1", "\"# a note, with \"\"marks\"\n1\n"},
       {"\"# items\",price\n#5,#N/A", "\"# items\",price\n\"#5\",\"#N/A\"\n"},
       {"\" a\",b ", "\" a\",\"b \"\n"},
-      {"'=x,ä€", "=x,ä€\n"},
+      {"'=x,ä€", "'=x,ä€\n"},
+      {"@x,+1,-a,--1,-5,(7),-$5,'-5", "'@x,'+1,'-a,'--1,-5,(7),-$5,'-5\n"},
+      {"a;b\n1,5;2\n", "a;b\n1,5;2\n"},
+      {"a\tb\n1;2\t3,4\n", "a\tb\n1;2\t3,4\n"},
+      {"sep=;\na,b\n", "sep=;\n\"a,b\"\n"},
+      {"\"a;b\"\n", "\"a;b\"\n"},
       {"\r\r\nx", "\n\nx\n"},
   };
   for (const auto& [in, out] : cases) {
     Worksheet sheet("Sheet1");
-    Read_Csv(in, "test.csv", sheet);
-    EXPECT_EQ(Written(sheet), out) << in;
+    const Csv_Form form = Read_Csv(in, "test.csv", sheet);
+    EXPECT_EQ(Written(sheet, form), out) << in;
   }
 }
 
@@ -76,6 +82,7 @@ TEST(Csv, NamesThePlaceOfABrokenQuote) {
   } const cases[] = {
       {"a,b\nä,\"open", "t.csv, line 2, column 3: this quote mark is never closed"},
       {"\"a\"b,c", "t.csv, line 1, column 4: text behind a closing quote mark"},
+      {"a,b\n1,=f(A2,\"5\")\n", "t.csv, line 2, column 3: a formula with separators"},
       {"\"two\nlines\",=f(\"x", "t.csv, line 2, column 11: a quote mark inside a cell"},
       {std::string("a\0b", 3), "t.csv is a binary file"},
       {"a\n\xFF", "t.csv is not UTF-8 text: byte 3"},
@@ -93,11 +100,48 @@ TEST(Csv, NamesThePlaceOfABrokenQuote) {
   }
 }
 
+TEST(Csv, TellsSeparatorsApart) {
+  struct {
+    const char* text;
+    char separator;
+  } const cases[] = {
+      {"a,b\n1;2,3\n", ','},
+      {"a;b;c\n1,5;2,5;3,5\n", ';'},
+      {"name;price\ntea;1,5\n", ';'},
+      {"1,5;2,5\n3,5;4,5\n", ';'},
+      {"a\tb\n1,5\t2;5\n", '\t'},
+      {"Prices of May\n# a, b, c\n\nitem;price\ntea;1,5\n", ';'},
+      {"total,=qvxADD(B2;B3)\nx,{1;2;3}\n", ','},
+      {"\"a;b\",c\n\"d;e\",f\n", ','},
+      {"a,b;c\n", ','},
+      {"1\n2\n", ','},
+      {"", ','},
+      {"SEP=|\r\na|b\n", '|'},
+  };
+  const Locale_Guard locale(Point_Locale());
+  for (const auto& [text, separator] : cases) EXPECT_EQ(Form_Of(text).separator, separator) << text;
+}
+
+TEST(Csv, TellsToQuoteFormulasThatSeparatorsCut) {
+  const Locale_Guard locale(Point_Locale());
+  Worksheet sheet("Sheet1");
+  Read_Csv("a,b\n1,=qvxADD(A2,2)\n1,=A2,=qvxADD(A2\n", "t.csv", sheet);
+  ASSERT_NE(sheet.problem({2, 2}), nullptr);
+  EXPECT_NE(sheet.problem({2, 2})->message.find("put the formula in quote marks"),
+            std::string::npos);
+  EXPECT_EQ(sheet.problem({3, 2}), nullptr);
+  EXPECT_EQ(sheet.problem({3, 3})->message.find("quote marks"), std::string::npos);
+}
+
 class CsvFiles : public testing::Test {
  protected:
   std::string complaint(const fs::path& file, bool saving = false) {
     try {
-      saving ? Save_Csv(file, sheet) : Load_Csv(file, sheet);
+      if (saving) {
+        Save_Csv(file, sheet);
+      } else {
+        Load_Csv(file, sheet);
+      }
     } catch (const File_Error& error) {
       return error.what();
     }
@@ -123,6 +167,13 @@ TEST_F(CsvFiles, AreReplacedAsAWhole) {
   Worksheet again("Again");
   Load_Csv(file, again);
   EXPECT_EQ(again.shown({1, 2}), "5");
+}
+
+TEST_F(CsvFiles, HoldFormulasIfWanted) {
+  sheet.set({1, 1}, "=1+1");
+  sheet.set({1, 2}, "'=x");
+  Save_Csv(folder / "out.csv", sheet, {.separator = ';'}, Csv_Content::formulas);
+  EXPECT_EQ(Contents(folder / "out.csv"), "=1+1;'=x\n");
 }
 
 TEST_F(CsvFiles, ThatCannotBeUsedAreRefusedInOneLine) {

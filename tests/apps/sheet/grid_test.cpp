@@ -43,12 +43,33 @@ TEST(PrintGrid, AlignsColumnsByWhatStandsInThem) {
        "      c\n"},
       {"12345678901234567890,ääääääää\n", 6, "12345…  äääää…\n"},
       {"\"two\nlines\",\x1B[31mred", 0, "two␊lines  ␛[31mred\n"},
+      {"\u202Ea,\u200Bb,\u0085", 0, "<U+202E>a  <U+200B>b  <U+0085>\n"},
   };
   for (const auto& [csv, limit, grid] : cases) {
     Worksheet sheet("Sheet1");
     Read_Csv(csv, "test.csv", sheet);
     std::ostringstream out;
     Print_Grid(out, sheet, {limit});
+    EXPECT_EQ(out.str(), grid);
+  }
+}
+
+TEST(PrintGrid, ShortensTheWidestColumnsToFit) {
+  const Locale_Guard locale(Point_Locale());
+  Worksheet sheet("Sheet1");
+  Read_Csv("# a note that may be long\nab,123456789012,abcdefgh\n", "test.csv", sheet);
+  struct {
+    std::size_t width;
+    const char* grid;
+  } const cases[] = {
+      {26, "# a note that may be long\nab  123456789012  abcdefgh\n"},
+      {20, "# a note that may be long\nab  123456\u2026  abcdef\u2026\n"},
+      {14, "# a note that may be long\nab  123\u2026  abc\u2026\n"},
+      {1, "# a note that may be long\nab  123\u2026  abc\u2026\n"},
+  };
+  for (const auto& [width, grid] : cases) {
+    std::ostringstream out;
+    EXPECT_EQ(Print_Grid(out, sheet, {.total_width = width}), width >= 26);
     EXPECT_EQ(out.str(), grid);
   }
 }

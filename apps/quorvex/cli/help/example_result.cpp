@@ -23,7 +23,8 @@ std::string Example_Result(cls_Quorvex& engine, std::string_view formula) {
   const Example_Settings settings;
   std::string result;
   try {
-    Append_Result_Lines(result, Evaluate_Alone(engine, Parse_Formula(formula)).result);
+    Append_Result_Lines(result,
+                        Evaluate_Alone(engine, Parse_Formula(formula, Functions::all)).result);
   } catch (const Run_Time_Failure& failure) {
     result = "error: " + std::string(failure.what()) + "\n";
   }

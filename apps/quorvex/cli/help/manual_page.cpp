@@ -85,9 +85,9 @@ std::string Example_Lines(std::string_view footer) {
   return lines;
 }
 
-std::string Functions() {
+std::string Function_Section() {
   std::string text;
-  for (const auto& [category, methods] : Functions_By_Category()) {
+  for (const auto& [category, methods] : Functions_By_Category(Functions::of_worksheets)) {
     text.append(".SS ").append(Plain(category)).append("\n");
     for (const Method* method : methods) {
       text.append(".TP\n").append(Bold(method->name)).append("\n");
@@ -113,7 +113,7 @@ std::string Manual_Page(const CLI::App& app) {
          ".SH OPTIONS\n" +
          Options_Of(app) + ".SH COMMANDS\n" + Commands_Of(app) + ".SH FUNCTIONS\n" +
          Bold("quorvex functions") + " " + Italic("NAME") +
-         "\ntells the arguments of a function, its result and an example.\n" + Functions() +
+         "\ntells the arguments of a function, its result and an example.\n" + Function_Section() +
          ".SH EXIT STATUS\n.TP\n0\nSuccess.\n.TP\n1\nA calculation failed.\n.TP\n2\nWrong usage.\n"
          ".SH FILES\n.TP\n.I $XDG_CONFIG_HOME/quorvex/settings\n"
          "The stored default limit of significant digits; below ~/.config where the variable is "

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "formula/find_function.h"
 #include "frame/catalogue.h"
 
 namespace quorvex {
@@ -34,7 +35,8 @@ bool Takes_Value(const CLI::Option& option) {
 
 std::string Function_Names() {
   std::string names;
-  for (const Method& method : Catalogue()) names.append(method.name).append(" ");
+  for (const Method& method : Catalogue())
+    if (Is_Worksheet_Function(method)) names.append(method.name).append(" ");
   return names;
 }
 

@@ -1,0 +1,35 @@
+// What the command line can ask for.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/common_options.h"
+#include "cli/open_sheet.h"
+#include "cli/settings_command.h"
+
+namespace CLI {
+class App;
+}
+
+namespace quorvex {
+
+struct Arguments {
+  Common_Options common;
+  std::vector<std::string> formulas;
+  std::optional<std::string> worksheet;  // whose cells the formulas can use
+  Sheet_Options sheet;
+  Settings_Words settings;
+  std::vector<std::string> function;
+  bool programs = false;
+  bool markdown = false;
+  bool manual_page = false;
+  std::string completion;
+  unsigned jobs = 1;
+};
+
+/// Gives the command line its commands and options, which fill the arguments in.
+void Describe(CLI::App& app, Arguments& arguments);
+
+}  // namespace quorvex
