@@ -5,6 +5,10 @@
 #include <atomic>
 #include <cstdlib>
 
+#if defined(_WIN32)
+#include <malloc.h>
+#endif
+
 namespace quorvex::native {
 namespace {
 
@@ -39,9 +43,26 @@ struct alignas(line) Block {
   std::size_t bytes;
 };
 
+#if defined(_WIN32)
+// There the C library can't give back by `free` what stands on a boundary.
+void* Allocate_On_Lines(std::size_t bytes) noexcept {
+  return ::_aligned_malloc(bytes, line);
+}
+void Free_Block(Block* block) noexcept {
+  ::_aligned_free(block);
+}
+#else
+void* Allocate_On_Lines(std::size_t bytes) noexcept {
+  return std::aligned_alloc(line, bytes);
+}
+void Free_Block(Block* block) noexcept {
+  std::free(block);
+}
+#endif
+
 class Kept {
  public:
-  ~Kept() { std::free(take()); }
+  ~Kept() { Free_Block(take()); }
   Block* take() noexcept { return block_.exchange(nullptr); }
   // What was kept before.
   Block* keep(Block* block) noexcept { return block_.exchange(block); }
@@ -58,9 +79,9 @@ void* Take_Memory(std::size_t bytes) noexcept {
   if (Is_Kept(bytes)) {
     Block* const block = kept.take();
     if (block != nullptr && block->bytes >= bytes) return block + 1;
-    std::free(block);
+    Free_Block(block);
   }
-  auto* const block = static_cast<Block*>(std::aligned_alloc(line, (bytes / line + 2) * line));
+  auto* const block = static_cast<Block*>(Allocate_On_Lines((bytes / line + 2) * line));
   if (block == nullptr) return nullptr;
   block->bytes = bytes;
   return block + 1;
@@ -69,7 +90,7 @@ void* Take_Memory(std::size_t bytes) noexcept {
 void Give_Memory_Back(void* memory) noexcept {
   if (memory == nullptr) return;
   Block* const block = static_cast<Block*>(memory) - 1;
-  std::free(Is_Kept(block->bytes) ? kept.keep(block) : block);
+  Free_Block(Is_Kept(block->bytes) ? kept.keep(block) : block);
 }
 
 }  // namespace quorvex::native
