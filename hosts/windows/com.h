@@ -1,10 +1,9 @@
 // Owners of what COM hands out.
 #pragma once
 
-#include <windows.h>
+#include "host/platform/windows_api.h"
 
-#include <oaidl.h>
-#include <oleauto.h>
+#include <ole2.h>
 
 #include <new>
 #include <string_view>

@@ -199,7 +199,9 @@ VARIANT List_Variant(const List& list) {
 VARIANT Range_Variant(const HostValue& value) {
   const Range& range = value.range();
   if (Is_Single_Cell(value)) return To_Variant(range.cell(1, 1));
-  Array table{.rows = range.rows(), .columns = range.columns()};
+  Array table;
+  table.rows = range.rows();
+  table.columns = range.columns();
   for (std::size_t row = 1; row <= table.rows; ++row) {
     Yield();
     for (std::size_t column = 1; column <= table.columns; ++column)

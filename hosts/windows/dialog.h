@@ -1,7 +1,7 @@
 // A modal dialog, put together control by control.
 #pragma once
 
-#include <windows.h>
+#include "host/platform/windows_api.h"
 
 #include <functional>
 #include <string>

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t digits_of_a_float = 15;
 
-using Wide = unsigned __int128;
+__extension__ using Wide = unsigned __int128;
 
 std::string Digits_Of(Wide number) {
   std::string digits;

@@ -11,7 +11,7 @@
 
 namespace quorvex::windows {
 
-consteval std::uint32_t Hex(std::string_view digits) {
+constexpr std::uint32_t Hex(std::string_view digits) {
   std::uint32_t number = 0;
   for (const char digit : digits) {
     const int value = digit >= 'a' ? digit - 'a' + 10 : digit - '0';
@@ -21,7 +21,7 @@ consteval std::uint32_t Hex(std::string_view digits) {
 }
 
 /// From the form 6845844e-013e-4b5b-9aaa-6dc0a2fb6c59.
-consteval GUID Guid(std::string_view text) {
+constexpr GUID Guid(std::string_view text) {
   GUID guid{Hex(text.substr(0, 8)),
             static_cast<unsigned short>(Hex(text.substr(9, 4))),
             static_cast<unsigned short>(Hex(text.substr(14, 4))),

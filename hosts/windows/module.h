@@ -1,7 +1,7 @@
 // The library in the process that has loaded it.
 #pragma once
 
-#include <windows.h>
+#include "host/platform/windows_api.h"
 
 #include <atomic>
 #include <string>

@@ -1,27 +1,11 @@
-// Records as automation lays them out. The type library describes the same fields.
+// Records as values of automation.
 #pragma once
 
 #include "com.h"
 #include "frame/catalogue.h"
+#include "record_types.h"
 
 namespace quorvex::windows {
-
-struct type_Restrictionator {
-  short FormatNegative;
-  VARIANT_BOOL FormatThousands;
-  VARIANT_BOOL FormatCurrency;
-  VARIANT_BOOL ExponentialNotation;
-  double maxSD;
-  VARIANT_BOOL InsertFunctionDialog;
-  VARIANT_BOOL IncluderExcluderFunctions;
-  VARIANT FormatDecimalPlace;
-  VARIANT_BOOL PreserveTrailingZerosAfterDecimal;
-};
-
-struct type_Division_Recip {
-  BSTR digits;
-  LONG powerOfTen;
-};
 
 /// Fills a record in, which holds nothing yet.
 void Give(const Record& record, type_Restrictionator& to);

@@ -1,7 +1,7 @@
 // What the registry knows of the class.
 #pragma once
 
-#include <windows.h>
+#include "host/platform/windows_api.h"
 
 namespace quorvex::windows {
 
