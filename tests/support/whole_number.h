@@ -92,7 +92,8 @@ inline std::pair<std::string, std::string> Random_Pair(Random_Numbers& random, s
   const std::size_t half = most / 2;
   std::string a = Random_Whole(random, half);
   std::string b = random.one_in(6) ? a : Random_Whole(random, half);
-  const std::string factor = Random_Whole(random, random.one_in(3) ? half : std::min(half, 12UL));
+  const std::string factor =
+      Random_Whole(random, random.one_in(3) ? half : std::min(half, std::size_t{12}));
   if (!random.one_in(4)) a = Product(a, factor);
   if (!random.one_in(4)) b = Product(b, factor);
   if (random.one_in(4)) a += std::string(random.below(most - a.size() + 1), '0');

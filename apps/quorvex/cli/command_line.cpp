@@ -5,8 +5,6 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <clocale>
-#include <csignal>
 #include <cstdlib>
 #include <sstream>
 #include <string>
@@ -29,6 +27,8 @@
 #include "cli/terminal_face.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "io/attended.h"
+#include "io/process.h"
 #include "quorvex_version.h"
 #include "sheet/csv.h"
 
@@ -228,7 +228,7 @@ Outcome Calculate_Arguments(Session& session, const std::vector<std::string>& fo
 
 // Formulas can open forms, which must not get into results that go to a file or another program.
 void Choose_Face(Session& session) {
-  if (::isatty(STDOUT_FILENO) != 0) {
+  if (Is_Terminal(STDOUT_FILENO)) {
     Show_Forms(session);
   } else {
     Show_No_Forms();
@@ -238,7 +238,7 @@ void Choose_Face(Session& session) {
 Outcome Run_Formulas(Session& session, const Arguments& arguments) {
   Choose_Face(session);
   if (!arguments.formulas.empty()) return Calculate_Arguments(session, arguments.formulas);
-  const bool is_dialogue = ::isatty(STDIN_FILENO) != 0 && ::isatty(STDOUT_FILENO) != 0;
+  const bool is_dialogue = Is_Terminal(STDIN_FILENO) && Is_Terminal(STDOUT_FILENO);
   return is_dialogue ? Run_Prompt(session) : Calculate_Input(session);
 }
 
@@ -332,11 +332,7 @@ Outcome Parse_And_Run(int argc, char** argv) {
 }  // namespace
 
 int Run_Command_Line(int argc, char** argv) {
-  // A reader that goes away ends the run with no noise; see `Output_Closed`.
-  std::signal(SIGPIPE, SIG_IGN);
-  // Typed characters are UTF-8 even where no locale is set.
-  if (std::setlocale(LC_CTYPE, "") == nullptr || MB_CUR_MAX == 1)
-    std::setlocale(LC_CTYPE, "C.UTF-8");
+  Prepare_Process();
   try {
     return static_cast<int>(Parse_And_Run(argc, argv));
   } catch (const Output_Closed&) {

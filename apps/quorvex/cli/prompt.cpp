@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <csignal>
 #include <cstdlib>
 #include <memory>
 #include <utility>
@@ -17,6 +16,7 @@
 #include "frame/catalogue.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "io/interrupts.h"
 #include "quorvex_version.h"
 #include "sheet/csv.h"
 #include "shell/show_forms.h"
@@ -36,23 +36,6 @@ constexpr std::string_view prompt_help =
 
 constexpr std::array<std::string_view, 7> commands = {"about", "exit",     "functions", "help",
                                                       "quit",  "settings", "sheet"};
-
-// A second Ctrl-C while a calculation has not yet heeded the first one ends the tool, as it ends
-// any other.
-extern "C" void Interrupt(int signal) {
-  if (Call_Guard::is_interrupted()) {
-    std::signal(signal, SIG_DFL);
-    std::raise(signal);
-  }
-  Call_Guard::interrupt();
-}
-
-void Catch_Interrupts() {
-  struct sigaction action {};
-  action.sa_handler = &Interrupt;
-  ::sigemptyset(&action.sa_mask);
-  ::sigaction(SIGINT, &action, nullptr);
-}
 
 std::filesystem::path History_File() {
   const char* state = std::getenv("XDG_STATE_HOME");

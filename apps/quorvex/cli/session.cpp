@@ -11,6 +11,7 @@
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "io/attended.h"
 #include "shell/frmMaxSD.h"
 #include "text/options.h"
 
@@ -21,7 +22,7 @@ namespace {
 bool Wants_Colour(int descriptor) {
   const char* no_color = std::getenv("NO_COLOR");
   const char* terminal = std::getenv("TERM");
-  return ::isatty(descriptor) != 0 && (no_color == nullptr || *no_color == '\0') &&
+  return Is_Terminal(descriptor) && (no_color == nullptr || *no_color == '\0') &&
          terminal != nullptr && std::string_view(terminal) != "dumb";
 }
 

@@ -13,6 +13,7 @@
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "io/attended.h"
+#include "io/descriptor.h"
 #include "io/wrapped.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMaxSD.h"
@@ -27,7 +28,7 @@ std::optional<std::string> Typed_Line() {
   std::string line;
   for (;;) {
     char character = 0;
-    const ssize_t got = ::read(STDIN_FILENO, &character, 1);
+    const ssize_t got = Read_Some(STDIN_FILENO, &character, 1);
     if (got < 0 && errno == EINTR && !Call_Guard::is_interrupted()) continue;
     if (got <= 0) return std::nullopt;
     if (character == '\n') return line;

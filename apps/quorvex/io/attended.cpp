@@ -4,8 +4,12 @@
 
 namespace quorvex {
 
+bool Is_Terminal(int descriptor) {
+  return ::isatty(descriptor) != 0;
+}
+
 bool Is_Attended() {
-  if (::isatty(STDIN_FILENO) == 0 || ::isatty(STDOUT_FILENO) == 0) return false;
+  if (!Is_Terminal(STDIN_FILENO) || !Is_Terminal(STDOUT_FILENO)) return false;
   const pid_t reader = ::tcgetpgrp(STDIN_FILENO);
   return reader < 0 || reader == ::getpgrp();
 }

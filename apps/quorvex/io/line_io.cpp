@@ -1,9 +1,6 @@
 // Lines in and out over file descriptors, fast in bulk and prompt in a dialogue.
 #include "io/line_io.h"
 
-#include <poll.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <new>
@@ -12,6 +9,7 @@
 
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "io/descriptor.h"
 
 namespace quorvex {
 namespace {
@@ -20,12 +18,6 @@ constexpr std::size_t read_size = std::size_t{1} << 16;
 constexpr std::size_t write_size = std::size_t{1} << 16;
 // Beyond this the buffer asks whether there is memory before it grows.
 constexpr std::size_t modest_size = std::size_t{1} << 24;
-
-// For descriptors that somebody else has set not to block.
-void Wait_For(int descriptor, short events) {
-  pollfd waiting{descriptor, events, 0};
-  ::poll(&waiting, 1, -1);
-}
 
 }  // namespace
 
@@ -43,13 +35,13 @@ void Line_Writer::flush() {
   const std::string pending = std::exchange(buffer_, std::string());
   std::string_view left = pending;
   while (!left.empty()) {
-    const ssize_t written = ::write(descriptor_, left.data(), left.size());
+    const ssize_t written = Write_Some(descriptor_, left.data(), left.size());
     if (written >= 0) {
       left.remove_prefix(static_cast<std::size_t>(written));
     } else if (errno == EPIPE) {
       throw Output_Closed();
     } else if (errno == EAGAIN) {
-      Wait_For(descriptor_, POLLOUT);
+      Wait_To_Write(descriptor_);
     } else if (errno != EINTR) {
       throw std::system_error(errno, std::generic_category(), "cannot write the output");
     }
@@ -93,12 +85,12 @@ bool Line_Reader::fill() {
 void Line_Reader::read_piece() {
   const std::size_t held = buffer_.size();
   buffer_.resize(held + read_size);
-  const ssize_t got = ::read(descriptor_, buffer_.data() + held, read_size);
+  const ssize_t got = Read_Some(descriptor_, buffer_.data() + held, read_size);
   const int error = errno;
   buffer_.resize(held + static_cast<std::size_t>(std::max<ssize_t>(got, 0)));
   at_end_ = got == 0;
   if (got < 0 && error == EAGAIN) {
-    Wait_For(descriptor_, POLLIN);
+    Wait_To_Read(descriptor_);
   } else if (got < 0 && error != EINTR) {
     throw std::system_error(error, std::generic_category(), "cannot read the input");
   }

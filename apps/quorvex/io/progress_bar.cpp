@@ -6,6 +6,8 @@
 #include <iostream>
 #include <utility>
 
+#include "io/attended.h"
+
 namespace quorvex {
 namespace {
 
@@ -17,7 +19,7 @@ constexpr std::size_t bar_width = 40;
 
 Progress_Bar::Progress_Bar(std::string label)
     : label_(std::move(label)),
-      is_wanted_(::isatty(STDERR_FILENO) != 0),
+      is_wanted_(Is_Terminal(STDERR_FILENO)),
       next_(Clock::now() + patience) {}
 
 Progress_Bar::~Progress_Bar() {

@@ -111,7 +111,7 @@ TEST(Powers, ThatFitTheLimitAreExact) {
   for (int round = 0; round < 300; ++round) {
     const std::string digits =
         std::to_string(2 + random.below(9)) + random.digits(random.below(40));
-    const unsigned long exponent = random.below(300);
+    const std::size_t exponent = random.below(300);
     mpz_set_str(base, digits.c_str(), 10);
     mpz_pow_ui(power, base, exponent);
     std::string expected(mpz_sizeinbase(power, 10) + 2, '\0');

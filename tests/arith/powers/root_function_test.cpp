@@ -49,7 +49,7 @@ class Whole {
 };
 
 // Whether the root lies within one unit of the place `count` of a positive result.
-bool Is_Root_To(const std::string& result, const std::string& radicand, unsigned long degree,
+bool Is_Root_To(const std::string& result, const std::string& radicand, std::size_t degree,
                 std::size_t count) {
   const Whole root(result);
   const Whole given(radicand);
@@ -87,7 +87,7 @@ TEST(Roots, AreRightToThePlaceBeforeTheLimit) {
   Random_Numbers random(71);
   for (int round = 0; round < 1500; ++round) {
     const std::string radicand = Random_Radicand(random);
-    const unsigned long degree = random.one_in(2) ? 2 : 3 + random.below(12);
+    const std::size_t degree = random.one_in(2) ? 2 : 3 + random.below(12);
     const std::size_t limit = 4 + random.below(random.one_in(8) ? 300 : 40);
     const NumberText root = Root(radicand, std::to_string(degree), static_cast<double>(limit));
     ASSERT_TRUE(Is_Root_To(root, radicand, degree, limit - 1))
@@ -110,7 +110,7 @@ TEST(Roots, OfPowersWithShortRootsAreExact) {
   mpz_init(power);
   for (int round = 0; round < 600; ++round) {
     const std::string root = std::to_string(2 + random.below(8)) + random.digits(random.below(11));
-    const unsigned long degree = 2UL << random.below(3);
+    const std::size_t degree = std::size_t{2} << random.below(3);
     mpz_set_str(power, root.c_str(), 10);
     mpz_pow_ui(power, power, degree);
     std::string text(mpz_sizeinbase(power, 10) + 2, '\0');

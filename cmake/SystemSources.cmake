@@ -1,0 +1,18 @@
+# choose_system_sources(LIST): of the sources in the list, takes out those that are for other
+# systems. A windows_x.cpp stands in for the x.cpp beside it.
+function(choose_system_sources list)
+  set(sources ${${list}})
+  foreach(source ${sources})
+    get_filename_component(name ${source} NAME)
+    if(NOT name MATCHES "^windows_(.*)")
+      continue()
+    endif()
+    if(WIN32)
+      get_filename_component(folder ${source} DIRECTORY)
+      list(REMOVE_ITEM sources ${folder}/${CMAKE_MATCH_1})
+    else()
+      list(REMOVE_ITEM sources ${source})
+    endif()
+  endforeach()
+  set(${list} ${sources} PARENT_SCOPE)
+endfunction()
