@@ -9,6 +9,9 @@
 #include <string_view>
 #include <utility>
 
+// Interfaces of COM have no destructors to call.
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+
 namespace quorvex::windows {
 
 /// A reference to an object, counted.
@@ -63,6 +66,7 @@ class Variant {
   VARIANT& operator*() { return value_; }
   const VARIANT& operator*() const { return value_; }
   VARIANT* operator->() { return &value_; }
+  const VARIANT* operator->() const { return &value_; }
   /// Hands the content over.
   VARIANT release() {
     const VARIANT value = value_;

@@ -54,7 +54,7 @@ template <typename Number>
 void Dialog::append_number(Number number) {
   WORD words[sizeof(Number) / sizeof(WORD)];
   std::memcpy(words, &number, sizeof number);
-  layout_.insert(layout_.end(), std::begin(words), std::end(words));
+  for (const WORD word : words) layout_.push_back(word);
 }
 
 void Dialog::append(std::wstring_view text) {

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -13,6 +12,7 @@
 
 #include "interface_calls.h"
 #include "json_values.h"
+#include "report.h"
 #include "window_driver.h"
 
 namespace quorvex::windows {
@@ -96,10 +96,10 @@ class Golden : public testing::Test {
         ++left_out[why.reason];
       }
     }
-    std::printf("  %s, %s: %d of %zu golden cases replayed\n",
-                Environment("QUORVEX_LOCALE").c_str(), way, held, cases_.size());
+    Report(Environment("QUORVEX_LOCALE") + ", " + way + ": " + std::to_string(held) + " of " +
+           std::to_string(cases_.size()) + " golden lines replayed");
     for (const auto& [reason, count] : left_out)
-      std::printf("    left out %d: %s\n", count, reason.c_str());
+      Report("  left out " + std::to_string(count) + ": " + reason);
     EXPECT_GT(held, static_cast<int>(cases_.size()) * 9 / 10);
   }
 

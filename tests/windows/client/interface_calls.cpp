@@ -183,7 +183,7 @@ Outcome Call_Slot(IDispatch& object, const Described_Method& method,
   for (std::size_t i = 0; i < values.size(); ++i) {
     const bool is_value = i < method.parameters.size() && !method.parameters[i].by_reference &&
                           method.parameters[i].type == VT_VARIANT;
-    types.push_back(is_value ? VT_VARIANT : values[i].vt);
+    types.push_back(is_value ? VARTYPE{VT_VARIANT} : values[i].vt);
     places.push_back(&values[i]);
   }
   Variant status;

@@ -71,7 +71,7 @@ TEST_F(Kinds, DecimalsKeepAllOfTheir96Bits) {
   for (const auto& one : cases) {
     VARIANT value;
     ::VariantInit(&value);
-    ASSERT_EQ(::VarDecFromStr(one.text, 0x409, 0, &value.decVal), S_OK);
+    ASSERT_EQ(::VarDecFromStr(const_cast<wchar_t*>(one.text), 0x409, 0, &value.decVal), S_OK);
     value.vt = VT_DECIMAL;
     EXPECT_EQ(read(value), one.expected);
     DECIMAL place = value.decVal;

@@ -1,0 +1,72 @@
+// Many calls leave nothing behind.
+#include <gtest/gtest.h>
+
+#include "interface_calls.h"
+#include "mock_host.h"
+#include "report.h"
+
+// Needs the types of the others.
+#include <psapi.h>
+
+namespace quorvex::windows {
+namespace {
+
+struct Holdings {
+  DWORD handles = 0;
+  SIZE_T bytes = 0;
+};
+
+Holdings Held_Now() {
+  Holdings held;
+  PROCESS_MEMORY_COUNTERS_EX counters{};
+  ::GetProcessHandleCount(::GetCurrentProcess(), &held.handles);
+  ::GetProcessMemoryInfo(::GetCurrentProcess(),
+                         reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters), sizeof counters);
+  held.bytes = counters.PrivateUsage;
+  return held;
+}
+
+// A method of each shape, and ways in which a call fails.
+void Call_Each_Once(IDispatch& object, IDispatch& other, const VARIANT& range) {
+  static const VARIANT text = Text("-1234567.8901234567890123");
+  static const VARIANT word = Text("abc");
+  static const VARIANT table = Table(2, 2, {Number(1), text, Number(3), word});
+  static const VARIANT digits = Number(5);
+  for (IDispatch* one : {&object, &other}) {
+    Call_Late(*one, "qvxADD", {text, Number(1), Omitted(), Truth(true)});
+    Call_Late(*one, "qvxSUM2", {text, table, range, Number(7)});
+    Call_Late(*one, "qvxSORT", {table});
+    Call_Late(*one, "qvxISGREATER", {text, Number(2)});
+    Call_Late(*one, "Restrictionator", {Number(2)}, {{"format_decimal_place", text}});
+    Call_Late(*one, "myInverse5", {Text("7"), digits});
+    Call_Late(*one, "qvxABS", {range});
+    Call_Late(*one, "Min", {word, Number(1)});
+    Call_Late(*one, "qvxABS", {});
+    Call_Late(*one, "qvxNOTHING", {});
+  }
+}
+
+TEST(Endurance, AHundredThousandCallsLeaveNothing) {
+  const auto object = Make_Object();
+  ASSERT_TRUE(object);
+  const auto methods = Described_Interface(*object.get());
+  const Mock_Pointer range = Make_Mock({{"", [](auto&) { return Number(2.5); }}});
+  const auto rounds = [&](int count) {
+    for (int i = 0; i < count; ++i) {
+      const auto other = i % 10 == 0 ? Make_Object() : object;
+      Call_Each_Once(*object.get(), *other.get(), Object(range));
+    }
+  };
+  rounds(500);
+  const Holdings before = Held_Now();
+  rounds(5000);
+  const Holdings after = Held_Now();
+  Report("100000 calls: " + std::to_string(before.handles) + " handles before and " +
+         std::to_string(after.handles) + " after, " + std::to_string(before.bytes / 1024) +
+         " KB of memory and " + std::to_string(after.bytes / 1024));
+  EXPECT_LE(after.handles, before.handles + 2);
+  EXPECT_LE(after.bytes, before.bytes + (std::size_t{1} << 20));
+}
+
+}  // namespace
+}  // namespace quorvex::windows
