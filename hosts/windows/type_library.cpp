@@ -29,11 +29,11 @@ HRESULT Register_Type_Library() {
 }
 
 HRESULT Unregister_Type_Library() {
-  const HRESULT status =
-      ::UnRegisterTypeLib(library_guid, major_version, minor_version, LOCALE_NEUTRAL, SYS_WIN64);
-  const bool was_absent = status == TYPE_E_REGISTRYACCESS || status == TYPE_E_LIBNOTREGISTERED ||
-                          status == TYPE_E_CANTLOADLIBRARY;
-  return was_absent ? S_OK : status;
+  Bstr path;
+  if (FAILED(::QueryPathOfRegTypeLib(library_guid, major_version, minor_version, LOCALE_NEUTRAL,
+                                     path.put())))
+    return S_OK;
+  return ::UnRegisterTypeLib(library_guid, major_version, minor_version, LOCALE_NEUTRAL, SYS_WIN64);
 }
 
 }  // namespace quorvex::windows

@@ -13,7 +13,7 @@ WScript.Echo q.qvxABS(Empty) & " " & q.qvxABS(CCur(-2.5)) & " " & q.qvxABS(CByte
 list = Array(1, "2.5", 3)
 WScript.Echo q.qvxSUM2(list)
 WScript.Echo q.qvxSUM2(Array("1.5", 2, , Empty))
-WScript.Echo q.qvxSUM2(1, "2.5", list(2), , Array(4)(0))
+WScript.Echo q.qvxSUM2(1, "2.5", list(2), , 4)
 numbers(0) = 4: numbers(1) = "4.0": numbers(2) = 5
 WScript.Echo q.qvxMODE(numbers)
 table(0, 0) = 4: table(0, 1) = 3: table(1, 0) = 2: table(1, 1) = 1
