@@ -7,6 +7,7 @@
 #include "formula/formula.h"
 #include "formula/reference.h"
 #include "host/run_time_failure.h"
+#include "io/paths.h"
 #include "io/progress_bar.h"
 #include "sheet/csv.h"
 #include "sheet/grid.h"
@@ -61,7 +62,7 @@ Outcome Report_Problems(Session& session, const std::string& file, const Workshe
 // The grid goes out before what is said about its cells.
 void Show_Sheet(Session& session, const Worksheet& sheet, const Sheet_Options& options) {
   if (!options.output.empty() && options.output != "-") {
-    Save_Csv(options.output, sheet);
+    Save_Csv(Path_Of(options.output), sheet);
     return;
   }
   std::ostringstream text;
@@ -82,7 +83,7 @@ Open_Sheet::Open_Sheet(Session& session, Sheet_Options options)
 Outcome Open_Sheet::load() {
   auto book = std::make_shared<Workbook>();
   Worksheet& sheet = book->add("Sheet1");
-  Load_Csv(options_.file, sheet);
+  Load_Csv(Path_Of(options_.file), sheet);
   for (const std::string& definition : options_.names) Define_Name(sheet, definition);
   sheet_ = &sheet;
   application_ = std::make_shared<Sheet_Application>();

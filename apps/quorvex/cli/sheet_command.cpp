@@ -11,6 +11,7 @@
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "io/paths.h"
 #include "sheet/csv.h"
 #include "shell/recalculate_formulas.h"
 #include "shell/start_up.h"
@@ -32,8 +33,9 @@ struct File_Stamp {
 // Nothing for a file that isn't there: editors take it away for a moment while they save.
 std::optional<File_Stamp> Stamp_Of(const std::string& file) {
   std::error_code gone;
-  const File_Stamp stamp{std::filesystem::last_write_time(file, gone),
-                         std::filesystem::file_size(file, gone)};
+  const std::filesystem::path path = Path_Of(file);
+  const File_Stamp stamp{std::filesystem::last_write_time(path, gone),
+                         std::filesystem::file_size(path, gone)};
   return gone ? std::nullopt : std::optional(stamp);
 }
 

@@ -17,7 +17,7 @@ HANDLE Handle_Of(int descriptor) {
   return reinterpret_cast<HANDLE>(::_get_osfhandle(descriptor));
 }
 
-/// Ctrl-C ends the reading before the handler, in a thread of its own, has noted it.
+/// Ctrl-C ends the reading before its handler, in a thread of its own, has noted it.
 void Wait_For_Interruption() {
   for (int i = 0; i < 100 && !Call_Guard::is_interrupted(); ++i) ::Sleep(5);
 }
@@ -25,24 +25,21 @@ void Wait_For_Interruption() {
 // What a line typed at the console has left to be read. There is one console.
 std::string typed;
 
-/// False with the reason in `errno`. At the end, which is Ctrl-Z at the beginning of a line,
-/// nothing is typed.
+/// False with the reason in `errno`. At the end nothing is typed: that is Ctrl-Z at the beginning
+/// of a line, and Ctrl-D for those who are used to that.
 bool Read_Console_Line(int descriptor) {
   wchar_t units[4096];
   DWORD count = 0;
-  ::SetLastError(ERROR_SUCCESS);
   const bool is_read = ::ReadConsoleW(Handle_Of(descriptor), units, 4096, &count, nullptr) != 0;
-  if (::GetLastError() == ERROR_OPERATION_ABORTED) {
-    Wait_For_Interruption();
-    errno = EINTR;
+  // Every line has an end, so without one it was Ctrl-C that ended the reading.
+  if (count == 0) Wait_For_Interruption();
+  if (Call_Guard::is_interrupted() || !is_read) {
+    errno = is_read ? EINTR : EIO;
     return false;
   }
-  if (!is_read) {
-    errno = EIO;
-    return false;
-  }
+  constexpr wchar_t control_d = 0x04;
   constexpr wchar_t control_z = 0x1A;
-  if (count > 0 && units[0] == control_z) count = 0;
+  if (units[0] == control_d || units[0] == control_z) count = 0;
   typed = Narrow_Text({units, count});
   return true;
 }

@@ -1,6 +1,7 @@
 // The parts of the platform on Windows, one file each.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -19,8 +20,12 @@ std::shared_ptr<Settings_Store> Registry_Settings();
 /// Timers whose calls the thread that armed them runs when it takes its messages.
 std::shared_ptr<Timer_Service> Thread_Timers();
 
-/// Whether a timer is armed or its call runs: the library has to stay loaded as long.
-bool Has_Pending_Timers();
+/// How many timers are armed or run their calls: as long as any does, the library has to stay
+/// loaded.
+std::size_t Count_Pending_Timers();
+inline bool Has_Pending_Timers() {
+  return Count_Pending_Timers() > 0;
+}
 
 std::shared_ptr<Message_Box> Window_Message_Box();
 

@@ -125,10 +125,10 @@ std::shared_ptr<Timer_Service> Thread_Timers() {
   return std::make_shared<Timers_Of_Threads>();
 }
 
-bool Has_Pending_Timers() {
+std::size_t Count_Pending_Timers() {
   Register& all = All_Timers();
   const std::lock_guard lock(all.mutex);
-  return !all.armed.empty() || all.running > 0;
+  return all.armed.size() + all.running;
 }
 
 }  // namespace quorvex

@@ -66,7 +66,7 @@ unsigned long Distance(const std::string& result, const Decimal& radicand, std::
     mpz_ui_pow_ui(unit, 10, scale - decimals);
     mpz_mul(given, given, unit);
     mpz_set_str(root, radicand.digits.c_str(), 10);
-    mpz_ui_pow_ui(unit, 10, 2 * scale + static_cast<unsigned long>(radicand.exponent));
+    mpz_ui_pow_ui(unit, 10, 2 * scale + static_cast<std::size_t>(radicand.exponent));
     mpz_mul(root, root, unit);
     mpz_sqrt(root, root);
     const std::size_t digits_of_root = To_Text(root).size();
