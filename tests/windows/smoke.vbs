@@ -17,8 +17,9 @@ WScript.Echo q.qvxSUM2(1, "2.5", list(2), , 4)
 numbers(0) = 4: numbers(1) = "4.0": numbers(2) = 5
 WScript.Echo q.qvxMODE(numbers)
 table(0, 0) = 4: table(0, 1) = 3: table(1, 0) = 2: table(1, 1) = 1
-WScript.Echo q.qvxSUM(table)
-sorted = q.qvxSORT(table, , True)
+' Such arrays count from 0, and what looks at cells begins with row and column 1.
+WScript.Echo q.qvxSUM2(table) & " " & q.qvxCOUNT(table) & " " & q.qvxSUM(table)
+sorted = q.qvxMODE(Array("format:table", 7, 7, 5))
 WScript.Echo sorted(1, 1) & " " & sorted(1, 2) & " " & sorted(2, 1) & " " & sorted(2, 2)
 number = "0012"
 other = "003"

@@ -41,9 +41,18 @@ Holdings Held_Now() {
   return held;
 }
 
+// As VariantClear does on Windows: wine's clears a record, but keeps its memory.
+void Destroy(Outcome outcome) {
+  ASSERT_EQ(outcome.result->vt, VT_RECORD);
+  const VARIANT record = outcome.result.release();
+  record.pRecInfo->RecordDestroy(record.pvRecord);
+  record.pRecInfo->Release();
+}
+
 // A method of each shape, and ways in which a call fails.
 void Call_Each_Once(IDispatch& object, IDispatch& other, const VARIANT& range) {
   static const VARIANT text = Text("-1234567.8901234567890123");
+  static const VARIANT seven = Text("7");
   static const VARIANT word = Text("abc");
   static const VARIANT table = Table(2, 2, {Number(1), text, Number(3), word});
   static const VARIANT digits = Number(5);
@@ -52,8 +61,9 @@ void Call_Each_Once(IDispatch& object, IDispatch& other, const VARIANT& range) {
     Call_Late(*one, "qvxSUM2", {text, table, range, Number(7)});
     Call_Late(*one, "qvxSORT", {table});
     Call_Late(*one, "qvxISGREATER", {text, Number(2)});
-    Call_Late(*one, "Restrictionator", {Number(2)}, {{"format_decimal_place", text}});
-    Call_Late(*one, "myInverse5", {Text("7"), digits});
+    // A number: wine forgets to free a text in such a field of a record.
+    Destroy(Call_Late(*one, "Restrictionator", {Number(2)}, {{"format_decimal_place", digits}}));
+    Destroy(Call_Late(*one, "myInverse5", {seven, digits}));
     Call_Late(*one, "qvxABS", {range});
     Call_Late(*one, "Min", {word, Number(1)});
     Call_Late(*one, "qvxABS", {});
