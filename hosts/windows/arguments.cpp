@@ -10,12 +10,12 @@
 namespace quorvex::windows {
 namespace {
 
+// An array of one dimension, whatever its elements are.
 bool Is_Vector(const VARIANT& value) {
   const VARIANT& peeled = Peeled(value);
-  if (peeled.vt == (VT_ARRAY | VT_VARIANT))
-    return peeled.parray == nullptr || peeled.parray->cDims == 1;
-  return peeled.vt == (VT_BYREF | VT_ARRAY | VT_VARIANT) && peeled.pparray != nullptr &&
-         (*peeled.pparray == nullptr || (*peeled.pparray)->cDims == 1);
+  if ((peeled.vt & VT_ARRAY) == 0) return false;
+  const SAFEARRAY* const array = (peeled.vt & VT_BYREF) != 0 ? *peeled.pparray : peeled.parray;
+  return array == nullptr || array->cDims == 1;
 }
 
 // Where a method takes nothing but a list, its elements may stand in the call one by one.

@@ -120,15 +120,16 @@ VARIANT Typed_Vector(VARTYPE type, std::initializer_list<Element> elements) {
 }
 
 TEST_F(Kinds, ArraysOfOtherTypesAreReadElementByElement) {
-  const auto sum = [&](VARIANT list) {
-    const std::string total = Text_Of_Call(*object_.get(), "qvxMODE", {list});
+  const auto read = [&](VARIANT list) {
+    const std::string most = Text_Of_Call(*object_.get(), "qvxMODE", {list});
+    const std::string total = Text_Of_Call(*object_.get(), "qvxSUM2", {list});
     ::VariantClear(&list);
-    return total;
+    return most + " " + total;
   };
-  EXPECT_EQ(sum(Typed_Vector<double>(VT_R8, {1.5, 2, 1.5})), "1.5");
-  EXPECT_EQ(sum(Typed_Vector<LONG>(VT_I4, {5, -7, -7})), "-7");
-  EXPECT_EQ(sum(Typed_Vector<BYTE>(VT_UI1, {9, 9, 8})), "9");
-  EXPECT_EQ(sum(Typed_Vector<CY>(VT_CY, {CY{.int64 = 12500}, CY{.int64 = 12500}})), "1.25");
+  EXPECT_EQ(read(Typed_Vector<double>(VT_R8, {1.5, 2, 1.5})), "1.5 5");
+  EXPECT_EQ(read(Typed_Vector<LONG>(VT_I4, {5, -7, -7})), "-7 -9");
+  EXPECT_EQ(read(Typed_Vector<BYTE>(VT_UI1, {9, 9, 8})), "9 26");
+  EXPECT_EQ(read(Typed_Vector<CY>(VT_CY, {CY{.int64 = 12500}, CY{.int64 = 12500}})), "1.25 2.5");
 }
 
 TEST_F(Kinds, ArraysOfOtherRanksAreTold) {
