@@ -1,3 +1,15 @@
+# For Windows it is one zip file, for whoever has no more than a spreadsheet there.
+if(WIN32)
+  set(CPACK_GENERATOR ZIP)
+  set(CPACK_PACKAGE_FILE_NAME quorvex-${PROJECT_VERSION}-windows-x64)
+  set(CPACK_COMPONENTS_ALL windows)
+  set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+  set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
+  set(CPACK_STRIP_FILES ON)
+  include(CPack)
+  return()
+endif()
+
 # `cpack` in the build folder, or the target `package`, makes Debian packages: the library, what is
 # needed to build against it, the tool, and the extension for Calc where that is built.
 set(CPACK_GENERATOR DEB)

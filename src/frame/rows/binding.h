@@ -64,6 +64,18 @@ constexpr Result_Kind Result_Of() {
   }
 }
 
+template <typename Type>
+constexpr std::string_view Record_Of() {
+  if constexpr (std::is_same_v<Type, type_Restrictionator>) {
+    return "type_Restrictionator";
+  } else if constexpr (std::is_same_v<Type, type_Division_Recip>) {
+    return "type_Division_Recip";
+  } else {
+    static_assert(Result_Of<Type>() != Result_Kind::record, "no record of this type has a name");
+    return {};
+  }
+}
+
 /// A value's own text, or the text made of it, for the length of a call.
 class Text_Argument {
  public:
@@ -168,6 +180,7 @@ struct Bound<method> {
   static constexpr std::array<Parameter_Kind, sizeof...(Types)> kinds{Kind_Of<Types>()...};
   static constexpr std::array<bool, sizeof...(Types)> changes{is_changed<Types>...};
   static constexpr Result_Kind result = Result_Of<Result>();
+  static constexpr std::string_view record = Record_Of<Result>();
 
   static Call_Result Invoke(cls_Quorvex& engine, std::span<HostValue> arguments) {
     return Invoke(engine, arguments, std::index_sequence_for<Types...>{});

@@ -60,6 +60,7 @@ struct Method {
 
   // Filled in from the method's signature.
   Result_Kind result = Result_Kind::nothing;
+  std::string_view record = {};  // the name of its type, for a method that gives one
   // True for a method that begins with a list: all arguments of a formula are elements of that
   // list, and what else the method takes, such as the size of the caller's block, is for the host
   // to say.

@@ -98,6 +98,7 @@ Method Row(Method row) {
   }
   if (row.worksheet_name.empty()) row.worksheet_name = row.name;
   row.result = Bound::result;
+  row.record = Bound::record;
   row.takes_all_as_list = !row.parameters.empty() && row.parameters[0].kind == Parameter_Kind::list;
   row.invoke = &Bound::Invoke;
   return row;
