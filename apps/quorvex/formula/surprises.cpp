@@ -78,14 +78,16 @@ void Add_Surprises(cls_Quorvex& engine, const Method& method, std::span<const Ho
     const Parameter& parameter = method.parameters[at];
     const HostValue& argument = arguments[at];
     const std::string_view option = Surprise_Of_Option(parameter, argument);
-    if (!option.empty())
+    if (!option.empty()) {
       notes.push_back(std::string(parameter.name) + " of " + name + ": " + std::string(option) +
                       ".");
+    }
     if (!argument.is_text()) continue;
     const std::string_view misread = Misreading(argument.text());
-    if (!misread.empty() && engine.qvxISNUMBER(argument))
+    if (!misread.empty() && engine.qvxISNUMBER(argument)) {
       notes.push_back(std::string(parameter.name) + " of " + name + ": " +
                       Shortly(argument.text()) + ": " + std::string(misread) + ".");
+    }
   }
 }
 
