@@ -24,7 +24,7 @@ bool Is_Mark(char c) {
 }
 
 bool Is_Control(char c) {
-  return (c >= '\0' && c < ' ') || c == '\x7F';
+  return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
 }
 
 std::string Problem_Of(std::string_view field, std::string_view what) {

@@ -16,7 +16,7 @@ constexpr std::string_view blanks = " \t\r";
 constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 
 bool Is_Plain(char c, std::string_view special) {
-  return !(c >= '\0' && c < ' ') && c != '\x7F' && c != '%' &&
+  return static_cast<unsigned char>(c) >= ' ' && c != '\x7F' && c != '%' &&
          special.find(c) == std::string_view::npos;
 }
 

@@ -5,7 +5,7 @@ import pathlib
 import subprocess
 import sys
 
-VECTORS = pathlib.Path(__file__).resolve().parent.parent / "vectors"
+VECTORS = pathlib.Path(__file__).resolve().parent / "vectors"
 
 
 def plain(value):
@@ -47,11 +47,12 @@ def wrong_answers(tool, file):
 
 def main():
     files = sorted(VECTORS.rglob("*.jsonl"))
+    lines = sum(len(file.read_bytes().splitlines()) for file in files)
     wrong = [f"{file.relative_to(VECTORS)}: {what}" for file in files
              for what in wrong_answers(sys.argv[1:], file)]
     print(*wrong, sep="\n")
-    print(f"{len(wrong)} wrong answers in {len(files)} files")
-    return 1 if wrong or not files else 0
+    print(f"{len(wrong)} wrong answers to {lines} lines in {len(files)} files")
+    return 1 if wrong or not lines else 0
 
 
 if __name__ == "__main__":
