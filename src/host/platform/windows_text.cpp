@@ -1,17 +1,19 @@
 // Text as Windows takes and gives it.
-#include <new>
-#include <stdexcept>
-
-#include "host/platform/windows_api.h"
 #include "host/platform/windows_text.h"
+#include "host/platform/windows_api.h"
+#include "host/run_time_failure.h"
 
 namespace quorvex {
 
 namespace {
 
-/// The system counts texts in 32 bits.
+[[noreturn]] void Refuse() {
+  throw Run_Time_Failure(Failure_Number::out_of_memory, "The text is too long for the system.");
+}
+
+/// The system counts texts in 31 bits.
 int Length_Of(std::size_t size) {
-  if (size > 0x7FFFFFFF) throw std::length_error("The text is too long for the system.");
+  if (size > 0x7FFFFFFF) Refuse();
   return static_cast<int>(size);
 }
 
@@ -31,6 +33,7 @@ std::string Narrow_Text(std::wstring_view text) {
   const int size = Length_Of(text.size());
   const int needed =
       ::WideCharToMultiByte(CP_UTF8, 0, text.data(), size, nullptr, 0, nullptr, nullptr);
+  if (needed <= 0) Refuse();  // three bytes for a unit can be too many
   std::string narrow(static_cast<std::size_t>(needed), '\0');
   ::WideCharToMultiByte(CP_UTF8, 0, text.data(), size, narrow.data(), needed, nullptr, nullptr);
   return narrow;
