@@ -1,19 +1,17 @@
 // Text as Windows takes and gives it.
 #include "host/platform/windows_text.h"
+
+#include <new>
+
 #include "host/platform/windows_api.h"
-#include "host/run_time_failure.h"
 
 namespace quorvex {
 
 namespace {
 
-[[noreturn]] void Refuse() {
-  throw Run_Time_Failure(Failure_Number::out_of_memory, "The text is too long for the system.");
-}
-
-/// The system counts texts in 31 bits.
+/// The system counts texts in 31 bits: no more of one can be held than if memory had run out.
 int Length_Of(std::size_t size) {
-  if (size > 0x7FFFFFFF) Refuse();
+  if (size > 0x7FFFFFFF) throw std::bad_alloc();
   return static_cast<int>(size);
 }
 
@@ -33,7 +31,7 @@ std::string Narrow_Text(std::wstring_view text) {
   const int size = Length_Of(text.size());
   const int needed =
       ::WideCharToMultiByte(CP_UTF8, 0, text.data(), size, nullptr, 0, nullptr, nullptr);
-  if (needed <= 0) Refuse();  // three bytes for a unit can be too many
+  if (needed <= 0) throw std::bad_alloc();  // three bytes for a unit can be too many
   std::string narrow(static_cast<std::size_t>(needed), '\0');
   ::WideCharToMultiByte(CP_UTF8, 0, text.data(), size, narrow.data(), needed, nullptr, nullptr);
   return narrow;
