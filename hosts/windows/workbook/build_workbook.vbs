@@ -17,8 +17,11 @@ here = files.GetParentFolderName(WScript.ScriptFullName)
 On Error Resume Next
 Set spreadsheet = CreateObject("Excel.Application")
 If Err.Number <> 0 Then Fail "No spreadsheet is installed that programs can start"
-folder = spreadsheet.UserLibraryPath
-If WScript.Arguments.Count > 0 Then folder = files.GetAbsolutePathName(WScript.Arguments(0))
+If WScript.Arguments.Count > 0 Then
+    folder = files.GetAbsolutePathName(WScript.Arguments(0))
+Else
+    folder = spreadsheet.UserLibraryPath
+End If
 If Err.Number <> 0 Then Fail "The spreadsheet does not tell its folder of add-ins; give one"
 If Not files.FolderExists(folder) Then files.CreateFolder folder
 If Err.Number <> 0 Then Fail "There is no folder " & folder & ", and it can't be made"
