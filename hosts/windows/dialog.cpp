@@ -151,8 +151,10 @@ INT_PTR CALLBACK Dialog::Handle(HWND window, UINT message, WPARAM first, LPARAM 
 // A form that fails stays as it is: below this call stands the system.
 INT_PTR Dialog::handle(UINT message, WPARAM first) noexcept {
   if (message == WM_INITDIALOG) {
+    // Where the system chooses the control, it marks all of its text, whatever the caret was.
+    ::SetFocus(::GetDlgItem(window_, first_));
     if (on_screen) Guarded([&] { on_screen(); });
-    return TRUE;
+    return FALSE;
   }
   if (message != WM_COMMAND) return FALSE;
   const int id = LOWORD(first);

@@ -35,6 +35,8 @@ class Dialog {
   /// Called with a control's number when its button is pressed, or its text has changed.
   std::function<void(int id)> on_press;
   std::function<void(int id)> on_change;
+  /// The control that the user starts in.
+  void start_in(int id) { first_ = id; }
   /// Called when the controls are there, before the user can reach them.
   std::function<void()> on_screen;
 
@@ -63,6 +65,7 @@ class Dialog {
 
   std::vector<WORD> layout_;
   std::size_t count_at_ = 0;  // of the controls, within the layout
+  int first_ = IDOK;
   HWND window_ = nullptr;
 };
 

@@ -66,10 +66,7 @@ std::atomic<long>& Uses() {
 using namespace quorvex::windows;
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID /*reserved*/) {
-  if (reason == DLL_PROCESS_ATTACH) {
-    module_handle = module;
-    ::DisableThreadLibraryCalls(module);
-  }
+  if (reason == DLL_PROCESS_ATTACH) module_handle = module;
   return TRUE;
 }
 

@@ -85,6 +85,7 @@ class Window_Face final : public Form_Face {
     dialog.add_entry(txtMaxSD, {144, 56, 80, 14});
     dialog.add_button(IDOK, {118, 88, 50, 16}, form.cmdOK.Caption, true);
     dialog.add_button(IDCANCEL, {174, 88, 50, 16}, form.cmdCancel.Caption, false);
+    dialog.start_in(txtMaxSD);
     dialog.on_screen = [&] { entry.show(); };
     dialog.on_change = [&](int) { entry.user_has_typed(); };
     dialog.on_press = [&](int id) {

@@ -10,7 +10,11 @@
 namespace quorvex::windows {
 namespace {
 
+constexpr int no_such_member = 438;
 constexpr int facility_of_failures = 0x0A;
+// Members have their names and numbers in English. A spreadsheet whose own language differs from
+// the user's settings refuses calls in theirs.
+constexpr LCID english = 0x0409;
 
 [[noreturn]] void Fail(int number, std::string_view why) {
   throw Run_Time_Failure(Failure_Number{number},
@@ -34,7 +38,6 @@ constexpr int facility_of_failures = 0x0A;
 
 int Number_Of(HRESULT status) {
   constexpr int type_mismatch = 13;
-  constexpr int no_such_member = 438;
   switch (status) {
     case static_cast<HRESULT>(CO_E_CLASSSTRING):
     case static_cast<HRESULT>(MK_E_UNAVAILABLE):
@@ -43,7 +46,11 @@ int Number_Of(HRESULT status) {
     case static_cast<HRESULT>(RPC_E_CALL_REJECTED):
     case static_cast<HRESULT>(RPC_E_SERVERCALL_RETRYLATER):
     case static_cast<HRESULT>(RPC_E_DISCONNECTED):
+    case static_cast<HRESULT>(RPC_E_SERVER_DIED):
+    case static_cast<HRESULT>(RPC_E_SERVER_DIED_DNE):
     case static_cast<HRESULT>(CO_E_OBJNOTCONNECTED):
+    case static_cast<HRESULT>(0x800706BA):  // the server is unavailable
+    case static_cast<HRESULT>(0x800706BE):  // the call failed, as it does when the server ends
       return static_cast<int>(Failure_Number::no_application);
     case static_cast<HRESULT>(DISP_E_UNKNOWNNAME):
     case static_cast<HRESULT>(DISP_E_MEMBERNOTFOUND):
@@ -59,12 +66,20 @@ int Number_Of(HRESULT status) {
   return static_cast<int>(Failure_Number::invalid_call);
 }
 
-DISPID Late_Bound::id_of(const wchar_t* name) const {
+std::optional<DISPID> Late_Bound::find(const wchar_t* name) const {
   auto* text = const_cast<wchar_t*>(name);
   DISPID id = DISPID_UNKNOWN;
-  const HRESULT status = object_->GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &id);
-  if (FAILED(status)) Fail(Number_Of(status), "The host has no " + Narrow_Text(name) + ".");
-  return id;
+  const HRESULT status = object_->GetIDsOfNames(IID_NULL, &text, 1, english, &id);
+  if (SUCCEEDED(status)) return id;
+  const int number = Number_Of(status);
+  if (number == no_such_member) return std::nullopt;
+  Fail(number, System_Message(static_cast<unsigned long>(status)));
+}
+
+DISPID Late_Bound::id_of(const wchar_t* name) const {
+  const auto id = find(name);
+  if (!id) Fail(no_such_member, "The host has no " + Narrow_Text(name) + ".");
+  return *id;
 }
 
 Variant Late_Bound::invoke(DISPID id, WORD flags, std::vector<VARIANT> reversed) const {
@@ -79,7 +94,7 @@ Variant Late_Bound::invoke(DISPID id, WORD flags, std::vector<VARIANT> reversed)
   }
   Variant result;
   EXCEPINFO exception{};
-  const HRESULT status = object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &arguments,
+  const HRESULT status = object_->Invoke(id, IID_NULL, english, flags, &arguments,
                                          puts ? nullptr : &result, &exception, nullptr);
   if (status == DISP_E_EXCEPTION) Fail(exception);
   if (FAILED(status)) Fail(Number_Of(status), System_Message(static_cast<unsigned long>(status)));
@@ -103,7 +118,8 @@ Late_Bound Late_Bound::object(const wchar_t* name) const {
 }
 
 Variant Late_Bound::own_value() const {
-  return invoke(DISPID_VALUE, DISPATCH_PROPERTYGET, {});
+  // What a range gives unasked has four decimals where the cells are formatted as currency.
+  return invoke(find(L"Value2").value_or(DISPID_VALUE), DISPATCH_PROPERTYGET, {});
 }
 
 std::function<bool(Variant&)> Late_Bound::items() const {
@@ -118,7 +134,7 @@ std::function<bool(Variant&)> Late_Bound::items() const {
       },
       [](const Run_Time_Failure& failure) {
         // Without an enumerator there are still numbers; a busy host is another matter.
-        if (static_cast<int>(failure.number()) != 438) throw Run_Time_Failure(failure);
+        if (static_cast<int>(failure.number()) != no_such_member) throw Run_Time_Failure(failure);
       });
   if (!has_one) return items_by_number();
   return [enumerator](Variant& item) {
@@ -150,9 +166,12 @@ std::function<bool(Variant&)> Late_Bound::items_by_number() const {
 
 Late_Bound Object_In(const Variant& value) {
   const VARIANT& peeled = Peeled(*value);
+  IUnknown* object = nullptr;
+  if (peeled.vt == VT_DISPATCH || peeled.vt == VT_UNKNOWN) object = peeled.punkVal;
+  if (peeled.vt == (VT_BYREF | VT_DISPATCH) || peeled.vt == (VT_BYREF | VT_UNKNOWN))
+    object = *peeled.ppunkVal;
   Com_Pointer<IDispatch> dispatch;
-  if ((peeled.vt == VT_DISPATCH || peeled.vt == VT_UNKNOWN) && peeled.punkVal != nullptr &&
-      SUCCEEDED(peeled.punkVal->QueryInterface(IID_IDispatch, dispatch.put_void())))
+  if (object != nullptr && SUCCEEDED(object->QueryInterface(IID_IDispatch, dispatch.put_void())))
     return Late_Bound(dispatch);
   Fail(13, "The host gives a value where an object is needed.");
 }

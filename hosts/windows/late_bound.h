@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -27,6 +28,7 @@ class Late_Bound {
   std::function<bool(Variant&)> items() const;
 
  private:
+  std::optional<DISPID> find(const wchar_t* name) const;
   DISPID id_of(const wchar_t* name) const;
   Variant invoke(DISPID id, WORD flags, std::vector<VARIANT> reversed) const;
   std::function<bool(Variant&)> items_by_number() const;

@@ -86,7 +86,10 @@ HRESULT Unregister_Class() {
   steps.remove(Class_Key());
   steps.remove(Wide_Text(prog_id));
   steps.remove(Wide_Text(versioned_prog_id));
-  steps.take_result(Unregister_Type_Library());
+  if (FAILED(Unregister_Type_Library())) {
+    steps.remove(L"TypeLib\\" + Braced(library_id));
+    steps.remove(L"Interface\\" + Braced(interface_id));
+  }
   return steps.status();
 }
 

@@ -9,6 +9,7 @@
 #include "failures.h"
 #include "forms.h"
 #include "guids.h"
+#include "host/platform/windows.h"
 #include "host/platform/windows_text.h"
 #include "module.h"
 #include "names.h"
@@ -139,6 +140,7 @@ class Server final : public IDispatch {
   ~Server() = default;
 
   void invoke(const Method& method, const DISPPARAMS& given, VARIANT* result) {
+    Ignore_Keys_Held_Down();
     Variant gathered;
     const Arguments arguments = Late_Bound_Arguments(method, given, gathered);
     Variant made;
@@ -151,13 +153,17 @@ class Server final : public IDispatch {
   template <typename Result>
   HRESULT by_slot(int slot, std::initializer_list<VARIANT> arguments, Result* result) noexcept {
     return told([&] {
+      Ignore_Keys_Held_Down();
       const Call_Result given = Call(engine_, Method_At(slot), arguments);
       if (result != nullptr) Give(given, *result);
     });
   }
   HRESULT by_slot(int slot, std::initializer_list<VARIANT> arguments,
                   std::nullptr_t /*nowhere*/) noexcept {
-    return told([&] { Call(engine_, Method_At(slot), arguments); });
+    return told([&] {
+      Ignore_Keys_Held_Down();
+      Call(engine_, Method_At(slot), arguments);
+    });
   }
   template <typename Body>
   static HRESULT told(Body&& body) noexcept {

@@ -29,10 +29,11 @@ HRESULT Register_Type_Library() {
 }
 
 HRESULT Unregister_Type_Library() {
-  Bstr path;
-  if (FAILED(::QueryPathOfRegTypeLib(library_guid, major_version, minor_version, LOCALE_NEUTRAL,
-                                     path.put())))
-    return S_OK;
+  // What is to be taken away the system reads out of the registered file. That may be gone, or
+  // nothing be registered; this one says the same.
+  HRESULT status = S_OK;
+  Load(REGKIND_REGISTER, status);
+  if (FAILED(status)) return status;
   return ::UnRegisterTypeLib(library_guid, major_version, minor_version, LOCALE_NEUTRAL, SYS_WIN64);
 }
 

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <filesystem>
+#include <new>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -44,6 +45,10 @@ class Choice {
 };
 
 TEST(User_Locale, FollowsWhatTheUserHasChosen) {
+  // These are what the calls for wide texts say. Those for texts in the user's code page say the
+  // same for all that the page has; a symbol that it lacks comes as a question mark, the narrow
+  // blank of the third case as a blank or a question mark, and the first character of several is a
+  // byte.
   const struct {
     const wchar_t* decimal;
     const wchar_t* thousands;
@@ -266,6 +271,17 @@ TEST(Break_Keys, EndACalculationOfTheProgramInFront) {
     EXPECT_EQ(Failure_Of(yields), Failure_Number::interrupted) << int{key};
     ::keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
     yields();
+    // What is down when a call begins, such as to close a dialog, is not meant for the call.
+    ::keybd_event(key, 0, 0, 0);
+    Ignore_Keys_Held_Down();
+    yields();
+    yields();
+    ::keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
+    yields();
+    ::keybd_event(key, 0, 0, 0);
+    EXPECT_EQ(Failure_Of(yields), Failure_Number::interrupted) << int{key};
+    ::keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
+    yields();
   }
   ::keybd_event('A', 0, 0, 0);
   yields();
@@ -315,6 +331,11 @@ TEST(Texts, PassThroughTheSystemsForm) {
                                   std::string("\u00E4\u20AC"), std::string("\U0001F600")})
     EXPECT_EQ(Narrow_Text(Wide_Text(text)), text);
   EXPECT_EQ(Narrow_Text(Wide_Text("a\xFFz")), "a\uFFFDz");
+  // Refused before a character of it is looked at.
+  const std::size_t too_long = std::size_t{1} << 31U;
+  EXPECT_THROW(Wide_Text({"", too_long}), std::bad_alloc);
+  EXPECT_THROW(Narrow_Text({L"", too_long}), std::bad_alloc);
+  EXPECT_EQ(Narrow_Text(L"a\xD800z"), "a\uFFFDz");
   EXPECT_NE(System_Message(ERROR_FILE_NOT_FOUND).find(' '), std::string::npos);
   EXPECT_EQ(System_Message(0x2FFFFFFF), "error 805306367.");
 }

@@ -65,6 +65,23 @@ Private Sub Use_Block(ByRef height As Variant, ByRef width As Variant)
     If IsMissing(width) Then width = CDbl(Application.Caller.Columns.Count)
 End Sub
 
+' The arguments of a function as one list. An array of one dimension that stands alone, such as an
+' array constant of one row, is the list itself.
+Private Function One_List(ByRef given As Variant) As Variant
+    One_List = given
+    If UBound(given) <> 0 Then Exit Function
+    If IsObject(given(0)) Then Exit Function
+    If Has_One_Dimension(given(0)) Then One_List = given(0)
+End Function
+
+Private Function Has_One_Dimension(ByRef value As Variant) As Boolean
+    Dim last As Long
+    If Not IsArray(value) Then Exit Function
+    On Error Resume Next
+    last = UBound(value, 2)
+    Has_One_Dimension = Err.Number <> 0
+End Function
+
 ' A value that was left out.
 Private Function Left_Out(Optional nothing_here As Variant) As Variant
     Left_Out = nothing_here
@@ -132,7 +149,8 @@ void Write_Function(std::ostream& out, const Method& method) {
   if (method.takes_all_as_list) {
     // An array of arguments can't be handed on as such.
     out << indent << "Dim all_of_it As Variant\n"
-        << indent << "all_of_it = " << method.parameters[0].name << "\n";
+        << indent << "all_of_it = " << method.parameters[0].name << "\n"
+        << indent << "all_of_it = One_List(all_of_it)\n";
   }
   if (Wants_Block(method)) {
     if (method.takes_all_as_list) {

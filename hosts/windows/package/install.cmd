@@ -1,7 +1,7 @@
 @echo off
 rem Registers Quorvex.dll from the folder that this script lies in. Leave the folder where it is
 rem afterwards: the spreadsheet loads the library from here.
-net session >nul 2>&1
+fltmc >nul 2>&1
 if errorlevel 1 (
   echo This needs the rights of an administrator: right-click install.cmd, Run as administrator.
   pause

@@ -1,6 +1,6 @@
 @echo off
 rem Undoes what install.cmd has done. Close the spreadsheet first; then the folder can be deleted.
-net session >nul 2>&1
+fltmc >nul 2>&1
 if errorlevel 1 (
   echo This needs the rights of an administrator: right-click uninstall.cmd, Run as administrator.
   pause

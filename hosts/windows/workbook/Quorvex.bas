@@ -51,6 +51,23 @@ Private Sub Use_Block(ByRef height As Variant, ByRef width As Variant)
     If IsMissing(width) Then width = CDbl(Application.Caller.Columns.Count)
 End Sub
 
+' The arguments of a function as one list. An array of one dimension that stands alone, such as an
+' array constant of one row, is the list itself.
+Private Function One_List(ByRef given As Variant) As Variant
+    One_List = given
+    If UBound(given) <> 0 Then Exit Function
+    If IsObject(given(0)) Then Exit Function
+    If Has_One_Dimension(given(0)) Then One_List = given(0)
+End Function
+
+Private Function Has_One_Dimension(ByRef value As Variant) As Boolean
+    Dim last As Long
+    If Not IsArray(value) Then Exit Function
+    On Error Resume Next
+    last = UBound(value, 2)
+    Has_One_Dimension = Err.Number <> 0
+End Function
+
 ' A value that was left out.
 Private Function Left_Out(Optional nothing_here As Variant) As Variant
     Left_Out = nothing_here
@@ -128,18 +145,21 @@ End Function
 Public Function qvxAVERAGE(ParamArray numlist() As Variant) As Variant
     Dim all_of_it As Variant
     all_of_it = numlist
+    all_of_it = One_List(all_of_it)
     qvxAVERAGE = The_Class.qvxAVERAGE(all_of_it)
 End Function
 
 Public Function qvxMEDIAN(ParamArray numlist() As Variant) As Variant
     Dim all_of_it As Variant
     all_of_it = numlist
+    all_of_it = One_List(all_of_it)
     qvxMEDIAN = The_Class.qvxMEDIAN(all_of_it)
 End Function
 
 Public Function qvxMODE(ParamArray numlist() As Variant) As Variant
     Dim all_of_it As Variant
     all_of_it = numlist
+    all_of_it = One_List(all_of_it)
     Dim rows As Variant, cols As Variant
     rows = Left_Out()
     cols = Left_Out()
@@ -171,54 +191,63 @@ End Function
 Public Function qvxEXCLUDE(ParamArray numlist() As Variant) As Variant
     Dim all_of_it As Variant
     all_of_it = numlist
+    all_of_it = One_List(all_of_it)
     qvxEXCLUDE = The_Class.qvxEXCLUDE(all_of_it)
 End Function
 
 Public Function qvxEXCLUDENOTNUM(ParamArray numlist() As Variant) As Variant
     Dim all_of_it As Variant
     all_of_it = numlist
+    all_of_it = One_List(all_of_it)
     qvxEXCLUDENOTNUM = The_Class.qvxEXCLUDENOTNUM(all_of_it)
 End Function
 
 Public Function qvxEXTRACT(ParamArray numlist() As Variant) As Variant
     Dim all_of_it As Variant
     all_of_it = numlist
+    all_of_it = One_List(all_of_it)
     qvxEXTRACT = The_Class.qvxEXTRACT(all_of_it)
 End Function
 
 Public Function qvxEXTRACTNUM(ParamArray numlist() As Variant) As Variant
     Dim all_of_it As Variant
     all_of_it = numlist
+    all_of_it = One_List(all_of_it)
     qvxEXTRACTNUM = The_Class.qvxEXTRACTNUM(all_of_it)
 End Function
 
 Public Function qvxPRODUCT(ParamArray numlist() As Variant) As Variant
     Dim all_of_it As Variant
     all_of_it = numlist
+    all_of_it = One_List(all_of_it)
     qvxPRODUCT = The_Class.qvxPRODUCT(all_of_it)
 End Function
 
 Public Function qvxSUM2(ParamArray numlist() As Variant) As Variant
     Dim all_of_it As Variant
     all_of_it = numlist
+    all_of_it = One_List(all_of_it)
     qvxSUM2 = The_Class.qvxSUM2(all_of_it)
 End Function
 
 Public Function qvxCOUNT(ParamArray numlist() As Variant) As Variant
     Dim all_of_it As Variant
     all_of_it = numlist
+    all_of_it = One_List(all_of_it)
     qvxCOUNT = The_Class.qvxCOUNT(all_of_it)
 End Function
 
 Public Function qvxMAX(ParamArray numlist() As Variant) As Variant
     Dim all_of_it As Variant
     all_of_it = numlist
+    all_of_it = One_List(all_of_it)
     qvxMAX = The_Class.qvxMAX(all_of_it)
 End Function
 
 Public Function qvxMIN(ParamArray numlist() As Variant) As Variant
     Dim all_of_it As Variant
     all_of_it = numlist
+    all_of_it = One_List(all_of_it)
     qvxMIN = The_Class.qvxMIN(all_of_it)
 End Function
 
@@ -430,24 +459,28 @@ End Function
 Public Function qvxGCD(ParamArray numlist() As Variant) As Variant
     Dim all_of_it As Variant
     all_of_it = numlist
+    all_of_it = One_List(all_of_it)
     qvxGCD = The_Class.qvxGCD(all_of_it)
 End Function
 
 Public Function qvxGCD2(ParamArray numlist() As Variant) As Variant
     Dim all_of_it As Variant
     all_of_it = numlist
+    all_of_it = One_List(all_of_it)
     qvxGCD2 = The_Class.qvxGCD2(all_of_it)
 End Function
 
 Public Function qvxLCM(ParamArray numlist() As Variant) As Variant
     Dim all_of_it As Variant
     all_of_it = numlist
+    all_of_it = One_List(all_of_it)
     qvxLCM = The_Class.qvxLCM(all_of_it)
 End Function
 
 Public Function qvxLCM2(ParamArray numlist() As Variant) As Variant
     Dim all_of_it As Variant
     all_of_it = numlist
+    all_of_it = One_List(all_of_it)
     qvxLCM2 = The_Class.qvxLCM2(all_of_it)
 End Function
 

@@ -33,6 +33,10 @@ std::shared_ptr<Message_Box> Window_Message_Box();
 /// process. No message is taken from the queue: what the user does meanwhile waits.
 std::shared_ptr<Yielder> Break_Keys();
 
+/// Tells those that watch the keys that a call begins: what is down by then breaks nothing off
+/// before it has been up.
+void Ignore_Keys_Held_Down();
+
 /// What the system has left, within the limits of the process and of its job.
 std::shared_ptr<Memory_Gauge> System_Memory();
 

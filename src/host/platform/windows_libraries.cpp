@@ -34,6 +34,18 @@ std::filesystem::path Folder_Of_This_Library() {
   return std::filesystem::path(File_Of_This_Library()).lexically_normal().parent_path();
 }
 
+/// Where a library can't be loaded, the system shows no box of its own, as long as this lives.
+class Quiet {
+ public:
+  Quiet() { ::SetThreadErrorMode(SEM_FAILCRITICALERRORS, &before_); }
+  Quiet(const Quiet&) = delete;
+  Quiet& operator=(const Quiet&) = delete;
+  ~Quiet() { ::SetThreadErrorMode(before_, nullptr); }
+
+ private:
+  DWORD before_ = 0;
+};
+
 class Loaded_Libraries final : public Library_Loader {
  public:
   Loaded_Libraries() = default;
@@ -75,6 +87,7 @@ class Loaded_Libraries final : public Library_Loader {
   // The system looks beside the program and not beside the library that asks. By the whole path,
   // what the other one needs is looked for beside it as well.
   static HMODULE Loaded(const char* library) {
+    const Quiet quiet;
     const std::wstring name = Wide_Text(library);
     const std::filesystem::path folder = Folder_Of_This_Library();
     if (!folder.empty()) {

@@ -5,12 +5,33 @@
 #include "host/platform/windows.h"
 #include "host/platform/windows_api.h"
 
+#include <psapi.h>
+
 namespace quorvex {
 
 namespace {
 
 using Bytes = std::size_t;
 constexpr Bytes unlimited = std::numeric_limits<Bytes>::max();
+
+Bytes Used_By_Process() {
+  PROCESS_MEMORY_COUNTERS used{};
+  return ::K32GetProcessMemoryInfo(::GetCurrentProcess(), &used, sizeof used) == 0
+             ? 0
+             : used.PagefileUsage;
+}
+
+// Older systems do not tell what the other processes of the job use.
+Bytes Used_By_Job() {
+  constexpr auto memory_usage = static_cast<JOBOBJECTINFOCLASS>(28);
+  struct {
+    ULONGLONG now;
+    ULONGLONG peak;
+  } used{};
+  return ::QueryInformationJobObject(nullptr, memory_usage, &used, sizeof used, nullptr) == 0
+             ? Used_By_Process()
+             : static_cast<Bytes>(used.now);
+}
 
 Bytes Left_Of_Job() {
   JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
@@ -20,11 +41,11 @@ Bytes Left_Of_Job() {
   }
   Bytes left = unlimited;
   const DWORD flags = limits.BasicLimitInformation.LimitFlags;
-  const auto bound = [&](DWORD flag, Bytes limit) {
-    if ((flags & flag) != 0) left = std::min(left, limit);
+  const auto bound = [&](DWORD flag, Bytes limit, Bytes (*used)()) {
+    if ((flags & flag) != 0) left = std::min(left, limit - std::min(limit, used()));
   };
-  bound(JOB_OBJECT_LIMIT_PROCESS_MEMORY, limits.ProcessMemoryLimit);
-  bound(JOB_OBJECT_LIMIT_JOB_MEMORY, limits.JobMemoryLimit);
+  bound(JOB_OBJECT_LIMIT_PROCESS_MEMORY, limits.ProcessMemoryLimit, Used_By_Process);
+  bound(JOB_OBJECT_LIMIT_JOB_MEMORY, limits.JobMemoryLimit, Used_By_Job);
   return left;
 }
 

@@ -1,17 +1,17 @@
 // Text as Windows takes and gives it.
+#include "host/platform/windows_text.h"
+
 #include <new>
-#include <stdexcept>
 
 #include "host/platform/windows_api.h"
-#include "host/platform/windows_text.h"
 
 namespace quorvex {
 
 namespace {
 
-/// The system counts texts in 32 bits.
+/// The system counts texts in 31 bits: no more of one can be held than if memory had run out.
 int Length_Of(std::size_t size) {
-  if (size > 0x7FFFFFFF) throw std::length_error("The text is too long for the system.");
+  if (size > 0x7FFFFFFF) throw std::bad_alloc();
   return static_cast<int>(size);
 }
 
@@ -31,6 +31,7 @@ std::string Narrow_Text(std::wstring_view text) {
   const int size = Length_Of(text.size());
   const int needed =
       ::WideCharToMultiByte(CP_UTF8, 0, text.data(), size, nullptr, 0, nullptr, nullptr);
+  if (needed <= 0) throw std::bad_alloc();  // three bytes for a unit can be too many
   std::string narrow(static_cast<std::size_t>(needed), '\0');
   ::WideCharToMultiByte(CP_UTF8, 0, text.data(), size, narrow.data(), needed, nullptr, nullptr);
   return narrow;

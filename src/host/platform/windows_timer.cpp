@@ -67,6 +67,17 @@ extern "C" void CALLBACK Timer_Is_Due(HWND /*window*/, UINT /*message*/, UINT_PT
   if (const Call call = Take([id](const Armed& armed) { return armed.id == id; })) Run(call);
 }
 
+/// Whoever lets go of this library without asking must not leave the system with a call into
+/// nothing. No call could give the library back from within itself, so it stays for good.
+void Stay_Loaded() {
+  static const bool stays = [] {
+    const DWORD flags = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN;
+    HMODULE self = nullptr;
+    return ::GetModuleHandleExW(flags, reinterpret_cast<LPCWSTR>(&Timer_Is_Due), &self) != 0;
+  }();
+  static_cast<void>(stays);
+}
+
 class Thread_Timer final : public Timer {
  public:
   explicit Thread_Timer(std::function<void()> call)
@@ -79,6 +90,7 @@ class Thread_Timer final : public Timer {
     disarm();
     const auto wait = std::clamp<std::chrono::milliseconds::rep>(delay.count(), USER_TIMER_MINIMUM,
                                                                  USER_TIMER_MAXIMUM);
+    Stay_Loaded();
     Register& all = All_Timers();
     const std::lock_guard lock(all.mutex);
     all.armed.reserve(all.armed.size() + 1);

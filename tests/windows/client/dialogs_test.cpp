@@ -34,8 +34,19 @@ void Set_Caret(HWND window, int at) {
   Send(window, entry, EM_SETSEL, static_cast<WPARAM>(at), at);
 }
 
+// As "3", or as "0..3" where something is marked.
 std::string Caret(HWND window) {
-  return std::to_string(HIWORD(Send(window, entry, EM_GETSEL)));
+  const LRESULT ends = Send(window, entry, EM_GETSEL);
+  const std::string end = std::to_string(HIWORD(ends));
+  return LOWORD(ends) == HIWORD(ends) ? end : std::to_string(LOWORD(ends)) + ".." + end;
+}
+
+// The control that the user is in.
+int Focus(HWND window) {
+  GUITHREADINFO thread{};
+  thread.cbSize = sizeof thread;
+  ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &thread);
+  return ::GetDlgCtrlID(thread.hwndFocus);
 }
 
 // Typing does not come back before a message that it leads to has been answered.
@@ -136,6 +147,7 @@ TEST_F(Dialogs, AboutShowsTheLimitAndTheProduct) {
     note(Text_Of(about, limit_label));
     note(Text_Of(about, to_limit));
     note(Text_Of(about, IDOK));
+    note(Focus(about) == IDOK ? "in OK" : "elsewhere");
     wchar_t kind[32];
     ::GetClassNameW(::GetDlgItem(about, product_text), kind, 32);
     note(Narrow_Text(kind));
@@ -145,7 +157,7 @@ TEST_F(Dialogs, AboutShowsTheLimitAndTheProduct) {
     note(Narrow_Text(font.lfFaceName));
   });
   EXPECT_EQ(seen, (std::vector<std::string>{"Default Max SD:\n250", "Set Default Max SD", "OK",
-                                            "RichEdit20W", "text", "Verdana"}));
+                                            "in OK", "RichEdit20W", "text", "Verdana"}));
 }
 
 TEST_F(Dialogs, TheLimitStandsInTheBoxWithTheCaretBehindIt) {
@@ -164,6 +176,17 @@ TEST_F(Dialogs, TheLimitStandsInTheBoxWithTheCaretBehindIt) {
             "You can customize that default maximum number of significant digits here. The number "
             "you enter here will be used in Quorvex functions where you have omitted the "
             "maximum_significant_digits parameter.");
+}
+
+TEST_F(Dialogs, WhatIsTypedAtOnceIsAddedToTheLimit) {
+  const auto seen = show_limit([](Seen& note, HWND dialog) {
+    note(Focus(dialog) == entry ? "in the box" : "elsewhere");
+    Type(dialog, '5');
+    note(Text_Of(dialog, entry) + "|" + Caret(dialog));
+  });
+  ASSERT_EQ(seen.size(), 3u);
+  EXPECT_EQ(seen[0], "in the box");
+  EXPECT_EQ(seen[1], "1005|4");
 }
 
 TEST_F(Dialogs, ALetterIsRefusedWhereItWasTyped) {

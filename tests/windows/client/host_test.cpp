@@ -204,6 +204,16 @@ TEST_F(Host, KeepsTheLibraryWhileItsTimerIsArmed) {
   EXPECT_EQ(Can_Unload(S_OK), S_OK);
 }
 
+TEST_F(Host, IsTalkedToThoughTheLibraryWasLetGoOf) {
+  start();
+  object_ = {};
+  HMODULE const library = ::GetModuleHandleW(L"Quorvex.dll");
+  for (int i = 0; i < 5; ++i) ::FreeLibrary(library);
+  ASSERT_EQ(::GetModuleHandleW(L"Quorvex.dll"), library);
+  Pump([&] { return host_.macros.size() == 77; }, 3000);
+  EXPECT_EQ(host_.macros.size(), 77u);
+}
+
 TEST(Timer, GoesOffInAMessageLoopAndNotBefore) {
   Mock_Spreadsheet host;
   auto object = Make_Object();

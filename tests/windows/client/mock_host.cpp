@@ -8,6 +8,8 @@
 namespace quorvex::windows {
 namespace {
 
+// As an English spreadsheet, the mocks take calls in no other language.
+constexpr LCID english = 0x0409;
 constexpr HRESULT facility_of_failures = static_cast<HRESULT>(0x800A0000);
 
 class Mock final : public IDispatch {
@@ -36,7 +38,8 @@ class Mock final : public IDispatch {
   STDMETHOD(GetTypeInfo)(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
 
   STDMETHOD(GetIDsOfNames)
-  (REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override {
+  (REFIID, LPOLESTR* names, UINT, LCID language, DISPID* ids) override {
+    if (language != english) return DISP_E_UNKNOWNLCID;
     const std::string wanted = Narrow_Text(names[0]);
     for (std::size_t i = 0; i < members_.size(); ++i) {
       std::string name = members_[i].first;
@@ -50,8 +53,9 @@ class Mock final : public IDispatch {
   }
 
   STDMETHOD(Invoke)
-  (DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* given, VARIANT* result, EXCEPINFO* exception,
-   UINT*) override {
+  (DISPID id, REFIID, LCID language, WORD flags, DISPPARAMS* given, VARIANT* result,
+   EXCEPINFO* exception, UINT*) override {
+    if (language != english) return DISP_E_UNKNOWNLCID;
     const Mock_Member* const member = found(name_of(id), (flags & DISPATCH_PROPERTYPUT) != 0);
     if (member == nullptr) return DISP_E_MEMBERNOTFOUND;
     const std::reverse_iterator last(given->rgvarg + given->cArgs);
@@ -66,6 +70,8 @@ class Mock final : public IDispatch {
       exception->scode = facility_of_failures | failure.number;
       exception->bstrDescription = Make_Bstr("The mock refuses.");
       return DISP_E_EXCEPTION;
+    } catch (const Mock_Status& answer) {
+      return answer.status;
     }
   }
 

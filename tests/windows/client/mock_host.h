@@ -14,6 +14,10 @@ namespace quorvex::windows {
 struct Mock_Failure {
   int number;
 };
+/// What a call comes back with instead of an exception of the object's own.
+struct Mock_Status {
+  HRESULT status;
+};
 
 /// Takes the arguments in the order of the call; the result is the caller's.
 using Mock_Member = std::function<VARIANT(const std::vector<VARIANT>& arguments)>;

@@ -164,10 +164,23 @@ TEST_F(Kinds, ObjectsAreReadByTheirValue) {
   EXPECT_EQ(Text_Of_Call(*object_.get(), "qvxSUM", {Object(range)}), "3");
   EXPECT_EQ(Text_Of_Call(*object_.get(), "qvxSUM2", {Object(range), Number(4), Object(cell)}),
             "9.5");
+  // Four decimals are what currency has; the cell holds more.
+  VARIANT rounded;
+  ::VariantInit(&rounded);
+  rounded.vt = VT_CY;
+  rounded.cyVal = CY{.int64 = 12346};
+  const Mock_Pointer money = Make_Mock(
+      {{"", [=](auto&) { return rounded; }}, {"Value2", [](auto&) { return Number(1.23456); }}});
+  EXPECT_EQ(read(Object(money)), "1.23456");
   const Mock_Pointer valueless = Make_Mock({});
   EXPECT_EQ(Text_Of_Call(*object_.get(), "Max", {Object(valueless), Number(1)}), "error 438");
   const Mock_Pointer busy = Make_Mock({{"", [](auto&) -> VARIANT { throw Mock_Failure{50290}; }}});
   EXPECT_EQ(Text_Of_Call(*object_.get(), "Max", {Object(busy), Number(1)}), "error 50290");
+  for (const unsigned gone : {0x800706BAu, 0x800706BEu, 0x80010108u}) {
+    const Mock_Pointer dead =
+        Make_Mock({{"", [=](auto&) -> VARIANT { throw Mock_Status{static_cast<HRESULT>(gone)}; }}});
+    EXPECT_EQ(Text_Of_Call(*object_.get(), "Max", {Object(dead), Number(1)}), "error 429") << gone;
+  }
 }
 
 }  // namespace
