@@ -58,19 +58,31 @@ if(QUORVEX_CALC)
   list(APPEND CPACK_COMPONENTS_ALL calc)
 endif()
 
-# Every package has its folder of documentation, which a library that came as a part of something
-# else leaves to that.
+# Every package has its folder of documentation, with all that the README links to, which a library
+# that came as a part of something else leaves to that.
 if(PROJECT_IS_TOP_LEVEL)
   find_program(GZIP gzip REQUIRED)
   add_custom_command(OUTPUT changelog.gz
     COMMAND ${GZIP} -9nc ${PROJECT_SOURCE_DIR}/CHANGELOG.md > changelog.gz
     DEPENDS CHANGELOG.md VERBATIM)
-  add_custom_target(quorvex_changelog ALL DEPENDS changelog.gz)
+  file(GLOB pages RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS docs/*.md)
+  list(APPEND pages README.md bench/README.md)
+  set(installed_pages ${PROJECT_BINARY_DIR}/pages)
+  list(TRANSFORM pages PREPEND ${installed_pages}/ OUTPUT_VARIABLE made_pages)
+  list(TRANSFORM pages PREPEND ${PROJECT_SOURCE_DIR}/ OUTPUT_VARIABLE given_pages)
+  add_custom_command(OUTPUT ${made_pages}
+    COMMAND ${CMAKE_COMMAND} "-DPAGES=${pages}" -DFROM=${PROJECT_SOURCE_DIR} -DTO=${installed_pages}
+      -P ${PROJECT_SOURCE_DIR}/cmake/InstalledPages.cmake
+    DEPENDS ${given_pages} cmake/InstalledPages.cmake VERBATIM)
+  add_custom_target(quorvex_pages ALL DEPENDS changelog.gz ${made_pages})
   foreach(component ${CPACK_COMPONENTS_ALL})
     string(TOUPPER ${component} name)
-    install(FILES README.md ${PROJECT_BINARY_DIR}/changelog.gz
-      DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${name}_PACKAGE_NAME}
-      COMPONENT ${component})
+    set(folder ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${name}_PACKAGE_NAME})
+    install(FILES cmake/copyright ${PROJECT_BINARY_DIR}/changelog.gz
+      DESTINATION ${folder} COMPONENT ${component})
+    install(DIRECTORY ${installed_pages}/ DESTINATION ${folder} COMPONENT ${component})
+    install(DIRECTORY docs examples DESTINATION ${folder} COMPONENT ${component}
+      FILES_MATCHING REGEX "\\.(svg|png|csv|ods|cpp)$" PATTERN CMakeLists.txt)
   endforeach()
 endif()
 include(CPack)

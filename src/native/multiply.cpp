@@ -52,6 +52,7 @@ std::size_t Multiply_Operands(const Operands& operands, char* out, Instructions 
 
 std::size_t Multiply_Texts(std::string_view a, std::string_view b, char* out, std::size_t room,
                            Instructions kind) noexcept {
+  Expects(kind <= Best_Instructions());
   if (a.empty() || b.empty() || room == 0) return 0;
   a = Without_Leading_Zeros(a);
   b = Without_Leading_Zeros(b);

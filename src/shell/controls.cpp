@@ -26,12 +26,6 @@ void Text_Box::type_over(std::string_view text) {
   if (Change) Change();
 }
 
-void Text_Box::backspace() {
-  if (at_ == 0) return;
-  text_.erase(--at_, 1);
-  if (Change) Change();
-}
-
 void Text_Box::edited(std::string_view text, std::size_t at) {
   const bool has_changed = text != text_;
   text_ = text;

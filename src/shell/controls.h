@@ -44,8 +44,6 @@ class QUORVEX_API Text_Box {
   void type(std::string_view text);
   /// Typing, or pasting, over the whole text.
   void type_over(std::string_view text);
-  /// Takes the character before the insertion point away.
-  void backspace();
   /// What a toolkit tells that edits by itself: the text and the insertion point as they are now.
   /// `Change` isn't called for a text that is the same, such as one that the form has set.
   void edited(std::string_view text, std::size_t at);

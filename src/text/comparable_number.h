@@ -6,6 +6,7 @@
 #include <optional>
 #include <string_view>
 
+#include "expects.h"
 #include "text/operand.h"
 
 namespace quorvex {
@@ -22,15 +23,26 @@ class Comparable_Number {
   /// True if the text was a number. One that can be added but not compared is read as false.
   bool is_number() const { return operand_ && operand_->is_number(); }
 
-  /// -1, 0 or 1. The rest is told of a number that is not zero.
+  /// -1, 0 or 1.
   int sign() const { return sign_; }
 
+  // Of a number that is not zero.
+
   /// The magnitude is a fraction of the digits times ten to this power.
-  std::int64_t power() const { return power_; }
+  std::int64_t power() const {
+    Expects(sign_ != 0);
+    return power_;
+  }
 
   /// The digits, in two pieces: the first begins with no zero, and the last ends with none.
-  std::string_view first_digits() const { return first_; }
-  std::string_view more_digits() const { return more_; }
+  std::string_view first_digits() const {
+    Expects(sign_ != 0);
+    return first_;
+  }
+  std::string_view more_digits() const {
+    Expects(sign_ != 0);
+    return more_;
+  }
 
  private:
   std::optional<Operand> operand_;

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "expects.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
@@ -88,7 +89,12 @@ void Strip_Zeros(Decimal& number) {
   if (number.digits.empty()) number = {"0"};
 }
 
+bool Is_Stripped(const Decimal& number) {
+  return number.digits == "0" || !(number.digits.starts_with('0') || number.digits.ends_with('0'));
+}
+
 void Round(Decimal& number, double count) {
+  Expects(Is_Stripped(number));
   if (number.is_token() || static_cast<double>(number.digits.size()) <= count) return;
   const double kept_count = Nearest(count);
   if (kept_count < 1) {
@@ -107,6 +113,7 @@ void Round(Decimal& number, double count) {
 }
 
 std::int64_t Plain_Length(const Decimal& number) {
+  Expects(Is_Stripped(number));
   const auto digits = static_cast<std::int64_t>(number.digits.size());
   const std::int64_t sign = number.negative ? 1 : 0;
   if (number.power_of_ten >= 0) return sign + digits + number.power_of_ten;
@@ -115,6 +122,7 @@ std::int64_t Plain_Length(const Decimal& number) {
 }
 
 NumberText Plain_Text(const Decimal& number) {
+  Expects(Is_Stripped(number));
   if (number.is_token()) return number.digits;
   Require_Memory(texts_at_once * static_cast<double>(Plain_Length(number)));
   NumberText text = number.digits;

@@ -46,7 +46,10 @@ Decimal Significant_Digits(std::string_view text);
 /// Takes the zeros at both ends off, and counts those behind; "0" for 0.
 void Strip_Zeros(Decimal& number);
 
-// Of numbers without zeros at both ends.
+/// True if no zeros stand at either end, but for "0" itself. Tokens have none.
+bool Is_Stripped(const Decimal& number);
+
+// Of stripped numbers.
 
 /// Rounds to so many significant digits, half up in magnitude by the first dropped digit. Fails
 /// with invalid_call for a count that leaves none. Tokens stay.

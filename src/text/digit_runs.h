@@ -16,4 +16,9 @@ std::size_t Count_Trailing_Zeros(std::string_view text);
 /// True if any character is no digit; false for empty text.
 bool Has_Non_Digit(std::string_view text);
 
+/// True for digits of which the first is no zero.
+inline bool Are_Significant(std::string_view text) {
+  return !text.empty() && text.front() != '0' && !Has_Non_Digit(text);
+}
+
 }  // namespace quorvex

@@ -115,10 +115,6 @@ std::string Insert_Thousands_Separators(std::string_view text) {
   return grouped;
 }
 
-double Larger_Of(double first, double second) {
-  return first <= second ? second : first;
-}
-
 double Decimal_Position_Of(std::string_view text) {
   const std::string& separator = Decimal_Separator();
   const std::size_t place = text.find(separator);

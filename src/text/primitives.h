@@ -66,9 +66,6 @@ void Remove_Thousands_Separators(std::string& text);
 /// Groups the digits of an integer part by threes: *1234567* gives *1,234,567*.
 std::string Insert_Thousands_Separators(std::string_view text);
 
-/// The second argument if the first is less than or equal to it, otherwise the first.
-double Larger_Of(double first, double second);
-
 /// The decimal position of a text: the place of its separator counted from the right end, the
 /// separator itself counted; 0 if it has none.
 double Decimal_Position_Of(std::string_view text);

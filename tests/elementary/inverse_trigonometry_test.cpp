@@ -33,10 +33,6 @@ double Distance(Worker* worker, Oracle* oracle, const std::string& text, double 
   return Distance(worker, oracle, text, limit, limit);
 }
 
-std::size_t Random_Limit(Random_Numbers& random) {
-  return 5 + random.below(random.one_in(8) ? 496 : 56);
-}
-
 // Half a unit of the last digit of pi, and what the terms round: there are 1.4 for a digit, and
 // each sum keeps two digits more than pi.
 double Arc_Error(std::size_t limit) {
@@ -46,7 +42,7 @@ double Arc_Error(std::size_t limit) {
 TEST(InverseTrigonometry, ArcTangentsAgreeWithAnIndependentLibrary) {
   Random_Numbers random(239);
   for (int i = 0; i < 500; ++i) {
-    const std::size_t limit = Random_Limit(random);
+    const std::size_t limit = random.limit(5, 500);
     std::string text = random.digits(random.below(random.one_in(4) ? limit : 3)) + ".";
     text += random.digits(1 + random.below(2 * limit)) + "1";
     if (random.one_in(2)) text.insert(0, 1, '-');
@@ -60,7 +56,7 @@ TEST(InverseTrigonometry, ArcTangentsAgreeWithAnIndependentLibrary) {
 TEST(InverseTrigonometry, ArcSinesAndCosinesAgreeWithAnIndependentLibrary) {
   Random_Numbers random(113);
   for (int i = 0; i < 400; ++i) {
-    const std::size_t limit = Random_Limit(random);
+    const std::size_t limit = random.limit(5, 500);
     std::string text = "0." + random.digits(1 + random.below(2 * limit)) + "1";
     if (random.one_in(2)) text.insert(0, 1, '-');
     const double rest = 1 - std::fabs(Text_To_Number(text));

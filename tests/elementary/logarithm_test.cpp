@@ -40,29 +40,6 @@ mpfr_prec_t Bits(long limit) {
   return 4 * limit + 600;
 }
 
-long Random_Limit(Random_Numbers& random) {
-  return static_cast<long>(5 + random.below(random.one_in(10) ? 496 : 60));
-}
-
-// Numbers of all sizes, and such as lie next to 1 and to powers of two.
-std::string Random_Positive(Random_Numbers& random) {
-  const std::string digits = random.digits(1 + random.below(40)) + "7";
-  switch (random.below(6)) {
-    case 0:
-      return "1." + std::string(random.below(40), '0') + digits;
-    case 1:
-      return "0." + std::string(1 + random.below(40), '9') + digits;
-    case 2:
-      return "0." + std::string(random.below(60), '0') + digits;
-    case 3:
-      return std::to_string((1ULL << (1 + random.below(50))) - 1) + "." + std::string(30, '9');
-    case 4:
-      return digits + std::string(random.below(60), '0');
-    default:
-      return digits + "." + random.digits(1 + random.below(30));
-  }
-}
-
 // The powers of two in a number.
 double Halvings(const Real_Number& logarithm) {
   return std::fabs(logarithm.number()) / std::log(2.0) + 1;
@@ -79,8 +56,8 @@ double Natural_Bound(const Real_Number& logarithm, long limit) {
 TEST(NaturalLogarithm, IsRightButForWhatItsStepsLose) {
   Random_Numbers random(81);
   for (int round = 0; round < 600; ++round) {
-    const std::string number = Random_Positive(random);
-    const long limit = Random_Limit(random);
+    const std::string number = random.positive();
+    const auto limit = static_cast<long>(random.limit(5, 500));
     Real_Number exact(number, Bits(limit));
     mpfr_log(exact.value(), exact.value(), MPFR_RNDN);
     const NumberText result = Ln(number, static_cast<double>(limit));
@@ -97,7 +74,7 @@ TEST(Exponential, IsRightToTheLastPlace) {
     std::string number = std::to_string(random.below(random.one_in(4) ? 20000 : 30));
     if (!random.one_in(3)) number += "." + random.digits(1 + random.below(50));
     if (random.one_in(2)) number.insert(0, 1, '-');
-    const long limit = Random_Limit(random);
+    const auto limit = static_cast<long>(random.limit(5, 500));
     Real_Number exact(number, Bits(limit));
     mpfr_exp(exact.value(), exact.value(), MPFR_RNDN);
     Real_Number size(64);
@@ -116,9 +93,9 @@ TEST(Logarithm, IsRightButForWhatItsBaseLeaves) {
   Random_Numbers random(83);
   const char* const bases[] = {"10", "2", "3", "7", "25", "0.5", "1.5", "2.718281828", "60"};
   for (int round = 0; round < 400; ++round) {
-    const std::string number = Random_Positive(random);
+    const std::string number = random.positive();
     const std::string base = bases[random.below(std::size(bases))];
-    const long limit = Random_Limit(random);
+    const auto limit = static_cast<long>(random.limit(5, 500));
     const auto working = std::lrint(std::stod(base) + static_cast<double>(limit));
     Real_Number exact(number, Bits(working));
     Real_Number below(base, Bits(working));

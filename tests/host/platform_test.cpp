@@ -1,7 +1,5 @@
 // Memory, the message box, and replacing what the platform offers.
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <poll.h>
 #include <sys/ioctl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -17,6 +15,7 @@
 #include "support/failures.h"
 #include "support/locales.h"
 #include "support/surroundings.h"
+#include "support/terminal.h"
 
 namespace quorvex {
 namespace {
@@ -69,43 +68,6 @@ TEST(SystemMemory, KeepsWithinTheLimitOfTheProcess) {
   EXPECT_EQ(status, 0);
 }
 
-/// A terminal of two ends: what is typed at the one is read at the other.
-class Terminal {
- public:
-  Terminal() : keyboard_(posix_openpt(O_RDWR | O_NOCTTY)) {
-    grantpt(keyboard_);
-    unlockpt(keyboard_);
-    screen_ = open(ptsname(keyboard_), O_RDWR | O_NOCTTY);
-  }
-  ~Terminal() {
-    close(screen_);
-    close(keyboard_);
-  }
-  Terminal(const Terminal&) = delete;
-  Terminal& operator=(const Terminal&) = delete;
-
-  int end() const { return screen_; }
-  void type(std::string_view keys) const {
-    ASSERT_EQ(write(keyboard_, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
-  }
-  /// Whether the text appears; what was typed is echoed before it.
-  bool shows(std::string_view text) const {
-    std::string screen;
-    while (screen.find(text) == std::string::npos) {
-      pollfd ready{keyboard_, POLLIN, 0};
-      char piece[4096];
-      const ssize_t got = poll(&ready, 1, 5000) == 1 ? read(keyboard_, piece, sizeof piece) : 0;
-      if (got <= 0) return false;
-      screen.append(piece, static_cast<std::size_t>(got));
-    }
-    return true;
-  }
-
- private:
-  int keyboard_;
-  int screen_ = -1;
-};
-
 TEST(MessageBox, AsksOnATerminal) {
   const struct {
     const char* keys;
@@ -117,9 +79,9 @@ TEST(MessageBox, AsksOnATerminal) {
                {"perhaps\nyes\n", Message_Answer::yes},
                {"\x04", Message_Answer::no}};
   for (const auto& c : cases) {
-    const Terminal terminal;
+    Terminal terminal;
     terminal.type(c.keys);
-    const auto box = Terminal_Message_Box(terminal.end(), terminal.end());
+    const auto box = Terminal_Message_Box(terminal.screen(), terminal.screen());
     EXPECT_EQ(box->show("Title", "Go on?", Message_Icon::question, Message_Buttons::yes_no),
               c.answer)
         << c.keys;
@@ -128,8 +90,8 @@ TEST(MessageBox, AsksOnATerminal) {
 }
 
 TEST(MessageBox, ShowsAMessageWithoutWaiting) {
-  const Terminal terminal;
-  const auto box = Terminal_Message_Box(terminal.end(), terminal.end());
+  Terminal terminal;
+  const auto box = Terminal_Message_Box(terminal.screen(), terminal.screen());
   EXPECT_EQ(box->show("Quorvex", "Digits only.", Message_Icon::error, Message_Buttons::ok),
             Message_Answer::ok);
   EXPECT_TRUE(terminal.shows("Quorvex: error\r\nDigits only.\r\n"));
@@ -152,13 +114,13 @@ TEST(MessageBox, WithoutATerminalAnswersAsNobodyWould) {
 // In the background of a terminal of its own. 0 if the question was answered by No without waiting.
 int Ask_In_The_Background() {
   setsid();
-  const Terminal terminal;
-  if (ioctl(terminal.end(), TIOCSCTTY, 0) != 0) return 2;
+  Terminal terminal;
+  if (ioctl(terminal.screen(), TIOCSCTTY, 0) != 0) return 2;
   terminal.type("y\n");
   const pid_t background = fork();
   if (background == 0) {
     setpgid(0, 0);
-    const auto box = Terminal_Message_Box(terminal.end(), terminal.end());
+    const auto box = Terminal_Message_Box(terminal.screen(), terminal.screen());
     const auto answer = box->show("T", "?", Message_Icon::question, Message_Buttons::yes_no);
     _exit(answer == Message_Answer::no ? 0 : 1);
   }

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
-#include <sstream>
 #include <thread>
 #include <vector>
 
@@ -15,17 +14,12 @@
 #include "host/settings_text.h"
 #include "support/environment.h"
 #include "support/failures.h"
+#include "support/text_files.h"
 
 namespace quorvex {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string Read(const fs::path& path) {
-  std::ostringstream contents;
-  contents << std::ifstream(path, std::ios::binary).rdbuf();
-  return contents.str();
-}
 
 void Write(const fs::path& path, std::string_view contents) {
   fs::create_directories(path.parent_path());
@@ -114,7 +108,7 @@ TEST(SettingsFile, IsMadeWhenFirstWrittenAndReadByTheNextProcess) {
   Set_Max_SD(*store, "250");
   Set_Max_SD(*store, "300");
   EXPECT_EQ(Max_SD(*File_Settings(path)), "300");
-  EXPECT_EQ(Read(path), "Quorvex/Options/MaxSD = 300\n");
+  EXPECT_EQ(File_Text(path), "Quorvex/Options/MaxSD = 300\n");
   // Nothing else stays behind.
   EXPECT_EQ(std::distance(fs::directory_iterator(path.parent_path()), {}), 1);
 }
@@ -131,7 +125,7 @@ TEST(SettingsFile, ThatCannotBeReadIsNeverOverwritten) {
     EXPECT_EQ(Failure_Of([&] { Set_Max_SD(*store, "1"); }), Failure_Number::invalid_call) << path;
   }
   EXPECT_TRUE(fs::is_fifo(pipe));
-  EXPECT_EQ(Read(folder.path() / "file"), "x");
+  EXPECT_EQ(File_Text(folder.path() / "file"), "x");
   const auto homeless = File_Settings(std::nullopt);
   EXPECT_EQ(Max_SD(*homeless), std::nullopt);
   EXPECT_EQ(Failure_Of([&] { Set_Max_SD(*homeless, "1"); }), Failure_Number::invalid_call);
@@ -143,7 +137,7 @@ TEST(SettingsFile, BehindALinkStaysBehindIt) {
   fs::create_symlink(folder.path() / "kept" / "settings", folder.path() / "link");
   Set_Max_SD(*File_Settings(folder.path() / "link"), "5");
   EXPECT_TRUE(fs::is_symlink(folder.path() / "link"));
-  EXPECT_EQ(Read(folder.path() / "kept" / "settings"), "# mine\nQuorvex/Options/MaxSD = 5\n");
+  EXPECT_EQ(File_Text(folder.path() / "kept" / "settings"), "# mine\nQuorvex/Options/MaxSD = 5\n");
 }
 
 TEST(SettingsFile, WritersAtTheSameTimeLoseAndTearNothing) {

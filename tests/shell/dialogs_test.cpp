@@ -144,7 +144,7 @@ TEST_F(Dialogs, OkSetsStoresAndAsks) {
 TEST_F(Dialogs, OkWithAnEmptyBoxFailsAndStaysOpen) {
   store("100");
   const auto form = opened(100);
-  for (int i = 0; i < 4; ++i) form->txtMaxSD.backspace();
+  form->txtMaxSD.edited("", 0);
   EXPECT_EQ(form->txtMaxSD.Text(), "");
   EXPECT_EQ(Failure_Of([&] { form->cmdOK_Click(); }), Failure_Number::type_mismatch);
   EXPECT_EQ(Default_MaxSD(), 100);

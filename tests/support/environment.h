@@ -3,9 +3,11 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace quorvex {
@@ -51,6 +53,12 @@ class Temporary_Folder {
   Temporary_Folder& operator=(const Temporary_Folder&) = delete;
 
   const std::filesystem::path& path() const { return path_; }
+  /// Writes a file in it, and gives its path.
+  std::string write(const std::string& name, std::string_view text) const {
+    const std::filesystem::path file = path_ / name;
+    std::ofstream(file, std::ios::binary) << text;
+    return file.string();
+  }
 
  private:
   std::filesystem::path path_;

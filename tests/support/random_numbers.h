@@ -45,6 +45,30 @@ class Random_Numbers {
     return text;
   }
 
+  /// Digits above 0 with or without a fraction: of all sizes, and next to 1 and to powers of two.
+  std::string positive() {
+    const std::string few = digits(1 + below(40)) + "7";
+    switch (below(6)) {
+      case 0:
+        return "1." + std::string(below(40), '0') + few;
+      case 1:
+        return "0." + std::string(1 + below(40), '9') + few;
+      case 2:
+        return "0." + std::string(below(60), '0') + few;
+      case 3:
+        return std::to_string((1ULL << (1 + below(50))) - 1) + "." + std::string(30, '9');
+      case 4:
+        return few + std::string(below(60), '0');
+      default:
+        return few + "." + digits(1 + below(30));
+    }
+  }
+
+  /// A limit of significant digits, seldom a large one.
+  std::size_t limit(std::size_t least, std::size_t most) {
+    return least + below(one_in(8) ? most - least + 1 : 56);
+  }
+
   /// A number whose sum or difference with `other` is a corner: equal, opposite, or such that a
   /// carry runs through all digits.
   std::string neighbour(const std::string& other) {

@@ -1,7 +1,7 @@
 // Operations at a limit on texts, which chains of numbers are compared with.
 #pragma once
 
-#include <cmath>
+#include <cstdint>
 #include <string_view>
 
 #include "arith/do_operation.h"
@@ -26,9 +26,15 @@ struct Text_Steps {
     return Intermediate(operation::divide, a, b, limit);
   }
   NumberText power(std::string_view a, std::string_view b) const {
-    type_Restrictionator options;
-    options.maxSD = std::fmin(limit, maximum_digits);
-    return Do_Operation_On_Texts(operation::power, a, b, options, {.intermediate = true});
+    return of(operation::power, a, b);
+  }
+  NumberText root(std::string_view a, std::string_view b) const {
+    return of(operation::root, a, b);
+  }
+
+  NumberText of(std::int16_t code, std::string_view a, std::string_view b) const {
+    const HostValue digits = limit;
+    return Do_Operation(code, a, b, {.maximum_significant_digits = digits}, {.intermediate = true});
   }
 };
 

@@ -46,10 +46,32 @@ class Whole_Number {
   static bool Have_One_Magnitude(const Whole_Number& a, const Whole_Number& b) {
     return mpz_cmpabs(a.value_, b.value_) == 0;
   }
-  /// The quotient by a divisor of the dividend.
+  static Whole_Number Power(const Whole_Number& base, std::size_t exponent) {
+    Whole_Number power;
+    mpz_pow_ui(power.value_, base.value_, exponent);
+    return power;
+  }
+  static Whole_Number Ten_To(std::size_t exponent) { return Power(Whole_Number("10"), exponent); }
+  /// Rounded down.
+  static Whole_Number Square_Root(const Whole_Number& square) {
+    Whole_Number root;
+    mpz_sqrt(root.value_, square.value_);
+    return root;
+  }
+  friend Whole_Number operator+(const Whole_Number& a, const Whole_Number& b) {
+    Whole_Number sum;
+    mpz_add(sum.value_, a.value_, b.value_);
+    return sum;
+  }
+  friend Whole_Number operator-(const Whole_Number& a, const Whole_Number& b) {
+    Whole_Number difference;
+    mpz_sub(difference.value_, a.value_, b.value_);
+    return difference;
+  }
+  /// Cut towards zero.
   friend Whole_Number operator/(const Whole_Number& a, const Whole_Number& b) {
     Whole_Number quotient;
-    mpz_divexact(quotient.value_, a.value_, b.value_);
+    mpz_tdiv_q(quotient.value_, a.value_, b.value_);
     return quotient;
   }
   /// The remainder has the sign of the dividend.
@@ -72,6 +94,21 @@ class Whole_Number {
 
  private:
   mpz_t value_;
+};
+
+/// The digits of a decimal without its separator, and how many of them stand behind it.
+struct Scaled_Digits {
+  explicit Scaled_Digits(const std::string& decimal) : digits(decimal) {
+    const std::size_t place = decimal.find('.');
+    if (place == std::string::npos) return;
+    digits.erase(place, 1);
+    decimals = digits.size() - place;
+  }
+
+  Whole_Number number() const { return Whole_Number(digits); }
+
+  std::string digits;
+  std::size_t decimals = 0;
 };
 
 inline std::string Product(const std::string& a, const std::string& b) {

@@ -1,4 +1,4 @@
-// The small routines that trim number text and align decimal points.
+// The small routines that trim number text, read its sign and write its exponent out.
 #include "text/primitives.h"
 
 #include <gtest/gtest.h>

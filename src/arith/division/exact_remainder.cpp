@@ -10,6 +10,7 @@
 #include "arith/division/limb_remainder.h"
 #include "arith/division/recip_divide.h"
 #include "arith/limbs/limbs.h"
+#include "expects.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "text/compare_numbers.h"
@@ -99,6 +100,7 @@ NumberText Remainder_Of_Digits(std::string_view x, std::string_view d) {
 }  // namespace
 
 Decimal Remainder_Of(const Operand& dividend, const Operand& divisor, Quotient_Cut cut) {
+  Expects(dividend.is_number() && divisor.is_number() && !Is_Zero(divisor.parts()));
   if (Is_Zero(dividend.parts())) return {"0"};
   if (!Can_Multiply()) {
     throw Run_Time_Failure(Failure_Number::invalid_call, "The library of products is missing.");

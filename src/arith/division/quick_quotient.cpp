@@ -8,6 +8,7 @@
 #include "arith/limbs/limb_division.h"
 #include "arith/limbs/limbs.h"
 #include "arith/limbs/short_product.h"
+#include "expects.h"
 #include "host/platform.h"
 #include "text/digit_runs.h"
 
@@ -171,6 +172,7 @@ std::optional<Decimal> Divide_By_Few(std::string_view X, std::string_view k, std
 }  // namespace
 
 std::optional<Decimal> Quick_Quotient(std::string_view X, std::string_view k, std::int32_t p) {
+  Expects(Are_Significant(X) && Are_Significant(k));
   if (p < least_quick_precision) return std::nullopt;
   const auto precision = static_cast<std::size_t>(p);
   const auto significant = k.substr(0, k.size() - Count_Trailing_Zeros(k));

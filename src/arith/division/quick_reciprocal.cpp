@@ -7,6 +7,7 @@
 #include "arith/digits/digit_spans.h"
 #include "arith/digits/multiply_digits.h"
 #include "arith/division/limb_reciprocal.h"
+#include "expects.h"
 #include "host/platform.h"
 #include "text/digit_runs.h"
 #include "text/tokens.h"
@@ -204,6 +205,7 @@ std::optional<NumberText> Short_Reciprocal(std::string_view significant, std::si
 
 std::optional<limbs::Limb> Missing_From_Power(const limbs::Divisor& k, std::size_t length,
                                               std::size_t p) {
+  Expects(limbs::Count_Digits(k.number()) == length);
   if (k.number() == 1) return 1;  // nines all along
   if (First_Digit_May_Waver(k, length, p)) return std::nullopt;
   const std::size_t nines = p + length - 1;
@@ -219,6 +221,7 @@ std::optional<limbs::Limb> Missing_From_Power(const limbs::Divisor& k, std::size
 }
 
 std::optional<NumberText> Quick_Reciprocal(const NumberText& k, std::int32_t p) {
+  Expects(Are_Significant(k) && k != "1");
   if (p < least_quick_precision) return std::nullopt;
   const auto length = static_cast<std::size_t>(p);
   Require_Memory(4.0 * (static_cast<double>(p) + static_cast<double>(k.size())));

@@ -9,6 +9,7 @@
 
 #include "arith/digits/multiply_digits.h"
 #include "arith/division/quick_quotient.h"
+#include "expects.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "text/clean_up_number.h"
@@ -28,11 +29,6 @@ std::int32_t In_32_Bits(std::int64_t number) {
     throw Run_Time_Failure(Failure_Number::overflow, "A precision or a power of ten is too large.");
   }
   return static_cast<std::int32_t>(number);
-}
-
-// Digits without leading zeros are clean as they are, which is what arithmetic passes.
-bool Is_Clean(const NumberText& text) {
-  return !text.empty() && text.front() != '0' && !Has_Non_Digit(text);
 }
 
 // What is done when no digits need to be worked out: true if `quotient` is final.
@@ -116,7 +112,8 @@ Decimal Quotient(std::string_view X, std::string_view Y, Operands operands, std:
 }  // namespace
 
 Decimal Divide_Texts(NumberText& X, NumberText& Y, std::int32_t sd) {
-  if (!Is_Clean(X) || !Is_Clean(Y)) {
+  // Digits without leading zeros are clean as they are, which is what arithmetic passes.
+  if (!Are_Significant(X) || !Are_Significant(Y)) {
     type_CleanUp dividend = Clean_Up_Number(X, true, true);
     if (dividend.IsError) return Decimal_Token(dividend.NumClean);
     type_CleanUp divisor = Clean_Up_Number(Y, true, true);
@@ -129,6 +126,7 @@ Decimal Divide_Texts(NumberText& X, NumberText& Y, std::int32_t sd) {
 }
 
 Decimal Divide_Digits(std::string_view X, std::string_view Y, std::int32_t sd) {
+  Expects((X == "0" || Are_Significant(X)) && (Y == "0" || Are_Significant(Y)));
   return Quotient(X, Y, Operands::digits, sd);
 }
 

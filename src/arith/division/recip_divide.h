@@ -20,7 +20,7 @@ namespace quorvex {
 /// failure ends the routine with what it has.
 type_Division_Recip Recip_Divide(NumberText& X, NumberText& Y, std::int32_t sd);
 
-/// The same for digits without leading zeros.
+/// The same for digits without leading zeros, "0" for 0.
 Decimal Divide_Digits(std::string_view X, std::string_view Y, std::int32_t sd);
 
 /// The same for texts, as `Recip_Divide` takes them.

@@ -38,6 +38,10 @@ double Log_2(const NumberText& k) {
 }
 
 // An approximation of 1/k: 0.digits times ten to the -scale. The first digit is never 0.
+//
+// No `Decimal`: rounds cut and fill the digits to lengths of their own, zeros at the end and all,
+// and the scale of the first digit stays the same through that. It is a float since it comes from
+// one, which may be anything for a divisor that is no digits.
 struct Approximation {
   NumberText digits;
   double scale = 0;
@@ -154,10 +158,6 @@ type_Division_Recip Iterate(const NumberText& k, std::int32_t p) {
   return Polish(k, std::move(x), length);
 }
 
-bool Is_Plain_Divisor(const NumberText& k) {
-  return !k.empty() && k.front() != '0' && !Has_Non_Digit(k);
-}
-
 // Digits that can't be held are no digits: a quotient with none would be 0.
 type_Division_Recip Failed_Reciprocal(const Run_Time_Failure& failure) {
   if (failure.number() != Failure_Number::out_of_memory) return {};
@@ -176,7 +176,7 @@ type_Division_Recip myInverse5(const NumberText& k, std::int32_t p) {
     return {NumberText(static_cast<std::size_t>(std::max(p, 1)), '9'),
             std::numeric_limits<std::int32_t>::max()};
   }
-  if (Is_Plain_Divisor(k) && Can_Multiply()) {
+  if (Are_Significant(k) && Can_Multiply()) {
     const auto quick = With_Handler(
         [&]() -> std::optional<type_Division_Recip> {
           auto digits = Quick_Reciprocal(k, p);

@@ -211,6 +211,7 @@ Number Common_Divisor(Number a, Number b) {
 }  // namespace
 
 NumberText Exact_Divisor(std::string_view a, std::string_view b) {
+  Expects(Count_Leading_Zeros(a) < a.size() || Count_Leading_Zeros(b) < b.size());
   const std::size_t zeros = std::min(Count_Trailing_Zeros(a), Count_Trailing_Zeros(b));
   a.remove_suffix(zeros);
   b.remove_suffix(zeros);

@@ -3,14 +3,17 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "expects.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "text/operand.h"
 #include "text/primitives.h"
 
 namespace quorvex {
 namespace {
 
-// Characters before the separator, and digits behind it.
+// Characters before the separator, and digits behind it: the sign counts, and the zeros at the
+// left, which a `Decimal` doesn't know of.
 struct Places {
   std::size_t before = 0;
   std::size_t decimals = 0;
@@ -27,9 +30,15 @@ void Add_Zeros(NumberText& number, std::size_t count) {
   number.append(count, '0');
 }
 
+[[maybe_unused]] bool Is_Plain(std::string_view number) {
+  Decimal_Parts parts;
+  return Split_Decimal(Strip_Sign(number), parts);
+}
+
 }  // namespace
 
 Scaled_Fraction Scale_To_Whole(const NumberText& N, const NumberText& D) {
+  Expects(Is_Plain(N) && Is_Plain(D));
   const Places n = Places_Of(N);
   const Places d = Places_Of(D);
   Scaled_Fraction scaled{N, D, std::max(n.decimals, d.decimals)};

@@ -7,6 +7,8 @@
 
 namespace quorvex {
 
+/// No pair of `Decimal`: its texts are results as they stand, with the sign and the zeros that the
+/// numbers came with, and two whole numbers have no place to keep.
 struct Scaled_Fraction {
   NumberText A;
   NumberText B;

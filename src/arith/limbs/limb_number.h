@@ -120,7 +120,7 @@ struct Raw_Number {
 void Trim(const Raw_Number& raw, Number& result);
 
 /// Rounds to so many significant digits, half up by the first dropped digit alone.
-void Round(Raw_Number& raw, std::size_t digits, Number& result);
+void Round(Raw_Number& raw, std::size_t digits_kept, Number& result);
 
 // Operations. The result may be one of the operands.
 

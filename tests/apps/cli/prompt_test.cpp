@@ -39,7 +39,7 @@ TEST(Prompt, CompletesNames) {
 
 TEST(Prompt, CalculatesExplainsAndLeaves) {
   const Temporary_Folder folder;
-  Terminal terminal(folder.path());
+  Tool_Terminal terminal(folder.path());
   terminal.type_at_prompt("qvxADD(\"12345678901234567890\",1)\n");
   EXPECT_TRUE(terminal.shows("\n12345678901234567891")) << terminal.shown();
   terminal.type_at_prompt("qvxADDD(1)\n");
@@ -81,7 +81,7 @@ TEST(Prompt, CalculatesExplainsAndLeaves) {
 TEST(Prompt, RecalculatesTheOpenWorksheetOnYesAlone) {
   const Temporary_Folder folder;
   const std::string file = folder.write("thirds.csv", "=A2\n\"=qvxDIVIDE(1,3)\"\n=A9\n");
-  Terminal terminal(folder.path());
+  Tool_Terminal terminal(folder.path());
   terminal.type_at_prompt("settings\n");
   terminal.type_at("Digits [100]: ", "6\n");  // nothing is open: nobody is asked
   EXPECT_TRUE(terminal.shows("The default limit is 6.")) << terminal.shown();
@@ -111,7 +111,7 @@ TEST(Prompt, RecalculatesTheOpenWorksheetOnYesAlone) {
 TEST(Prompt, KnowsTheSheetTheLastResultAndNames) {
   const Temporary_Folder folder;
   const std::string file = folder.write("prices.csv", "item,price\ntea,2.5\nmilk,=B2*2\n");
-  Terminal terminal(folder.path());
+  Tool_Terminal terminal(folder.path());
   terminal.type_at_prompt("A1\n");
   EXPECT_TRUE(terminal.shows("no worksheet is open")) << terminal.shown();
   terminal.type_at_prompt("sheet " + file.substr(0, file.size() - 5) + "\t\n");
@@ -142,7 +142,7 @@ TEST(Prompt, KnowsTheSheetTheLastResultAndNames) {
 TEST(Prompt, HandsOnWhatWasTypedForSomethingElse) {
   const Temporary_Folder folder;
   const std::string file = folder.write("third.csv", "=1/3\n");
-  Terminal terminal(folder.path());
+  Tool_Terminal terminal(folder.path());
   terminal.type_at_prompt("settings\n");
   terminal.type_at("Digits [100]: ", "1+1\n");
   EXPECT_TRUE(terminal.shows("The limit stays as it is.")) << terminal.shown();
@@ -158,7 +158,7 @@ TEST(Prompt, HandsOnWhatWasTypedForSomethingElse) {
 TEST(Prompt, SheetsOpenNoForms) {
   const Temporary_Folder folder;
   const std::string file = folder.write("about.csv", "=qvxABOUT()\n\x1B[31mred\n\u202Eback\n");
-  Terminal terminal(folder.path(), {"sheet", file});
+  Tool_Terminal terminal(folder.path(), {"sheet", file});
   EXPECT_EQ(terminal.end(), 0);
   EXPECT_EQ(terminal.shown().find("About Quorvex"), std::string::npos) << terminal.shown();
   EXPECT_NE(terminal.shown().find("\u241B[31mred"), std::string::npos) << terminal.shown();
@@ -167,7 +167,7 @@ TEST(Prompt, SheetsOpenNoForms) {
 
 TEST(Prompt, InterruptGivesUpTheLineAndCtrlDLeaves) {
   const Temporary_Folder folder;
-  Terminal terminal(folder.path());
+  Tool_Terminal terminal(folder.path());
   terminal.type_at_prompt("qvxADD(1,");
   EXPECT_TRUE(terminal.shows("qvxADD(1,"));
   terminal.type("\x03");
@@ -182,7 +182,7 @@ TEST(Prompt, InterruptGivesUpTheLineAndCtrlDLeaves) {
 TEST(Prompt, KeepsItsHistory) {
   const Temporary_Folder folder;
   {
-    Terminal first(folder.path());
+    Tool_Terminal first(folder.path());
     first.type_at_prompt("qvxADD(40,2)\n");
     EXPECT_TRUE(first.shows("\n42")) << first.shown();
     first.type_at_prompt("exit\n");
@@ -190,7 +190,7 @@ TEST(Prompt, KeepsItsHistory) {
   }
   EXPECT_NE(File_Text(folder.path() / "quorvex" / "history").find("qvxADD(40,2)"),
             std::string::npos);
-  Terminal second(folder.path());
+  Tool_Terminal second(folder.path());
   second.type_at_prompt("\x10\x10\n");  // back two lines, beyond "exit"
   EXPECT_TRUE(second.shows("\n42")) << second.shown();
 }

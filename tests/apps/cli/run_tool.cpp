@@ -6,8 +6,7 @@
 #include <unistd.h>
 
 #include <cstdlib>
-#include <fstream>
-#include <sstream>
+#include <filesystem>
 #include <stdexcept>
 
 namespace quorvex {
@@ -57,23 +56,6 @@ Tool_Run Run_Tool(const std::vector<std::string>& arguments, std::string_view in
   run.errors = File_Text(folder.path() / "err");
   run.exit_code = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
   return run;
-}
-
-Temporary_Folder::Temporary_Folder() {
-  std::string pattern = (std::filesystem::temp_directory_path() / "quorvex-XXXXXX").string();
-  if (::mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("cannot make " + pattern);
-  path_ = pattern;
-}
-
-Temporary_Folder::~Temporary_Folder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
-}
-
-std::string Temporary_Folder::write(const std::string& name, std::string_view text) const {
-  const auto file = path_ / name;
-  std::ofstream(file, std::ios::binary) << text;
-  return file.string();
 }
 
 }  // namespace quorvex

@@ -1,11 +1,11 @@
 // Runs the tool as a process of its own.
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "support/environment.h"
 #include "support/text_files.h"
 
 namespace quorvex {
@@ -20,21 +20,5 @@ struct Tool_Run {
 /// standard input; `environment` adds variables of the form NAME=value.
 Tool_Run Run_Tool(const std::vector<std::string>& arguments, std::string_view input = {},
                   const std::vector<std::string>& environment = {});
-
-/// A folder that goes away with all that is in it.
-class Temporary_Folder {
- public:
-  Temporary_Folder();
-  ~Temporary_Folder();
-  Temporary_Folder(const Temporary_Folder&) = delete;
-  Temporary_Folder& operator=(const Temporary_Folder&) = delete;
-
-  const std::filesystem::path& path() const { return path_; }
-  /// Writes a file in it, and gives its path.
-  std::string write(const std::string& name, std::string_view text) const;
-
- private:
-  std::filesystem::path path_;
-};
 
 }  // namespace quorvex

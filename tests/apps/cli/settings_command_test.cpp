@@ -168,7 +168,7 @@ class Settings_Dialog : public Settings {
 };
 
 TEST_F(Settings_Dialog, ChecksWhatIsTypedAndStoresIt) {
-  Terminal terminal(folder_.path(), {"settings"});
+  Tool_Terminal terminal(folder_.path(), {"settings"});
   EXPECT_TRUE(terminal.shows("Set Default Max SD")) << terminal.shown();
   terminal.type_at(std::string(question) + "100]: ", "2x\n");
   EXPECT_TRUE(terminal.shows("Enter digits (0-9) only.")) << terminal.shown();
@@ -181,7 +181,7 @@ TEST_F(Settings_Dialog, ChecksWhatIsTypedAndStoresIt) {
 }
 
 TEST_F(Settings_Dialog, AboutStandsBetweenTheResultsAndLeadsThere) {
-  Terminal terminal(folder_.path(), {"qvxADD(1,2)", "qvxABOUT()", "qvxDEFAULTMAXSD()"});
+  Tool_Terminal terminal(folder_.path(), {"qvxADD(1,2)", "qvxABOUT()", "qvxDEFAULTMAXSD()"});
   EXPECT_TRUE(terminal.shows("3\r\nAbout Quorvex")) << terminal.shown();
   terminal.type_at("[s] Set Default Max SD: ", "s\n");
   terminal.type_at(std::string(question) + "100]: ", "12\n");
@@ -191,7 +191,7 @@ TEST_F(Settings_Dialog, AboutStandsBetweenTheResultsAndLeadsThere) {
 }
 
 TEST_F(Settings_Dialog, NoFormGetsIntoTheAnswersOfABatch) {
-  Terminal terminal(folder_.path(), {"batch"});
+  Tool_Terminal terminal(folder_.path(), {"batch"});
   terminal.type("{\"call\":\"qvxABOUT\"}\n");
   EXPECT_TRUE(terminal.shows("{\"value\":{\"missing\":true}}\r\n")) << terminal.shown();
   terminal.type("{\"call\":\"qvxTEST\"}\n");
@@ -202,7 +202,7 @@ TEST_F(Settings_Dialog, NoFormGetsIntoTheAnswersOfABatch) {
 
 TEST_F(Settings_Dialog, MendsASettingThatIsNoNumber) {
   put("Quorvex/Options/MaxSD = nonsense\n");
-  Terminal terminal(folder_.path(), {"settings"});
+  Tool_Terminal terminal(folder_.path(), {"settings"});
   EXPECT_TRUE(terminal.shows("no number: \"nonsense\"")) << terminal.shown();
   terminal.type_at("[100]: ", "8\n");
   EXPECT_EQ(terminal.end(), 0);
@@ -211,7 +211,7 @@ TEST_F(Settings_Dialog, MendsASettingThatIsNoNumber) {
 
 TEST_F(Settings_Dialog, SaysThatItCantStore) {
   fs::create_directories(file());
-  Terminal terminal(folder_.path(), {"settings"});
+  Tool_Terminal terminal(folder_.path(), {"settings"});
   terminal.type_at("[100]: ", "8\n");
   EXPECT_TRUE(terminal.shows("The stored limit is what it was")) << terminal.shown();
   EXPECT_EQ(terminal.end(), 2);
@@ -219,7 +219,7 @@ TEST_F(Settings_Dialog, SaysThatItCantStore) {
 
 TEST_F(Settings, AreFollowedByAWorksheetThatIsWatched) {
   const std::string sheet = folder_.write("thirds.csv", "\"=qvxDIVIDE(1,third)\"\n");
-  Terminal terminal(folder_.path(), {"sheet", sheet, "--name", "third=3", "--watch"});
+  Tool_Terminal terminal(folder_.path(), {"sheet", sheet, "--name", "third=3", "--watch"});
   EXPECT_TRUE(terminal.shows("333333\r\nWatching")) << terminal.shown();
   EXPECT_EQ(run({"settings", "max-sd", "4"}).exit_code, 0);
   EXPECT_TRUE(terminal.shows("The default limit is 4 now.\r\n0.33333\r\n")) << terminal.shown();

@@ -6,15 +6,10 @@
 
 #include "formula/formula.h"
 #include "support/locales.h"
+#include "support/repeated.h"
 
 namespace quorvex {
 namespace {
-
-std::string Repeated(const std::string& text, std::size_t count) {
-  std::string all;
-  for (; count > 0; --count) all += text;
-  return all;
-}
 
 TEST(ParseFormula, TakesTheGrammarAndWritesItBack) {
   const Locale_Guard locale(Point_Locale());

@@ -17,18 +17,6 @@
 namespace quorvex {
 namespace {
 
-// The digits of a decimal without its separator, and how many of them stand behind it.
-struct Split {
-  std::string digits;
-  std::size_t decimals = 0;
-};
-
-Split Split_Of(const std::string& number) {
-  const std::size_t place = number.find('.');
-  if (place == std::string::npos) return {number, 0};
-  return {number.substr(0, place) + number.substr(place + 1), number.size() - place - 1};
-}
-
 // A whole number, or one with a separator among its digits or zeros in front of them.
 std::string With_Decimals(Random_Numbers& random, std::string digits) {
   const std::string sign = random.one_in(3) ? "-" : "";
@@ -44,19 +32,19 @@ bool Is_One(const std::string& number) {
 }
 
 // Where both have decimals and the numerator more, the scale is another one.
-bool Is_Scaled_Apart(const Split& n, const Split& d) {
+bool Is_Scaled_Apart(const Scaled_Digits& n, const Scaled_Digits& d) {
   return d.decimals > 0 && n.decimals > d.decimals;
 }
 
 void Expect_Lowest_Terms(const std::string& N, const std::string& D, bool always) {
-  const Split n = Split_Of(N);
-  const Split d = Split_Of(D);
+  const Scaled_Digits n(N);
+  const Scaled_Digits d(D);
   const std::size_t decimals = std::max(n.decimals, d.decimals);
   const std::string A = n.digits + std::string(decimals - n.decimals, '0');
   const std::string B = d.digits + std::string(decimals - d.decimals, '0');
   const Whole_Number a(A);
   const Whole_Number b(B);
-  const Whole_Number scale("1" + std::string(decimals, '0'));
+  const Whole_Number scale = Whole_Number::Ten_To(decimals);
   const type_Fraction fraction = Reduce_Fraction(N, D, {.always_simplify = always});
   SCOPED_TRACE(N + " / " + D);
 
@@ -74,7 +62,7 @@ void Expect_Lowest_Terms(const std::string& N, const std::string& D, bool always
   }
   EXPECT_EQ(Whole_Number(fraction.Numerator), a / common);
   EXPECT_EQ(Whole_Number(fraction.divisor), b / common);
-  const Split by = Split_Of(fraction.Reduced_By);
+  const Scaled_Digits by(fraction.Reduced_By);
   ASSERT_LE(by.decimals, decimals);
   EXPECT_EQ(Whole_Number(by.digits + std::string(decimals - by.decimals, '0')), common);
 }
@@ -89,7 +77,7 @@ TEST(ReducedFractions, HaveNothingInCommonAtAnyLengthAndDefault) {
     const auto [a, b] = Random_Pair(random, lengths[random.below(std::size(lengths))]);
     const std::string N = With_Decimals(random, a);
     const std::string D = With_Decimals(random, b);
-    if (Is_Scaled_Apart(Split_Of(N), Split_Of(D))) continue;
+    if (Is_Scaled_Apart(Scaled_Digits(N), Scaled_Digits(D))) continue;
     Expect_Lowest_Terms(N, D, random.one_in(2));
   }
   Set_Default_MaxSD(before);

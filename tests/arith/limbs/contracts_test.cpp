@@ -4,8 +4,12 @@
 #include <gtest/gtest.h>
 
 #include "arith/digits/digit_spans.h"
+#include "arith/division/recip_divide.h"
+#include "arith/fractions/exact_divisor.h"
+#include "arith/fractions/fraction_scale.h"
 #include "arith/limbs/binary_words.h"
 #include "arith/limbs/limb_number.h"
+#include "text/decimal.h"
 
 namespace quorvex {
 namespace {
@@ -37,6 +41,10 @@ TEST(ContractsDeathTest, EndTheProgramWhereTheyAreBroken) {
   EXPECT_DEATH(words::Subtract({&less, 1}, {&more, 1}), "borrow");
   char digits[] = "123456789";
   EXPECT_DEATH(digit_spans::Add(digits + 1, digits, digits, 8, false), "Can_Be_Output");
+  EXPECT_DEATH(Divide_Digits("7", "03", 10), "Are_Significant");
+  EXPECT_DEATH(Exact_Divisor("0", "00"), "Count_Leading_Zeros");
+  EXPECT_DEATH(Scale_To_Whole("1.5", "1,000"), "Is_Plain");
+  EXPECT_DEATH(Plain_Text({"10"}), "Is_Stripped");
 }
 
 #endif

@@ -2,24 +2,21 @@
 // don't meet: next to squares, and next to 1 at every scale.
 #include "arith/powers/mean_root.h"
 
-#include <gmp.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <string>
 
-#include "arith/do_operation.h"
 #include "support/localized.h"
 #include "support/random_numbers.h"
+#include "support/text_steps.h"
+#include "support/whole_number.h"
 
 namespace quorvex {
 namespace {
 
 NumberText Square_Root(const NumberText& radicand, std::size_t limit) {
-  const HostValue digits = static_cast<double>(limit);
-  return Do_Operation(operation::root, radicand, "2", {.maximum_significant_digits = digits},
-                      {.intermediate = true});
+  return Text_Steps{static_cast<double>(limit)}.root(radicand, "2");
 }
 
 // A whole number times a power of ten, as text.
@@ -36,47 +33,25 @@ struct Decimal {
   }
 };
 
-std::string To_Text(mpz_srcptr number) {
-  std::string text(mpz_sizeinbase(number, 10) + 2, '\0');
-  mpz_get_str(text.data(), 10, number);
-  text.resize(text.find('\0'));
-  return text;
-}
-
 // The digits of a positive result that the limit asks for: a 0 before the separator is one.
 std::size_t Digits_Asked_For(const std::string& result, std::size_t limit) {
   return result.front() == '0' ? limit - 1 : limit;
 }
 
-// How far the result is from the root, in units of the last digit that the limit asks for, rounded
-// down; many for what is no number.
-unsigned long Distance(const std::string& result, const Decimal& radicand, std::size_t limit) {
-  std::string digits = result;
-  const std::size_t place = std::min(digits.find('.'), digits.size());
-  const std::size_t decimals = digits.size() - std::min(digits.size(), place + 1);
-  if (place < digits.size()) digits.erase(place, 1);
-  mpz_t given;
-  mpz_t root;
-  mpz_t unit;
-  mpz_inits(given, root, unit, nullptr);
-  unsigned long units = 1000;
-  if (mpz_set_str(given, digits.c_str(), 10) == 0) {
-    // Both at a scale that has digits to spare.
-    const std::size_t scale = 2 * limit + radicand.text().size() + decimals;
-    mpz_ui_pow_ui(unit, 10, scale - decimals);
-    mpz_mul(given, given, unit);
-    mpz_set_str(root, radicand.digits.c_str(), 10);
-    mpz_ui_pow_ui(unit, 10, 2 * scale + static_cast<std::size_t>(radicand.exponent));
-    mpz_mul(root, root, unit);
-    mpz_sqrt(root, root);
-    const std::size_t digits_of_root = To_Text(root).size();
-    mpz_ui_pow_ui(unit, 10, digits_of_root - Digits_Asked_For(result, limit));
-    mpz_sub(root, root, given);
-    mpz_tdiv_q(root, root, unit);
-    units = static_cast<unsigned long>(std::labs(mpz_get_si(root)));
-  }
-  mpz_clears(given, root, unit, nullptr);
-  return units;
+// Whether a positive result is less than two units of the last digit that the limit asks for from
+// the root.
+bool Is_Near_Root(const std::string& result, const Decimal& radicand, std::size_t limit) {
+  if (result.find_first_not_of("0123456789.") != std::string::npos) return false;
+  const Scaled_Digits given(result);
+  // Both at a scale that has digits to spare.
+  const std::size_t scale = 2 * limit + radicand.text().size() + given.decimals;
+  const std::size_t zeros = 2 * scale + static_cast<std::size_t>(radicand.exponent);
+  const Whole_Number root =
+      Whole_Number::Square_Root(Whole_Number(radicand.digits) * Whole_Number::Ten_To(zeros));
+  const std::size_t behind = root.text().size() - Digits_Asked_For(result, limit);
+  const Whole_Number units = Whole_Number("2") * Whole_Number::Ten_To(behind);
+  const Whole_Number shown = given.number() * Whole_Number::Ten_To(scale - given.decimals);
+  return root < shown + units && shown < root + units;
 }
 
 // 1 and a trace, or less it, times a power of a hundred and perhaps a small square.
@@ -94,17 +69,12 @@ Decimal Next_To_One(Random_Numbers& random) {
 }
 
 Decimal Next_To_A_Square(Random_Numbers& random) {
-  mpz_t square;
-  mpz_init_set_str(square, ("1" + random.digits(random.below(25))).c_str(), 10);
-  mpz_mul(square, square, square);
-  if (random.one_in(2)) {
-    mpz_add_ui(square, square, 1 + random.below(3));
-  } else if (mpz_cmp_ui(square, 1) > 0) {
-    mpz_sub_ui(square, square, 1);
-  }
-  Decimal number{To_Text(square), 2 * static_cast<long>(random.below(25)) - 40};
-  mpz_clear(square);
-  return number;
+  const Whole_Number root("1" + random.digits(random.below(25)));
+  const Whole_Number square = root * root;
+  const Whole_Number nudge(std::to_string(1 + random.below(3)));
+  const bool is_above = random.one_in(2) || square < Whole_Number("4");
+  return {(is_above ? square + nudge : square - nudge).text(),
+          2 * static_cast<long>(random.below(25)) - 40};
 }
 
 Decimal Short_Number(Random_Numbers& random) {
@@ -129,7 +99,7 @@ TEST(MeanRoot, IsRightToTheLastTwoDigits) {
     const Decimal radicand = Radicand(random, round);
     const std::size_t limit = 5 + random.below(random.one_in(2) ? 116 : 20);
     const NumberText root = Square_Root(radicand.text(), limit);
-    ASSERT_LE(Distance(root, radicand, limit), 1U)
+    ASSERT_TRUE(Is_Near_Root(root, radicand, limit))
         << radicand.text() << " at " << limit << ": " << root;
   }
 }

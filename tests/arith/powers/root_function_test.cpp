@@ -1,10 +1,8 @@
 // Roots against exact powers of whole numbers, and the ways their iterations end.
 #include "arith/powers/root_function.h"
 
-#include <gmp.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <memory>
 #include <string>
 #include <utility>
@@ -17,63 +15,30 @@
 #include "support/localized.h"
 #include "support/random_numbers.h"
 #include "support/surroundings.h"
+#include "support/text_steps.h"
+#include "support/whole_number.h"
 
 namespace quorvex {
 namespace {
 
-NumberText Root(const NumberText& radicand, const NumberText& degree, double limit) {
-  const HostValue digits = limit;
-  return Do_Operation(operation::root, radicand, degree, {.maximum_significant_digits = digits},
-                      {.intermediate = true});
-}
-
-// A number as a whole one and a count of decimals.
-class Whole {
- public:
-  explicit Whole(std::string text) {
-    const std::size_t place = text.find('.');
-    if (place != std::string::npos) {
-      decimals = text.size() - place - 1;
-      text.erase(place, 1);
-    }
-    digits = text.size() - std::min(text.find_first_not_of('0'), text.size());
-    mpz_init_set_str(number, text.c_str(), 10);
-  }
-  Whole(const Whole&) = delete;
-  Whole& operator=(const Whole&) = delete;
-  ~Whole() { mpz_clear(number); }
-
-  mpz_t number;
-  std::size_t decimals = 0;
-  std::size_t digits = 0;  // without zeros at the left
-};
-
 // Whether the root lies within one unit of the place `count` of a positive result.
 bool Is_Root_To(const std::string& result, const std::string& radicand, std::size_t degree,
                 std::size_t count) {
-  const Whole root(result);
-  const Whole given(radicand);
-  mpz_t unit;
-  mpz_t low;
-  mpz_t high;
-  mpz_t exact;
-  mpz_inits(unit, low, high, exact, nullptr);
-  // All at the scale of degree times the result's decimals and those of the radicand.
-  mpz_ui_pow_ui(unit, 10, root.digits > count ? root.digits - count : 0);
-  mpz_sub(low, root.number, unit);
-  mpz_add(high, root.number, unit);
-  mpz_t scale;
-  mpz_init(scale);
-  mpz_ui_pow_ui(scale, 10, given.decimals);
-  for (mpz_ptr bound : {low, high}) {
-    mpz_pow_ui(bound, bound, degree);
-    mpz_mul(bound, bound, scale);
-  }
-  mpz_ui_pow_ui(exact, 10, root.decimals * degree);
-  mpz_mul(exact, exact, given.number);
-  const bool within = mpz_cmp(low, exact) <= 0 && mpz_cmp(exact, high) <= 0;
-  mpz_clears(unit, low, high, exact, scale, nullptr);
-  return within;
+  const Scaled_Digits root_digits(result);
+  const Scaled_Digits given(radicand);
+  const Whole_Number root = root_digits.number();
+  const std::size_t digits = root.text().size();
+  const Whole_Number unit = Whole_Number::Ten_To(digits > count ? digits - count : 0);
+  // At the scale of degree times the result's decimals and those of the radicand.
+  const auto power = [&](const Whole_Number& bound) {
+    return Whole_Number::Power(bound, degree) * Whole_Number::Ten_To(given.decimals);
+  };
+  const Whole_Number exact = given.number() * Whole_Number::Ten_To(root_digits.decimals * degree);
+  return !(exact < power(root - unit)) && !(power(root + unit) < exact);
+}
+
+NumberText Root(const NumberText& radicand, const NumberText& degree, double limit) {
+  return Text_Steps{limit}.root(radicand, degree);
 }
 
 std::string Random_Radicand(Random_Numbers& random) {
@@ -106,20 +71,13 @@ TEST(Roots, AreRightToThePlaceBeforeTheLimit) {
 // Floats begin with the very root where one by the degree is a float, so that nothing moves.
 TEST(Roots, OfPowersWithShortRootsAreExact) {
   Random_Numbers random(72);
-  mpz_t power;
-  mpz_init(power);
   for (int round = 0; round < 600; ++round) {
     const std::string root = std::to_string(2 + random.below(8)) + random.digits(random.below(11));
     const std::size_t degree = std::size_t{2} << random.below(3);
-    mpz_set_str(power, root.c_str(), 10);
-    mpz_pow_ui(power, power, degree);
-    std::string text(mpz_sizeinbase(power, 10) + 2, '\0');
-    mpz_get_str(text.data(), 10, power);
-    text.resize(text.find('\0'));
+    const std::string power = Whole_Number::Power(Whole_Number(root), degree).text();
     const auto limit = static_cast<double>(root.size() + 1 + random.below(30));
-    ASSERT_EQ(Root(text, std::to_string(degree), limit), root) << text << " degree " << degree;
+    ASSERT_EQ(Root(power, std::to_string(degree), limit), root) << power << " degree " << degree;
   }
-  mpz_clear(power);
 }
 
 TEST(Roots, AreTheSameInEveryLocale) {

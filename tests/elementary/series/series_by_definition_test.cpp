@@ -107,28 +107,11 @@ NumberText Arc_Tangent(const NumberText& x, int limit) {
   }
 }
 
-int Random_Limit(Random_Numbers& random) {
-  return static_cast<int>(2 + random.below(random.one_in(8) ? 200 : 40));
-}
-
-// Numbers of all sizes, and such as lie just below powers of two, whose terms are negative.
-NumberText Random_Positive(Random_Numbers& random) {
-  const NumberText digits = random.digits(1 + random.below(30)) + "3";
-  switch (random.below(3)) {
-    case 0:
-      return std::to_string((1ULL << random.below(50)) - 1) + ".9999999999999999999999" + digits;
-    case 1:
-      return "0." + NumberText(random.below(30), '0') + digits;
-    default:
-      return "1" + digits + "." + digits;
-  }
-}
-
 TEST(SeriesByDefinition, Logarithms) {
   Random_Numbers random(20);
   for (int round = 0; round < 150; ++round) {
-    const NumberText number = Random_Positive(random);
-    const int limit = Random_Limit(random);
+    const NumberText number = random.positive();
+    const int limit = static_cast<int>(random.limit(2, 201));
     ASSERT_EQ(Ln_Function(number, Missing, limit), Logarithm(number, limit))
         << number << " at " << limit;
   }
@@ -139,7 +122,7 @@ TEST(SeriesByDefinition, Exponentials) {
   for (int round = 0; round < 150; ++round) {
     const NumberText number = (random.one_in(2) ? "-" : "") + std::to_string(random.below(400)) +
                               "." + random.digits(random.below(40)) + "7";
-    const int limit = Random_Limit(random);
+    const int limit = static_cast<int>(random.limit(2, 201));
     ASSERT_EQ(Exp_Function(number, Missing, limit), Exponential(number, limit))
         << number << " at " << limit;
   }
@@ -150,7 +133,7 @@ TEST(SeriesByDefinition, SinesAndArcTangents) {
   for (int round = 0; round < 150; ++round) {
     const NumberText number = NumberText(random.one_in(2) ? "-" : "") + "0." +
                               random.one_of("0123") + random.digits(random.below(60)) + "9";
-    const int limit = Random_Limit(random);
+    const int limit = static_cast<int>(random.limit(2, 201));
     const Step_Number x(number);
     const Steps steps(limit);
     ASSERT_EQ(Sin_Series(x, steps).text(), Sine(number, limit)) << number << " at " << limit;

@@ -1,7 +1,6 @@
 // Stands in for GMP where that isn't: the oracle has it.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <cstring>
 
@@ -18,21 +17,6 @@ inline void mpz_init(mpz_ptr number) {
 }
 inline void mpz_clear(mpz_ptr number) {
   quorvex::oracle::Tell("mpz_clear", number);
-}
-// The last one is null.
-template <typename... Numbers>
-void mpz_inits(Numbers... numbers) {
-  const auto init = [](mpz_ptr number) {
-    if (number != nullptr) mpz_init(number);
-  };
-  (init(numbers), ...);
-}
-template <typename... Numbers>
-void mpz_clears(Numbers... numbers) {
-  const auto clear = [](mpz_ptr number) {
-    if (number != nullptr) mpz_clear(number);
-  };
-  (clear(numbers), ...);
 }
 
 #define ASK(name)                                              \
@@ -59,12 +43,6 @@ WHOLE_BY_ONE_AND_COUNT(ASK)
   }
 WHOLE_BY_COUNT(ASK)
 #undef ASK
-#define ASK(name)                                                    \
-  inline void name(mpz_ptr made, std::size_t one, std::size_t two) { \
-    quorvex::oracle::Tell(#name, made, one, two);                    \
-  }
-WHOLE_BY_TWO_COUNTS(ASK)
-#undef ASK
 #define ASK(name)                                    \
   inline int name(mpz_srcptr a, mpz_srcptr b) {      \
     return quorvex::oracle::Ask_Number(#name, a, b); \
@@ -83,16 +61,8 @@ inline int mpz_init_set_str(mpz_ptr number, const char* text, int base) {
   mpz_init(number);
   return mpz_set_str(number, text, base);
 }
-inline int mpz_cmp_ui(mpz_srcptr number, std::size_t other) {
-  return quorvex::oracle::Ask_Number("mpz_cmp_ui", number, other);
-}
 inline int mpz_sgn(mpz_srcptr number) {
   return quorvex::oracle::Ask_Number("mpz_sgn", number);
-}
-/// As near as it comes, in half as many bits as the oracle has.
-inline long mpz_get_si(mpz_srcptr number) {
-  const long long whole = std::stoll(quorvex::oracle::Ask("mpz_get_si", number));
-  return static_cast<long>(std::clamp(whole, -0x7FFFFFFFLL, 0x7FFFFFFFLL));
 }
 inline std::size_t mpz_sizeinbase(mpz_srcptr number, int /*base*/) {
   return std::stoull(quorvex::oracle::Ask("mpz_sizeinbase", number));

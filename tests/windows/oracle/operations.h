@@ -9,12 +9,10 @@
   DO(mpz_mul)            \
   DO(mpz_tdiv_q)         \
   DO(mpz_tdiv_r)         \
-  DO(mpz_gcd)            \
-  DO(mpz_divexact)
+  DO(mpz_gcd)
 #define WHOLE_BY_ONE(DO) DO(mpz_set) DO(mpz_sqrt)
-#define WHOLE_BY_ONE_AND_COUNT(DO) DO(mpz_add_ui) DO(mpz_sub_ui) DO(mpz_pow_ui)
+#define WHOLE_BY_ONE_AND_COUNT(DO) DO(mpz_pow_ui)
 #define WHOLE_BY_COUNT(DO) DO(mpz_fac_ui) DO(mpz_2fac_ui)
-#define WHOLE_BY_TWO_COUNTS(DO) DO(mpz_ui_pow_ui)
 #define WHOLE_COMPARED(DO) DO(mpz_cmp) DO(mpz_cmpabs)
 
 // Of real numbers, rounded to nearest.

@@ -121,14 +121,6 @@ std::map<std::string, Operation> Whole_Operations() {
   });
   WHOLE_BY_COUNT(ANSWER)
 #undef ANSWER
-#define ANSWER(name)                     \
-  all[#name] = Silent([](Operands& o) {  \
-    mpz_ptr made = o.whole();            \
-    const unsigned long one = o.count(); \
-    name(made, one, o.count());          \
-  });
-  WHOLE_BY_TWO_COUNTS(ANSWER)
-#undef ANSWER
 #define ANSWER(name)                           \
   all[#name] = [](Operands& o) {               \
     mpz_srcptr a = o.whole();                  \
@@ -142,16 +134,10 @@ std::map<std::string, Operation> Whole_Operations() {
     mpz_ptr made = o.whole();
     return std::to_string(mpz_set_str(made, o.rest().c_str(), 10));
   };
-  all["mpz_cmp_ui"] = [](Operands& o) {
-    mpz_srcptr a = o.whole();
-    const unsigned long b = o.count();
-    return std::to_string(mpz_cmp_ui(a, b));
-  };
   all["mpz_sgn"] = [](Operands& o) {
     mpz_srcptr a = o.whole();
     return std::to_string(mpz_sgn(a));
   };
-  all["mpz_get_si"] = [](Operands& o) { return std::to_string(mpz_get_si(o.whole())); };
   all["mpz_sizeinbase"] = [](Operands& o) { return std::to_string(mpz_sizeinbase(o.whole(), 10)); };
   all["mpz_get_str"] = [](Operands& o) { return Digits_Of(o.whole()); };
   return all;

@@ -1,18 +1,19 @@
 // Remainders against the three operations that define them and against exact whole numbers.
+#include "numbers/mod_function.h"
+
 #include <gtest/gtest.h>
 
 #include <iterator>
 #include <string>
-#include <utility>
+#include <string_view>
 
-#include "arith/do_operation.h"
-#include "numbers/mod_function.h"
 #include "numbers/parity.h"
 #include "numbers/whole_part.h"
 #include "support/exact_decimal.h"
 #include "support/failures.h"
 #include "support/random_numbers.h"
 #include "support/surroundings.h"
+#include "support/text_steps.h"
 #include "support/whole_number.h"
 #include "support/without_libraries.h"
 #include "text/clean_up_number.h"
@@ -31,10 +32,8 @@ NumberText Mod(const HostValue& dividend, const HostValue& divisor, bool truncat
                       {.maximum_significant_digits = digits});
 }
 
-NumberText Operate(std::int16_t operation, const HostValue& a, const HostValue& b, double limit) {
-  const HostValue digits = limit;
-  return Do_Operation(operation, a, b, {.maximum_significant_digits = digits},
-                      {.intermediate = true});
+NumberText Operate(std::int16_t operation, std::string_view a, std::string_view b, double limit) {
+  return Text_Steps{limit}.of(operation, a, b);
 }
 
 // The operations as the result is defined by them.
@@ -110,7 +109,7 @@ TEST(Remainders, OfMultiplesOfLongNumbersAreNothing) {
       const NumberText square = Operate(operation::multiply, divisor, divisor, 1e6);
       const NumberText dividend = Operate(operation::add, square, nudge, 1e6);
       const NumberText expected =
-          *nudge == '-' ? Operate(operation::subtract, divisor, 1, 1e6) : NumberText(nudge);
+          *nudge == '-' ? Operate(operation::subtract, divisor, "1", 1e6) : NumberText(nudge);
       ASSERT_EQ(Mod(dividend, divisor, false), expected) << length;
     }
   }
