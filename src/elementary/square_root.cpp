@@ -1,10 +1,12 @@
 #include "elementary/square_root.h"
 
-#include <utility>
+#include <string>
 
-#include "arith/do_operation.h"
+#include "arith/operation/steps.h"
+#include "arith/powers/power_function.h"
 #include "elementary/constants.h"
 #include "host/conversions.h"
+#include "host/run_time_failure.h"
 #include "text/decimal.h"
 #include "text/format_result.h"
 #include "text/limits.h"
@@ -12,21 +14,32 @@
 #include "text/tokens.h"
 
 namespace quorvex {
+namespace {
+
+// What has no text, as an array, is no number.
+Step_Number Number_Of(const HostValue& num) {
+  return With_Handler(
+      [&] {
+        std::string made;
+        return Step_Number(Text_Of(num, made));
+      },
+      [](const Run_Time_Failure&) { return Step_Number(value_token); });
+}
+
+}  // namespace
 
 NumberText Sqrt_Function(const HostValue& num, Radicand radicand, const Format_Arguments& format) {
   const HostValue limit = Limit_Unless_Blank(format.maximum_significant_digits);
   if (!Is_Positive(num)) return NumberText(num_token);
-  const Format_Arguments plain{.maximum_significant_digits = limit};
-  NumberText root =
-      radicand == Radicand::number
-          ? Do_Operation(operation::root, num, 2, plain)
-          : Do_Operation_On_Texts(operation::root,
-                                  Do_Operation(operation::multiply, num, Pi_Digits(limit), plain),
-                                  "2", Restrictionator(plain));
   const type_Restrictionator options =
       Restrictionator({Missing, format.format_thousands, format.format_currency,
                        format.exponential_notation, limit});
-  return Format_Result(Read_Decimal(std::move(root)), options, false);
+  const Steps steps(options.maxSD);
+  Step_Number number = Number_Of(num);
+  if (radicand == Radicand::multiple_of_pi) {
+    steps.multiply(number, Step_Number(To_Text(Pi_Digits(limit))));
+  }
+  return Format_Result(Read_Decimal(Root(number, Step_Number(2), steps)), options, false);
 }
 
 }  // namespace quorvex

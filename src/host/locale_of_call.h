@@ -10,13 +10,23 @@ namespace quorvex {
 /// In force on its thread until the end of its scope: the first use of separators or currency asks
 /// for them, and all later ones get what that one got, so that a change of the user's settings
 /// can't come between. A call from within a call (a host may run one while it is yielded to) has
-/// its own.
+/// its own; but a method goes on in the one that it is handed, in which its arguments were
+/// converted.
 class Locale_Of_Call {
  public:
-  Locale_Of_Call() noexcept : outer_(innermost_) { innermost_ = this; }
+  Locale_Of_Call() noexcept : outer_(innermost_) {
+    if (outer_ != nullptr && outer_->is_handed_over_) {
+      outer_->is_handed_over_ = false;
+    } else {
+      innermost_ = this;
+    }
+  }
   ~Locale_Of_Call() { innermost_ = outer_; }
   Locale_Of_Call(const Locale_Of_Call&) = delete;
   Locale_Of_Call& operator=(const Locale_Of_Call&) = delete;
+
+  /// The next one on this thread, which the called method opens, goes on in this one.
+  void hand_over() noexcept { is_handed_over_ = true; }
 
   /// `Current_Separators`, for routines that are busy enough to notice the way there.
   static Separators separators() {
@@ -38,6 +48,7 @@ class Locale_Of_Call {
   static thread_local constinit Locale_Of_Call* innermost_;
 
   Locale_Of_Call* outer_;
+  bool is_handed_over_ = false;
   std::optional<Separators> separators_;
   std::optional<Currency> currency_;
 };

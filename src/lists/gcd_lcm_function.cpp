@@ -6,11 +6,9 @@
 #include <utility>
 
 #include "arith/fractions/reduce_fraction.h"
-#include "arith/operation/four_operations.h"
-#include "arith/operation/operation_codes.h"
+#include "arith/operation/steps.h"
 #include "lists/list_result.h"
 #include "lists/list_walk.h"
-#include "text/compare_numbers.h"
 #include "text/options.h"
 #include "text/primitives.h"
 #include "text/round_function.h"
@@ -31,18 +29,16 @@ type_Fraction Reduce(const NumberText& running, const NumberText& element) {
   return Reduce_Fraction(running, element, {.simplify_signs = true});
 }
 
-bool Is_Zero_Text(const NumberText& number) {
-  return Is_True(Compare_Numbers(number, "0", true, false));
-}
-
 // The multiple as the limit allows it, but never cut: it has no more significant digits than both
 // numbers together, and neither has their product.
 NumberText Common_Multiple(const NumberText& running, const NumberText& element,
                            const NumberText& reduced_by, double limit) {
   const double digits = std::max(limit, static_cast<double>(running.size() + element.size()));
-  const NumberText product = Intermediate(operation::multiply, running, element, digits);
-  if (Is_Zero_Text(product) && Is_Zero_Text(reduced_by)) return "0";
-  return Intermediate(operation::divide, product, reduced_by, digits);
+  const Steps steps(digits);
+  const Step_Number product = steps.product(Step_Number(running), Step_Number(element));
+  const Step_Number divisor(reduced_by);
+  if (product.is_zero() && divisor.is_zero()) return "0";
+  return steps.quotient(product, divisor).text();
 }
 
 // Folds a list with `join`, which changes the running value by an element. Unlike other lists these

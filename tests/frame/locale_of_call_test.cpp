@@ -41,21 +41,20 @@ class Locale_Of_Calls : public testing::Test {
   std::shared_ptr<Locale_Source> before_ = Current_Platform().locale;
 };
 
-/// Arguments that the method can calculate with, none of which must be converted before it is
-/// called.
-std::vector<HostValue> Plain_Arguments(const Method& method) {
+/// Arguments that the method can calculate with, each of a kind that has to be converted for it.
+std::vector<HostValue> Arguments_To_Convert(const Method& method) {
   std::vector<HostValue> arguments;
   for (const Parameter& parameter : method.parameters) {
     if (parameter.optional) {
       arguments.push_back(Missing);
     } else if (parameter.kind == Parameter_Kind::integer) {
-      arguments.emplace_back(7.0);
+      arguments.emplace_back("7.0");
     } else if (parameter.kind == Parameter_Kind::boolean) {
-      arguments.emplace_back(true);
+      arguments.emplace_back("1.5");
     } else if (parameter.kind == Parameter_Kind::list) {
-      arguments.emplace_back(List{"12", "3", "$5"});
+      arguments.emplace_back(List{"12", 3.5, "$5"});
     } else {
-      arguments.emplace_back("3");
+      arguments.emplace_back(3.5);
     }
   }
   return arguments;
@@ -67,8 +66,8 @@ TEST_F(Locale_Of_Calls, AskOnceAtMost) {
     if (method.name == "qvxABOUT" || method.name == "SetExcelApp") continue;
     source_->separators_asked = 0;
     source_->currency_asked = 0;
-    // A sum of cells takes nothing plain: what it refuses counts as well.
-    With_Handler([&] { Invoke(engine_, method, Plain_Arguments(method)); },
+    // A sum of cells takes none of these: what it refuses counts as well.
+    With_Handler([&] { Invoke(engine_, method, Arguments_To_Convert(method)); },
                  [](const Run_Time_Failure&) {});
     EXPECT_LE(source_->separators_asked, 1) << method.name;
     EXPECT_LE(source_->currency_asked, 1) << method.name;
@@ -81,6 +80,14 @@ TEST_F(Locale_Of_Calls, AskOnlyForWhatTheyUse) {
   engine_.qvxADD("1.5", "2.25");
   EXPECT_EQ(source_->separators_asked, 1);
   EXPECT_EQ(source_->currency_asked, 0);
+}
+
+// What the locale makes of an argument, the method reads by the same one.
+TEST_F(Locale_Of_Calls, ConvertArgumentsByTheirOwn) {
+  const Method& format = *Find_Method("qvxFORMAT");
+  for (const char* const expected : {"1250.5", "1250,5", "1250.5"}) {
+    EXPECT_EQ(std::get<HostValue>(Invoke(engine_, format, {1250.5})).text(), expected);
+  }
 }
 
 TEST_F(Locale_Of_Calls, AskAnewEachTime) {

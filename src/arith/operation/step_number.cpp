@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <compare>
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -92,6 +93,10 @@ void Step_Number::negate() {
   } else if (!is_token() && !is_zero()) {
     *this = Step_Number(text_->starts_with('-') ? text_->substr(1) : "-" + *text_);
   }
+}
+
+Decimal Read_Decimal(const Step_Number& number) {
+  return number.is_in_limbs() ? number.decimal() : Read_Decimal(number.text());
 }
 
 std::int64_t Plain_Length(const Step_Number& number) {

@@ -52,6 +52,9 @@ class Step_Number {
   std::optional<NumberText> text_;  // where the number is not in limbs
 };
 
+/// The number or the text as a result before it is formatted: any text stays that is no number.
+Decimal Read_Decimal(const Step_Number& number);
+
 /// The length of the number's text without the separator, its sign among it. Not for tokens.
 std::int64_t Plain_Length(const Step_Number& number);
 

@@ -5,11 +5,13 @@
 
 #include "host/conversions.h"
 #include "text/clean_up_number.h"
+#include "text/decimal.h"
 #include "text/digit_runs.h"
 #include "text/options.h"
 #include "text/primitives.h"
 
 namespace quorvex {
+
 NumberText Clean_Text(const Operand& operand) {
   NumberText text = operand.positive() ? "" : "-";
   if (!operand.is_number()) {
@@ -27,6 +29,11 @@ NumberText Clean_Text(const Operand& operand) {
   return text;
 }
 
+Step_Number Clean_Number(const Operand& operand) {
+  if (!operand.is_number()) return Step_Number(Clean_Text(operand));
+  return Step_Number(Significant_Digits(!operand.positive(), operand.parts()));
+}
+
 bool Has_Fraction(const NumberText& number) {
   return number.find(Decimal_Separator()) != NumberText::npos;
 }
@@ -36,9 +43,13 @@ double Length_Without_Separator(const NumberText& number) {
   return static_cast<double>(number.size() - separator);
 }
 
-double Working_Digits(const Step_Options& options, const NumberText& a, const NumberText& b) {
-  if (!options.working_digits.is_missing()) return To_Number(options.working_digits);
-  return Length_Without_Separator(a) + Length_Without_Separator(b);
+double Length_Without_Separator(const Step_Number& number) {
+  return number.is_in_limbs() ? static_cast<double>(Plain_Length(number))
+                              : Length_Without_Separator(number.text());
+}
+
+double Working_Digits(const Step_Options& options, double characters) {
+  return options.working_digits.is_missing() ? characters : To_Number(options.working_digits);
 }
 
 bool Are_Too_Long(const Step_Options& options, double working_digits) {

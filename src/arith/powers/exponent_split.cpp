@@ -6,32 +6,20 @@
 #include <string>
 #include <utility>
 
-#include "arith/operation/four_operations.h"
-#include "arith/operation/operation_codes.h"
+#include "arith/limbs/limb_number.h"
+#include "arith/operation/steps.h"
 #include "host/platform.h"
-#include "host/run_time_failure.h"
-#include "text/compare_numbers.h"
 #include "text/primitives.h"
 
 namespace quorvex {
 namespace {
 
-// Intermediate values at one limit.
-class Calculation {
- public:
-  explicit Calculation(double maxSD) : limit_(maxSD) {}
-
-  NumberText operator()(std::int16_t code, const NumberText& a, const NumberText& b) const {
-    return Intermediate(code, a, b, limit_);
-  }
-
-  NumberText whole_quotient(const NumberText& a, const NumberText& b) const {
-    return NumberText(Integer_Part_Text((*this)(operation::divide, a, b)));
-  }
-
- private:
-  double limit_;
-};
+// Of a token it is the token.
+Step_Number Whole_Quotient(const Step_Number& a, const Step_Number& b, const Steps& steps) {
+  const Step_Number quotient = steps.quotient(a, b);
+  if (!quotient.is_in_limbs()) return Step_Number(Integer_Part_Text(quotient.text()));
+  return Step_Number(limbs::Floor(quotient.in_limbs()));
+}
 
 // The exponent's own digits, a half of it, and what divisions need so that they never round up to
 // a whole number: the fraction of n / a is at most 1 - 1/a.
@@ -57,28 +45,31 @@ Exponent_Split Split_Exactly(const NumberText& text) {
 
 }  // namespace
 
-Exponent_Split Split_Exponent_By_Text(const NumberText& n, double maxSD) {
-  const Calculation calculate(maxSD);
+Exponent_Split Split_Exponent_By_Steps(const NumberText& text, double maxSD) {
+  const Steps steps(maxSD);
+  const Step_Number zero(0);
+  const Step_Number one(1);
+  const Step_Number n(text);
   Exponent_Split split;
-  NumberText best = n;
-  NumberText m = n;
+  Step_Number best = n;
+  Step_Number m = n;
   for (;;) {
     Yield();
-    NumberText a = calculate.whole_quotient(m, "2");
-    NumberText b = calculate.whole_quotient(n, a);
-    NumberText c = calculate(operation::subtract, n, calculate(operation::multiply, a, b));
-    NumberText cost = calculate(operation::add, calculate(operation::add, a, c), b);
-    if (Is_Greater(a, "0")) cost = calculate(operation::subtract, cost, "1");
-    if (Is_Greater(b, "0")) cost = calculate(operation::subtract, cost, "1");
+    Step_Number a = Whole_Quotient(m, Step_Number(2), steps);
+    const Step_Number b = Whole_Quotient(n, a, steps);
+    const Step_Number c = steps.difference(n, steps.product(a, b));
+    Step_Number cost = steps.sum(steps.sum(a, c), b);
+    if (Is_Greater(a, zero)) steps.subtract(cost, one);
+    if (Is_Greater(b, zero)) steps.subtract(cost, one);
     if (!Is_Greater(best, cost)) return split;
     best = std::move(cost);
-    m = a;
-    split = {std::move(a), std::move(b), std::move(c)};
+    split = {a.text(), b.text(), c.text()};
+    m = std::move(a);
   }
 }
 
 Exponent_Split Split_Exponent(const NumberText& n, double maxSD) {
-  return Is_Exact(n, maxSD) ? Split_Exactly(n) : Split_Exponent_By_Text(n, maxSD);
+  return Is_Exact(n, maxSD) ? Split_Exactly(n) : Split_Exponent_By_Steps(n, maxSD);
 }
 
 }  // namespace quorvex

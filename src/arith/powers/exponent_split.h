@@ -21,7 +21,7 @@ struct Exponent_Split {
 /// exponent. Fails with type_mismatch where the search comes to a token.
 Exponent_Split Split_Exponent(const NumberText& n, double maxSD);
 
-/// The same, always by arithmetic on text.
-Exponent_Split Split_Exponent_By_Text(const NumberText& n, double maxSD);
+/// The same, always by steps at the limit.
+Exponent_Split Split_Exponent_By_Steps(const NumberText& n, double maxSD);
 
 }  // namespace quorvex

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "arith/limbs/limb_number.h"
 #include "arith/operation/steps.h"
 #include "arith/powers/root_pair.h"
 #include "host/conversions.h"
@@ -62,14 +61,8 @@ bool Take_Round(const Step_Number& radicand, const Steps& steps, Round_Values& v
   return !values.mean.is_token();
 }
 
-// False where the values differ within the digits that must agree for an end: their texts need not
-// be looked at then. Those are as many as the limit says, less the separator and a zero before it,
-// and one that rounding may have changed.
 bool May_Settle(const Round_Values& values, double maxSD) {
-  constexpr double spare = 4;
-  if (values.quotient.is_negative()) return false;
-  return maxSD <= spare || !values.quotient.is_in_limbs() || !values.mean.is_in_limbs() ||
-         !limbs::Differ_Within(values.quotient.in_limbs(), values.mean.in_limbs(), maxSD - spare);
+  return !values.quotient.is_negative() && May_Be_Alike(values.quotient, values.mean, maxSD);
 }
 
 Decimal Token_Of_Round(const Round_Values& values) {

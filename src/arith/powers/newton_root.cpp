@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "arith/limbs/limb_number.h"
+#include "arith/powers/root_pair.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
@@ -42,21 +42,6 @@ class Value {
   mutable std::optional<NumberText> rounded_;
 };
 
-// False where two values differ in so many characters of their texts, however these are rounded
-// there: a separator and a zero before it are characters, too. Zeros behind those of a negative
-// number are, so that all of its digits may be beyond.
-bool May_Be_Alike(const Value& a, const Value& b, double characters) {
-  constexpr double spare = 4;
-  const double digits = characters - spare;
-  const Step_Number& x = a.number();
-  const Step_Number& y = b.number();
-  const auto is_told = [](const Step_Number& number) {
-    return number.is_in_limbs() && !number.is_negative() && !number.is_zero();
-  };
-  if (digits < 1 || !is_told(x) || !is_told(y)) return true;
-  return !limbs::Differ_Within(x.in_limbs(), y.in_limbs(), digits);
-}
-
 // The characters of a value's text.
 std::int64_t Length(const Value& value) {
   const Step_Number& number = value.number();
@@ -86,7 +71,7 @@ class History {
 
  private:
   bool is_repeated(const Value& a, const Value& b) const {
-    return May_Be_Alike(a, b, count_) && a.rounded(count_) == b.rounded(count_);
+    return May_Be_Alike(a.number(), b.number(), count_) && a.rounded(count_) == b.rounded(count_);
   }
 
   static constexpr int most_repeats = 10;
@@ -161,7 +146,7 @@ bool Only_Grew(const Value& value, const Value& before, double maxSD) {
 
 class Newton_Iteration {
  public:
-  Newton_Iteration(const NumberText& radicand, const NumberText& degree, const Steps& steps,
+  Newton_Iteration(const Step_Number& radicand, const Step_Number& degree, const Steps& steps,
                    Power_Step power)
       : radicand_(radicand),
         degree_(degree),
@@ -197,20 +182,16 @@ class Newton_Iteration {
   Power_Step power_;
 };
 
-Decimal Decimal_Of(const Value& value) {
-  return value.number().is_in_limbs() ? value.number().decimal() : Read_Decimal(value.text());
-}
-
 }  // namespace
 
-Decimal Newton_Root(const NumberText& radicand, const NumberText& degree, const NumberText& start,
+Decimal Newton_Root(const Step_Number& radicand, const Step_Number& degree, Step_Number start,
                     const Newton_Limits& limits, Power_Step power) {
   Refuse_Endless_Way(Least_Work(radicand, degree, start, limits));
   const Newton_Iteration iteration(radicand, degree, Steps(limits.steps), power);
   const double compared = limits.maxSD - 1;
   History history(compared);
   Circle_Watch circles;
-  Value value{Step_Number(start)};
+  Value value{std::move(start)};
   for (;;) {
     Yield();
     const Value before = std::move(value);
@@ -220,11 +201,11 @@ Decimal Newton_Root(const NumberText& radicand, const NumberText& degree, const 
       value = Time_Of_Day();
       circles.begin_anew();
     }
-    if (Only_Grew(value, before, limits.maxSD)) return Decimal_Of(before);
+    if (Only_Grew(value, before, limits.maxSD)) return Read_Decimal(before.number());
     if (!history.note(value)) return Decimal_Token(num_token);
-    if (May_Be_Alike(value, before, compared) &&
+    if (May_Be_Alike(value.number(), before.number(), compared) &&
         Is_Equal(value.rounded(compared), before.rounded(compared))) {
-      return Decimal_Of(before);
+      return Read_Decimal(before.number());
     }
     circles.see(value, history);
   }

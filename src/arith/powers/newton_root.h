@@ -3,7 +3,6 @@
 
 #include "arith/operation/steps.h"
 #include "arith/powers/newton_work.h"
-#include "host/host_value.h"
 #include "text/decimal.h"
 
 namespace quorvex {
@@ -18,7 +17,7 @@ using Power_Step = Step_Number (*)(const Step_Number& base, const Step_Number& e
 /// somewhere. A token of a step is the result, and so is "#NUM!" where values come back too often
 /// among the last ten. Fails with too_complex where they come back in a longer circle, and at once
 /// where the way to the root can be seen to be longer than anybody waits.
-Decimal Newton_Root(const NumberText& radicand, const NumberText& degree, const NumberText& start,
+Decimal Newton_Root(const Step_Number& radicand, const Step_Number& degree, Step_Number start,
                     const Newton_Limits& limits, Power_Step power);
 
 }  // namespace quorvex

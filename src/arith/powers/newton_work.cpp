@@ -5,22 +5,20 @@
 #include <cstddef>
 #include <numbers>
 #include <string>
-#include <string_view>
 
-#include "arith/operation/four_operations.h"
-#include "arith/operation/operation_codes.h"
+#include "arith/operation/step_options.h"
+#include "arith/operation/steps.h"
 #include "host/conversions.h"
 #include "text/decimal.h"
 #include "text/options.h"
-#include "text/primitives.h"
 
 namespace quorvex {
 namespace {
 
 // Of a magnitude of any size.
-double Logarithm(const NumberText& number) {
+double Logarithm(const Step_Number& number) {
   constexpr std::size_t digits_of_floats = 17;
-  const Decimal decimal = Significant_Digits(number);
+  const Decimal decimal = number.decimal();
   const std::string leading = decimal.digits.substr(0, digits_of_floats);
   const auto power = static_cast<double>(decimal.power_of_ten) +
                      static_cast<double>(decimal.digits.size() - leading.size());
@@ -28,12 +26,12 @@ double Logarithm(const NumberText& number) {
 }
 
 // A large degree multiplies what a float of a number next to 1 lacks. Estimates have 15 digits.
-double Precise_Logarithm(const NumberText& number) {
+double Precise_Logarithm(const Step_Number& number) {
   constexpr double near = 0.5;
   constexpr double limit = 15;
   const double logarithm = Logarithm(number);
   if (std::fabs(logarithm) > near) return logarithm;
-  return std::log1p(Text_To_Number(Intermediate(operation::subtract, number, "1", limit)));
+  return std::log1p(Text_To_Number(Steps(limit).difference(number, Step_Number(1)).text()));
 }
 
 // ln(1 + (e^s - 1) / d), or a little less where that is beyond floats.
@@ -92,17 +90,25 @@ bool Shows_Steps(double log_degree, double maxSD) {
   return log_degree / std::numbers::ln10 <= maxSD - digits_not_compared;
 }
 
-NumberText Magnitude(const NumberText& number) {
-  return NumberText(Strip_Sign(number));
+Step_Number Magnitude(Step_Number number) {
+  if (number.is_negative()) number.negate();
+  return number;
+}
+
+// The root is not close to 1 as a rule, which stands for an estimate that floats don't give.
+bool Is_Close(const Step_Number& start, const Step_Number& degree) {
+  // Fifteen digits of a root are close to it, but for a degree that multiplies what they lack.
+  constexpr double short_degree = 13;
+  const bool is_whole = !degree.is_in_limbs() || degree.in_limbs().low >= 0;
+  return !Is_Equal(start, Step_Number(1)) &&
+         Length_Without_Separator(degree) + (is_whole ? 0 : 1) <= short_degree;
 }
 
 }  // namespace
 
-Newton_Work Least_Work(const NumberText& radicand, const NumberText& degree,
-                       const NumberText& start, const Newton_Limits& limits) {
-  // Fifteen digits of a root are close to it, but for a degree that multiplies what they lack.
-  constexpr std::size_t short_degree = 13;
-  if (start != "1" && degree.size() <= short_degree) return {};
+Newton_Work Least_Work(const Step_Number& radicand, const Step_Number& degree,
+                       const Step_Number& start, const Newton_Limits& limits) {
+  if (Is_Close(start, degree)) return {};
   // Beyond these, bounds are what they are there.
   constexpr double log_of_extreme = 650;
   const double log_degree = Logarithm(degree);

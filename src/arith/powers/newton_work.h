@@ -1,7 +1,7 @@
 // How long Newton's iteration for a root is on its way.
 #pragma once
 
-#include "host/host_value.h"
+#include "arith/operation/step_number.h"
 
 namespace quorvex {
 
@@ -16,8 +16,8 @@ struct Newton_Work {
 };
 
 /// What the iteration takes at least from the estimate of a root until it comes near the root; no
-/// rounds where that can't be told, and where it ends before. Takes normal forms, other than 0.
-Newton_Work Least_Work(const NumberText& radicand, const NumberText& degree,
-                       const NumberText& start, const Newton_Limits& limits);
+/// rounds where that can't be told, and where it ends before. Takes numbers other than 0.
+Newton_Work Least_Work(const Step_Number& radicand, const Step_Number& degree,
+                       const Step_Number& start, const Newton_Limits& limits);
 
 }  // namespace quorvex

@@ -2,6 +2,8 @@
 
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
+#include <cstdlib>
 #include <string_view>
 #include <utility>
 
@@ -10,6 +12,7 @@
 #include "arith/powers/exponent_split.h"
 #include "arith/powers/root_function.h"
 #include "host/conversions.h"
+#include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "text/clean_up_number.h"
 #include "text/compare_numbers.h"
@@ -180,24 +183,56 @@ Step_Number Power_Of_Numbers(const Step_Number& base, const Step_Number& exponen
       return Power_Function(Operand(base.text()), Operand(exponent.text()), options);
     }
     const NumberText power = exponent.text();
-    const double working_digits =
-        static_cast<double>(Plain_Length(base)) + Length_Without_Separator(power);
+    const double working_digits = Length_Without_Separator(base) + Length_Without_Separator(power);
     if (Are_Too_Long(options, working_digits)) return Decimal_Token(num_token);
     return Raise(base.decimal(), power, maxSD, working_digits);
   });
 }
 
+// Of a number in limbs itself.
+Step_Number Cleaned(const Step_Number& number) {
+  return number.is_in_limbs() ? number : Clean_Number(Operand(number.text()));
+}
+
+// Squares and cubes of numbers of common sizes, which the rounds of low roots take, and for which
+// no digits are written out: all their zeros have room, and none of them is a count.
+constexpr std::int64_t common_power = 1'000'000;
+
+bool Is_Low_Power(const Step_Number& base, const Step_Number& exponent, double limit) {
+  if (!base.is_in_limbs() || base.is_zero() || !exponent.is_in_limbs()) return false;
+  const limbs::Number& n = exponent.in_limbs();
+  return n.count() == 1 && n.low == 0 && !n.negative && (n.data()[0] == 2 || n.data()[0] == 3) &&
+         limit >= 1 && limit <= maximum_digits && std::trunc(limit) == limit &&
+         std::abs(base.leading_power()) <= common_power && Plain_Length(base) <= common_power;
+}
+
+Step_Number Low_Power(const Step_Number& base, const Step_Number& exponent, double limit) {
+  const Steps products(limit + 1 + Length_Without_Separator(base) + 1);
+  return With_Handler(
+      [&] {
+        Yield();
+        Step_Number power = products.product(base, base);
+        if (exponent.in_limbs().data()[0] == 3) products.multiply(power, base);
+        // Rounded to the limit like any step.
+        return Steps(limit).product(std::move(power), Step_Number(1));
+      },
+      [](const Run_Time_Failure&) { return Step_Number(value_token); });
+}
+
 }  // namespace
 
 Decimal Power_Function(const Operand& base, const Operand& exponent, const Step_Options& options) {
-  const NumberText number = Clean_Text(base);
+  Decimal number = base.is_number() ? Significant_Digits(!base.positive(), base.parts())
+                                    : Significant_Digits(Clean_Text(base));
   const NumberText power = Clean_Text(exponent);
-  const double working_digits = Working_Digits(options, number, power);
+  const double working_digits = Working_Digits(
+      options, static_cast<double>(Plain_Length(number)) + Length_Without_Separator(power));
   if (Are_Too_Long(options, working_digits)) return Decimal_Token(num_token);
-  return Raise(Significant_Digits(number), power, options.maxSD, working_digits);
+  return Raise(std::move(number), power, options.maxSD, working_digits);
 }
 
 Step_Number Power(const Step_Number& base, const Step_Number& exponent, const Steps& steps) {
+  if (Is_Low_Power(base, exponent, steps.limit())) return Low_Power(base, exponent, steps.limit());
   return Power_Of_Numbers(base, exponent, steps, false);
 }
 
@@ -208,7 +243,7 @@ Step_Number Restricted_Power(const Step_Number& base, const Step_Number& exponen
 
 Step_Number Root(const Step_Number& radicand, const Step_Number& degree, const Steps& steps) {
   return Take_Step(radicand, degree, steps.limit(), [&](double maxSD) {
-    return Root_Function(Operand(radicand.text()), Operand(degree.text()), {maxSD}, Power);
+    return Root_Of_Number(Cleaned(radicand), Cleaned(degree), {maxSD}, Power);
   });
 }
 

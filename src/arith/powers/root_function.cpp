@@ -1,10 +1,10 @@
 #include "arith/powers/root_function.h"
 
+#include <cstdint>
 #include <string_view>
 #include <utility>
 
-#include "arith/operation/four_operations.h"
-#include "arith/operation/operation_codes.h"
+#include "arith/operation/steps.h"
 #include "arith/powers/mean_root.h"
 #include "arith/powers/newton_root.h"
 #include "arith/powers/root_estimate.h"
@@ -17,33 +17,46 @@ namespace {
 constexpr std::string_view unmarked_div0_token = "DIV/0!";
 
 // What is no number is not odd.
-bool Is_Odd_Whole(const NumberText& degree) {
-  if (Has_Fraction(degree) || Has_Token_Mark(degree)) return false;
-  return (degree.back() - '0') % 2 == 1;
+bool Is_Odd_Whole(const Step_Number& degree) {
+  if (!degree.is_in_limbs() || degree.in_limbs().low != 0) return false;
+  return degree.in_limbs().data()[0] % 2 == 1;
+}
+
+bool Is(const Step_Number& number, std::int64_t small) {
+  return number.is_in_limbs() && Is_Equal(number, Step_Number(static_cast<double>(small)));
+}
+
+// The root of a positive degree.
+Decimal Iterate(const Step_Number& radicand, const Step_Number& degree, const Newton_Limits& limits,
+                Power_Step power) {
+  // The first step would bring the degree's token before that of the radicand.
+  if (degree.is_token()) return Decimal_Token(degree.text());
+  if (radicand.is_token()) return Decimal_Token(radicand.text());
+  Step_Number start = Root_Estimate(radicand, degree);
+  if (Is(degree, 2)) return Mean_Root(radicand, start, limits.maxSD);
+  return Newton_Root(radicand, degree, std::move(start), limits, power);
 }
 
 }  // namespace
 
+Decimal Root_Of_Number(const Step_Number& radicand, const Step_Number& degree,
+                       const Step_Options& options, Power_Step power) {
+  const double working_digits = Working_Digits(
+      options, Length_Without_Separator(degree) + Length_Without_Separator(radicand));
+  if (Are_Too_Long(options, working_digits)) return Decimal_Token(num_token);
+  if (Is(degree, 0)) return Decimal_Token(unmarked_div0_token);
+  if (Is(radicand, 0) || Is(radicand, 1) || Is(degree, 1)) return Read_Decimal(radicand);
+  if (radicand.is_negative() && !Is_Odd_Whole(degree)) return Decimal_Token(num_token);
+  const Newton_Limits limits{options.maxSD, options.maxSD + working_digits};
+  if (!degree.is_negative()) return Iterate(radicand, degree, limits, power);
+  Step_Number opposite = degree;
+  opposite.negate();
+  return Iterate(Steps(options.maxSD).quotient(Step_Number(1), radicand), opposite, limits, power);
+}
+
 Decimal Root_Function(const Operand& radicand, const Operand& degree, const Step_Options& options,
                       Power_Step power) {
-  NumberText number = Clean_Text(radicand);
-  NumberText root_of = Clean_Text(degree);
-  const double working_digits = Working_Digits(options, root_of, number);
-  if (Are_Too_Long(options, working_digits)) return Decimal_Token(num_token);
-  if (root_of == "0") return Decimal_Token(unmarked_div0_token);
-  if (number == "0" || number == "1" || root_of == "1") return Read_Decimal(std::move(number));
-  if (number.starts_with('-') && !Is_Odd_Whole(root_of)) return Decimal_Token(num_token);
-  if (root_of.starts_with('-')) {
-    root_of.erase(0, 1);
-    number = Intermediate(operation::divide, "1", number, options.maxSD);
-  }
-  // The first step would bring the degree's token before that of the radicand.
-  if (Has_Token_Mark(root_of)) return Decimal_Token(root_of);
-  if (Has_Token_Mark(number)) return Decimal_Token(number);
-  const NumberText start = Root_Estimate(number, root_of);
-  if (root_of == "2") return Mean_Root(Step_Number(number), Step_Number(start), options.maxSD);
-  return Newton_Root(number, root_of, start, {options.maxSD, options.maxSD + working_digits},
-                     power);
+  return Root_Of_Number(Clean_Number(radicand), Clean_Number(degree), options, power);
 }
 
 }  // namespace quorvex

@@ -20,4 +20,8 @@ namespace quorvex {
 Decimal Root_Function(const Operand& radicand, const Operand& degree, const Step_Options& options,
                       Power_Step power);
 
+/// The same for what `Clean_Number` gives.
+Decimal Root_Of_Number(const Step_Number& radicand, const Step_Number& degree,
+                       const Step_Options& options, Power_Step power);
+
 }  // namespace quorvex

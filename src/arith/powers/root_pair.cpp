@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "arith/limbs/limb_number.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "text/digit_runs.h"
@@ -20,6 +21,16 @@ bool Has_Zeros_Alone(std::string_view digits) {
 }
 
 }  // namespace
+
+bool May_Be_Alike(const Step_Number& a, const Step_Number& b, double characters) {
+  constexpr double spare = 4;
+  const double digits = characters - spare;
+  const auto is_told = [](const Step_Number& number) {
+    return number.is_in_limbs() && !number.is_negative() && !number.is_zero();
+  };
+  if (digits < 1 || !is_told(a) || !is_told(b)) return true;
+  return !limbs::Differ_Within(a.in_limbs(), b.in_limbs(), digits);
+}
 
 Shown_Number::Shown_Number(const Step_Number& number) {
   if (!number.is_in_limbs()) {

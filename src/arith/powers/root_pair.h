@@ -10,6 +10,12 @@
 
 namespace quorvex {
 
+/// False where two values above 0 differ in so many characters of their texts, however these are
+/// rounded there: the texts need not be looked at then. A separator and a zero before it are
+/// characters, too. Zeros behind those of a negative number are, so that all of its digits may be
+/// beyond.
+bool May_Be_Alike(const Step_Number& a, const Step_Number& b, double characters);
+
 /// A magnitude as its text shows it, the separator taken out: "0012" behind which three stand for
 /// 0.012. Lengths and places are those of the text, in characters.
 class Shown_Number {

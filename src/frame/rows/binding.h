@@ -15,6 +15,7 @@
 
 #include "frame/rows/method.h"
 #include "host/conversions.h"
+#include "host/locale_of_call.h"
 
 namespace quorvex::binding {
 
@@ -190,11 +191,26 @@ struct Bound<method> {
   template <std::size_t... places>
   static Call_Result Invoke(cls_Quorvex& engine, [[maybe_unused]] std::span<HostValue> arguments,
                             std::index_sequence<places...>) {
+    if constexpr (sizeof...(Types) == 0) {
+      return Call(engine);
+    } else {
+      // Texts are made of numbers and numbers of texts by the same locale as the method works in.
+      Locale_Of_Call locale;
+      const auto call = [&](auto&&... taken) {
+        locale.hand_over();
+        return Call(engine, std::forward<decltype(taken)>(taken)...);
+      };
+      return call(Take<Types>(arguments[places])...);
+    }
+  }
+
+  template <typename... Taken>
+  static Call_Result Call(cls_Quorvex& engine, Taken&&... taken) {
     if constexpr (std::is_void_v<Result>) {
-      (engine.*method)(Take<Types>(arguments[places])...);
+      (engine.*method)(std::forward<Taken>(taken)...);
       return {};
     } else {
-      return Give((engine.*method)(Take<Types>(arguments[places])...));
+      return Give((engine.*method)(std::forward<Taken>(taken)...));
     }
   }
 };

@@ -52,10 +52,12 @@ TEST(NewtonWork, OfDegreesAboveOneIsNextToTheRoundsItBounds) {
                             {3, "1000000000000000000000000000000"}};
   for (const Case& each : cases) {
     const std::string radicand = Power_Of_Ten(each.radicand);
-    ASSERT_EQ(Root_Estimate(radicand, each.degree), "1") << each.degree;
+    ASSERT_EQ(Root_Estimate(Step_Number(radicand), Step_Number(each.degree)).text(), "1")
+        << each.degree;
     const double expected =
         Rounds_From_One(static_cast<double>(each.radicand) * std::log(10), std::stod(each.degree));
-    const double bound = Least_Work(radicand, each.degree, "1", limits).rounds;
+    const double bound =
+        Least_Work(Step_Number(radicand), Step_Number(each.degree), Step_Number(1), limits).rounds;
     EXPECT_LE(bound, expected) << each.radicand << " degree " << each.degree;
     EXPECT_GE(bound, 0.9 * expected - 5) << each.radicand << " degree " << each.degree;
   }
@@ -69,10 +71,13 @@ TEST(NewtonWork, OfDegreesBelowOneBoundsTheRounds) {
   // The values stay below 10^308 for half the way.
   constexpr Case cases[] = {{"2", "0.0009"}, {"10", "0.003"}, {"100", "0.005"}, {"1.1", "0.0001"}};
   for (const Case& each : cases) {
-    ASSERT_EQ(Root_Estimate(each.radicand, each.degree), "1") << each.degree;
+    ASSERT_EQ(Root_Estimate(Step_Number(each.radicand), Step_Number(each.degree)).text(), "1")
+        << each.degree;
     const double expected =
         Rounds_From_One(std::log(std::stod(each.radicand)), std::stod(each.degree));
-    const double bound = Least_Work(each.radicand, each.degree, "1", limits).rounds;
+    const double bound =
+        Least_Work(Step_Number(each.radicand), Step_Number(each.degree), Step_Number(1), limits)
+            .rounds;
     EXPECT_LE(bound, expected) << each.radicand << " degree " << each.degree;
     EXPECT_GE(bound, expected / 8) << each.radicand << " degree " << each.degree;
   }
@@ -91,12 +96,17 @@ TEST(NewtonWork, IsNoMoreThanWhatIsDone) {
                         {"3", "0.0015", "1"},
                         {Power_Of_Ten(400), "7", "1"}};
   for (const Case& each : cases) {
-    ASSERT_EQ(Root_Estimate(each.radicand, each.degree), each.start);
+    ASSERT_EQ(Root_Estimate(Step_Number(each.radicand), Step_Number(each.degree)).text(),
+              each.start);
     const Newton_Limits few{21, 40};
-    const double bound = Least_Work(each.radicand, each.degree, each.start, few).rounds;
+    const double bound = Least_Work(Step_Number(each.radicand), Step_Number(each.degree),
+                                    Step_Number(each.start), few)
+                             .rounds;
     EXPECT_GT(bound, 40) << each.degree;
-    const std::size_t yields =
-        Yields_Of([&] { Newton_Root(each.radicand, each.degree, each.start, few, Power); });
+    const std::size_t yields = Yields_Of([&] {
+      Newton_Root(Step_Number(each.radicand), Step_Number(each.degree), Step_Number(each.start),
+                  few, Power);
+    });
     EXPECT_LE(bound, static_cast<double>(yields)) << each.degree;
   }
 }
@@ -115,8 +125,12 @@ TEST(NewtonWork, IsNoneFromACloseStartAndWhereTheIterationEndsBefore) {
       {"a power without room", Power_Of_Ten(20), "10000000000000000", 101},
       {"a number above the root, for a degree below 1", "0.1", "0.0001", 101}};
   for (const Case& each : cases) {
-    const NumberText start = Root_Estimate(each.radicand, each.degree);
-    EXPECT_LT(Least_Work(each.radicand, each.degree, start, {each.maxSD, 150}).rounds, 1)
+    const NumberText start =
+        Root_Estimate(Step_Number(each.radicand), Step_Number(each.degree)).text();
+    EXPECT_LT(Least_Work(Step_Number(each.radicand), Step_Number(each.degree), Step_Number(start),
+                         {each.maxSD, 150})
+                  .rounds,
+              1)
         << each.reason;
   }
 }
@@ -133,7 +147,10 @@ TEST(NewtonRoot, RefusesAWayThatNobodyWaitsFor) {
                         {Power_Of_Ten(300000), "3"}};
   for (const Case& each : cases) {
     const Newton_Limits all{101, 101 + static_cast<double>(each.radicand.size())};
-    EXPECT_EQ(Failure_Of([&] { Newton_Root(each.radicand, each.degree, "1", all, Power); }),
+    EXPECT_EQ(Failure_Of([&] {
+                Newton_Root(Step_Number(each.radicand), Step_Number(each.degree), Step_Number(1),
+                            all, Power);
+              }),
               Failure_Number::too_complex)
         << each.degree;
     NumberText root;

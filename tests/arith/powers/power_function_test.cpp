@@ -80,7 +80,7 @@ class Power_By_Text {
   }
 
   static NumberText integer_power(const NumberText& base, const NumberText& n, double maxSD) {
-    const Exponent_Split split = Split_Exponent_By_Text(n, maxSD);
+    const Exponent_Split split = Split_Exponent_By_Steps(n, maxSD);
     const NumberText power = partial(partial(base, split.A, maxSD), split.B, maxSD);
     return Operate(operation::multiply, power, partial(base, split.C, maxSD), maxSD);
   }
@@ -184,7 +184,7 @@ TEST(ExponentSplit, IsTheSameInRegistersAsByText) {
     if (n.size() == 1) n = "4";
     const auto limit = static_cast<double>(n.size() + 4 - random.below(n.size()));
     const Exponent_Split quick = Split_Exponent(n, limit);
-    const Exponent_Split by_text = Split_Exponent_By_Text(n, limit);
+    const Exponent_Split by_text = Split_Exponent_By_Steps(n, limit);
     ASSERT_EQ(quick.A, by_text.A) << n << " at " << limit;
     ASSERT_EQ(quick.B, by_text.B) << n << " at " << limit;
     ASSERT_EQ(quick.C, by_text.C) << n << " at " << limit;

@@ -123,7 +123,8 @@ TEST(NewtonRoot, BeginsAnewFromTheTimeOfDay) {
   const auto root_at = [](double time) {
     const auto before =
         std::exchange(Current_Platform().clock, std::make_shared<Fixed_Clock>(time));
-    NumberText root = Plain_Text(Newton_Root("0.5", "0.5", "1", {10, 20}, Power));
+    NumberText root = Plain_Text(
+        Newton_Root(Step_Number(0.5), Step_Number(0.5), Step_Number(1), {10, 20}, Power));
     Current_Platform().clock = before;
     return root;
   };
@@ -134,9 +135,10 @@ TEST(NewtonRoot, BeginsAnewFromTheTimeOfDay) {
 
 TEST(NewtonRoot, OfWhatHasNoneEndsWhereValuesComeBack) {
   // A fourth root of -1 is nowhere on the line: the values leap about until one comes back.
-  EXPECT_EQ(Newton_Root("-1", "4", "0.5", {4, 3}, Power).digits, "#NUM!");
+  EXPECT_EQ(Newton_Root(Step_Number(-1), Step_Number(4), Step_Number(0.5), {4, 3}, Power).digits,
+            "#NUM!");
   EXPECT_EQ(Failure_Of([] {
-              Newton_Root("-1", "4", "0.5", {20, 2}, Power);
+              Newton_Root(Step_Number(-1), Step_Number(4), Step_Number(0.5), {20, 2}, Power);
             }),
             Failure_Number::too_complex);
 }

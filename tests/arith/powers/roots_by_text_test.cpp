@@ -210,7 +210,8 @@ TEST(Roots, OfDegreeTwoAreThoseOfStepsOnText) {
     const std::string radicand = Radicand(random);
     if (radicand == "0" || radicand == "1") continue;
     const int limit = Limit(random);
-    const std::string start = random.one_in(20) ? "1" : Root_Estimate(radicand, "2");
+    const std::string start =
+        random.one_in(20) ? "1" : Root_Estimate(Step_Number(radicand), Step_Number(2)).text();
     ASSERT_EQ(Written(Mean_Root(Step_Number(radicand), Step_Number(start), limit + 1), limit),
               Written(Read_Decimal(Mean_Root_By_Text(radicand, start, limit)), limit))
         << radicand << " from " << start << " at " << limit;
@@ -226,12 +227,14 @@ TEST(Roots, OfAnyDegreeAreThoseOfStepsOnText) {
     const bool is_negative = random.one_in(9) && (degree == "3" || degree == "5" || degree == "7");
     const std::string radicand = (is_negative ? "-" : "") + Radicand(random);
     const int limit = Limit(random) / (degree.size() > 2 ? 4 : 1) + 1;
-    const std::string start = Root_Estimate(radicand, degree);
+    const std::string start = Root_Estimate(Step_Number(radicand), Step_Number(degree)).text();
     if (radicand == "0" || radicand == "1" || start == "1") continue;
     const Newton_Limits limits{limit + 1.0, limit + 1.0 + static_cast<double>(random.below(60))};
     const std::string expected = Newton_Root_By_Text(radicand, degree, start, limits);
     if (expected == "too long") continue;
-    ASSERT_EQ(Written(Newton_Root(radicand, degree, start, limits, Power), limit),
+    ASSERT_EQ(Written(Newton_Root(Step_Number(radicand), Step_Number(degree), Step_Number(start),
+                                  limits, Power),
+                      limit),
               Written(Read_Decimal(expected), limit))
         << radicand << " degree " << degree << " at " << limit;
     ++compared;
