@@ -28,6 +28,7 @@
 #include "cli/settings_command.h"
 #include "cli/sheet_command.h"
 #include "cli/terminal_face.h"
+#include "formula/visible.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "io/attended.h"
@@ -55,7 +56,8 @@ std::vector<std::string> Guarded_Arguments(int argc, char** argv) {
   for (std::string& argument : guarded) {
     if (argument == "--") break;
     if (!is_value && Is_Negative_Formula(argument)) argument.insert(0, 1, '=');
-    is_value = argument.starts_with("--") && argument.find('=') == std::string::npos;
+    is_value = argument == "-d" || argument == "-o" ||
+               (argument.starts_with("--") && argument.find('=') == std::string::npos);
   }
   return guarded;
 }
@@ -105,6 +107,8 @@ Outcome Calculate_Arguments(Session& session, Formulas& formulas,
     session.hint(
         "The commands are sheet, functions, batch, settings and about; \"quorvex --help\" tells "
         "more.");
+  } else if (outcome == Outcome::wrong_usage && first.ends_with(".csv")) {
+    session.hint("A worksheet is calculated with: quorvex sheet " + Visible(first));
   }
   return outcome;
 }

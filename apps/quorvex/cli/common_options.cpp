@@ -28,6 +28,12 @@ Locale Chosen_Locale(const Common_Options& options) {
     return *locale;
   }
   Locale locale = Current_Locale();
+  // Who turns the one separator into the other means both.
+  if (!options.thousands && options.decimal == locale.thousands_separator) {
+    locale.thousands_separator = locale.decimal_separator;
+  } else if (!options.decimal && options.thousands == locale.decimal_separator) {
+    locale.decimal_separator = locale.thousands_separator;
+  }
   if (options.decimal) locale.decimal_separator = *options.decimal;
   if (options.thousands) locale.thousands_separator = *options.thousands;
   if (options.currency) locale.currency_symbol = *options.currency;
@@ -152,10 +158,12 @@ std::shared_ptr<Call_Guard> Apply(const Common_Options& options) {
     auto& settings = Current_Platform().settings;
     settings = std::make_shared<Settings_Of_Run>(settings, *options.digits);
   }
-  Bound_Memory(options.memory.value_or(Usual_Memory_Bound()));
+  const double memory = options.memory.value_or(Usual_Memory_Bound());
+  Bound_Memory(memory);
   std::optional<Seconds> limit;
   if (options.timeout) limit = Seconds(*options.timeout);
   auto guard = std::make_shared<Call_Guard>(limit);
+  guard->bound_memory(memory);
   Current_Platform().yielder = guard;
   return guard;
 }

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <new>
 #include <optional>
+#include <stdexcept>
 #include <utility>
 
 #include "batch/request.h"
@@ -13,6 +14,7 @@
 #include "formula/formula.h"
 #include "formula/utf8.h"
 #include "formula/visible.h"
+#include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "io/terminal_width.h"
 #include "sheet/result_text.h"
@@ -41,6 +43,18 @@ std::string Folded(std::string_view text, std::size_t width) {
   return folded;
 }
 
+// A result can have so many digits that nobody wants to see the last ones, so that writing it ends
+// at Ctrl-C like a calculation.
+void Write_In_Pieces(Line_Writer& output, std::string_view text) {
+  constexpr std::size_t piece = std::size_t{1} << 16;
+  for (; text.size() > piece; text.remove_prefix(piece)) {
+    output.buffer() += text.substr(0, piece);
+    output.flush();
+    Yield();
+  }
+  output.buffer() += text;
+}
+
 Outcome Show(Session& session, const Call_Result& result) {
   Line_Writer& output = session.output();
   std::string text;
@@ -48,15 +62,16 @@ Outcome Show(Session& session, const Call_Result& result) {
   if (!text.empty()) {
     text.pop_back();
     const auto terminal = Terminal_Width();
-    output.write_line(terminal ? Folded(Visible(text, "\n\t"), *terminal) : text);
+    Write_In_Pieces(output, terminal ? Folded(Visible(text, "\n\t"), *terminal) : text);
+    output.line_done();
   }
-  return Is_Error_Result(result) ? Outcome::failed_calculation : Outcome::success;
+  return Has_Error(result) ? Outcome::failed_calculation : Outcome::success;
 }
 
 }  // namespace
 
 Evaluation Formulas::evaluate(std::string_view formula) {
-  const Explain explain = session_.is_quiet() ? Explain::no : Explain::yes;
+  const Explain explain = session_.is_quiet() ? Explain::no : explain_;
   const Formula read = Parse_Formula(formula);
   return source_ == nullptr ? Evaluate_Alone(session_.engine(), read, explain)
                             : Evaluate(session_.engine(), read, *source_, explain);
@@ -80,6 +95,9 @@ Outcome Formulas::calculate(std::string_view formula, std::string_view place, Ho
     session_.error(before + failure.what());
   } catch (const std::bad_alloc&) {
     session_.error(before + "There is not enough memory.");
+  } catch (const std::logic_error& fault) {
+    // A fault in one formula's calculation is no reason to leave the others out.
+    session_.error(before + fault.what());
   }
   return Outcome::failed_calculation;
 }
@@ -96,8 +114,11 @@ Outcome Formulas::calculate_input() {
   Outcome outcome = Outcome::success;
   Line_Reader reader(STDIN_FILENO);
   std::size_t number = 0;
-  while (const auto line = reader.next_line(session_.output())) {
+  while (auto line = reader.next_line(session_.output())) {
     const std::string place = "line " + std::to_string(++number) + ": ";
+    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+    if (number == 1 && line->starts_with(byte_order_mark))
+      line->remove_prefix(byte_order_mark.size());
     if (reader.was_too_long()) {
       session_.error(place + std::string(too_long_line));
       outcome = Outcome::wrong_usage;

@@ -15,8 +15,9 @@ namespace quorvex {
 class Formulas {
  public:
   /// `source` is where formulas find cells and names; null where there is no worksheet.
-  explicit Formulas(Session& session, Reference_Source* source = nullptr)
-      : session_(session), source_(source) {}
+  explicit Formulas(Session& session, Reference_Source* source = nullptr,
+                    Explain explain = Explain::yes)
+      : session_(session), source_(source), explain_(explain) {}
 
   /// `place` (as "line 3: ") comes before a message. The value is kept in `result`; what is none,
   /// or couldn't be calculated, leaves it as it is.
@@ -35,6 +36,7 @@ class Formulas {
 
   Session& session_;
   Reference_Source* source_;
+  Explain explain_;
 };
 
 }  // namespace quorvex

@@ -1,6 +1,7 @@
 // A worksheet from a CSV file that is open in the embedded spreadsheet.
 #include "cli/open_sheet.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <map>
 #include <sstream>
@@ -15,6 +16,7 @@
 #include "formula/reference.h"
 #include "formula/visible.h"
 #include "host/run_time_failure.h"
+#include "io/input_file.h"
 #include "io/paths.h"
 #include "io/progress_bar.h"
 #include "io/terminal_width.h"
@@ -28,6 +30,10 @@ namespace {
 
 // A fault in the first row of a long column is a fault in all of them.
 constexpr std::size_t most_problems = 50;
+
+std::string Count_Of(std::size_t count, const std::string& thing) {
+  return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
+}
 
 void Define_Name(Worksheet& sheet, const std::string& definition) {
   const auto equals = definition.find('=');
@@ -64,10 +70,16 @@ Outcome Report_Problems(Session& session, const std::string& file, const Workshe
     Report(session, file + ": " + Address_Text(address) + ": ", cell, *problem);
   }
   if (count > most_problems) {
-    session.error(file + ": and " + std::to_string(count - most_problems) +
-                  " more cells with problems");
+    session.error(file + ": and " + Count_Of(count - most_problems, "more cell") +
+                  " with problems");
   }
   return outcome;
+}
+
+// What cells have in common: the cause, behind what tells of the value.
+std::string_view Cause_In(std::string_view note) {
+  const auto colon = note.rfind(": ");
+  return colon == std::string_view::npos ? note : note.substr(colon);
 }
 
 // A column of formulas alike has notes alike: each is told once, with the count of the others.
@@ -77,13 +89,17 @@ void Report_Notes(Session& session, const std::string& file, const Worksheet& sh
   for (const auto& [address, cell] : sheet.cells()) {
     if (!cell.calculation || !cell.calculation->notes) continue;
     for (const std::string& note : *cell.calculation->notes)
-      if (++counts[note] == 1 && first.size() < most_problems) first.emplace_back(address, &note);
+      if (++counts[Cause_In(note)] == 1) first.emplace_back(address, &note);
   }
-  for (const auto& [address, note] : first) {
-    const std::size_t others = counts[*note] - 1;
+  const std::size_t told = std::min(first.size(), most_problems);
+  for (std::size_t at = 0; at < told; ++at) {
+    const auto& [address, note] = first[at];
+    const std::size_t others = counts[Cause_In(*note)] - 1;
     session.note(file + ": " + Address_Text(address) + ": " + *note +
-                 (others > 0 ? " (and " + std::to_string(others) + " more such cells)" : ""));
+                 (others > 0 ? " (and " + Count_Of(others, "more such cell") + ")" : ""));
   }
+  if (first.size() > told)
+    session.note(file + ": and " + Count_Of(first.size() - told, "more note"));
 }
 
 }  // namespace
@@ -93,11 +109,12 @@ Open_Sheet::Open_Sheet(Session& session, Sheet_Options options)
 
 void Open_Sheet::check_output() const {
   if (options_.force || options_.output.empty() || options_.output == "-") return;
+  const std::filesystem::path output = Path_Of(options_.output);
   std::error_code is_elsewhere;
-  if (!std::filesystem::equivalent(Path_Of(options_.file), Path_Of(options_.output),
-                                   is_elsewhere) ||
-      is_elsewhere)
-    return;
+  const bool is_itself = options_.file == "-" ? Is_Input(output)
+                                              : std::filesystem::equivalent(Path_Of(options_.file),
+                                                                            output, is_elsewhere);
+  if (!is_itself || is_elsewhere) return;
   throw Usage_Error(
       options_.output + " is the worksheet itself, and would hold values instead of its formulas",
       "Write to another file, or give --force.");
@@ -132,8 +149,9 @@ void Open_Sheet::show() const {
 
 Outcome Open_Sheet::load() {
   check_output();
+  session_.guard().begin_call();
   auto book = std::make_shared<Workbook>();
-  book->set_explains(!session_.is_quiet());
+  book->set_explains(session_.is_quiet() ? Explain::no : options_.explain);
   Worksheet& sheet = book->add("Sheet1");
   form_ = Load_Csv(Path_Of(options_.file), sheet, options_.separator);
   for (const std::string& definition : options_.names) Define_Name(sheet, definition);

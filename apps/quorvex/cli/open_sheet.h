@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "cli/session.h"
+#include "formula/reasons.h"
 #include "sheet/csv.h"
 #include "sheet/sheet_application.h"
 
@@ -20,9 +21,10 @@ struct Sheet_Options {
   std::vector<std::string> names;    // NAME=REFERENCE
   std::optional<std::size_t> width;  // 0 cuts nothing; without one, columns are fit to a terminal
   std::optional<char> separator;     // of the cells of the file, if it is not to be found out
-  bool formulas = false;             // written in the place of their values
-  bool force = false;                // the file itself may be written onto
-  bool silent = false;               // nothing is printed or written
+  Explain explain = Explain::yes;
+  bool formulas = false;  // written in the place of their values
+  bool force = false;     // the file itself may be written onto
+  bool silent = false;    // nothing is printed or written
   bool watch = false;
 };
 

@@ -17,6 +17,7 @@
 #include "cli/settings_command.h"
 #include "cli/terminal_face.h"
 #include "formula/find_function.h"
+#include "formula/lexer.h"
 #include "formula/literals.h"
 #include "formula/visible.h"
 #include "frame/catalogue.h"
@@ -65,6 +66,13 @@ std::string_view Trimmed(std::string_view text) {
   return text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
 }
 
+// Names with blanks are put in quote marks out of habit.
+std::string_view Unquoted_File(std::string_view file) {
+  const bool is_quoted = file.size() > 2 && file.front() == file.back() &&
+                         (file.front() == '"' || file.front() == '\'');
+  return is_quoted ? file.substr(1, file.size() - 2) : file;
+}
+
 void Explain_Function(Session& session, std::string_view name) {
   if (const auto help = Function_Help(session.engine(), name)) {
     session.output().buffer() += *help;
@@ -98,6 +106,10 @@ class Prompt {
       session_.error(error.what());
     } catch (const Run_Time_Failure& failure) {
       session_.error(failure.what());
+    } catch (const Output_Closed&) {
+      throw;
+    } catch (const std::exception& fault) {
+      session_.error(fault.what());
     }
   }
 
@@ -129,9 +141,16 @@ class Prompt {
   }
 
   void calculate(std::string_view line) {
+    const std::string_view word = line.substr(0, Word_Length(line));
+    const std::string_view rest = Trimmed(line.substr(word.size()));
+    if (Same_Word(word, Prompt_Names::last_result) && rest.starts_with('=')) {
+      session_.error("ans is the last result, and can't be given another value");
+      return;
+    }
     const auto [name, formula] = Read_Definition(line);
     HostValue result;
-    Formulas(session_, &names_).calculate(name.empty() ? line : formula, {}, &result);
+    Formulas(session_, &names_, Explain::at_prompt)
+        .calculate(name.empty() ? line : formula, {}, &result);
     session_.output().flush();
     if (result.is_missing()) return;
     if (!name.empty()) names_.set(name, result);
@@ -142,7 +161,8 @@ class Prompt {
   void open(std::string_view file) {
     if (!file.empty()) {
       Sheet_Options options;
-      options.file = file;
+      options.file = Unquoted_File(file);
+      options.explain = Explain::at_prompt;
       auto opened = std::make_unique<Open_Sheet>(session_, std::move(options));
       opened->load();
       sheet_ = std::move(opened);

@@ -11,6 +11,8 @@
 
 #include "formula/elements.h"
 #include "formula/literals.h"
+#include "formula/misreading.h"
+#include "formula/number_problem.h"
 #include "formula/operators.h"
 #include "formula/reasons.h"
 #include "formula/truth.h"
@@ -28,32 +30,21 @@ bool Ends_All(const Run_Time_Failure& failure) {
          failure.number() == Failure_Number::out_of_memory;
 }
 
-// Whether that is an error, or a block with one in it.
-bool Has_Error(const Call_Result& result) {
-  const auto* value = std::get_if<HostValue>(&result);
-  if (value == nullptr) return false;
-  if (value->kind() != HostValue::Kind::array) return Is_Error(*value);
-  return std::ranges::any_of(value->array().values, Is_Error);
-}
-
 class Evaluator {
  public:
   Evaluator(cls_Quorvex& engine, const Formula& formula, Reference_Source& source, Explain explain)
-      : engine_(engine), formula_(formula), source_(source), explains_(explain == Explain::yes) {
-    if (explains_) watch_.emplace();
+      : engine_(engine), formula_(formula), source_(source), explains_(explain) {
+    if (explains()) watch_.emplace();
   }
 
   // Where an inner call has failed first, that tells more than what became of it further out.
   Evaluation evaluate() {
     try {
       Evaluation evaluation{std::visit(*this, formula_.root.node), {}};
-      if (Is_Error_Result(evaluation.result)) {
+      if (Has_Error(evaluation.result)) {
         if (state_.inner_failure) evaluation.reason = state_.inner_failure->what();
-      } else {
-        note_cut(evaluation.result);
+        if (!state_.reason.empty()) Add_Note(std::move(state_.reason), state_.notes);
       }
-      if (!state_.reason.empty() && Has_Error(evaluation.result))
-        state_.notes.push_back(std::move(state_.reason));
       evaluation.notes = std::move(state_.notes);
       return evaluation;
     } catch (const Run_Time_Failure& failure) {
@@ -73,13 +64,13 @@ class Evaluator {
   Call_Result operator()(const Negation& negation) {
     const HostValue value = value_of(negation.operand.front());
     HostValue result = Negated(engine_, value);
-    explain_operator(value, Missing, result);
+    explain_operator("-", value, Missing, result);
     return result;
   }
   Call_Result operator()(const Percent& percent) {
     const HostValue value = value_of(percent.operand.front());
     HostValue result = Hundredth(engine_, value);
-    explain_operator(value, Missing, result);
+    explain_operator("%", value, Missing, result);
     return result;
   }
   Call_Result operator()(const Chain& chain) {
@@ -100,7 +91,7 @@ class Evaluator {
         return all_or_any(choice.arguments, true);
       case Choice_Kind::negation:
         return Each(value_of(choice.arguments.front()), [&](const HostValue& value) {
-          const HostValue truth = Truth_Of(engine_, value);
+          const HostValue truth = truth_of(value);
           return truth.kind() == HostValue::Kind::boolean ? HostValue(!truth.boolean()) : truth;
         });
       default:
@@ -117,9 +108,9 @@ class Evaluator {
       one.emplace_back(List(std::move(arguments)));
       arguments = std::move(one);
     }
-    if (!explains_) return Invoke(engine_, *call.method, std::move(arguments));
+    if (!explains()) return Invoke(engine_, *call.method, std::move(arguments));
     arguments.resize(call.method->parameters.size());
-    return explained(*call.method, arguments);
+    return explained(call, arguments);
   }
 
  private:
@@ -130,6 +121,7 @@ class Evaluator {
     std::optional<Run_Time_Failure> inner_failure;
     std::string reason;
     std::vector<std::string> notes;
+    bool has_cut = false;  // a note tells of a number that was cut
   };
 
   // An operator has no use for the range that a single cell is to a function.
@@ -141,62 +133,96 @@ class Evaluator {
     return value_of(expression);
   }
 
+  bool explains() const { return explains_ != Explain::no; }
+
   // The first token tells more than those that it leads to.
   bool asks_why(const HostValue& result) const {
-    return explains_ && Is_Error(result) && state_.reason.empty() && !state_.inner_failure;
+    return explains() && Is_Error(result) && state_.reason.empty() && !state_.inner_failure;
   }
 
-  Call_Result explained(const Method& method, std::span<HostValue> arguments) {
+  // A failure names the argument that has led to it.
+  Call_Result invoked(const Method& method, std::span<HostValue> arguments) {
+    try {
+      return Invoke_In_Place(engine_, method, arguments);
+    } catch (const Run_Time_Failure& failure) {
+      if (Ends_All(failure) || Is_Bound(failure.number())) throw;
+      const std::string problem = Bad_Argument(engine_, method, arguments);
+      if (problem.empty()) throw;
+      throw Run_Time_Failure(failure.number(), std::string(failure.what()) + " " + problem);
+    }
+  }
+
+  // Of what is no condition.
+  HostValue truth_of(const HostValue& value) {
+    HostValue truth = Truth_Of(engine_, value);
+    if (asks_why(truth) && !Is_Error(value)) {
+      state_.reason = (value.is_text() ? Shortly(value.text()) : Render(value)) +
+                      " is no condition: it is neither TRUE nor FALSE, and no number.";
+    }
+    return truth;
+  }
+
+  Call_Result explained(const Call& call, std::span<HostValue> arguments) {
+    const Method& method = *call.method;
     watch_->forget();
     Add_Surprises(engine_, method, arguments, state_.notes);
-    Call_Result result = Invoke_In_Place(engine_, method, arguments);
+    Call_Result result = invoked(method, arguments);
     const auto* value = std::get_if<HostValue>(&result);
     if (value != nullptr && asks_why(*value))
       state_.reason = Reason_Of_Call(engine_, method, arguments, *value, watch_->seen());
+    if (value != nullptr && !has_own_limit(call)) note_cut(*value);
     return result;
   }
 
   HostValue applied(Operator op, const HostValue& left, const HostValue& right) {
-    if (explains_) watch_->forget();
+    if (explains()) watch_->forget();
     HostValue result = Apply(engine_, op, left, right);
-    explain_operator(left, right, result);
+    if (op == Operator::join) return result;
+    explain_operator(Operator_Text(op), left, right, result);
     return result;
   }
 
   // Of several tokens in a block the first one is explained.
-  void explain_operator(const HostValue& left, const HostValue& right, const HostValue& result) {
+  void explain_operator(std::string_view op, const HostValue& left, const HostValue& right,
+                        const HostValue& result) {
+    if (!explains()) return;
+    Add_Misreading(engine_, "", left, state_.notes);
+    Add_Misreading(engine_, "", right, state_.notes);
+    note_cut(result);
     if (result.kind() != HostValue::Kind::array) {
-      if (asks_why(result)) explain_pair(Single(left), Single(right), result);
+      if (asks_why(result)) explain_pair(op, Single(left), Single(right), result);
       return;
     }
-    if (!explains_) return;
     const Array& block = result.array();
     const auto found = std::ranges::find_if(block.values, Is_Error);
     if (found == block.values.end() || !asks_why(*found)) return;
     const auto place = static_cast<std::size_t>(found - block.values.begin());
     const std::size_t row = place / block.columns;
     const std::size_t column = place % block.columns;
-    explain_pair(Elements(left).at(row, column), Elements(right).at(row, column), *found);
+    explain_pair(op, Elements(left).at(row, column), Elements(right).at(row, column), *found);
   }
 
-  void explain_pair(const HostValue& left, const HostValue& right, const HostValue& result) {
+  void explain_pair(std::string_view op, const HostValue& left, const HostValue& right,
+                    const HostValue& result) {
     if (Is_Error(left) || Is_Error(right)) return;
-    state_.reason = Reason_Of_Operator(engine_, left, right, result, watch_->seen());
+    state_.reason = Reason_Of_Operator(engine_, op, left, right, result, watch_->seen());
+  }
+
+  // The first number that is cut is told, wherever in the formula: what is calculated with it is
+  // wrong in the same digits.
+  void note_cut(const HostValue& value) {
+    if (state_.has_cut) return;
+    auto note = Note_On_Cut(value, explains_);
+    if (!note) return;
+    state_.has_cut = true;
+    state_.notes.push_back(std::move(*note));
   }
 
   // Somebody who has asked for so many digits knows that there may be more.
-  void note_cut(const Call_Result& result) {
-    const auto* value = std::get_if<HostValue>(&result);
-    if (!explains_ || value == nullptr || has_own_limit()) return;
-    if (auto note = Note_On_Cut(*value)) state_.notes.push_back(std::move(*note));
-  }
-
-  bool has_own_limit() const {
-    const auto* call = std::get_if<Call>(&formula_.root.node);
-    if (call == nullptr) return false;
-    const auto& parameters = call->method->parameters;
-    for (std::size_t at = 0; at < call->arguments.size() && at < parameters.size(); ++at) {
-      const bool is_given = !std::holds_alternative<Omitted>(call->arguments[at].node);
+  static bool has_own_limit(const Call& call) {
+    const auto& parameters = call.method->parameters;
+    for (std::size_t at = 0; at < call.arguments.size() && at < parameters.size(); ++at) {
+      const bool is_given = !std::holds_alternative<Omitted>(call.arguments[at].node);
       if (is_given && parameters[at].name == "maximum_significant_digits") return true;
     }
     return false;
@@ -211,13 +237,13 @@ class Evaluator {
       return *chosen;
     };
     if (!Is_Block(condition)) {
-      const HostValue truth = Truth_Of(engine_, Single(condition));
+      const HostValue truth = truth_of(Single(condition));
       return Is_Error(truth) ? truth : branch(truth.boolean());
     }
     const Elements conditions(condition);
     return Block_Of(conditions.rows(), conditions.columns(),
                     [&](std::size_t row, std::size_t column) {
-                      HostValue truth = Truth_Of(engine_, conditions.at(row, column));
+                      HostValue truth = truth_of(conditions.at(row, column));
                       if (Is_Error(truth)) return truth;
                       return Elements(branch(truth.boolean())).at(row, column);
                     });
@@ -235,8 +261,10 @@ class Evaluator {
     const HostValue value = value_of(arguments.front());
     std::optional<HostValue> other;
     const auto instead = [&]() -> const HostValue& {
-      state_ = earlier;  // it has been dealt with
-      if (!other) other = branch_of(arguments, 1);
+      if (!other) {
+        state_ = earlier;  // it has been dealt with
+        other = branch_of(arguments, 1);
+      }
       return *other;
     };
     if (!Is_Block(value)) return Is_Error(Single(value)) ? instead() : value;
@@ -253,13 +281,14 @@ class Evaluator {
     for (const Expression& argument : arguments) {
       const HostValue value = value_of(argument);
       const Elements elements(value);
+      const bool is_block = Is_Block(value);
       for (std::size_t row = 0; row < elements.rows(); ++row) {
         if (row % steps_between_yields == 0) Yield();
         for (std::size_t column = 0; column < elements.columns(); ++column) {
           const HostValue each = elements.at(row, column);
-          HostValue truth = Truth_Of(engine_, each);
+          HostValue truth = is_block ? Truth_Of(engine_, each) : truth_of(each);
           const bool is_passed_over =
-              Is_Block(value) && (each.is_empty() || (Is_Error(truth) && !Is_Error(each)));
+              is_block && (each.is_empty() || (Is_Error(truth) && !Is_Error(each)));
           if (is_passed_over) continue;
           if (Is_Error(truth)) return truth;
           if (truth.boolean() == decisive) return decisive;
@@ -286,7 +315,7 @@ class Evaluator {
   const Formula& formula_;
   Reference_Source& source_;
   State state_;
-  bool explains_;
+  Explain explains_;
   std::optional<Failure_Watch> watch_;
 };
 
@@ -314,9 +343,11 @@ HostValue Reference_Source::cell(const Reference& reference) {
   return Single(cells(reference));
 }
 
-bool Is_Error_Result(const Call_Result& result) {
+bool Has_Error(const Call_Result& result) {
   const auto* value = std::get_if<HostValue>(&result);
-  return value != nullptr && Is_Error(*value);
+  if (value == nullptr) return false;
+  if (value->kind() != HostValue::Kind::array) return Is_Error(*value);
+  return std::ranges::any_of(value->array().values, Is_Error);
 }
 
 Evaluation Evaluate(cls_Quorvex& engine, const Formula& formula, Reference_Source& source,

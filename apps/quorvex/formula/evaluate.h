@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "formula/formula.h"
+#include "formula/reasons.h"
 #include "formula/render.h"
 #include "frame/catalogue.h"
 #include "frame/class/cls_Quorvex.h"
@@ -37,8 +38,6 @@ struct Evaluation {
   std::vector<std::string> notes = {};
 };
 
-enum class Explain { no, yes };
-
 /// Calculates a formula. A function that fails, or gives a record, or nothing, gives #VALUE! to the
 /// function that it is an argument of. The result may be a range. The `Run_Time_Failure` of the
 /// outermost function is let through, or of the function within that failed first; and from any of
@@ -50,7 +49,7 @@ Evaluation Evaluate(cls_Quorvex& engine, const Formula& formula, Reference_Sourc
 Evaluation Evaluate_Alone(cls_Quorvex& engine, const Formula& formula,
                           Explain explain = Explain::no);
 
-/// Whether that is an error value, or a token that stands for one.
-bool Is_Error_Result(const Call_Result& result);
+/// Whether that is an error value or a token that stands for one, or an array with one in it.
+bool Has_Error(const Call_Result& result);
 
 }  // namespace quorvex

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -64,6 +65,9 @@ enum class Operator : unsigned char {
   divide,
   power,
 };
+
+/// As formulas spell it.
+std::string_view Operator_Text(Operator op);
 
 /// Operators that bind more tightly have a higher rank; those of one rank go from left to right.
 inline constexpr int loosest_rank = 0;

@@ -36,12 +36,6 @@ std::string Sheet_Prefix(const std::string& sheet) {
   return (plain ? sheet : Quoted(sheet, '\'')) + "!";
 }
 
-std::string_view Operator_Text(Operator op) {
-  constexpr std::array<std::string_view, 12> texts{
-      "=", "<>", "<", "<=", ">", ">=", "&", "+", "-", "*", "/", "^"};
-  return texts[static_cast<std::size_t>(op)];
-}
-
 // Calls the overload for what stands at each node. A chain of a few hundred levels at most.
 class Writer {
  public:
@@ -123,6 +117,12 @@ class Writer {
 };
 
 }  // namespace
+
+std::string_view Operator_Text(Operator op) {
+  constexpr std::array<std::string_view, 12> texts{
+      "=", "<>", "<", "<=", ">", ">=", "&", "+", "-", "*", "/", "^"};
+  return texts[static_cast<std::size_t>(op)];
+}
 
 std::string Formula_Text(const Formula& formula) {
   return Writer(formula).write(formula.root);

@@ -219,6 +219,10 @@ void Parser::check_commas() const {
 
 std::string Parser::advice_on_comma() const {
   if (token_.kind != Token_Kind::comma) return {};
+  if (Current_Separators().decimal() == ",") {
+    return R"(; decimals are written as 1,5 here, thousands without a mark between them as in )"
+           R"(1234,5, and arguments are separated by ";")";
+  }
   return R"(; "," separates arguments, and decimals are written as 1.5, or as 1,5 in a formula )"
          R"(whose arguments are separated by ";")";
 }
@@ -228,13 +232,37 @@ std::string Parser::advice_on_decimal_comma() const {
   return "; " + std::string(decimal_comma_) + " is one number here, separate arguments by \";\"";
 }
 
+namespace {
+
+// Operators of programming languages and pocket calculators, at the place where reading ended.
+std::string_view Advice_On_Foreign_Operator(std::string_view text, std::size_t position) {
+  const std::string_view before = text.substr(0, position);
+  const std::string_view rest = text.substr(before.size());
+  if (rest.starts_with("!=")) return "; unequal is written <>";
+  if (rest.starts_with('!')) return "; a factorial is written qvxFACT(5)";
+  if (rest.starts_with('*') && before.ends_with('*')) return "; a power is written 2^3";
+  if (rest.starts_with('=') && before.ends_with('=')) return "; equality is written with one =";
+  const auto last = before.find_last_not_of(' ');
+  if (!rest.empty() && last != std::string_view::npos && before[last] == '%')
+    return "; % gives the hundredth part, and qvxMOD(10, 3) the remainder";
+  return {};
+}
+
+}  // namespace
+
 Formula Parse_Formula(std::string_view text, Functions functions) {
   if (const auto bad = First_Bad_Byte(text)) {
     throw Syntax_Error("the formula is not valid UTF-8 here", *bad);
   }
   std::size_t start = std::min(text.find_first_not_of(" \t\r\n"), text.size());
   if (text.substr(start).starts_with('=')) ++start;
-  return Parser(text, start, functions).parse();
+  try {
+    return Parser(text, start, functions).parse();
+  } catch (const Syntax_Error& syntax) {
+    const std::string_view advice = Advice_On_Foreign_Operator(text, syntax.position());
+    if (advice.empty()) throw;
+    throw Syntax_Error(syntax.what() + std::string(advice), syntax.position());
+  }
 }
 
 bool Is_Valid_Name(std::string_view text) {

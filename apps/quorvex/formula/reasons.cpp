@@ -45,18 +45,6 @@ std::string Problem_Of_Argument(cls_Quorvex& engine, const Parameter& parameter,
   }
 }
 
-std::string Bad_Argument(cls_Quorvex& engine, const Method& method,
-                         std::span<const HostValue> arguments) {
-  if (method.takes_all_as_list) return {};
-  for (std::size_t at = 0; at < arguments.size() && at < method.parameters.size(); ++at) {
-    const Parameter& parameter = method.parameters[at];
-    if (parameter.kind == Parameter_Kind::list) continue;
-    const std::string problem = Problem_Of_Argument(engine, parameter, arguments[at]);
-    if (!problem.empty()) return Place_Of(method, parameter) + problem;
-  }
-  return {};
-}
-
 std::string Token_Of(const HostValue& result) {
   return result.is_text() ? result.text() : Render(result);
 }
@@ -64,8 +52,10 @@ std::string Token_Of(const HostValue& result) {
 // What the reference says of the token.
 std::string Documented(const Method& method, const std::string& token) {
   for (const std::string_view sentence : method.results.failures) {
-    if (sentence.find("\"" + token + "\"") != std::string_view::npos)
-      return std::string(method.name) + ": " + std::string(sentence);
+    if (sentence.find("\"" + token + "\"") == std::string_view::npos) continue;
+    const bool asks_for_digits = sentence.find("without MSD=") != std::string_view::npos;
+    return std::string(method.name) + ": " + std::string(sentence) +
+           (asks_for_digits ? " Give \"format:MSD=50\" as the last argument." : "");
   }
   return {};
 }
@@ -79,6 +69,18 @@ std::string Bound_Reached(const Seen_Failure& seen) {
 }
 
 }  // namespace
+
+std::string Bad_Argument(cls_Quorvex& engine, const Method& method,
+                         std::span<const HostValue> arguments) {
+  if (method.takes_all_as_list) return {};
+  for (std::size_t at = 0; at < arguments.size() && at < method.parameters.size(); ++at) {
+    const Parameter& parameter = method.parameters[at];
+    if (parameter.kind == Parameter_Kind::list) continue;
+    const std::string problem = Problem_Of_Argument(engine, parameter, arguments[at]);
+    if (!problem.empty()) return Place_Of(method, parameter) + problem;
+  }
+  return {};
+}
 
 std::string Reason_Of_Call(cls_Quorvex& engine, const Method& method,
                            std::span<const HostValue> arguments, const HostValue& result,
@@ -96,8 +98,9 @@ std::string Reason_Of_Call(cls_Quorvex& engine, const Method& method,
   return std::string(method.name) + " gives " + token + " for these arguments.";
 }
 
-std::string Reason_Of_Operator(cls_Quorvex& engine, const HostValue& left, const HostValue& right,
-                               const HostValue& result, const Seen_Failure& seen) {
+std::string Reason_Of_Operator(cls_Quorvex& engine, std::string_view op, const HostValue& left,
+                               const HostValue& right, const HostValue& result,
+                               const Seen_Failure& seen) {
   std::string reason = Bound_Reached(seen);
   if (!reason.empty()) return reason;
   for (const HostValue* operand : {&left, &right}) {
@@ -106,10 +109,19 @@ std::string Reason_Of_Operator(cls_Quorvex& engine, const HostValue& left, const
   }
   const std::string token = Token_Of(result);
   if (Is_Division_By_Zero(token)) return "The divisor is 0.";
-  return seen ? seen->what() : "The operator gives " + token + " for these numbers.";
+  if (seen) return seen->what();
+  if (op == "^" && token == "#NUM!")
+    return "A number below 0 has no power with a fraction; qvxROOT takes roots of odd degree.";
+  return "The operator " + std::string(op) + " gives " + token + " for these numbers.";
 }
 
-std::optional<std::string> Note_On_Cut(const HostValue& value) {
+std::optional<std::string> Note_On_Cut(const HostValue& value, Explain explain) {
+  if (value.kind() == HostValue::Kind::array) {
+    for (const HostValue& each : value.array().values) {
+      if (auto note = Note_On_Cut(each, explain)) return note;
+    }
+    return std::nullopt;
+  }
   if (!value.is_text()) return std::nullopt;
   std::string_view digits = value.text();
   if (digits.starts_with('-')) digits.remove_prefix(1);
@@ -123,8 +135,9 @@ std::optional<std::string> Note_On_Cut(const HostValue& value) {
   if (static_cast<double>(shown) > limit || static_cast<double>(shown) < limit - zeros_by_chance)
     return std::nullopt;
   return "The result has " + std::to_string(digits.size()) + " digits, and zeros stand for those " +
-         "behind the first " + std::to_string(shown) + ": ask for more with --digits " +
-         std::to_string(digits.size()) + ".";
+         "behind the first " + std::to_string(shown) + ": ask for more with " +
+         (explain == Explain::at_prompt ? "digits " : "--digits ") + std::to_string(digits.size()) +
+         ".";
 }
 
 }  // namespace quorvex

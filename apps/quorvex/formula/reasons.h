@@ -4,6 +4,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "formula/expression.h"
@@ -12,6 +13,13 @@
 #include "host/run_time_failure.h"
 
 namespace quorvex {
+
+/// Whether results are explained.
+enum class Explain {
+  no,
+  yes,
+  at_prompt,  // with the prompt's own commands as advice
+};
 
 /// What the calculation has failed with on its way, if it has.
 using Seen_Failure = std::optional<Run_Time_Failure>;
@@ -23,16 +31,22 @@ std::string Reason_Of_Call(cls_Quorvex& engine, const Method& method,
                            std::span<const HostValue> arguments, const HostValue& result,
                            const Seen_Failure& seen);
 
-/// The same of an operator.
-std::string Reason_Of_Operator(cls_Quorvex& engine, const HostValue& left, const HostValue& right,
-                               const HostValue& result, const Seen_Failure& seen);
+/// The same of an operator, which `op` spells.
+std::string Reason_Of_Operator(cls_Quorvex& engine, std::string_view op, const HostValue& left,
+                               const HostValue& right, const HostValue& result,
+                               const Seen_Failure& seen);
+
+/// The first argument that is no number where one is needed, with what is wrong; empty if there is
+/// none.
+std::string Bad_Argument(cls_Quorvex& engine, const Method& method,
+                         std::span<const HostValue> arguments);
 
 /// Adds a sentence for each argument that the function reads otherwise than people expect.
 void Add_Surprises(cls_Quorvex& engine, const Method& method, std::span<const HostValue> arguments,
                    std::vector<std::string>& notes);
 
 /// What to say of a whole number whose last digits were cut at the default limit; nothing if the
-/// value is none.
-std::optional<std::string> Note_On_Cut(const HostValue& value);
+/// value is none. Of an array, for the first such number in it.
+std::optional<std::string> Note_On_Cut(const HostValue& value, Explain explain = Explain::yes);
 
 }  // namespace quorvex

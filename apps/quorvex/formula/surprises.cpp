@@ -2,7 +2,7 @@
 #include <string_view>
 
 #include "formula/literals.h"
-#include "formula/number_problem.h"
+#include "formula/misreading.h"
 #include "formula/reasons.h"
 
 namespace quorvex {
@@ -18,21 +18,6 @@ bool Is_Below_Zero(cls_Quorvex& engine, const HostValue& value) {
   if (!is_single || !engine.qvxISNUMBER(value)) return false;
   const HostValue answer = engine.qvxISLESS(value, 0);
   return answer.is_text() && answer.text() == "True";
-}
-
-// Of number text that the engine takes for another number than it looks like.
-std::string_view Misreading(std::string_view text) {
-  const std::size_t e = text.find('E');
-  if (e != std::string_view::npos && e > 0) {
-    const bool has_sign = e + 1 < text.size() && (text[e + 1] == '+' || text[e + 1] == '-');
-    if (!has_sign) return "the character behind E is taken for its sign; write 1E+5, not 1E5";
-    const std::string_view before = text.substr(text.starts_with('-') ? 1 : 0, 2);
-    if (before.size() == 2 && before[1] >= '0' && before[1] <= '9')
-      return "the part before E needs one digit before its separator; write 1.2E+6, not 12E+5";
-  }
-  if (text.starts_with('(') && !text.ends_with(')') && text.find(')') == std::string_view::npos)
-    return "a parenthesis that is never closed costs the last digit";
-  return {};
 }
 
 bool Is_Switch(const Parameter& parameter) {
@@ -72,22 +57,20 @@ void Add_Surprises(cls_Quorvex& engine, const Method& method, std::span<const Ho
                    std::vector<std::string>& notes) {
   const std::string name(method.name);
   const std::string_view of_function = Surprise_Of_Function(engine, method, arguments);
-  if (!of_function.empty()) notes.push_back(name + ": " + std::string(of_function) + ".");
-  if (method.takes_all_as_list) return;
+  if (!of_function.empty()) Add_Note(name + ": " + std::string(of_function) + ".", notes);
+  if (method.takes_all_as_list) {
+    if (arguments.empty()) return;
+    Add_Misreading(engine, "", arguments[0], notes);
+    Add_Passed_Over(engine, name, arguments[0], notes);
+    return;
+  }
   for (std::size_t at = 0; at < arguments.size() && at < method.parameters.size(); ++at) {
     const Parameter& parameter = method.parameters[at];
     const HostValue& argument = arguments[at];
+    const std::string place = std::string(parameter.name) + " of " + name + ": ";
     const std::string_view option = Surprise_Of_Option(parameter, argument);
-    if (!option.empty()) {
-      notes.push_back(std::string(parameter.name) + " of " + name + ": " + std::string(option) +
-                      ".");
-    }
-    if (!argument.is_text()) continue;
-    const std::string_view misread = Misreading(argument.text());
-    if (!misread.empty() && engine.qvxISNUMBER(argument)) {
-      notes.push_back(std::string(parameter.name) + " of " + name + ": " +
-                      Shortly(argument.text()) + ": " + std::string(misread) + ".");
-    }
+    if (!option.empty()) Add_Note(place + std::string(option) + ".", notes);
+    Add_Misreading(engine, place, argument, notes);
   }
 }
 

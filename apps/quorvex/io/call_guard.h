@@ -16,13 +16,21 @@ class Call_Guard final : public Deadline {
   void begin_call();
   void yield() override;
 
+  /// Ends calculations once the process holds more bytes than these.
+  void bound_memory(double bytes) { memory_bound_ = bytes; }
+
   /// Asks the calculation to end. May be called from a signal handler.
   static void interrupt() noexcept { interrupted_.store(true); }
   static bool is_interrupted() noexcept { return interrupted_.load(); }
   static void forget_interruption() noexcept { interrupted_.store(false); }
 
  private:
+  void look_at_memory();
+
   static inline std::atomic<bool> interrupted_ = false;
+
+  double memory_bound_ = 0;  // 0 for none
+  unsigned steps_ = 0;
 };
 
 }  // namespace quorvex

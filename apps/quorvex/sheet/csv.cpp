@@ -1,18 +1,22 @@
 #include "sheet/csv.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <fstream>
 #include <functional>
-#include <iostream>
+#include <new>
+#include <ostream>
 #include <random>
-#include <sstream>
 #include <string>
 #include <system_error>
 
 #include "formula/utf8.h"
 #include "host/platform.h"
+#include "host/run_time_failure.h"
 #include "io/signal_cleanup.h"
+#include "io/whole_text.h"
 #include "sheet/csv_reader.h"
 #include "sheet/number_looks.h"
 
@@ -38,29 +42,19 @@ std::string System_Message(int error) {
   return std::error_code(error, std::generic_category()).message();
 }
 
-std::string Standard_Input() {
-  std::ostringstream text;
-  if (std::cin.peek() != std::istream::traits_type::eof()) text << std::cin.rdbuf();
-  return std::move(text).str();
-}
-
 std::string Contents(const fs::path& file) {
-  if (file == "-") return Standard_Input();
-  std::error_code error;
-  const fs::file_status status = fs::status(file, error);
-  if (status.type() == fs::file_type::not_found) {
-    throw File_Error(file.string() + ": there is no such file.");
+  const std::string named = File_Name(file);
+  try {
+    if (file == "-") return Text_From(STDIN_FILENO);
+    std::error_code error;
+    const fs::file_status status = fs::status(file, error);
+    if (status.type() == fs::file_type::not_found)
+      throw File_Error(named + ": there is no such file.");
+    if (fs::is_directory(status)) throw File_Error(named + " is a directory, not a file.");
+    return Text_Of_File(file);
+  } catch (const std::system_error& error) {
+    throw File_Error(named + " can't be read: " + error.code().message() + ".");
   }
-  if (fs::is_directory(status)) {
-    throw File_Error(file.string() + " is a directory, not a file.");
-  }
-  errno = 0;
-  std::ifstream in(file, std::ios::binary);
-  if (!in) throw File_Error(file.string() + " can't be opened: " + System_Message(errno) + ".");
-  std::ostringstream text;
-  if (in.peek() != std::ifstream::traits_type::eof()) text << in.rdbuf();
-  if (in.bad()) throw File_Error(file.string() + " can't be read: " + System_Message(errno) + ".");
-  return std::move(text).str();
 }
 
 class Csv_Writer {
@@ -95,7 +89,11 @@ class Csv_Writer {
  private:
   std::string text_of(const Cell& cell) const {
     const bool is_formula = cell.typed.starts_with('=');
-    if (is_formula && content_ == Csv_Content::formulas) return cell.typed;
+    // What the array of a formula fills is no content of its own, and would be in the way of it.
+    if (content_ == Csv_Content::formulas) {
+      if (cell.spilled_from) return {};
+      if (is_formula) return cell.typed;
+    }
     std::string text = is_formula || cell.typed.empty() ? Shown_Value(cell) : cell.typed;
     if (cell.value().is_text()) Disarm(text);
     return text;
@@ -194,7 +192,13 @@ Csv_Form Read_Csv(std::string_view text, std::string_view source, Worksheet& she
 }
 
 Csv_Form Load_Csv(const fs::path& file, Worksheet& sheet, std::optional<char> separator) {
-  return Read_Csv(Contents(file), File_Name(file), sheet, separator);
+  try {
+    return Read_Csv(Contents(file), File_Name(file), sheet, separator);
+  } catch (const Run_Time_Failure& failure) {
+    throw File_Error(File_Name(file) + " can't be read: " + failure.what());
+  } catch (const std::bad_alloc&) {
+    throw File_Error(File_Name(file) + " can't be read: There is not enough memory.");
+  }
 }
 
 void Write_Csv(std::ostream& out, const Worksheet& sheet, Csv_Form form, Csv_Content content) {

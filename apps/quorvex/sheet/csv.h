@@ -21,7 +21,7 @@ namespace quorvex {
 Csv_Form Read_Csv(std::string_view text, std::string_view source, Worksheet& sheet,
                   std::optional<char> separator = {});
 /// The same from a file; "-" stands for standard input. A missing file, a directory and a binary
-/// file are a `File_Error`.
+/// file are a `File_Error`, and so is a text for which time or memory don't suffice.
 Csv_Form Load_Csv(const std::filesystem::path& file, Worksheet& sheet,
                   std::optional<char> separator = {});
 

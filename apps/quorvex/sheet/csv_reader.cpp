@@ -56,7 +56,8 @@ void Csv_Reader::read_plain_cell() {
   const bool is_cut = at_ < text_.size() && text_[at_] == separator_ && text_[start] == '=' &&
                       sheet_.advise(cell_,
                                     "; the cell ends here, at a separator: put the formula in "
-                                    "quote marks, as in \"=qvxADD(A1,B1)\"");
+                                    "quote marks, as in \"=qvxADD(A1" +
+                                        between_arguments() + "B1)\"");
   if (is_cut) cut_formula_ = start;
 }
 
@@ -76,7 +77,8 @@ std::string Csv_Reader::quoted_cell() {
     if (cut_formula_) {
       fail(
           "a formula with separators or quote marks in it stands in quote marks, and those in it "
-          "are doubled: \"=qvxADD(A1,\"\"5\"\")\"",
+          "are doubled: \"=qvxADD(A1" +
+              between_arguments() + "\"\"5\"\")\"",
           *cut_formula_);
     }
     fail("text behind a closing quote mark; a quote mark inside a cell is written twice", at_);
@@ -101,6 +103,10 @@ void Csv_Reader::end_line() {
   ++at_;
   ++cell_.row;
   cell_.column = 1;
+}
+
+std::string Csv_Reader::between_arguments() const {
+  return separator_ == ';' ? ";" : ",";
 }
 
 void Csv_Reader::fail(const std::string& message, std::size_t at) const {

@@ -34,6 +34,7 @@ class Csv_Reader {
   void put(std::string_view typed);
   void end_line();
   bool at_line_end() const;
+  std::string between_arguments() const;  // in an example that fits the file
   [[noreturn]] void fail(const std::string& message, std::size_t at) const;
 
   std::string_view text_;

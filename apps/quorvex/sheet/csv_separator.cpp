@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <vector>
 
 #include "formula/literals.h"
@@ -55,15 +56,22 @@ std::vector<Counts> Telling_Rows(std::string_view text) {
   return rows;
 }
 
+// In how many rows a separator stands as often as it does in most of them. Titles and remarks above
+// the table may hold other marks, so no row counts more than the others.
+std::size_t Agreement(const std::vector<Counts>& rows, std::size_t candidate) {
+  std::map<std::size_t, std::size_t> rows_by_count;
+  std::size_t most = 0;
+  for (const Counts& row : rows)
+    if (row[candidate] > 0) most = std::max(most, ++rows_by_count[row[candidate]]);
+  return most;
+}
+
 char Separator_Of(std::string_view text) {
   const auto rows = Telling_Rows(text);
   if (rows.empty()) return ',';
-  Counts like_header{};
-  for (const Counts& row : rows) {
-    for (std::size_t i = 0; i < candidates.size(); ++i)
-      if (rows.front()[i] > 0 && row[i] == rows.front()[i]) ++like_header[i];
-  }
-  const auto [comma, semicolon, tab] = like_header;
+  const std::size_t comma = Agreement(rows, 0);
+  const std::size_t semicolon = Agreement(rows, 1);
+  const std::size_t tab = Agreement(rows, 2);
   if (tab >= comma && tab >= semicolon) return '\t';
   // Where both fit, commas are more often found within cells than semicolons are, in numbers and in
   // text, but a single row tells little.

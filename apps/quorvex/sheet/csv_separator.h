@@ -14,7 +14,7 @@ struct Csv_Form {
 };
 
 /// The form of a text, as its first lines tell: a line "sep=;" decides; else comma, semicolon and
-/// tab are told apart by how often each stands in the header and again in the rows. Separators
+/// tab are told apart by which stands equally often in the most rows. Separators
 /// within quote marks and within the parentheses of a formula don't count.
 Csv_Form Form_Of(std::string_view text);
 

@@ -115,7 +115,7 @@ void Recalculation::close_group(const Calculation& root, bool needs_itself) {
 
 void Recalculation::calculate(Calculation& calculation) {
   if (calculation.stale) {
-    Calculate(workbook_, engine_, calculation, workbook_.explains() ? Explain::yes : Explain::no);
+    Calculate(workbook_, engine_, calculation, workbook_.explains());
     calculation.stale = false;
     calculation.updated = true;
   }

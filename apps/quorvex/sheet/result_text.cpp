@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "formula/evaluate.h"
+#include "host/platform.h"
 #include "sheet/grid.h"
 #include "sheet/worksheet.h"
 
@@ -16,9 +17,22 @@ void Append_Line(std::string& out, std::string_view line) {
   out.append(line).append("\n");
 }
 
+// What no worksheet is large enough for stands without columns, a row in each line.
+template <typename Cell_Value>
+void Append_Rows(std::string& out, std::size_t rows, std::size_t columns, const Cell_Value& cell) {
+  for (std::size_t row = 1; row <= rows; ++row) {
+    Yield();
+    for (std::size_t column = 1; column <= columns; ++column)
+      out.append(column > 1 ? "  " : "").append(Render(cell(row, column)));
+    out += '\n';
+  }
+}
+
 // `cell` gives the value at a row and a column, both counted from 1.
 template <typename Cell_Value>
 void Append_Grid(std::string& out, std::size_t rows, std::size_t columns, const Cell_Value& cell) {
+  if (rows > maximum_rows || columns > maximum_columns)
+    return Append_Rows(out, rows, columns, cell);
   Worksheet sheet("result");
   for (std::uint32_t row = 1; row <= rows; ++row) {
     for (std::uint32_t column = 1; column <= columns; ++column)

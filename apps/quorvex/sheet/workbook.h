@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "formula/reasons.h"
 #include "sheet/worksheet.h"
 
 namespace quorvex {
@@ -20,11 +21,11 @@ class Workbook {
   const std::vector<std::unique_ptr<Worksheet>>& worksheets() const { return worksheets_; }
 
   /// Whether formulas are calculated with explanations of what they give.
-  bool explains() const { return explains_; }
-  void set_explains(bool on) { explains_ = on; }
+  Explain explains() const { return explains_; }
+  void set_explains(Explain explains) { explains_ = explains; }
 
  private:
-  bool explains_ = false;
+  Explain explains_ = Explain::no;
   std::vector<std::unique_ptr<Worksheet>> worksheets_;
 };
 

@@ -59,6 +59,13 @@ TEST(CommandLine, CalculatesFormulas) {
       {{"#N/A"}, "", "#N/A\n", "", 1},
       {{"\"#VALUE\""}, "", "#VALUE\n", "", 0},
       {{"qvxSIGN({1,2})", "1"}, "", "1\n", "error: ", 1},
+      {{"{1,\"a\"}*2", "1"}, "", "2  #VALUE!\n1\n", "\"a\" is no number", 1},
+      {{"-"},
+       "\xEF\xBB\xBF"
+       "1+1\n",
+       "2\n",
+       "",
+       0},
       {{"qvxSIGN({1,2})", "qvxADD(", "1"}, "", "1\n", "error: ", 2},
       {{"A1"}, "", "", "A1", 2},
       {{"qvxADDD(1,2)"}, "", "", "did you mean qvxADD?\n  qvxADDD(1,2)\n  ^", 2},
@@ -66,6 +73,14 @@ TEST(CommandLine, CalculatesFormulas) {
       {{"\xFF(1)"}, "", "", "error: ", 2},
   };
   for (const Tool_Case& each : cases) Expect(each);
+}
+
+TEST(CommandLine, PrintsWhatNoWorksheetIsWideEnoughFor) {
+  std::string array = "{1";
+  for (int i = 0; i < 17000; ++i) array += ",1";
+  const Tool_Run run = Run_Tool({"-"}, array + "}\n1+1\n");
+  EXPECT_EQ(run.exit_code, 0) << run.errors;
+  EXPECT_EQ(run.output.size(), 3U * 17000 + 4) << run.errors;
 }
 
 TEST(CommandLine, FormulasUseTheCellsOfASheet) {
@@ -90,7 +105,9 @@ TEST(CommandLine, TakesLocaleAndLimits) {
        0},
       {{"--decimal", ",", "--thousands", ".", "0.5"}, "", "0,5\n", "", 0},
       {{"--decimal", "--", "--thousands", "-", "1"}, "", "", "error: ", 2},
-      {{"--decimal", ",", "1"}, "", "", "error: ", 2},
+      {{"--decimal", ",", "1,5/2"}, "", "0,75\n", "", 0},
+      {{"--thousands", ".", "1,5/2"}, "", "0,75\n", "", 0},
+      {{"--decimal", ",", "1.234,5+1"}, "", "", "thousands without a mark", 2},
       {{"--decimal", ",", "--thousands", ".", "qvxADD(1,5;A1)"}, "", "", "A1 refers", 2},
       {{"--decimal", ",", "--thousands", ".", "1,5+1"}, "", "2,5\n", "", 0},
       {{"--memory", "10M", "qvxADD(\"1E+99999999\",1)"}, "", "#VALUE!\n", "not enough memory", 1},
@@ -101,6 +118,7 @@ TEST(CommandLine, TakesLocaleAndLimits) {
       {{"--digits", "20", "qvxDEFAULTMAXSD()"}, "", "20\n", "", 0},
       {{"--digits", "0", "1"}, "", "", "a whole number from 1 to 2147483648", 2},
       {{"--digits", "2.5", "1"}, "", "", "a whole number", 2},
+      {{"-d", "-1", "1"}, "", "", "not -1", 2},
       {{"--timeout", "-1", "1"}, "", "", "seconds above 0", 2},
       {{"--nonsense"}, "", "", "--nonsense", 2},
       {{"1", "batch"}, "", "", "don't go together", 2},

@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <iterator>
 #include <string>
@@ -89,6 +90,49 @@ TEST(SheetCommand, ReadsStandardInputAndNamesIt) {
   EXPECT_EQ(run.errors.find("error: standard input: A1: "), 0U) << run.errors;
 }
 
+TEST(SheetCommand, RefusesToWriteOntoTheFileThatItIsFed) {
+  const Temporary_Folder folder;
+  const std::string file = folder.write("self.csv", "=1+1\n");
+  const std::string command = std::string("exec '" QUORVEX_TOOL "' sheet - -o '") + file + "' < '" +
+                              file + "' 2> /dev/null";
+  EXPECT_NE(std::system(command.c_str()), 0);
+  EXPECT_EQ(File_Text(file), "=1+1\n");
+}
+
+TEST(SheetCommand, ReadsAWholeTextOrNone) {
+  struct {
+    const char* words;
+    const char* told;
+  } const cases[] = {
+      {"sheet - < /", "standard input can't be read: Is a directory"},
+      {"--timeout 0.3 sheet /dev/zero", "/dev/zero can't be read: The calculation took longer"},
+      {"--memory 100M sheet /dev/zero", "/dev/zero can't be read: There is not enough memory"},
+  };
+  const Temporary_Folder folder;
+  const std::string errors = (folder.path() / "errors").string();
+  for (const auto& [words, told] : cases) {
+    const std::string command = std::string("'" QUORVEX_TOOL "' ") + words + " 2> '" + errors + "'";
+    EXPECT_NE(std::system(command.c_str()), 0) << words;
+    EXPECT_NE(File_Text(errors).find(told), std::string::npos) << words << File_Text(errors);
+  }
+}
+
+TEST(SheetCommand, ArraysComeBackFromWrittenFormulas) {
+  const Tool_Run run = Run_Tool({"sheet", "-", "--formulas"}, "\"={1,2;3,4}\"\n,,end\n");
+  EXPECT_EQ(run.output, "\"={1,2;3,4}\",,\n,,end\n");
+  EXPECT_EQ(Run_Tool({"sheet", "-", "-o", "-"}, run.output).output, "1,2,\n3,4,end\n");
+}
+
+TEST(SheetCommand, TellsOnceOfDecimalCommasThatAreReadAsThousands) {
+  const Tool_Run run = Run_Tool({"sheet", "-"}, "price;twice\n1,50;=A2*2\n2,75;=A3*2\n");
+  EXPECT_EQ(run.errors,
+            "note: standard input: B2: \"1,50\" is read as 150: \",\" stands between thousands "
+            "here; with --decimal , it is the decimal separator. (and 1 more such cell)\n");
+  const Tool_Run told = Run_Tool({"--decimal", ",", "sheet", "-"}, "price;twice\n1,50;=A2*2\n");
+  EXPECT_NE(told.output.find("3"), std::string::npos) << told.errors;
+  EXPECT_EQ(told.errors, "");
+}
+
 TEST(SheetCommand, LeavesNothingBehindWhereAFileMayNotGrow) {
   const Temporary_Folder folder;
   const std::string file = folder.write("long.csv", std::string(8192, 'x') + "\n");
@@ -133,7 +177,7 @@ TEST(SheetCommand, TellsOnceWhyCellsHoldTokens) {
   const Tool_Run run = Run_Tool({"sheet", file});
   EXPECT_EQ(run.exit_code, 1);
   EXPECT_NE(run.errors.find("A2: \"50%\" is no number: percent signs are not read. "
-                            "(and 1 more such cells)\n"),
+                            "(and 1 more such cell)\n"),
             std::string::npos)
       << run.errors;
   EXPECT_NE(run.errors.find("A5: The result has 158 digits"), std::string::npos) << run.errors;

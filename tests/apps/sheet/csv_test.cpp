@@ -111,6 +111,7 @@ TEST(Csv, TellsSeparatorsApart) {
       {"1,5;2,5\n3,5;4,5\n", ';'},
       {"a\tb\n1,5\t2;5\n", '\t'},
       {"Prices of May\n# a, b, c\n\nitem;price\ntea;1,5\n", ';'},
+      {"Account 1, savings\n\na;b;c\n1;2;=A4*2\n", ';'},
       {"total,=qvxADD(B2;B3)\nx,{1;2;3}\n", ','},
       {"\"a;b\",c\n\"d;e\",f\n", ','},
       {"a,b;c\n", ','},
