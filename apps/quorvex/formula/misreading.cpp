@@ -62,9 +62,10 @@ std::string Misreading(const std::string& text) {
 template <typename Look>
 bool Any_Text(const HostValue& value, const Look& look) {
   if (value.is_text()) return look(value);
-  if (value.kind() == HostValue::Kind::list)
+  if (value.kind() == HostValue::Kind::list) {
     return std::ranges::any_of(value.list(),
                                [&](const HostValue& each) { return Any_Text(each, look); });
+  }
   if (!Is_Block(value)) {
     if (value.kind() != HostValue::Kind::range) return false;
     const HostValue single = Single(value);
@@ -83,8 +84,8 @@ bool Any_Text(const HostValue& value, const Look& look) {
 
 // Options of functions of lists stand among the values, as in "format:MSD=50".
 bool May_Be_Meant_As_Number(std::string_view text) {
-  return text.find_first_of(digits) != std::string_view::npos && text.find(':') == text.npos &&
-         !Is_Plain_Number(text) &&
+  return text.find_first_of(digits) != std::string_view::npos &&
+         text.find(':') == std::string_view::npos && !Is_Plain_Number(text) &&
          text.find_first_of(digits) <= text.find_first_of(
                                            "ABCDEFGHIJKLMNOPQRSTUVWXYZ"
                                            "abcdefghijklmnopqrstuvwxyz");
