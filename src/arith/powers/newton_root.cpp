@@ -146,10 +146,9 @@ bool Only_Grew(const Value& value, const Value& before, double maxSD) {
 
 class Newton_Iteration {
  public:
-  Newton_Iteration(const Step_Number& radicand, const Step_Number& degree, const Steps& steps,
-                   Power_Step power)
-      : radicand_(radicand),
-        degree_(degree),
+  Newton_Iteration(Step_Number radicand, Step_Number degree, const Steps& steps, Power_Step power)
+      : radicand_(std::move(radicand)),
+        degree_(std::move(degree)),
         degree_less_one_(steps.difference(degree_, Step_Number(1))),
         steps_(steps),
         power_(power) {}
