@@ -111,7 +111,7 @@ class Csv_Writer {
     const bool is_risky =
         std::any_of(text.begin(), text.end(), [this](char c) { return is_mark(c); });
     return !is_risky && text.front() != ' ' && text.back() != ' ' && text.front() != '#' &&
-           !text.starts_with(byte_order_mark) && Announcement_Length(text) == 0;
+           !text.starts_with(byte_order_mark) && !Looks_Announcing(text);
   }
 
   bool is_mark(char c) const {

@@ -81,10 +81,12 @@ char Separator_Of(std::string_view text) {
 
 }  // namespace
 
+bool Looks_Announcing(std::string_view text) { return Same_Word(text.substr(0, 4), "sep="); }
+
 std::size_t Announcement_Length(std::string_view text) {
   const std::string_view line = text.substr(0, text.find_first_of("\r\n"));
   constexpr std::string_view separators = ",;:|\t!/&~^*";
-  const bool is_one = line.size() == 5 && Same_Word(line.substr(0, 4), "sep=") &&
+  const bool is_one = line.size() == 5 && Looks_Announcing(line) &&
                       separators.find(line[4]) != std::string_view::npos;
   if (!is_one) return 0;
   const std::string_view end = text.substr(line.size());

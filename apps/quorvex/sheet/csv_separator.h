@@ -18,6 +18,9 @@ struct Csv_Form {
 /// within quote marks and within the parentheses of a formula don't count.
 Csv_Form Form_Of(std::string_view text);
 
+/// Whether a cell's text, with what is written behind it, could be taken for such a line.
+bool Looks_Announcing(std::string_view text);
+
 /// Bytes of the line that announces the separator, with its line end; 0 if there is none.
 std::size_t Announcement_Length(std::string_view text);
 
