@@ -19,11 +19,8 @@ std::optional<std::size_t> First_Bad_Byte(std::string_view text) {
 
 std::size_t Bytes_Of_Characters(std::string_view text, std::size_t characters) {
   std::size_t at = 0;
-  for (; at < text.size(); ++at) {
-    if (Continues_Character(text[at])) continue;
-    if (characters == 0) break;
-    --characters;
-  }
+  for (; characters > 0 && at < text.size(); --characters)
+    at += First_Character_Bytes(text.substr(at));
   return at;
 }
 

@@ -13,9 +13,4 @@ std::optional<std::size_t> First_Bad_Byte(std::string_view text);
 /// Bytes taken by the first `characters` of a text, or by all of it if it has fewer.
 std::size_t Bytes_Of_Characters(std::string_view text, std::size_t characters);
 
-/// True for a byte that continues a character.
-inline bool Continues_Character(char byte) {
-  return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-}
-
 }  // namespace quorvex

@@ -81,7 +81,9 @@ char Separator_Of(std::string_view text) {
 
 }  // namespace
 
-bool Looks_Announcing(std::string_view text) { return Same_Word(text.substr(0, 4), "sep="); }
+bool Looks_Announcing(std::string_view text) {
+  return Same_Word(text.substr(0, 4), "sep=");
+}
 
 std::size_t Announcement_Length(std::string_view text) {
   const std::string_view line = text.substr(0, text.find_first_of("\r\n"));
