@@ -92,6 +92,17 @@ void Append_Invalid(std::string& out, std::string_view id, std::string_view prob
   out += '}';
 }
 
+void Answerer::append_result(std::string& out, Request& request) {
+  if (guard_ != nullptr) guard_->begin_call();
+  const std::string missing = Missing_Argument(request);
+  if (!missing.empty()) throw Run_Time_Failure(Failure_Number::type_mismatch, missing);
+  std::string reason;
+  const Call_Result result = request.explain
+                                 ? explained(request, reason)
+                                 : Invoke(engine_, *request.method, std::move(request.arguments));
+  Append_Result(out, request.id, result, reason);
+}
+
 void Answerer::append_answer(std::string& out, std::string_view line) {
   const std::size_t start = out.size();
   Request request;
@@ -103,14 +114,13 @@ void Answerer::append_answer(std::string& out, std::string_view line) {
     request = Read_Request(line);
     if (request.method == nullptr || !request.problem.empty())
       return Append_Invalid(out, request.id, request.problem);
-    if (guard_ != nullptr) guard_->begin_call();
-    const std::string missing = Missing_Argument(request);
-    if (!missing.empty()) throw Run_Time_Failure(Failure_Number::type_mismatch, missing);
-    std::string reason;
-    const Call_Result result = request.explain
-                                   ? explained(request, reason)
-                                   : Invoke(engine_, *request.method, std::move(request.arguments));
-    Append_Result(out, request.id, result, reason);
+    append_result(out, request);
+    const std::size_t length = out.size() - start;
+    if (length > longest_) {
+      throw Run_Time_Failure(
+          Failure_Number::out_of_memory,
+          "The answer has " + std::to_string(length) + " bytes, more than --max-answer allows.");
+    }
   } catch (const Run_Time_Failure& failure) {
     fail(failure);
   } catch (const std::bad_alloc&) {

@@ -1,6 +1,7 @@
 // Answers of the batch protocol.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -15,18 +16,24 @@ namespace quorvex {
 /// Answers requests, one at a time.
 class Answerer {
  public:
-  /// The guard may be null: nothing then ends a calculation.
-  explicit Answerer(std::shared_ptr<Call_Guard> guard = nullptr) : guard_(std::move(guard)) {}
+  static constexpr std::size_t no_bound = static_cast<std::size_t>(-1);
+
+  /// The guard may be null: nothing then ends a calculation. An answer of more than `longest` bytes
+  /// is a failure instead.
+  explicit Answerer(std::shared_ptr<Call_Guard> guard = nullptr, std::size_t longest = no_bound)
+      : guard_(std::move(guard)), longest_(longest) {}
 
   /// Appends the answer to a request line, without a line end. Whatever the line holds, the answer
   /// is one well-formed JSON object.
   void append_answer(std::string& out, std::string_view line);
 
  private:
+  void append_result(std::string& out, Request& request);
   Call_Result explained(Request& request, std::string& reason);
 
   cls_Quorvex engine_;
   std::shared_ptr<Call_Guard> guard_;
+  std::size_t longest_;
 };
 
 /// The answer to a request whose calculation failed, and to a line that is no request. `id` is JSON

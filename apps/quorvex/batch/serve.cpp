@@ -3,17 +3,16 @@
 
 #include "batch/answer.h"
 #include "batch/request.h"
-#include "io/line_io.h"
 
 namespace quorvex {
 
-void Serve(int input, int output, const Answer_Function& answer,
+void Serve(int input, int output, const Answer_Function& answer, const Batch_Bounds& bounds,
            std::atomic<std::uint64_t>* started) {
-  Line_Reader reader(input);
+  Line_Reader reader(input, bounds.longest_line);
   Line_Writer writer(output);
   while (const auto line = reader.next_line(writer)) {
-    if (reader.was_too_long()) {
-      Append_Invalid(writer.buffer(), "", too_long_line);
+    if (!reader.problem().empty()) {
+      Append_Invalid(writer.buffer(), "", reader.problem());
     } else if (Is_Blank_Line(*line)) {
       continue;
     } else {

@@ -18,7 +18,6 @@ namespace {
 
 // How far the run may be ahead of an answer that is still waited for.
 constexpr std::size_t most_jobs = std::size_t{1} << 16;
-constexpr std::size_t most_bytes = std::size_t{1} << 28;
 // No more than this is handed to a process at once, a single line apart.
 constexpr std::size_t most_bytes_at_once = std::size_t{1} << 20;
 
@@ -49,9 +48,11 @@ class Shared_Counters {
 
 class Parallel_Batch {
  public:
-  Parallel_Batch(int input, int output, unsigned processes, const Answer_Function& answer)
+  Parallel_Batch(int input, int output, unsigned processes, const Answer_Function& answer,
+                 const Batch_Bounds& bounds)
       : input_(input),
-        reader_(input),
+        bounds_(bounds),
+        reader_(input, bounds.longest_line),
         writer_(output),
         answer_(answer),
         counters_(processes),
@@ -81,7 +82,7 @@ class Parallel_Batch {
     });
   }
 
-  bool has_room() const { return jobs_.size() < most_jobs && bytes_ < most_bytes; }
+  bool has_room() const { return jobs_.size() < most_jobs && bytes_ < bounds_.held; }
 
   void take_lines() {
     needs_input_ = false;
@@ -91,8 +92,8 @@ class Parallel_Batch {
         needs_input_ = !input_ended_;
         return;
       }
-      if (reader_.was_too_long()) {
-        add_invalid_line();
+      if (!reader_.problem().empty()) {
+        add_invalid_line(reader_.problem());
       } else if (!Is_Blank_Line(*line)) {
         add_job(*line);
       }
@@ -112,9 +113,9 @@ class Parallel_Batch {
     waiting_.push_back(&job);
   }
 
-  void add_invalid_line() {
+  void add_invalid_line(std::string_view problem) {
     Job& job = add(0);
-    Append_Invalid(job.answer, "", too_long_line);
+    Append_Invalid(job.answer, "", problem);
     job.is_done = true;
   }
 
@@ -149,7 +150,7 @@ class Parallel_Batch {
     std::vector<pollfd> events;
     events.push_back({needs_input_ ? input_ : -1, POLLIN, 0});
     for (const auto& worker : workers_) {
-      events.push_back(worker->answers_to_poll());
+      events.push_back(may_take_from(*worker) ? worker->answers_to_poll() : pollfd{-1, 0, 0});
       events.push_back(worker->requests_to_poll());
     }
     if (::poll(events.data(), static_cast<nfds_t>(events.size()), -1) < 0) return;
@@ -160,8 +161,18 @@ class Parallel_Batch {
     }
   }
 
+  // While one answer is waited for, those behind it are held, but no more than there is room for:
+  // then their processes wait, too. The one that has the first line in hand never has to.
+  bool may_take_from(const Worker& worker) const {
+    return bytes_ < bounds_.held || worker.has_in_hand(*jobs_.front());
+  }
+
   void receive(std::size_t index) {
-    if (!workers_[index]->receive()) replace(index);
+    const bool is_alive = workers_[index]->receive([this](Job& job) {
+      bytes_ += job.answer.size();
+      job.weight += job.answer.size();
+    });
+    if (!is_alive) replace(index);
   }
 
   void replace(std::size_t index) {
@@ -180,6 +191,7 @@ class Parallel_Batch {
   }
 
   int input_;
+  Batch_Bounds bounds_;
   Line_Reader reader_;
   Line_Writer writer_;
   const Answer_Function& answer_;
@@ -194,8 +206,9 @@ class Parallel_Batch {
 
 }  // namespace
 
-void Serve_In_Parallel(int input, int output, unsigned processes, const Answer_Function& answer) {
-  Parallel_Batch(input, output, processes, answer).run();
+void Serve_In_Parallel(int input, int output, unsigned processes, const Answer_Function& answer,
+                       const Batch_Bounds& bounds) {
+  Parallel_Batch(input, output, processes, answer, bounds).run();
 }
 
 }  // namespace quorvex

@@ -5,11 +5,11 @@
 
 namespace quorvex {
 
-void Serve_In_Parallel(int input, int output, unsigned /*processes*/,
-                       const Answer_Function& answer) {
+void Serve_In_Parallel(int input, int output, unsigned /*processes*/, const Answer_Function& answer,
+                       const Batch_Bounds& bounds) {
   std::cerr << "warning: --jobs is not available on Windows; one process answers all calls.\n"
             << std::flush;
-  Serve(input, output, answer);
+  Serve(input, output, answer, bounds);
 }
 
 }  // namespace quorvex

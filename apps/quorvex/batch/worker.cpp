@@ -2,6 +2,9 @@
 #include "batch/worker.h"
 
 #include <fcntl.h>
+#ifdef __linux__
+#include <sys/prctl.h>
+#endif
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -33,6 +36,14 @@ void Close(int& descriptor) {
   descriptor = -1;
 }
 
+// A long calculation would not notice that nobody waits for its answer any more.
+void End_With(pid_t parent) {
+#ifdef __linux__
+  ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+#endif
+  if (::getppid() != parent) ::_exit(1);
+}
+
 std::string Cause_Of_Death(int status) {
   if (WIFSIGNALED(status)) return "was ended by signal " + std::to_string(WTERMSIG(status));
   return "ended with code " + std::to_string(WEXITSTATUS(status));
@@ -46,6 +57,7 @@ Worker::Worker(const Answer_Function& answer, std::atomic<std::uint64_t>& starte
   started_ = 0;
   std::array<int, 2> requests = Make_Pipe();
   std::array<int, 2> answers = Make_Pipe();
+  const pid_t parent = ::getpid();
   process_ = ::fork();
   if (process_ < 0) {
     const int error = errno;
@@ -53,6 +65,7 @@ Worker::Worker(const Answer_Function& answer, std::atomic<std::uint64_t>& starte
     throw std::system_error(error, std::generic_category(), "cannot start a process");
   }
   if (process_ == 0) {
+    End_With(parent);
     before_work();
     ::close(requests[1]);
     ::close(answers[0]);
@@ -87,7 +100,7 @@ void Worker::work(const Answer_Function& answer, int input, int output) {
     if (spare > STDERR_FILENO) ::close(spare);
   }
   try {
-    Serve(STDIN_FILENO, STDOUT_FILENO, answer, &started_);
+    Serve(STDIN_FILENO, STDOUT_FILENO, answer, {}, &started_);
   } catch (const std::exception&) {
     ::_exit(1);
   }
@@ -124,7 +137,7 @@ void Worker::send() {
   sent_ = 0;
 }
 
-bool Worker::receive() {
+bool Worker::receive(const std::function<void(Job&)>& answered) {
   const std::size_t held = inbox_.size();
   inbox_.resize(held + read_size);
   const ssize_t got = ::read(from_worker_, inbox_.data() + held, read_size);
@@ -134,7 +147,7 @@ bool Worker::receive() {
   for (;;) {
     const auto end = inbox_.find('\n', std::max(begin, scanned_));
     if (end == std::string::npos) break;
-    take_answer(std::string_view(inbox_).substr(begin, end - begin));
+    answered(take_answer(std::string_view(inbox_).substr(begin, end - begin)));
     begin = end + 1;
   }
   inbox_.erase(0, begin);
@@ -142,14 +155,15 @@ bool Worker::receive() {
   return true;
 }
 
-void Worker::take_answer(std::string_view answer) {
-  Job* job = in_hand_.front();
+Job& Worker::take_answer(std::string_view answer) {
+  Job* const job = in_hand_.front();
   in_hand_.pop_front();
   job->answer = answer;
   job->line = std::string();
   job->is_done = true;
   ++answered_;
   if (in_hand_.empty()) adjust_appetite();
+  return *job;
 }
 
 void Worker::adjust_appetite() {

@@ -40,6 +40,8 @@ class Worker {
   Worker& operator=(const Worker&) = delete;
 
   bool is_idle() const { return in_hand_.empty(); }
+  /// Whether that job is the next that it answers.
+  bool has_in_hand(const Job& job) const { return !is_idle() && in_hand_.front() == &job; }
   /// How many jobs it should be given at once: many while they are done in no time, and one while
   /// each takes long, lest short ones wait behind a long one with other processes idle.
   std::size_t appetite() const { return appetite_; }
@@ -49,8 +51,8 @@ class Worker {
   pollfd requests_to_poll() const;
 
   void send();
-  /// Takes in what the process has answered; false if it has died.
-  bool receive();
+  /// Takes in what the process has answered, and tells of each; false if it has died.
+  bool receive(const std::function<void(Job&)>& answered);
 
   /// For a process that has died: the job that it died of, or null, and the rest of what it had in
   /// hand, in order.
@@ -67,7 +69,7 @@ class Worker {
  private:
   using Clock = std::chrono::steady_clock;
 
-  void take_answer(std::string_view answer);
+  Job& take_answer(std::string_view answer);
   void adjust_appetite();
   [[noreturn]] void work(const Answer_Function& answer, int input, int output);
 

@@ -2,7 +2,9 @@
 #include "cli/arguments.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 
+#include "cli/sizes.h"
 #include "quorvex_version.h"
 
 namespace quorvex {
@@ -117,11 +119,28 @@ void Describe_Functions(CLI::App& app, Arguments& arguments) {
       ->excludes(name);
 }
 
+void Add_Size_Option(CLI::App& command, const char* name, std::size_t& bytes, const char* help) {
+  command
+      .add_option_function<std::string>(
+          name,
+          [&bytes](const std::string& size) {
+            constexpr double most = 1e18;
+            bytes = static_cast<std::size_t>(std::min(Bytes_Of(size).value_or(0), most));
+          },
+          help)
+      ->type_name("SIZE")
+      ->check(CLI::Validator(Check_Size, ""));
+}
+
 void Describe_Batch(CLI::App& app, Arguments& arguments) {
   auto* batch = app.add_subcommand("batch", "Answer calls in JSON, a line each");
   batch->add_option("--jobs", arguments.jobs, "Processes that calculate at once")
       ->type_name("N")
       ->check(CLI::Validator(Check_Jobs, ""));
+  Add_Size_Option(*batch, "--max-line", arguments.longest_line,
+                  "Call a longer line invalid, and go on (64M where nothing else is said)");
+  Add_Size_Option(*batch, "--max-answer", arguments.longest_answer,
+                  "Answer with failure 7 where the answer would be longer (64M as well)");
   Add_Common_Options(*batch, arguments.common);
   batch->footer(
       "A JSON number that a 64-bit float gives back in its shortest form is a number like that\n"

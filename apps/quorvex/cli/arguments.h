@@ -1,6 +1,7 @@
 // What the command line can ask for.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -27,6 +28,9 @@ struct Arguments {
   bool manual_page = false;
   std::string completion;
   unsigned jobs = 1;
+  // What a single call may ask of the server that answers it, in bytes.
+  std::size_t longest_line = std::size_t{64} << 20;
+  std::size_t longest_answer = std::size_t{64} << 20;
 };
 
 /// Gives the command line its commands and options, which fill the arguments in.

@@ -85,14 +85,16 @@ Outcome Run_Batch(Session& session, const std::shared_ptr<Call_Guard>& guard,
                   const Arguments& arguments) {
   Show_No_Forms();   // answers stand alone on the output
   session.engine();  // tells what is wrong with the settings
-  Answerer answerer(guard);
+  Answerer answerer(guard, arguments.longest_answer);
   const Answer_Function answer = [&answerer](std::string& out, std::string_view line) {
     answerer.append_answer(out, line);
   };
+  Batch_Bounds bounds;
+  bounds.longest_line = arguments.longest_line;
   if (arguments.jobs > 1) {
-    Serve_In_Parallel(STDIN_FILENO, STDOUT_FILENO, arguments.jobs, answer);
+    Serve_In_Parallel(STDIN_FILENO, STDOUT_FILENO, arguments.jobs, answer, bounds);
   } else {
-    Serve(STDIN_FILENO, STDOUT_FILENO, answer);
+    Serve(STDIN_FILENO, STDOUT_FILENO, answer, bounds);
   }
   return Outcome::success;
 }
@@ -211,6 +213,14 @@ Outcome Run(Session& session, const std::shared_ptr<Call_Guard>& guard, const CL
   return Outcome::wrong_usage;
 }
 
+// Files and other programs may ask for what nobody waits for; who types a formula can break it off.
+double Usual_Timeout(const CLI::App& app) {
+  constexpr double seconds = 60;
+  const bool asks_for_others =
+      app.got_subcommand("batch") || app.got_subcommand("sheet") || app.count("--sheet") > 0;
+  return asks_for_others ? seconds : 0;
+}
+
 Outcome Parse_And_Run(int argc, char** argv) {
   Session plain(std::make_shared<Call_Guard>(std::nullopt));
   Arguments arguments;
@@ -221,7 +231,7 @@ Outcome Parse_And_Run(int argc, char** argv) {
     auto words = Guarded_Arguments(argc, argv);
     std::reverse(words.begin(), words.end());
     app.parse(std::move(words));
-    const auto guard = Apply(arguments.common);
+    const auto guard = Apply(arguments.common, Usual_Timeout(app));
     Session session(guard);
     session.set_quiet(arguments.common.quiet);
     return Run(session, guard, app, arguments);

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "cli/session.h"
+#include "cli/sizes.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "io/memory_bound.h"
@@ -62,27 +63,8 @@ std::string Check_Digits(const std::string& text) {
 std::string Check_Timeout(const std::string& text) {
   double seconds = 0;
   const bool is_good =
-      CLI::detail::lexical_cast(text, seconds) && seconds > 0 && seconds <= longest_timeout;
-  return is_good ? "" : "a number of seconds above 0 is needed, not " + text;
-}
-
-// Nothing for what is no size: a number with K, M, G or T behind it, or bytes.
-std::optional<double> Bytes_Of(const std::string& size) {
-  constexpr std::string_view units = "KMGT";
-  const std::size_t digits = std::min(size.find_first_not_of("0123456789."), size.size());
-  std::string unit = To_Capitals(size.substr(digits));
-  if (unit.ends_with('B')) unit.pop_back();
-  double bytes = 0;
-  if (digits == 0 || unit.size() > 1 || !CLI::detail::lexical_cast(size.substr(0, digits), bytes))
-    return std::nullopt;
-  const std::size_t power = unit.empty() ? 0 : units.find(unit) + 1;
-  if (!unit.empty() && power == 0) return std::nullopt;
-  bytes *= std::pow(1024, power);
-  return bytes >= 1 ? std::optional(bytes) : std::nullopt;
-}
-
-std::string Check_Memory(const std::string& text) {
-  return Bytes_Of(text) ? "" : "a size like 500M or 4G is needed, not " + text;
+      CLI::detail::lexical_cast(text, seconds) && seconds >= 0 && seconds <= longest_timeout;
+  return is_good ? "" : "a number of seconds is needed, or 0 for no limit, not " + text;
 }
 
 }  // namespace
@@ -103,7 +85,9 @@ void Add_Common_Options(CLI::App& command, Common_Options& options) {
       ->check(CLI::Validator(Check_Side, ""));
   add("-d,--digits", options.digits, "N", "Significant digits where a call gives none")
       ->check(CLI::Validator(Check_Digits, ""));
-  add("--timeout", options.timeout, "SECONDS", "End a calculation that takes longer")
+  add("--timeout", options.timeout, "SECONDS",
+      "End a calculation that takes longer; 0 for none (60 a call of batch and a formula of a "
+      "worksheet, where nothing else is said)")
       ->check(CLI::Validator(Check_Timeout, ""));
   command
       .add_option_function<std::string>(
@@ -112,7 +96,7 @@ void Add_Common_Options(CLI::App& command, Common_Options& options) {
           "machine has, and 2G at most, where nothing else is said)")
       ->type_name("SIZE")
       ->group("Number format and limits")
-      ->check(CLI::Validator(Check_Memory, ""));
+      ->check(CLI::Validator(Check_Size, ""));
   command.add_flag("--quiet", options.quiet, "Tell no notes about results");
 }
 
@@ -146,7 +130,7 @@ class Settings_Of_Run final : public Settings_Store {
 
 }  // namespace
 
-std::shared_ptr<Call_Guard> Apply(const Common_Options& options) {
+std::shared_ptr<Call_Guard> Apply(const Common_Options& options, double usual_timeout) {
   if (options.locale_name && Gives_Parts(options))
     throw Usage_Error("--locale names a whole locale: give it, or the parts one by one");
   if (options.locale_name || Gives_Parts(options)) {
@@ -161,7 +145,8 @@ std::shared_ptr<Call_Guard> Apply(const Common_Options& options) {
   const double memory = options.memory.value_or(Usual_Memory_Bound());
   Bound_Memory(memory);
   std::optional<Seconds> limit;
-  if (options.timeout) limit = Seconds(*options.timeout);
+  const double timeout = options.timeout.value_or(usual_timeout);
+  if (timeout > 0) limit = Seconds(timeout);
   auto guard = std::make_shared<Call_Guard>(limit);
   guard->bound_memory(memory);
   Current_Platform().yielder = guard;

@@ -28,8 +28,9 @@ struct Common_Options {
 /// Gives a command these options.
 void Add_Common_Options(CLI::App& command, Common_Options& options);
 
-/// Puts the options into force for this process. Throws `Usage_Error` for a locale that is not
-/// there or can't be used.
-std::shared_ptr<Call_Guard> Apply(const Common_Options& options);
+/// Puts the options into force for this process, with the usual limit of time in seconds, or 0 for
+/// none, where they give no other. Throws `Usage_Error` for a locale that is not there or can't be
+/// used.
+std::shared_ptr<Call_Guard> Apply(const Common_Options& options, double usual_timeout);
 
 }  // namespace quorvex

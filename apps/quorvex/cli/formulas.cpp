@@ -119,8 +119,8 @@ Outcome Formulas::calculate_input() {
     constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
     if (number == 1 && line->starts_with(byte_order_mark))
       line->remove_prefix(byte_order_mark.size());
-    if (reader.was_too_long()) {
-      session_.error(place + std::string(too_long_line));
+    if (!reader.problem().empty()) {
+      session_.error(place + std::string(reader.problem()));
       outcome = Outcome::wrong_usage;
     } else if (!Is_Blank_Line(*line) && !Is_Note(*line)) {
       outcome = Worse_Of(outcome, calculate(*line, place));

@@ -175,7 +175,10 @@ Outcome Open_Sheet::calculate(const std::function<void(const Progress&)>& work) 
     const Closed_Forms closed;
     Progress_Bar bar("Calculating");
     session_.guard().begin_call();
-    work([&bar](std::size_t done, std::size_t all) { bar.show(done, all); });
+    work([&](std::size_t done, std::size_t all) {
+      session_.guard().begin_formula();
+      bar.show(done, all);
+    });
   } catch (const Run_Time_Failure& failure) {
     session_.error(file_name() + ": " + failure.what());
     return Outcome::failed_calculation;

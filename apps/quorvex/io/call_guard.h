@@ -14,6 +14,8 @@ class Call_Guard final : public Deadline {
 
   /// Starts the time of a call, and forgets an interruption that came before it.
   void begin_call();
+  /// Starts the time of the next formula of a worksheet, all of which one interruption ends.
+  void begin_formula() { Deadline::begin_call(); }
   void yield() override;
 
   /// Ends calculations once the process holds more bytes than these.

@@ -51,8 +51,8 @@ void Line_Writer::flush() {
 std::optional<std::string_view> Line_Reader::buffered_line() {
   const auto line_end = buffer_.find('\n', std::max(begin_, scanned_));
   const bool found = line_end != std::string::npos;
-  if (!found && (!at_end_ || (begin_ == buffer_.size() && !dropping_))) {
-    if (dropping_) begin_ = buffer_.size();
+  if (!found && (!at_end_ || (begin_ == buffer_.size() && dropping_.empty()))) {
+    if (!dropping_.empty()) begin_ = buffer_.size();
     scanned_ = buffer_.size();
     return std::nullopt;
   }
@@ -60,10 +60,10 @@ std::optional<std::string_view> Line_Reader::buffered_line() {
   std::string_view line(buffer_.data() + begin_, end - begin_);
   begin_ = found ? end + 1 : end;
   scanned_ = begin_;
-  was_too_long_ = std::exchange(dropping_, false);
-  if (was_too_long_) return std::string_view();
+  problem_ = std::exchange(dropping_, {});
   if (line.ends_with('\r')) line.remove_suffix(1);
-  return line;
+  if (problem_.empty() && line.size() > longest_) problem_ = longer_line;
+  return problem_.empty() ? line : std::string_view();
 }
 
 bool Line_Reader::fill() {
@@ -71,13 +71,14 @@ bool Line_Reader::fill() {
   buffer_.erase(0, begin_);
   scanned_ -= begin_;
   begin_ = 0;
+  if (buffer_.size() > longest_) drop_line(longer_line);
   try {
     if (buffer_.size() > modest_size) Require_Memory(2.0 * static_cast<double>(buffer_.size()));
     read_piece();
   } catch (const Run_Time_Failure&) {
-    drop_line();
+    drop_line(too_long_line);
   } catch (const std::bad_alloc&) {
-    drop_line();
+    drop_line(too_long_line);
   }
   return !at_end_;
 }
@@ -96,10 +97,10 @@ void Line_Reader::read_piece() {
   }
 }
 
-void Line_Reader::drop_line() {
+void Line_Reader::drop_line(std::string_view problem) {
   buffer_ = std::string();
   scanned_ = 0;
-  dropping_ = true;
+  dropping_ = problem;
 }
 
 std::optional<std::string_view> Line_Reader::next_line(Line_Writer& output) {

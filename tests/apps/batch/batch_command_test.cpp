@@ -47,9 +47,24 @@ TEST(BatchCommand, LongCallsAreEndedAndTheNextOneIsNot) {
             "{\"id\":2,\"value\":\"2\"}\n");
 }
 
+TEST(BatchCommand, AnswersLongerThanAllowedAreFailures) {
+  const std::string input = R"({"id":1,"call":"qvxADD","args":[")" + std::string(200, '7') +
+                            R"(",0],)" + R"("named":{"maximum_significant_digits":300}})" + "\n" +
+                            R"({"id":2,"call":"qvxADD","args":[1,1]})" + "\n";
+  const Tool_Run run = Run_Tool({"batch", "--max-answer", "0.2K"}, input);
+  EXPECT_EQ(run.output,
+            "{\"id\":1,\"failure\":\"The answer has 219 bytes, more than --max-answer "
+            "allows.\",\"number\":7}\n{\"id\":2,\"value\":\"2\"}\n");
+}
+
 TEST(BatchCommand, RefusesBadOptions) {
-  for (const std::vector<std::string>& options : std::vector<std::vector<std::string>>{
-           {"--jobs", "0"}, {"--jobs", "x"}, {"--decimal", "12"}, {"--locale", "xx"}, {"more"}}) {
+  for (const std::vector<std::string>& options :
+       std::vector<std::vector<std::string>>{{"--jobs", "0"},
+                                             {"--jobs", "x"},
+                                             {"--max-line", "x"},
+                                             {"--decimal", "12"},
+                                             {"--locale", "xx"},
+                                             {"more"}}) {
     std::vector<std::string> words = {"batch"};
     for (const std::string& option : options) words.push_back(option);
     const Tool_Run run = Run_Tool(words, "{}\n");

@@ -50,7 +50,7 @@ std::vector<std::string> Lines_Of(const std::string& text, std::size_t piece) {
   Line_Writer nowhere(STDOUT_FILENO);
   std::vector<std::string> lines;
   while (const auto line = reader.next_line(nowhere))
-    lines.push_back(reader.was_too_long() ? "(too long)" : std::string(*line));
+    lines.push_back(!reader.problem().empty() ? "(too long)" : std::string(*line));
   sender.join();
   return lines;
 }
