@@ -28,6 +28,11 @@ void Append_Escaped(std::string& text, char c) {
 
 std::string Escaped_Part(std::string_view part) {
   std::string text;
+  // Before the first line it would be passed over.
+  if (part.starts_with(byte_order_mark)) {
+    Append_Escaped(text, part.front());
+    part.remove_prefix(1);
+  }
   for (const char c : part) Is_Plain(c, " /=#") ? void(text += c) : Append_Escaped(text, c);
   return text;
 }

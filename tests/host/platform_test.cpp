@@ -97,6 +97,16 @@ TEST(MessageBox, ShowsAMessageWithoutWaiting) {
   EXPECT_TRUE(terminal.shows("Quorvex: error\r\nDigits only.\r\n"));
 }
 
+TEST(MessageBox, WhatItQuotesCommandsNoTerminal) {
+  Terminal terminal;
+  const auto box = Terminal_Message_Box(terminal.screen(), terminal.screen());
+  box->show("T",
+            "a\x1B[2Jb\xC2\x9B"
+            "c\x7F \xC3\xA4\n2",
+            Message_Icon::none, Message_Buttons::ok);
+  EXPECT_TRUE(terminal.shows("T\r\na?[2Jb?c? \xC3\xA4\r\n2\r\n"));
+}
+
 TEST(MessageBox, WithoutATerminalAnswersAsNobodyWould) {
   int ends[2];
   ASSERT_EQ(pipe(ends), 0);

@@ -252,7 +252,7 @@ int Run_Command_Line(int argc, char** argv) {
   } catch (const Output_Closed&) {
     return static_cast<int>(Outcome::success);
   } catch (const std::exception& fault) {
-    std::fprintf(stderr, "error: %s\n", fault.what());
+    std::fprintf(stderr, "error: %s\n", Visible(fault.what()).c_str());
     return static_cast<int>(Outcome::failed_calculation);
   }
 }

@@ -12,6 +12,7 @@
 #include <system_error>
 #include <utility>
 
+#include "formula/visible.h"
 #include "io/call_guard.h"
 
 namespace quorvex {
@@ -179,7 +180,7 @@ class Line_Editor::State {
     if (is_longer || completion.candidates.empty()) return CC_REFRESH;
     std::fputs("\n", stdout);
     for (const std::string& candidate : completion.candidates)
-      std::fprintf(stdout, "%s  ", candidate.c_str());
+      std::fprintf(stdout, "%s  ", Visible(candidate).c_str());
     std::fputs("\n", stdout);
     return CC_REDISPLAY;
   }

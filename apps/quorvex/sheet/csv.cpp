@@ -8,14 +8,13 @@
 #include <functional>
 #include <new>
 #include <ostream>
-#include <random>
 #include <string>
 #include <system_error>
 
 #include "formula/utf8.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
-#include "io/signal_cleanup.h"
+#include "io/temporary_file.h"
 #include "io/whole_text.h"
 #include "sheet/csv_reader.h"
 #include "sheet/number_looks.h"
@@ -150,28 +149,13 @@ void Write_To(const fs::path& file, const fs::path& named, const Write& write) {
   if (!out) throw File_Error(named.string() + " can't be written: " + System_Message(errno) + ".");
 }
 
-// Beside the file itself, since only within one folder a renaming replaces it as a whole.
-fs::path Temporary_Beside(const fs::path& file) {
-  fs::path temporary = file;
-  temporary += ".part" + std::to_string(std::random_device()());
-  return temporary;
-}
-
 void Replace(const fs::path& file, const fs::path& named, const Write& write) {
-  const fs::path temporary = Temporary_Beside(file);
-  const Signal_Cleanup cleanup(temporary);
-  std::error_code ignored;
   try {
-    Write_To(temporary, named, write);
-    const fs::file_status old = fs::status(file, ignored);
-    if (fs::exists(old)) fs::permissions(temporary, old.permissions(), ignored);
-    fs::rename(temporary, file);
-  } catch (const fs::filesystem_error& error) {
-    fs::remove(temporary, ignored);
+    Temporary_File temporary(file);
+    Write_To(temporary.path(), named, write);
+    temporary.take_place();
+  } catch (const std::system_error& error) {
     throw File_Error(named.string() + " can't be written: " + error.code().message() + ".");
-  } catch (...) {
-    fs::remove(temporary, ignored);
-    throw;
   }
 }
 

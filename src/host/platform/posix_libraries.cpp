@@ -1,13 +1,11 @@
 // Libraries that stand beside this one, on POSIX systems.
 #include <dlfcn.h>
 
-#include <atomic>
-#include <cstring>
 #include <filesystem>
 #include <string>
 #include <system_error>
-#include <utility>
 
+#include "host/platform/found_symbols.h"
 #include "host/platform/posix.h"
 
 namespace quorvex {
@@ -41,48 +39,31 @@ std::string Folder_Of_This_Library() {
 // only until the process enters another folder. Never destroyed, as the platform isn't.
 const auto* const folder_when_loaded = new std::string(Folder_Of_This_Library());
 
+// By its whole path first: by its plain name, the system may find another one of that name, in a
+// folder that the environment names.
+void* Loaded(const char* library) {
+  if (!folder_when_loaded->empty()) {
+    const std::string beside = *folder_when_loaded + "/" + library;
+    if (void* const handle = ::dlopen(beside.c_str(), RTLD_NOW | RTLD_LOCAL)) return handle;
+  }
+  return ::dlopen(library, RTLD_NOW | RTLD_LOCAL);
+}
+
 class Loaded_Libraries final : public Library_Loader {
  public:
-  Loaded_Libraries() = default;
-  Loaded_Libraries(const Loaded_Libraries&) = delete;
-  Loaded_Libraries& operator=(const Loaded_Libraries&) = delete;
-  ~Loaded_Libraries() override {
-    for (const Found* found = last_; found != nullptr;) delete std::exchange(found, found->before);
-  }
-
   // A library that was found stays loaded; one that was not is looked for again.
   void* symbol(const char* library, const char* name) override {
-    for (const Found* found = last_; found != nullptr; found = found->before) {
-      if (std::strcmp(found->name.c_str(), name) == 0 &&
-          std::strcmp(found->library.c_str(), library) == 0) {
-        return found->symbol;
-      }
-    }
-    void* const handle = ::dlopen(library, RTLD_NOW | RTLD_LOCAL);
+    if (void* const known = found_.find(library, name)) return known;
+    void* const handle = Loaded(library);
     void* const symbol = handle == nullptr ? nullptr : ::dlsym(handle, name);
-    if (symbol != nullptr) remember({library, name, symbol});
+    if (symbol != nullptr) found_.remember(library, name, symbol);
     return symbol;
   }
 
   std::string folder() override { return *folder_when_loaded; }
 
  private:
-  struct Found {
-    std::string library;
-    std::string name;
-    void* symbol;
-    const Found* before = nullptr;
-  };
-
-  // Products of several threads come here at the same time, so what was found is never changed.
-  void remember(Found found) {
-    auto* const last = new Found(std::move(found));
-    last->before = last_.load();
-    while (!last_.compare_exchange_weak(last->before, last)) {
-    }
-  }
-
-  std::atomic<const Found*> last_ = nullptr;
+  Found_Symbols found_;
 };
 
 }  // namespace

@@ -11,6 +11,18 @@ namespace quorvex {
 
 namespace {
 
+// What a message quotes, a stored setting say, may hold signs that command a terminal.
+std::string Harmless(std::string text) {
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const auto byte = static_cast<unsigned char>(text[at]);
+    const bool opens_control =
+        byte == 0xC2 && at + 1 < text.size() && static_cast<unsigned char>(text[at + 1]) < 0xA0;
+    if ((byte < 0x20 && byte != '\n') || byte == 0x7F) text[at] = '?';
+    if (opens_control) text.replace(at, 2, "?");
+  }
+  return text;
+}
+
 class Terminal_Box final : public Message_Box {
  public:
   Terminal_Box(int input, int output) : input_(input), output_(output) {}
@@ -20,7 +32,7 @@ class Terminal_Box final : public Message_Box {
     const bool asks = buttons == Message_Buttons::yes_no;
     const Message_Answer quiet = asks ? Message_Answer::no : Message_Answer::ok;
     if (!is_attended()) return quiet;
-    write_all(std::string(title) + label(icon) + "\n" + std::string(text) + "\n");
+    write_all(Harmless(std::string(title) + label(icon) + "\n" + std::string(text)) + "\n");
     while (asks) {
       write_all("Yes or no? [y/N] ");
       const std::string answer = read_line();

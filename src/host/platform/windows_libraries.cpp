@@ -1,10 +1,8 @@
 // Libraries that stand beside this one, on Windows.
-#include <atomic>
-#include <cstring>
 #include <filesystem>
 #include <string>
-#include <utility>
 
+#include "host/platform/found_symbols.h"
 #include "host/platform/windows.h"
 #include "host/platform/windows_api.h"
 #include "host/platform/windows_text.h"
@@ -48,28 +46,16 @@ class Quiet {
 
 class Loaded_Libraries final : public Library_Loader {
  public:
-  Loaded_Libraries() = default;
-  Loaded_Libraries(const Loaded_Libraries&) = delete;
-  Loaded_Libraries& operator=(const Loaded_Libraries&) = delete;
-  ~Loaded_Libraries() override {
-    for (const Found* found = last_; found != nullptr;) delete std::exchange(found, found->before);
-  }
-
   // A library that was found stays loaded; one that was not is looked for again.
   void* symbol(const char* library, const char* name) override {
-    for (const Found* found = last_; found != nullptr; found = found->before) {
-      if (std::strcmp(found->name.c_str(), name) == 0 &&
-          std::strcmp(found->library.c_str(), library) == 0) {
-        return found->symbol;
-      }
-    }
+    if (void* const known = found_.find(library, name)) return known;
     HMODULE const handle = Loaded(library);
     if (handle == nullptr) return nullptr;
     void* const symbol = reinterpret_cast<void*>(::GetProcAddress(handle, name));
     if (symbol == nullptr) {
       ::FreeLibrary(handle);
     } else {
-      remember({library, name, symbol});
+      found_.remember(library, name, symbol);
     }
     return symbol;
   }
@@ -77,13 +63,6 @@ class Loaded_Libraries final : public Library_Loader {
   std::string folder() override { return Narrow_Text(Folder_Of_This_Library().wstring()); }
 
  private:
-  struct Found {
-    std::string library;
-    std::string name;
-    void* symbol;
-    const Found* before = nullptr;
-  };
-
   // The system looks beside the program and not beside the library that asks. By the whole path,
   // what the other one needs is looked for beside it as well.
   static HMODULE Loaded(const char* library) {
@@ -98,15 +77,7 @@ class Loaded_Libraries final : public Library_Loader {
     return ::LoadLibraryW(name.c_str());
   }
 
-  // Products of several threads come here at the same time, so what was found is never changed.
-  void remember(Found found) {
-    auto* const last = new Found(std::move(found));
-    last->before = last_.load();
-    while (!last_.compare_exchange_weak(last->before, last)) {
-    }
-  }
-
-  std::atomic<const Found*> last_ = nullptr;
+  Found_Symbols found_;
 };
 
 }  // namespace

@@ -119,7 +119,7 @@ TEST(CommandLine, TakesLocaleAndLimits) {
       {{"--digits", "0", "1"}, "", "", "a whole number from 1 to 2147483648", 2},
       {{"--digits", "2.5", "1"}, "", "", "a whole number", 2},
       {{"-d", "-1", "1"}, "", "", "not -1", 2},
-      {{"--timeout", "-1", "1"}, "", "", "seconds above 0", 2},
+      {{"--timeout", "-1", "1"}, "", "", "a number of seconds", 2},
       {{"--nonsense"}, "", "", "--nonsense", 2},
       {{"1", "batch"}, "", "", "don't go together", 2},
   };

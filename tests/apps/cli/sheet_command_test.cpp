@@ -1,5 +1,7 @@
 // `quorvex sheet` as its users meet it.
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -97,6 +99,23 @@ TEST(SheetCommand, RefusesToWriteOntoTheFileThatItIsFed) {
                               file + "' 2> /dev/null";
   EXPECT_NE(std::system(command.c_str()), 0);
   EXPECT_EQ(File_Text(file), "=1+1\n");
+}
+
+TEST(SheetCommand, TakesAwayWhatKilledRunsLeftAndNothingElse) {
+  const Temporary_Folder folder;
+  const auto stays = [&](const std::string& name) { return folder.write(name, "old"); };
+  const std::string left = stays("out.csv.part123");
+  const std::string at_work = stays("out.csv.part456");
+  const std::string others[] = {at_work, stays("out.csv.part"), stays("out.csv.part1a"),
+                                stays("other.csv.part1"), stays("out.csv.part1.csv")};
+  const int lock = ::open(at_work.c_str(), O_RDONLY);
+  ASSERT_EQ(::flock(lock, LOCK_EX), 0);
+  const std::string target = (folder.path() / "out.csv").string();
+  EXPECT_EQ(Run_Tool({"sheet", "-", "-o", target}, "=1+1\n").exit_code, 0);
+  EXPECT_EQ(File_Text(target), "2\n");
+  EXPECT_FALSE(std::filesystem::exists(left));
+  for (const std::string& other : others) EXPECT_EQ(File_Text(other), "old") << other;
+  ::close(lock);
 }
 
 TEST(SheetCommand, ReadsAWholeTextOrNone) {
