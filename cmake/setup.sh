@@ -9,6 +9,7 @@ calc_test_packages=(python3 python3-uno xvfb procps util-linux)
 windows_packages=(g++-mingw-w64-x86-64-posix mingw-w64-tools wine64 fp-utils-3.2.2 googletest libgmp-dev
   libmpfr-dev python3)
 arm_packages=(g++-aarch64-linux-gnu qemu-user nlohmann-json3-dev python3)
+coverage_packages=(gcovr)
 bench_packages=(libbenchmark-dev libgmp-dev libmpfr-dev libflint-dev python3 python3-mpmath bc)
 
 # Installs the Debian packages that are not there yet.

@@ -4,6 +4,7 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <string>
@@ -56,6 +57,11 @@ class QUORVEX_API Range {
   virtual std::size_t rows() const = 0;
   virtual std::size_t columns() const = 0;
   virtual HostValue cell(std::size_t row, std::size_t column) const = 0;
+
+  /// Calls `visit` with the cells that aren't blank, row by row, until it returns false; with blank
+  /// ones, too, where they can't be told. This looks at every cell: a host whose ranges name far
+  /// more cells than are used knows better.
+  virtual void visit_used(const std::function<bool(const HostValue&)>& visit) const;
 };
 
 /// A tagged value. Missing (an argument left out) and empty (a blank cell) differ.

@@ -17,6 +17,10 @@
 #include <system_error>
 #include <utility>
 
+#ifdef QUORVEX_COVERAGE
+extern "C" void __gcov_dump();
+#endif
+
 namespace quorvex {
 namespace {
 
@@ -42,6 +46,14 @@ void End_With(pid_t parent) {
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
 #endif
   if (::getppid() != parent) ::_exit(1);
+}
+
+// Ends this process, and nothing that its parent has begun.
+[[noreturn]] void Leave(int code) {
+#ifdef QUORVEX_COVERAGE
+  __gcov_dump();
+#endif
+  ::_exit(code);
 }
 
 std::string Cause_Of_Death(int status) {
@@ -102,9 +114,9 @@ void Worker::work(const Answer_Function& answer, int input, int output) {
   try {
     Serve(STDIN_FILENO, STDOUT_FILENO, answer, {}, &started_);
   } catch (const std::exception&) {
-    ::_exit(1);
+    Leave(1);
   }
-  ::_exit(0);
+  Leave(0);
 }
 
 void Worker::give(const std::vector<Job*>& jobs) {

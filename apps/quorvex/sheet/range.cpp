@@ -21,6 +21,25 @@ class Sheet_Range final : public Range {
                          area_.first.column + static_cast<std::uint32_t>(column - 1)});
   }
 
+  // Whole columns and rows are named for the few cells in them.
+  void visit_used(const std::function<bool(const HostValue&)>& visit) const override {
+    const auto& cells = sheet_.cells();
+    std::size_t seen = 0;
+    for (auto at = cells.lower_bound(area_.first); at != cells.end();) {
+      const Cell_Address& address = at->first;
+      if (address.row > area_.last.row) return;
+      if (address.column < area_.first.column) {
+        at = cells.lower_bound({address.row, area_.first.column});
+      } else if (address.column > area_.last.column) {
+        at = cells.lower_bound({address.row + 1, area_.first.column});
+      } else {
+        if (++seen % steps_between_yields == 0) Yield();
+        if (!visit(sheet_.value(address))) return;
+        ++at;
+      }
+    }
+  }
+
  private:
   const Worksheet& sheet_;
   Cell_Area area_;
