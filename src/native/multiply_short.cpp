@@ -11,7 +11,7 @@ std::size_t Multiply_Short(const Operands& operands, char* out, const Kernels& k
   const char* const second = is_square ? nullptr : b.data();
   const std::size_t words = kernels.short_scratch(a.size(), b.size());
   if (words <= few) {
-    alignas(64) std::uint64_t scratch[few];
+    alignas(64) std::byte scratch[few * sizeof(std::uint64_t)];
     return kernels.multiply_short(a.data(), a.size(), second, b.size(), out, scratch);
   }
   const Scratch<std::uint64_t> scratch(words);

@@ -21,10 +21,11 @@ struct Kernels {
   std::size_t (*multiply_tiny)(const char* a_text, std::size_t a_size, const char* b_text,
                                std::size_t b_size, char* out);
 
-  /// A product of short operands, the shorter of at most 60,000 digits, or null. A square has no
-  /// second text. `scratch` has as many words as short_scratch tells.
+  /// A product of short operands, which are those below transform_from, or null. A square has no
+  /// second text. `scratch` has as many words of 64 bits as short_scratch tells, on the boundary of
+  /// a cache line.
   std::size_t (*multiply_short)(const char* a_text, std::size_t a_size, const char* b_text,
-                                std::size_t b_size, char* out, std::uint64_t* scratch);
+                                std::size_t b_size, char* out, void* scratch);
   std::size_t (*short_scratch)(std::size_t a_size, std::size_t b_size);
 
   /// From this harmonic mean of the lengths on the transform is faster, as measured.

@@ -1,0 +1,204 @@
+// Decimal text to balanced points in doubles, eight at a time, and groups of digits back to text,
+// four at a time. For the inclusion of the AVX2 kernels alone.
+//
+// A group of D digits is two points. A permutation of bytes puts each point at the end of eight
+// bytes, zeros before it, in which neighbours are joined two by two.
+#pragma once
+
+#include <immintrin.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include "native/generic/grain.h"
+
+namespace quorvex::native {
+namespace {
+
+inline constexpr std::size_t register_bytes = 16;
+
+// For each byte of two points the character of the sixteen that end with their group; bytes with
+// the high bit set become zero.
+template <std::size_t D>
+struct Point_Places {
+  alignas(16) std::uint8_t place[register_bytes] = {};
+
+  constexpr Point_Places() {
+    constexpr std::size_t digits = D / 2;
+    for (std::size_t k = 0; k < 8; ++k) {
+      const bool is_used = k >= 8 - digits;
+      place[k] = static_cast<std::uint8_t>(is_used ? 8 + k : 0x80);
+      place[8 + k] = static_cast<std::uint8_t>(is_used ? 8 + k - digits : 0x80);
+    }
+  }
+};
+
+template <std::size_t D>
+constexpr Point_Places<D> point_places = {};
+
+// Reads points and balances them: what is above half of the base is taken from the next point.
+template <std::size_t D>
+class Point_Reader {
+ public:
+  static constexpr std::size_t digits = 4 * D;
+
+  /// So many characters before those of eight points may be read too.
+  static constexpr std::size_t characters = digits + register_bytes - D;
+
+  explicit Point_Reader(double* points) : points_(points) {}
+
+  void put_text(const char* end) {
+    const __m256i low = join(load(end), load(end - 2 * D));
+    const __m256i high = join(load(end - D), load(end - 3 * D));
+    const __m256 first = _mm256_castsi256_ps(low);
+    const __m256 second = _mm256_castsi256_ps(high);
+    const __m256i heads = _mm256_castps_si256(_mm256_shuffle_ps(first, second, 0x88));
+    const __m256i tails = _mm256_castps_si256(_mm256_shuffle_ps(first, second, 0xDD));
+    put(_mm256_add_epi32(_mm256_madd_epi16(heads, _mm256_set1_epi32(10'000)), tails));
+  }
+
+  void put(__m256i points) {
+    constexpr int base = [] {
+      int power = 1;
+      for (std::size_t i = 0; i < D / 2; ++i) power *= 10;
+      return power;
+    }();
+    const __m256i above = _mm256_cmpgt_epi32(points, _mm256_set1_epi32(base / 2));
+    const __m256i turned =
+        _mm256_permutevar8x32_epi32(above, _mm256_setr_epi32(7, 0, 1, 2, 3, 4, 5, 6));
+    const __m256i carried = _mm256_blend_epi32(turned, before_, 1);
+    before_ = turned;
+    const __m256i balanced = _mm256_sub_epi32(
+        _mm256_sub_epi32(points, _mm256_and_si256(above, _mm256_set1_epi32(base))), carried);
+    _mm256_store_pd(points_, _mm256_cvtepi32_pd(_mm256_castsi256_si128(balanced)));
+    _mm256_store_pd(points_ + 4, _mm256_cvtepi32_pd(_mm256_extracti128_si256(balanced, 1)));
+    points_ += 8;
+  }
+
+  const double* end() const { return points_; }
+
+  bool has_only_digits() const {
+    const __m256i too_large = _mm256_subs_epu8(most_, _mm256_set1_epi8(9));
+    return _mm256_testz_si256(too_large, too_large) != 0;
+  }
+
+ private:
+  static __m128i load(const char* end) {
+    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(end - register_bytes));
+  }
+
+  // Each point as two numbers, of its last four digits and those before.
+  __m256i join(__m128i low, __m128i high) {
+    const __m256i places = _mm256_broadcastsi128_si256(
+        _mm_load_si128(reinterpret_cast<const __m128i*>(point_places<D>.place)));
+    const __m256i text = _mm256_inserti128_si256(_mm256_castsi128_si256(low), high, 1);
+    const __m256i values =
+        _mm256_shuffle_epi8(_mm256_sub_epi8(text, _mm256_set1_epi8('0')), places);
+    most_ = _mm256_max_epu8(most_, values);
+    const __m256i pairs = _mm256_maddubs_epi16(values, _mm256_set1_epi16(0x010A));
+    return _mm256_madd_epi16(pairs, _mm256_set1_epi32(0x00010064));
+  }
+
+  double* points_;
+  __m256i before_ = _mm256_setzero_si256();
+  __m256i most_ = _mm256_setzero_si256();
+};
+
+/// Fills so many points, a multiple of eight and enough for the digits and what balancing carries,
+/// with zeros behind the last. False if a character is no digit.
+template <std::size_t D>
+bool Read_Balanced(const char* text, std::size_t size, double* points, std::size_t count) {
+  using Reader = Point_Reader<D>;
+  Reader reader(points);
+  for (; size >= Reader::characters; size -= Reader::digits) reader.put_text(text + size);
+  if (size > 0) {
+    char rest[register_bytes + 2 * Reader::digits];
+    std::memset(rest, '0', sizeof rest);
+    const char* end = rest + sizeof rest;
+    std::memcpy(rest + sizeof rest - size, text, size);
+    reader.put_text(end);
+    if (size > Reader::digits) reader.put_text(end - Reader::digits);
+  }
+  while (reader.end() != points + count) reader.put(_mm256_setzero_si256());
+  return reader.has_only_digits();
+}
+
+// Whole numbers below 10^15 over a power of ten. The little that is added makes up for the rounding
+// of the reciprocal, and is less than the least part of a quotient.
+inline __m256d Divide_Whole(__m256d numbers, double power) {
+  const __m256d quotient =
+      _mm256_fmadd_pd(numbers, _mm256_set1_pd(1 / power), _mm256_set1_pd(1 / (8 * power)));
+  return _mm256_floor_pd(quotient);
+}
+
+inline __m256d Rest_Of(__m256d numbers, __m256d quotients, double power) {
+  return _mm256_fnmadd_pd(quotients, _mm256_set1_pd(power), numbers);
+}
+
+// The eight digits of numbers below 10^8 as bytes, the first lowest. Both reciprocals, 2^19 / 100
+// and 2^16 / 10, are exact for all numbers that they meet.
+inline __m256i Part_Eights(__m256d eights) {
+  const __m256d magic = _mm256_set1_pd(0x1p52);
+  const __m256d high = Divide_Whole(eights, 1e4);
+  const __m256d low = Rest_Of(eights, high, 1e4);
+  const __m256d both = _mm256_fmadd_pd(low, _mm256_set1_pd(0x1p32), _mm256_add_pd(high, magic));
+  const __m256i fours = _mm256_castpd_si256(_mm256_xor_pd(both, magic));
+  const __m256i hundreds = _mm256_srli_epi16(_mm256_mulhi_epu16(fours, _mm256_set1_epi16(5243)), 3);
+  const __m256i units =
+      _mm256_sub_epi16(fours, _mm256_mullo_epi16(hundreds, _mm256_set1_epi16(100)));
+  const __m256i pairs = _mm256_or_si256(hundreds, _mm256_slli_epi32(units, 16));
+  const __m256i tens = _mm256_mulhi_epu16(pairs, _mm256_set1_epi16(6554));
+  const __m256i ones = _mm256_sub_epi16(pairs, _mm256_mullo_epi16(tens, _mm256_set1_epi16(10)));
+  return _mm256_or_si256(tens, _mm256_slli_epi16(ones, 8));
+}
+
+// Writes four groups, the last one first, and up to a register of anything behind them.
+template <std::size_t D>
+inline void Write_Four_And_More(char* out, __m256d groups) {
+  const __m256d high = Divide_Whole(groups, 1e8);
+  const __m256i heads = Part_Eights(high);
+  const __m256i tails = Part_Eights(Rest_Of(groups, high, 1e8));
+  const __m256i zeros = _mm256_set1_epi8('0');
+  const __m256i forward = _mm256_setr_epi8(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 0,
+                                           1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15);
+  const __m256i places = _mm256_add_epi8(forward, _mm256_set1_epi8(16 - D));
+  const auto text = [&](__m256i both) {
+    return _mm256_shuffle_epi8(_mm256_or_si256(both, zeros), places);
+  };
+  const __m256i even = text(_mm256_unpacklo_epi64(heads, tails));
+  const __m256i odd = text(_mm256_unpackhi_epi64(heads, tails));
+  const auto store = [out](std::size_t place, __m128i characters) {
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(out + place * D), characters);
+  };
+  store(0, _mm256_extracti128_si256(odd, 1));
+  store(1, _mm256_extracti128_si256(even, 1));
+  store(2, _mm256_castsi256_si128(odd));
+  store(3, _mm256_castsi256_si128(even));
+}
+
+/// Writes a number, which isn't zero, of groups of D digits without leading zeros, and returns how
+/// many digits there are. Nothing is written behind them. Whole registers of groups are read.
+template <std::size_t D>
+std::size_t Write_Groups_Of(const double* groups, std::size_t count, char* out) {
+  constexpr std::size_t four = 4 * D;
+  while (groups[count - 1] == 0) --count;
+  std::size_t size = D * (count - 1) + 1;
+  for (double bound = 10; groups[count - 1] >= bound; bound *= 10) ++size;
+  char some[four + register_bytes];
+  std::size_t left = (count - 1) / 4 * 4;
+  const std::size_t first = size - left * D;
+  Write_Four_And_More<D>(some, _mm256_load_pd(groups + left));
+  std::memcpy(out, some + four - first, first);
+  out += first;
+  for (; left > 4; left -= 4, out += four)
+    Write_Four_And_More<D>(out, _mm256_load_pd(groups + left - 4));
+  if (left > 0) {
+    Write_Four_And_More<D>(some, _mm256_load_pd(groups));
+    std::memcpy(out, some, four);
+  }
+  return size;
+}
+
+}  // namespace
+}  // namespace quorvex::native

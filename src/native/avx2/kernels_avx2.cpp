@@ -1,0 +1,38 @@
+// Products in AVX2 instructions.
+#include "native/avx2/digit_lanes_avx2.h"
+#include "native/avx2/schoolbook_fma.h"
+#include "native/avx2/vector_avx2.h"
+#include "native/generic/kernels.h"
+#include "native/generic/points.h"
+// The vectors come first.
+#include "native/generic/recombine.h"
+#include "native/generic/transform_pieces.h"
+#include "native/generic/wave_carry.h"
+
+namespace quorvex::native {
+namespace {
+
+bool Read_Grains(const char* text, std::size_t count, const Grain& grain, double* points) {
+  const std::size_t room = Rounded_Up(Grains_For(count, grain), 16);
+  return grain.digits == coarse_grain.digits
+             ? Read_Balanced<coarse_grain.digits>(text, count, points, room)
+             : Read_Balanced<fine_grain.digits>(text, count, points, room);
+}
+
+std::size_t Write_Groups(const double* groups, std::size_t count, std::size_t digits, char* out) {
+  if (digits == 8) return Write_Groups_Of<8>(groups, count, out);
+  return digits == 12 ? Write_Groups_Of<12>(groups, count, out)
+                      : Write_Groups_Of<10>(groups, count, out);
+}
+
+}  // namespace
+
+const Kernels& Avx2_Kernels() {
+  static constexpr Kernels kernels = {
+      nullptr,     Multiply_In_Doubles, Short_Scratch, 1050,           Lanes::count, Read_Points,
+      Forward,     Multiply_Points,     Inverse,       Recombine,      Write_Groups, true,
+      Read_Grains, Fold_Waves,          Split_Waves,   Multiply_Waves, Carry_Wave};
+  return kernels;
+}
+
+}  // namespace quorvex::native
