@@ -6,7 +6,7 @@
 namespace quorvex::native {
 
 std::size_t Multiply_Short(const Operands& operands, char* out, const Kernels& kernels) noexcept {
-  constexpr std::size_t few = 512;
+  constexpr std::size_t few = 1024;
   const auto& [a, b, is_square] = operands;
   const char* const second = is_square ? nullptr : b.data();
   const std::size_t words = kernels.short_scratch(a.size(), b.size());

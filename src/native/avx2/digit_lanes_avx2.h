@@ -7,6 +7,7 @@
 
 #include <immintrin.h>
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -49,13 +50,21 @@ class Point_Reader {
   explicit Point_Reader(double* points) : points_(points) {}
 
   void put_text(const char* end) {
-    const __m256i low = join(load(end), load(end - 2 * D));
-    const __m256i high = join(load(end - D), load(end - 3 * D));
-    const __m256 first = _mm256_castsi256_ps(low);
-    const __m256 second = _mm256_castsi256_ps(high);
-    const __m256i heads = _mm256_castps_si256(_mm256_shuffle_ps(first, second, 0x88));
-    const __m256i tails = _mm256_castps_si256(_mm256_shuffle_ps(first, second, 0xDD));
-    put(_mm256_add_epi32(_mm256_madd_epi16(heads, _mm256_set1_epi32(10'000)), tails));
+    const __m128i places = usual_places();
+    const auto group = [&](std::size_t k) { return place(load(end - k * D), places); };
+    put_groups(group(0), group(1), group(2), group(3));
+  }
+
+  /// The first `size` characters of a text, which has sixteen at least: zeros stand before them.
+  void put_start(const char* text, std::size_t size) {
+    const auto group = [text, size](std::size_t k) {
+      if (size >= k * D + register_bytes) return place(load(text + size - k * D), usual_places());
+      if (size <= k * D) return _mm_setzero_si128();
+      const auto missing = static_cast<char>(k * D + register_bytes - size);
+      return place(load(text + register_bytes),
+                   _mm_subs_epi8(usual_places(), _mm_set1_epi8(missing)));
+    };
+    put_groups(group(0), group(1), group(2), group(3));
   }
 
   void put(__m256i points) {
@@ -88,13 +97,29 @@ class Point_Reader {
     return _mm_loadu_si128(reinterpret_cast<const __m128i*>(end - register_bytes));
   }
 
+  static __m128i usual_places() {
+    return _mm_load_si128(reinterpret_cast<const __m128i*>(point_places<D>.place));
+  }
+
+  // The digits' values of one group in their places.
+  static __m128i place(__m128i text, __m128i places) {
+    return _mm_shuffle_epi8(_mm_sub_epi8(text, _mm_set1_epi8('0')), places);
+  }
+
+  // Each group as two points, the first group last in the text.
+  void put_groups(__m128i group0, __m128i group1, __m128i group2, __m128i group3) {
+    const __m256i low = join(group0, group2);
+    const __m256i high = join(group1, group3);
+    const __m256 first = _mm256_castsi256_ps(low);
+    const __m256 second = _mm256_castsi256_ps(high);
+    const __m256i heads = _mm256_castps_si256(_mm256_shuffle_ps(first, second, 0x88));
+    const __m256i tails = _mm256_castps_si256(_mm256_shuffle_ps(first, second, 0xDD));
+    put(_mm256_add_epi32(_mm256_madd_epi16(heads, _mm256_set1_epi32(10'000)), tails));
+  }
+
   // Each point as two numbers, of its last four digits and those before.
   __m256i join(__m128i low, __m128i high) {
-    const __m256i places = _mm256_broadcastsi128_si256(
-        _mm_load_si128(reinterpret_cast<const __m128i*>(point_places<D>.place)));
-    const __m256i text = _mm256_inserti128_si256(_mm256_castsi128_si256(low), high, 1);
-    const __m256i values =
-        _mm256_shuffle_epi8(_mm256_sub_epi8(text, _mm256_set1_epi8('0')), places);
+    const __m256i values = _mm256_inserti128_si256(_mm256_castsi128_si256(low), high, 1);
     most_ = _mm256_max_epu8(most_, values);
     const __m256i pairs = _mm256_maddubs_epi16(values, _mm256_set1_epi16(0x010A));
     return _mm256_madd_epi16(pairs, _mm256_set1_epi32(0x00010064));
@@ -110,16 +135,17 @@ class Point_Reader {
 template <std::size_t D>
 bool Read_Balanced(const char* text, std::size_t size, double* points, std::size_t count) {
   using Reader = Point_Reader<D>;
+  char few[register_bytes];
+  if (size < register_bytes) {
+    std::memset(few, '0', sizeof few);
+    std::memcpy(few + register_bytes - size, text, size);
+    text = few;
+    size = register_bytes;
+  }
   Reader reader(points);
   for (; size >= Reader::characters; size -= Reader::digits) reader.put_text(text + size);
-  if (size > 0) {
-    char rest[register_bytes + 2 * Reader::digits];
-    std::memset(rest, '0', sizeof rest);
-    const char* end = rest + sizeof rest;
-    std::memcpy(rest + sizeof rest - size, text, size);
-    reader.put_text(end);
-    if (size > Reader::digits) reader.put_text(end - Reader::digits);
-  }
+  for (; size > Reader::digits; size -= Reader::digits) reader.put_start(text, size);
+  reader.put_start(text, size);
   while (reader.end() != points + count) reader.put(_mm256_setzero_si256());
   return reader.has_only_digits();
 }
@@ -153,28 +179,52 @@ inline __m256i Part_Eights(__m256d eights) {
   return _mm256_or_si256(tens, _mm256_slli_epi16(ones, 8));
 }
 
-// Writes four groups, the last one first, and up to a register of anything behind them.
+// The characters of four groups, each at the front of a half of a register: groups 0 and 2, 1
+// and 3.
+struct Four_Texts {
+  __m256i even;
+  __m256i odd;
+};
+
 template <std::size_t D>
-inline void Write_Four_And_More(char* out, __m256d groups) {
+inline Four_Texts Characters_Of(__m256d groups) {
   const __m256d high = Divide_Whole(groups, 1e8);
   const __m256i heads = Part_Eights(high);
   const __m256i tails = Part_Eights(Rest_Of(groups, high, 1e8));
-  const __m256i zeros = _mm256_set1_epi8('0');
   const __m256i forward = _mm256_setr_epi8(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 0,
                                            1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15);
   const __m256i places = _mm256_add_epi8(forward, _mm256_set1_epi8(16 - D));
-  const auto text = [&](__m256i both) {
-    return _mm256_shuffle_epi8(_mm256_or_si256(both, zeros), places);
+  const auto text = [places](__m256i both) {
+    return _mm256_shuffle_epi8(_mm256_or_si256(both, _mm256_set1_epi8('0')), places);
   };
-  const __m256i even = text(_mm256_unpacklo_epi64(heads, tails));
-  const __m256i odd = text(_mm256_unpackhi_epi64(heads, tails));
-  const auto store = [out](std::size_t place, __m128i characters) {
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(out + place * D), characters);
-  };
-  store(0, _mm256_extracti128_si256(odd, 1));
-  store(1, _mm256_extracti128_si256(even, 1));
-  store(2, _mm256_castsi256_si128(odd));
-  store(3, _mm256_castsi256_si128(even));
+  return {text(_mm256_unpacklo_epi64(heads, tails)), text(_mm256_unpackhi_epi64(heads, tails))};
+}
+
+inline void Store_Text(char* out, __m128i characters) {
+  _mm_storeu_si128(reinterpret_cast<__m128i*>(out), characters);
+}
+
+// Writes four groups, the last one first, and up to a register of anything behind them.
+template <std::size_t D>
+inline void Write_Four_And_More(char* out, __m256d groups) {
+  const auto [even, odd] = Characters_Of<D>(groups);
+  Store_Text(out, _mm256_extracti128_si256(odd, 1));
+  Store_Text(out + D, _mm256_extracti128_si256(even, 1));
+  Store_Text(out + 2 * D, _mm256_castsi256_si128(odd));
+  Store_Text(out + 3 * D, _mm256_castsi256_si128(even));
+}
+
+// The same with nothing behind.
+template <std::size_t D>
+inline void Write_Last_Four(char* out, __m256d groups) {
+  static_assert(D >= 8 && D < register_bytes);
+  const auto [even, odd] = Characters_Of<D>(groups);
+  Store_Text(out, _mm256_extracti128_si256(odd, 1));
+  Store_Text(out + D, _mm256_extracti128_si256(even, 1));
+  Store_Text(out + 2 * D, _mm256_castsi256_si128(odd));
+  const __m128i last = _mm256_castsi256_si128(even);
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(out + 3 * D), last);
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(out + 4 * D - 8), _mm_srli_si128(last, D - 8));
 }
 
 /// Writes a number, which isn't zero, of groups of D digits without leading zeros, and returns how
@@ -183,20 +233,24 @@ template <std::size_t D>
 std::size_t Write_Groups_Of(const double* groups, std::size_t count, char* out) {
   constexpr std::size_t four = 4 * D;
   while (groups[count - 1] == 0) --count;
-  std::size_t size = D * (count - 1) + 1;
-  for (double bound = 10; groups[count - 1] >= bound; bound *= 10) ++size;
-  char some[four + register_bytes];
   std::size_t left = (count - 1) / 4 * 4;
-  const std::size_t first = size - left * D;
+  char some[four + four];
   Write_Four_And_More<D>(some, _mm256_load_pd(groups + left));
-  std::memcpy(out, some + four - first, first);
-  out += first;
-  for (; left > 4; left -= 4, out += four)
-    Write_Four_And_More<D>(out, _mm256_load_pd(groups + left - 4));
-  if (left > 0) {
-    Write_Four_And_More<D>(some, _mm256_load_pd(groups));
-    std::memcpy(out, some, four);
+  const char* start = some + (3 - (count - 1) % 4) * D;
+  const __m128i top = _mm_loadu_si128(reinterpret_cast<const __m128i*>(start));
+  const int zeros = _mm_movemask_epi8(_mm_cmpeq_epi8(top, _mm_set1_epi8('0')));
+  start += std::countr_one(static_cast<unsigned>(zeros));
+  const auto first = static_cast<std::size_t>(some + four - start);
+  const std::size_t size = first + left * D;
+  if (left == 0) {
+    std::memcpy(out, start, first);
+    return size;
   }
+  // What is copied beyond is overwritten.
+  std::memcpy(out, start, four);
+  for (out += first; left > 4; left -= 4, out += four)
+    Write_Four_And_More<D>(out, _mm256_load_pd(groups + left - 4));
+  Write_Last_Four<D>(out, _mm256_load_pd(groups));
   return size;
 }
 

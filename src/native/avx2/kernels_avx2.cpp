@@ -29,9 +29,11 @@ std::size_t Write_Groups(const double* groups, std::size_t count, std::size_t di
 
 const Kernels& Avx2_Kernels() {
   static constexpr Kernels kernels = {
-      nullptr,     Multiply_In_Doubles, Short_Scratch, 1050,           Lanes::count, Read_Points,
-      Forward,     Multiply_Points,     Inverse,       Recombine,      Write_Groups, true,
-      Read_Grains, Fold_Waves,          Split_Waves,   Multiply_Waves, Carry_Wave};
+      nullptr,      Multiply_In_Doubles, Short_Scratch, 50,
+      Lanes::count, Read_Points,         Forward,       Multiply_Points,
+      Inverse,      Recombine,           Write_Groups,  true,
+      Read_Grains,  Fold_Waves,          Split_Waves,   Multiply_Waves,
+      Carry_Wave};
   return kernels;
 }
 
