@@ -50,12 +50,18 @@ static inline std::uint64_t Non_Digits(std::uint64_t word) {
   return ((values + 0x7676767676767676U) | values) & 0x8080808080808080U;
 }
 
-/// The number that eight digits write.
-static inline std::uint64_t Join_Digits(std::uint64_t word) {
+/// The numbers that the first and the last four of eight digits write, the first one in the low
+/// half.
+static inline std::uint64_t Join_To_Fours(std::uint64_t word) {
   word &= 0x0F0F0F0F0F0F0F0FU;
   word = (word * 10 + (word >> 8U)) & 0x00FF00FF00FF00FFU;
-  word = (word * 100 + (word >> 16U)) & 0x0000FFFF0000FFFFU;
-  return (word * 10'000 + (word >> 32U)) & 0xFFFFFFFFU;
+  return (word * 100 + (word >> 16U)) & 0x0000FFFF0000FFFFU;
+}
+
+/// The number that eight digits write.
+static inline std::uint64_t Join_Digits(std::uint64_t word) {
+  const std::uint64_t fours = Join_To_Fours(word);
+  return (fours * 10'000 + (fours >> 32U)) & 0xFFFFFFFFU;
 }
 
 /// The eight digits of a number below 10^8. 10,486 / 2^20 and 103 / 2^10 are the reciprocals of
