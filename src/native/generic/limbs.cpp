@@ -1,5 +1,8 @@
 #include "native/generic/limbs.h"
 
+#include <array>
+#include <cstring>
+
 #include "expects.h"
 #include "native/generic/digit_words.h"
 
@@ -32,14 +35,28 @@ Limb Read_Partial(const char* text, std::size_t count, std::uint64_t& bad) {
   return limb;
 }
 
+// The characters of all numbers of two digits.
+constexpr auto pairs_of_digits = [] {
+  std::array<char, 200> pairs{};
+  for (std::size_t i = 0; i < 100; ++i) {
+    pairs[2 * i] = static_cast<char>('0' + i / 10);
+    pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
+  }
+  return pairs;
+}();
+
+// The limb is taken as a number of two digits with a fraction of 64 bits; a hundred times the
+// fraction is two digits more. The fraction is too large by less than 2^-57, which the eight steps
+// make less than a tenth of the last digit; it must not be too small at all, as numbers are cut.
 void Write_Whole(char* out, Limb limb) {
-  const std::uint64_t head = limb / ten_to_16;
-  const std::uint64_t rest = limb - head * ten_to_16;
-  const std::uint64_t middle = rest / ten_to_8;
-  out[0] = static_cast<char>('0' + head / 10);
-  out[1] = static_cast<char>('0' + head % 10);
-  Store_Word(out + 2, Part_Digits(middle));
-  Store_Word(out + 10, Part_Digits(rest - middle * ten_to_8));
+  constexpr unsigned shift = 53;
+  constexpr auto reciprocal =
+      static_cast<std::uint64_t>((Wide{1} << (64U + shift)) / ten_to_16) + 1;
+  Wide pair = (Wide{limb} * reciprocal >> shift) + 1;
+  for (std::size_t place = 0; place < limb_digits; place += 2) {
+    std::memcpy(out + place, &pairs_of_digits[2 * static_cast<std::size_t>(pair >> 64U)], 2);
+    pair = Wide{static_cast<std::uint64_t>(pair)} * 100;
+  }
 }
 
 }  // namespace
