@@ -11,10 +11,11 @@
 namespace quorvex::native {
 
 const Kernels& Portable_Kernels() {
-  static constexpr Kernels kernels = {
-      nullptr,     nullptr,         nullptr,     11'000,         Lanes::count, Read_Points,
-      Forward,     Multiply_Points, Inverse,     Recombine,      Write_Points, true,
-      Read_Grains, Fold_Waves,      Split_Waves, Multiply_Waves, Carry_Wave};
+  static constexpr Kernels kernels = {nullptr,      nullptr,     nullptr,      2200,
+                                      Lanes::count, Read_Points, Forward,      Multiply_Points,
+                                      Inverse,      Recombine,   Write_Points, true,
+                                      Read_Grains,  Fold_Waves,  Split_Waves,  Multiply_Waves,
+                                      Carry_Wave};
   return kernels;
 }
 

@@ -1,15 +1,10 @@
 #include "native/generic/limbs.h"
 
-#include <array>
-#include <cstring>
-
 #include "expects.h"
 #include "native/generic/digit_words.h"
 
 namespace quorvex::native {
 namespace {
-
-constexpr std::uint64_t ten_to_16 = ten_to_8 * ten_to_8;
 
 // One limb of eighteen characters; what is found amiss is added to `bad`.
 Limb Read_Whole(const char* text, std::uint64_t& bad) {
@@ -35,30 +30,6 @@ Limb Read_Partial(const char* text, std::size_t count, std::uint64_t& bad) {
   return limb;
 }
 
-// The characters of all numbers of two digits.
-constexpr auto pairs_of_digits = [] {
-  std::array<char, 200> pairs{};
-  for (std::size_t i = 0; i < 100; ++i) {
-    pairs[2 * i] = static_cast<char>('0' + i / 10);
-    pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
-  }
-  return pairs;
-}();
-
-// The limb is taken as a number of two digits with a fraction of 64 bits; a hundred times the
-// fraction is two digits more. The fraction is too large by less than 2^-57, which the eight steps
-// make less than a tenth of the last digit; it must not be too small at all, as numbers are cut.
-void Write_Whole(char* out, Limb limb) {
-  constexpr unsigned shift = 53;
-  constexpr auto reciprocal =
-      static_cast<std::uint64_t>((Wide{1} << (64U + shift)) / ten_to_16) + 1;
-  Wide pair = (Wide{limb} * reciprocal >> shift) + 1;
-  for (std::size_t place = 0; place < limb_digits; place += 2) {
-    std::memcpy(out + place, &pairs_of_digits[2 * static_cast<std::size_t>(pair >> 64U)], 2);
-    pair = Wide{static_cast<std::uint64_t>(pair)} * 100;
-  }
-}
-
 }  // namespace
 
 bool Read_Limbs(const char* text, std::size_t count, Limb* limbs) {
@@ -76,7 +47,7 @@ std::size_t Write_Limbs(const Limb* limbs, std::size_t count, char* out) {
   Expects(count > 0);
   std::size_t written = Write_Number(out, limbs[count - 1]);
   for (std::size_t i = count - 1; i-- > 0; written += limb_digits)
-    Write_Whole(out + written, limbs[i]);
+    Write_Pairs<limb_digits>(out + written, limbs[i]);
   return written;
 }
 

@@ -34,26 +34,16 @@ bool Read_All(const char* text, std::size_t count, double* points) {
   return bad == 0;
 }
 
-// The last eight digits overwrite what the others leave behind them.
-template <std::size_t digits>
-void Write_Whole(char* out, double point) {
-  // Signed numbers are what machines convert.
-  const auto number = static_cast<std::uint64_t>(static_cast<std::int64_t>(point));
-  if constexpr (digits == 8) {
-    Store_Word(out, Part_Digits(number));
-  } else {
-    const std::uint64_t high = number / ten_to_8;
-    Store_Word(out, Part_Digits(high) >> (8 * (16 - digits)));
-    Store_Word(out + digits - 8, Part_Digits(number - high * ten_to_8));
-  }
-}
-
 template <std::size_t digits>
 std::size_t Write_All(const double* points, std::size_t count, char* out) {
   while (points[count - 1] == 0) --count;
-  std::size_t written = Write_Number(out, static_cast<std::uint64_t>(points[count - 1]));
+  // Signed numbers are what machines convert.
+  const auto number = [points](std::size_t i) {
+    return static_cast<std::uint64_t>(static_cast<std::int64_t>(points[i]));
+  };
+  std::size_t written = Write_Number(out, number(count - 1));
   for (std::size_t i = count - 1; i-- > 0; written += digits)
-    Write_Whole<digits>(out + written, points[i]);
+    Write_Pairs<digits>(out + written, number(i));
   return written;
 }
 
