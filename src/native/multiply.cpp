@@ -65,7 +65,7 @@ std::size_t Multiply_Texts(std::string_view a, std::string_view b, char* out, st
 
 std::size_t Multiply_Texts(std::string_view a, std::string_view b, char* out,
                            std::size_t room) noexcept {
-  return Multiply_Texts(a, b, out, room, Best_Instructions());
+  return Multiply_Texts(a, b, out, room, Instructions_In_Use());
 }
 
 }  // namespace quorvex::native
