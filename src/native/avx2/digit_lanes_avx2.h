@@ -162,21 +162,48 @@ inline __m256d Rest_Of(__m256d numbers, __m256d quotients, double power) {
   return _mm256_fnmadd_pd(quotients, _mm256_set1_pd(power), numbers);
 }
 
-// The eight digits of numbers below 10^8 as bytes, the first lowest. Both reciprocals, 2^19 / 100
-// and 2^16 / 10, are exact for all numbers that they meet.
+// Numbers below 2^52 as integers, moved up by so many bits; at least twelve, which move out what
+// tells that they are doubles.
+template <int bits>
+inline __m256i Integers_Moved_Up(__m256d numbers) {
+  static_assert(bits >= 12);
+  return _mm256_slli_epi64(_mm256_castpd_si256(_mm256_add_pd(numbers, _mm256_set1_pd(0x1p52))),
+                           bits);
+}
+
+// Numbers of two digits in any lanes of sixteen bits as two bytes. 2^16 / 10, rounded up, is exact
+// for them.
+inline __m256i Part_Pairs(__m256i pairs) {
+  const __m256i tens = _mm256_mulhi_epu16(pairs, _mm256_set1_epi16(6554));
+  const __m256i ones = _mm256_sub_epi16(pairs, _mm256_mullo_epi16(tens, _mm256_set1_epi16(10)));
+  return _mm256_or_si256(tens, _mm256_slli_epi16(ones, 8));
+}
+
+// Numbers of four digits in any lanes of 32 bits as four bytes. 2^19 / 100, rounded up, is exact
+// for them.
+inline __m256i Part_Fours(__m256i fours) {
+  const __m256i hundreds = _mm256_srli_epi16(_mm256_mulhi_epu16(fours, _mm256_set1_epi16(5243)), 3);
+  const __m256i units =
+      _mm256_sub_epi16(fours, _mm256_mullo_epi16(hundreds, _mm256_set1_epi16(100)));
+  return Part_Pairs(_mm256_or_si256(hundreds, _mm256_slli_epi32(units, 16)));
+}
+
+// The eight digits of numbers below 10^8 as bytes, the first lowest.
 inline __m256i Part_Eights(__m256d eights) {
   const __m256d magic = _mm256_set1_pd(0x1p52);
   const __m256d high = Divide_Whole(eights, 1e4);
   const __m256d low = Rest_Of(eights, high, 1e4);
   const __m256d both = _mm256_fmadd_pd(low, _mm256_set1_pd(0x1p32), _mm256_add_pd(high, magic));
-  const __m256i fours = _mm256_castpd_si256(_mm256_xor_pd(both, magic));
-  const __m256i hundreds = _mm256_srli_epi16(_mm256_mulhi_epu16(fours, _mm256_set1_epi16(5243)), 3);
-  const __m256i units =
-      _mm256_sub_epi16(fours, _mm256_mullo_epi16(hundreds, _mm256_set1_epi16(100)));
-  const __m256i pairs = _mm256_or_si256(hundreds, _mm256_slli_epi32(units, 16));
-  const __m256i tens = _mm256_mulhi_epu16(pairs, _mm256_set1_epi16(6554));
-  const __m256i ones = _mm256_sub_epi16(pairs, _mm256_mullo_epi16(tens, _mm256_set1_epi16(10)));
-  return _mm256_or_si256(tens, _mm256_slli_epi16(ones, 8));
+  return Part_Fours(_mm256_castpd_si256(_mm256_xor_pd(both, magic)));
+}
+
+// The last of eight digits of numbers that have no more than so many.
+template <std::size_t digits>
+inline __m256i Part_Heads(__m256d heads) {
+  if constexpr (digits == 0) return _mm256_setzero_si256();
+  if constexpr (digits == 2) return Part_Pairs(Integers_Moved_Up<48>(heads));
+  if constexpr (digits == 4) return Part_Fours(Integers_Moved_Up<32>(heads));
+  return Part_Eights(heads);
 }
 
 // The characters of four groups, each at the front of a half of a register: groups 0 and 2, 1
@@ -189,7 +216,7 @@ struct Four_Texts {
 template <std::size_t D>
 inline Four_Texts Characters_Of(__m256d groups) {
   const __m256d high = Divide_Whole(groups, 1e8);
-  const __m256i heads = Part_Eights(high);
+  const __m256i heads = Part_Heads<D - 8>(high);
   const __m256i tails = Part_Eights(Rest_Of(groups, high, 1e8));
   const __m256i forward = _mm256_setr_epi8(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 0,
                                            1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15);

@@ -29,11 +29,24 @@ std::size_t Write_Groups(const double* groups, std::size_t count, std::size_t di
 
 const Kernels& Avx2_Kernels() {
   static constexpr Kernels kernels = {
-      nullptr,      Multiply_In_Doubles, Short_Scratch, 50,
-      Lanes::count, Read_Points,         Forward,       Multiply_Points,
-      Inverse,      Recombine,           Write_Groups,  true,
-      Read_Grains,  Fold_Waves,          Split_Waves,   Multiply_Waves,
-      Carry_Wave};
+      .multiply_tiny = nullptr,
+      .multiply_short = Multiply_In_Doubles,
+      .short_scratch = Short_Scratch,
+      .transform_from = 1000,
+      .lanes = Lanes::count,
+      .read_points = Read_Points,
+      .forward = Forward,
+      .multiply_points = Multiply_Points,
+      .inverse = Inverse,
+      .recombine = Recombine,
+      .write_points = Write_Groups,
+      .has_fine_grain = true,
+      .read_grains = Read_Grains,
+      .fold = Fold_Waves,
+      .split = Split_Waves,
+      .multiply_waves = Multiply_Waves,
+      .carry_wave = Carry_Wave,
+  };
   return kernels;
 }
 

@@ -13,11 +13,24 @@ namespace quorvex::native {
 
 const Kernels& Avx512_Kernels() {
   static constexpr Kernels kernels = {
-      Multiply_Tiny,     Multiply_In_Lanes, Short_Scratch, 3200,
-      Lanes::count,      Read_Eights,       Forward,       Multiply_Points,
-      Inverse,           Recombine_Eights,  Write_Eights,  true,
-      Read_Grain_Eights, Fold_Waves,        Split_Waves,   Multiply_Waves,
-      Carry_Wave_Eights};
+      .multiply_tiny = Multiply_Tiny,
+      .multiply_short = Multiply_In_Lanes,
+      .short_scratch = Short_Scratch,
+      .transform_from = 3200,
+      .lanes = Lanes::count,
+      .read_points = Read_Eights,
+      .forward = Forward,
+      .multiply_points = Multiply_Points,
+      .inverse = Inverse,
+      .recombine = Recombine_Eights,
+      .write_points = Write_Eights,
+      .has_fine_grain = true,
+      .read_grains = Read_Grain_Eights,
+      .fold = Fold_Waves,
+      .split = Split_Waves,
+      .multiply_waves = Multiply_Waves,
+      .carry_wave = Carry_Wave_Eights,
+  };
   return kernels;
 }
 

@@ -11,11 +11,25 @@
 namespace quorvex::native {
 
 const Kernels& Portable_Kernels() {
-  static constexpr Kernels kernels = {nullptr,      nullptr,     nullptr,      2200,
-                                      Lanes::count, Read_Points, Forward,      Multiply_Points,
-                                      Inverse,      Recombine,   Write_Points, true,
-                                      Read_Grains,  Fold_Waves,  Split_Waves,  Multiply_Waves,
-                                      Carry_Wave};
+  static constexpr Kernels kernels = {
+      .multiply_tiny = nullptr,
+      .multiply_short = nullptr,
+      .short_scratch = nullptr,
+      .transform_from = 2200,
+      .lanes = Lanes::count,
+      .read_points = Read_Points,
+      .forward = Forward,
+      .multiply_points = Multiply_Points,
+      .inverse = Inverse,
+      .recombine = Recombine,
+      .write_points = Write_Points,
+      .has_fine_grain = true,
+      .read_grains = Read_Grains,
+      .fold = Fold_Waves,
+      .split = Split_Waves,
+      .multiply_waves = Multiply_Waves,
+      .carry_wave = Carry_Wave,
+  };
   return kernels;
 }
 
