@@ -44,7 +44,8 @@ std::size_t Multiply_Operands(const Operands& operands, char* out, Instructions 
     return Are_Wave_Lengths(a.size(), b.size()) ? Multiply_By_Waves(operands, out, kernels)
                                                 : Multiply_By_Primes(operands, out, kernels);
   }
-  if (kernels.multiply_short != nullptr) return Multiply_Short(operands, out, kernels);
+  if (kernels.multiply_short != nullptr && a.size() >= kernels.short_from)
+    return Multiply_Short(operands, out, kernels);
   return Multiply_Limbs(operands, out);
 }
 

@@ -32,6 +32,7 @@ const Kernels& Avx2_Kernels() {
       .multiply_tiny = nullptr,
       .multiply_short = Multiply_In_Doubles,
       .short_scratch = Short_Scratch,
+      .short_from = 45,
       .transform_from = 1000,
       .lanes = Lanes::count,
       .read_points = Read_Points,

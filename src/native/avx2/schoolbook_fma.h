@@ -105,7 +105,8 @@ inline std::size_t Multiply_In_Doubles(const char* a_text, std::size_t a_size, c
     b = rest;
     rest += b_points;
   }
-  const std::size_t groups = Groups_For(a_size, short_grain) + Groups_For(b_size, short_grain) + 1;
+  // What balancing carries out of these is taken back from above them.
+  const std::size_t groups = Groups_For(a_size, short_grain) + Groups_For(b_size, short_grain);
   Multiply_Columns(rest, groups, a, Grains_For(a_size, short_grain), b, b_points);
   return Write_Groups_Of<short_grain.digits>(rest, groups, out);
 }

@@ -16,6 +16,7 @@ const Kernels& Avx512_Kernels() {
       .multiply_tiny = Multiply_Tiny,
       .multiply_short = Multiply_In_Lanes,
       .short_scratch = Short_Scratch,
+      .short_from = 0,
       .transform_from = 3200,
       .lanes = Lanes::count,
       .read_points = Read_Eights,

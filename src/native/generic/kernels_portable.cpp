@@ -15,6 +15,7 @@ const Kernels& Portable_Kernels() {
       .multiply_tiny = nullptr,
       .multiply_short = nullptr,
       .short_scratch = nullptr,
+      .short_from = 0,
       .transform_from = 2200,
       .lanes = Lanes::count,
       .read_points = Read_Points,
