@@ -41,7 +41,6 @@ const Kernels& Avx2_Kernels() {
       .inverse = Inverse,
       .recombine = Recombine,
       .write_points = Write_Groups,
-      .has_fine_grain = true,
       .read_grains = Read_Grains,
       .fold = Fold_Waves,
       .split = Split_Waves,

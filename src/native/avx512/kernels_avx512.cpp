@@ -25,7 +25,6 @@ const Kernels& Avx512_Kernels() {
       .inverse = Inverse,
       .recombine = Recombine_Eights,
       .write_points = Write_Eights,
-      .has_fine_grain = true,
       .read_grains = Read_Grain_Eights,
       .fold = Fold_Waves,
       .split = Split_Waves,

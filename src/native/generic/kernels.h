@@ -42,8 +42,6 @@ struct Kernels {
                               char* out);
 
   /// Products by waves; where points are complex, they are two doubles.
-  /// Points of four digits are for kinds that are faster with them than by primes, as measured.
-  bool has_fine_grain;
   bool (*read_grains)(const char* text, std::size_t count, const Grain& grain, double* points);
   void (*fold)(const double* from, std::size_t count, const Wave_Length& length,
                const Wave_Roots* roots, double* x, double* squares);

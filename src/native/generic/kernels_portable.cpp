@@ -24,7 +24,6 @@ const Kernels& Portable_Kernels() {
       .inverse = Inverse,
       .recombine = Recombine,
       .write_points = Write_Points,
-      .has_fine_grain = true,
       .read_grains = Read_Grains,
       .fold = Fold_Waves,
       .split = Split_Waves,
