@@ -62,6 +62,11 @@ TEST(Multiply_Texts, Bears_The_Hardest_Digits_At_All_Lengths) {
 TEST(Multiply_Texts, Agrees_Between_Methods) {
   for (const Instructions kind : Kinds_Here()) {
     const std::size_t from = Kernels_Of(kind).transform_from;
+    const std::size_t square_from = Kernels_Of(kind).square_from;
+    for (const std::size_t n : {from - 1, square_from - 1, square_from}) {
+      const std::string a = Hard_Digits(n, static_cast<unsigned>(n), 3);
+      EXPECT_TRUE(Product_Of(a, a, kind) == Product(a, a)) << "kind " << static_cast<int>(kind);
+    }
     for (const std::size_t middle : {16U, 18U, 56U, 112U, 18U * 64U, 18U * 128U, 14U * 70U}) {
       for (const std::size_t n : {middle - 1, middle, middle + 1, from - 1, from, from + 1}) {
         const auto pattern = static_cast<unsigned>(n + middle);

@@ -1,4 +1,6 @@
 // Products in AVX2 instructions.
+#include <algorithm>
+
 #include "native/avx2/digit_lanes_avx2.h"
 #include "native/avx2/schoolbook_fma.h"
 #include "native/avx2/vector_avx2.h"
@@ -34,6 +36,7 @@ const Kernels& Avx2_Kernels() {
       .short_scratch = Short_Scratch,
       .short_from = 45,
       .transform_from = 1000,
+      .square_from = 740,
       .lanes = Lanes::count,
       .read_points = Read_Points,
       .forward = Forward,
@@ -47,6 +50,9 @@ const Kernels& Avx2_Kernels() {
       .multiply_waves = Multiply_Waves,
       .carry_wave = Carry_Wave,
   };
+  // The shorter operand is below their mean.
+  static_assert(Grains_For(std::max(kernels.transform_from, kernels.square_from), short_grain) <=
+                most_short_points);
   return kernels;
 }
 

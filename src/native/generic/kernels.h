@@ -27,11 +27,12 @@ struct Kernels {
   std::size_t (*multiply_short)(const char* a_text, std::size_t a_size, const char* b_text,
                                 std::size_t b_size, char* out, void* scratch);
   std::size_t (*short_scratch)(std::size_t a_size, std::size_t b_size);
-  /// From this length of the longer operand on it is faster than limbs, as measured.
+  /// From this mean of the lengths on it is faster than limbs, as measured.
   std::size_t short_from;
 
   /// From this harmonic mean of the lengths on the transform is faster, as measured.
   std::size_t transform_from;
+  std::size_t square_from;  ///< the same for squares
   std::size_t lanes;
   bool (*read_points)(const char* text, std::size_t count, const Cut& cut, double* points);
   void (*forward)(double* x, const Length& length, const Twiddles& tables);
