@@ -83,7 +83,8 @@ std::string Digits_Of(const double* points, std::size_t count, std::int64_t base
   std::string text;
   std::int64_t carry = 0;
   for (std::size_t i = 0; i < count; ++i) {
-    if (std::abs(points[i]) > static_cast<double>(base / 2 + 1)) return {};
+    const std::int64_t most = base / 2 + 1;
+    if (std::abs(points[i]) > static_cast<double>(most)) return {};
     carry += static_cast<std::int64_t>(points[i]);
     const std::int64_t rest = (carry % base + base) % base;
     carry = (carry - rest) / base;
