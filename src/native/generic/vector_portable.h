@@ -2,6 +2,10 @@
 // registers. For the inclusion of the portable kernels alone.
 #pragma once
 
+#if defined(__aarch64__)
+#include <arm_neon.h>
+#endif
+
 #include <cstddef>
 #include <cstdint>
 
@@ -38,12 +42,30 @@ inline Lanes operator*(Lanes a, Lanes b) {
   return {a.low * b.low, a.high * b.high};
 }
 
-// a b + c and c - a b, here rounded twice.
-inline Lanes Add_Product(Lanes a, Lanes b, Lanes c) {
+// a b + c and c - a b, rounded once where every machine of the kind can, else twice.
+#if defined(__aarch64__)
+inline constexpr bool rounds_once = true;
+inline Pair Add_Product(Pair a, Pair b, Pair c) {
+  return vfmaq_f64(c, a, b);
+}
+inline Pair Take_Product(Pair a, Pair b, Pair c) {
+  return vfmsq_f64(c, a, b);
+}
+#else
+inline constexpr bool rounds_once = false;
+inline Pair Add_Product(Pair a, Pair b, Pair c) {
   return c + a * b;
 }
-inline Lanes Take_Product(Lanes a, Lanes b, Lanes c) {
+inline Pair Take_Product(Pair a, Pair b, Pair c) {
   return c - a * b;
+}
+#endif
+
+inline Lanes Add_Product(Lanes a, Lanes b, Lanes c) {
+  return {Add_Product(a.low, b.low, c.low), Add_Product(a.high, b.high, c.high)};
+}
+inline Lanes Take_Product(Lanes a, Lanes b, Lanes c) {
+  return {Take_Product(a.low, b.low, c.low), Take_Product(a.high, b.high, c.high)};
 }
 
 struct Modulus {
@@ -54,13 +76,18 @@ struct Modulus {
 // The whole number nearest to a product that is below 2^51 in size, by the rounding of a sum.
 inline Lanes Nearest_Of(Lanes a, Lanes b) {
   const Lanes magic = Lanes::All(6755399441055744.0);
-  return (a * b + magic) - magic;
+  return Add_Product(a, b, magic) - magic;
 }
 
-// The quotient comes from doubles, the remainder from the low 64 bits of whole numbers, which hold
-// it entirely.
+// The quotient comes from doubles. Where products are rounded once, so does the remainder,
+// elsewhere from the low 64 bits of whole numbers, which hold it entirely.
 inline Lanes Multiply_Mod(Lanes a, Lanes b, const Modulus& modulus) {
-  const Lanes quotient = Nearest_Of(a * b, modulus.reciprocal);
+  const Lanes product = a * b;
+  const Lanes quotient = Nearest_Of(product, modulus.reciprocal);
+  if constexpr (rounds_once) {
+    const Lanes lost = Add_Product(a, b, Lanes::All(0) - product);
+    return Take_Product(quotient, modulus.p, product) + lost;
+  }
   const auto remainder = [](double x, double y, double q, double p) {
     const auto low = [](double value) {
       return static_cast<std::uint64_t>(static_cast<std::int64_t>(value));
@@ -75,7 +102,7 @@ inline Lanes Multiply_Mod(Lanes a, Lanes b, const Modulus& modulus) {
 }
 
 inline Lanes Reduce(Lanes a, const Modulus& modulus) {
-  return a - Nearest_Of(a, modulus.reciprocal) * modulus.p;
+  return Take_Product(Nearest_Of(a, modulus.reciprocal), modulus.p, a);
 }
 
 // The lanes of `value` where `a` is negative, zero elsewhere.
