@@ -7,6 +7,7 @@
 #include <string>
 
 #include "bench_digits.h"
+#include "native/multiply.h"
 
 extern "C" int Multiply(const char* op1, const char* op2, char* product, const char* accessCode);
 
@@ -77,6 +78,20 @@ void Flint(benchmark::State& state, Shape shape) {
   fmpz_clear(product);
 }
 
+// Any machine forms products with all kinds of instructions up to its best.
+void By_Kind(benchmark::State& state, quorvex::native::Instructions kind) {
+  if (kind > quorvex::native::Best_Instructions()) {
+    state.SkipWithError("This machine has no such instructions.");
+    return;
+  }
+  Operands operands(state, Shape::balanced);
+  for (auto step : state) {
+    quorvex::native::Multiply_Texts(operands.first, operands.second, operands.product.data(),
+                                    operands.product.size(), kind);
+    benchmark::ClobberMemory();
+  }
+}
+
 void Sizes(benchmark::internal::Benchmark* bench) {
   for (const int digits : {10, 30, 100, 300, 1000, 3000, 10'000, 32'767, 100'000, 1'000'000})
     bench->Arg(digits);
@@ -91,5 +106,16 @@ BENCHMARK_CAPTURE(Flint, unbalanced, Shape::unbalanced)->Name("Flint/by a tenth"
 BENCHMARK_CAPTURE(Ours, square, Shape::square)->Name("Multiply/square")->Apply(Sizes);
 BENCHMARK_CAPTURE(Gmp, square, Shape::square)->Name("Gmp/square")->Apply(Sizes);
 BENCHMARK_CAPTURE(Flint, square, Shape::square)->Name("Flint/square")->Apply(Sizes);
+
+void Kind_Sizes(benchmark::internal::Benchmark* bench) {
+  for (const int digits : {100, 300, 1000, 3000, 10'000, 100'000, 1'000'000}) bench->Arg(digits);
+}
+
+using quorvex::native::Instructions;
+BENCHMARK_CAPTURE(By_Kind, portable, Instructions::portable)
+    ->Name("Kind/portable")
+    ->Apply(Kind_Sizes);
+BENCHMARK_CAPTURE(By_Kind, avx2, Instructions::avx2)->Name("Kind/avx2")->Apply(Kind_Sizes);
+BENCHMARK_CAPTURE(By_Kind, avx512, Instructions::avx512)->Name("Kind/avx512")->Apply(Kind_Sizes);
 
 }  // namespace

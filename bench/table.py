@@ -48,6 +48,21 @@ def print_product(times, peer, shape, size):
     )
 
 
+KINDS = {"avx512": "AVX-512", "avx2": "AVX2", "portable": "portable"}
+
+
+def print_kinds(times, peer):
+    """The same products with all kinds of instructions that the machine has."""
+    kinds = [kind for kind in KINDS if sizes(times, f"Kind/{kind}")]
+    print(f"| digits | {' | '.join(KINDS[kind] for kind in kinds)} | best peer |")
+    print(f"|---:|{'---:|' * len(kinds)}---:|")
+    for size in sizes(times, "Kind/portable"):
+        spent = [times[f"Kind/{kind}/{size}"] for kind in kinds]
+        spent.append(min(times[f"Gmp/product/{size}"], times[f"Flint/product/{size}"],
+                         peer[f"product/{size}"]))
+        print(f"| {int(size):,} | {' | '.join(unit(time) for time in spent)} |")
+
+
 def print_quotients(times, peer):
     """Whole calls, to as many digits as the operands have, against the best of the peers."""
     print("| call | digits | best peer / ours | ours | GMP | MPFR | decimal |")
@@ -204,6 +219,8 @@ def main():
     print_calls(times, peer)
     print()
     print_products(times, peer)
+    print()
+    print_kinds(times, peer)
     print()
     print_quotients(times, peer)
     print()

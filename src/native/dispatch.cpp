@@ -1,4 +1,7 @@
 // Which instructions this machine has, asked once.
+#include <atomic>
+
+#include "expects.h"
 #include "native/generic/kernels.h"
 #include "native/multiply.h"
 
@@ -17,11 +20,25 @@ Instructions Look_At_The_Machine() noexcept {
   return Instructions::portable;
 }
 
+std::atomic<Instructions>& In_Use() noexcept {
+  static std::atomic<Instructions> in_use = Best_Instructions();
+  return in_use;
+}
+
 }  // namespace
 
 Instructions Best_Instructions() noexcept {
   static const Instructions best = Look_At_The_Machine();
   return best;
+}
+
+Instructions Instructions_In_Use() noexcept {
+  return In_Use().load(std::memory_order_relaxed);
+}
+
+void Use_Instructions(Instructions kind) noexcept {
+  Expects(kind <= Best_Instructions());
+  In_Use().store(kind, std::memory_order_relaxed);
 }
 
 const Kernels& Kernels_Of(Instructions kind) {

@@ -27,9 +27,11 @@ std::size_t Write_Zero(std::string_view a, std::string_view b, char* out) {
 
 // Short products cost a * b, transforms about a + b: they meet where a * b / (a + b) is the same as
 // for equal lengths.
-bool Is_Long(std::size_t a, std::size_t b, const Kernels& kernels) {
-  const double mean = 2 / (1 / static_cast<double>(a) + 1 / static_cast<double>(b));
-  return mean >= static_cast<double>(kernels.transform_from);
+bool Is_Long(const Operands& operands, const Kernels& kernels) {
+  const double mean =
+      2 / (1 / static_cast<double>(operands.a.size()) + 1 / static_cast<double>(operands.b.size()));
+  return mean >=
+         static_cast<double>(operands.is_square ? kernels.square_from : kernels.transform_from);
 }
 
 std::size_t Multiply_Operands(const Operands& operands, char* out, Instructions kind) {
@@ -40,11 +42,12 @@ std::size_t Multiply_Operands(const Operands& operands, char* out, Instructions 
   if (a.size() <= tiny_digits && kernels.multiply_tiny != nullptr)
     return kernels.multiply_tiny(a.data(), a.size(), b.data(), b.size(), out);
   if (a.size() <= word_digits) return Multiply_Words(operands, out);
-  if (Is_Long(a.size(), b.size(), kernels)) {
+  if (Is_Long(operands, kernels)) {
     return Are_Wave_Lengths(a.size(), b.size()) ? Multiply_By_Waves(operands, out, kernels)
                                                 : Multiply_By_Primes(operands, out, kernels);
   }
-  if (kernels.multiply_short != nullptr) return Multiply_Short(operands, out, kernels);
+  if (kernels.multiply_short != nullptr && a.size() + b.size() >= 2 * kernels.short_from)
+    return Multiply_Short(operands, out, kernels);
   return Multiply_Limbs(operands, out);
 }
 
@@ -65,7 +68,7 @@ std::size_t Multiply_Texts(std::string_view a, std::string_view b, char* out, st
 
 std::size_t Multiply_Texts(std::string_view a, std::string_view b, char* out,
                            std::size_t room) noexcept {
-  return Multiply_Texts(a, b, out, room, Best_Instructions());
+  return Multiply_Texts(a, b, out, room, Instructions_In_Use());
 }
 
 }  // namespace quorvex::native

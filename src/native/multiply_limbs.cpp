@@ -13,7 +13,7 @@ namespace quorvex::native {
 namespace {
 
 // Operands of up to this many limbs are worked on without asking for memory.
-constexpr std::size_t few = 40;
+constexpr std::size_t few = 64;
 
 std::size_t Multiply_Few(const Operands& operands, char* out) {
   const std::size_t a_count = Limbs_For(operands.a.size());

@@ -124,7 +124,6 @@ bool Are_Wave_Lengths(std::size_t a_size, std::size_t b_size) noexcept {
 std::size_t Multiply_By_Waves(const Operands& operands, char* out,
                               const Kernels& kernels) noexcept {
   for (const Grain* grain : {&coarse_grain, &fine_grain}) {
-    if (grain == &fine_grain && !kernels.has_fine_grain) break;
     if (!Is_Worth_Trying(operands, *grain)) continue;
     Wave_Product product(operands, kernels, *grain);
     if (!product.is_ready()) return 0;

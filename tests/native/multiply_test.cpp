@@ -10,7 +10,9 @@
 #include <unistd.h>
 #endif
 
+#include "native/generic/kernels.h"
 #include "products.h"
+#include "support/repeated.h"
 #include "support/whole_number.h"
 
 namespace quorvex::native {
@@ -52,6 +54,46 @@ TEST(Multiply_Texts, Bears_The_Hardest_Digits_At_All_Lengths) {
       const std::string a = Hard_Digits(n, pattern, 3);
       const std::string b = Hard_Digits(m, pattern / digit_patterns, 4);
       Expect_Product(a, b, Product(a, b));
+    }
+  }
+}
+
+// Where one method gives way to the next, and where their blocks are just filled.
+TEST(Multiply_Texts, Agrees_Between_Methods) {
+  for (const Instructions kind : Kinds_Here()) {
+    const std::size_t from = Kernels_Of(kind).transform_from;
+    const std::size_t square_from = Kernels_Of(kind).square_from;
+    for (const std::size_t n : {from - 1, square_from - 1, square_from}) {
+      const std::string a = Hard_Digits(n, static_cast<unsigned>(n), 3);
+      EXPECT_TRUE(Product_Of(a, a, kind) == Product(a, a)) << "kind " << static_cast<int>(kind);
+    }
+    for (const std::size_t middle : {16U, 18U, 56U, 112U, 18U * 64U, 18U * 128U, 14U * 70U}) {
+      for (const std::size_t n : {middle - 1, middle, middle + 1, from - 1, from, from + 1}) {
+        const auto pattern = static_cast<unsigned>(n + middle);
+        // As long as the mean of both stays where it is, and as the shorter one at half of it.
+        for (const std::size_t m : {n, n + n / 9, 40 * n}) {
+          const std::string a = Hard_Digits(m, pattern, 1);
+          const std::string b = Hard_Digits(m == 40 * n ? n / 2 + 6 : n, pattern / 8, 2);
+          EXPECT_TRUE(Product_Of(a, b, kind) == Product(a, b))
+              << "kind " << static_cast<int>(kind) << ": " << m << " by " << b.size() << " digits";
+        }
+      }
+    }
+  }
+}
+
+// Halves of a base of seven digits, of one sign or in turns, are the largest points that short
+// products in doubles add up.
+TEST(Multiply_Texts, Bears_The_Largest_Points) {
+  for (const std::string part : {"5000000", "4999999", "50000005000001", "50000004999999"}) {
+    for (const std::size_t n : {14U, 350U, 700U, 999U, 1260U}) {
+      const std::string a = Repeated(part, n / part.size() + 2);
+      for (std::size_t cut = 0; cut < 14; ++cut) {
+        const std::string text = a.substr(0, a.size() - cut);
+        Expect_Product(text, text, Product(text, text));
+        const std::string longer = Repeated(text, 30);
+        Expect_Product(longer, text, Product(longer, text));
+      }
     }
   }
 }

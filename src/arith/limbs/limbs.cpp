@@ -37,13 +37,7 @@ Limb Read(std::string_view text) {
 
 void Write(char* out, Limb limb) {
   Expects(limb < base);
-  const Limb pair = limb / 100;
-  const auto last = static_cast<unsigned>(limb - pair * 100);
-  const Limb high = pair / native::ten_to_8;
-  native::Store_Word(out, native::Part_Digits(high));
-  native::Store_Word(out + word_digits, native::Part_Digits(pair - high * native::ten_to_8));
-  out[16] = static_cast<char>('0' + last / 10);
-  out[17] = static_cast<char>('0' + last % 10);
+  native::Write_Pairs<digits>(out, limb);
 }
 
 void Read_Number(std::string_view text, Limb* out) {

@@ -86,20 +86,27 @@ inline __m512i Read_Eight(const char* text, std::size_t end, __mmask64& bad) {
                           _mm512_srli_epi64(ordered, 32));
 }
 
+// Numbers p of two digits in any lanes of sixteen bits as two bytes: t + 256 (p - 10 t), t being
+// the tens. 2^16 / 10, rounded up, is exact for them.
+inline __m512i Part_Pairs(__m512i pairs) {
+  const __m512i tens = _mm512_mulhi_epu16(pairs, _mm512_set1_epi16(6554));
+  return _mm512_sub_epi16(_mm512_slli_epi16(pairs, 8),
+                          _mm512_mullo_epi16(tens, _mm512_set1_epi16(2559)));
+}
+
 // The eight digits of numbers below 10^8 as bytes, the first lowest. Each reciprocal is exact for
-// all numbers that it meets: 2^52 / 10^4, 2^19 / 100 and 2^16 / 10, rounded up.
+// all numbers that it meets: 2^52 / 10^4 and 2^19 / 100, rounded up. Both halves of the lane of a
+// number n of four digits get its hundreds h, for h + 2^16 (n - 100 h) is pairs.
 inline __m512i Part_Eights(__m512i eights) {
   const __m512i high =
       _mm512_madd52hi_epu64(_mm512_setzero_si512(), eights, _mm512_set1_epi64(450'359'962'738));
   const __m512i low = _mm512_sub_epi64(eights, _mm512_mul_epu32(high, _mm512_set1_epi64(10'000)));
   const __m512i fours = _mm512_or_si512(high, _mm512_slli_epi64(low, 32));
-  const __m512i hundreds = _mm512_srli_epi16(_mm512_mulhi_epu16(fours, _mm512_set1_epi16(5243)), 3);
-  const __m512i units =
-      _mm512_sub_epi16(fours, _mm512_mullo_epi16(hundreds, _mm512_set1_epi16(100)));
-  const __m512i pairs = _mm512_or_si512(hundreds, _mm512_slli_epi32(units, 16));
-  const __m512i tens = _mm512_mulhi_epu16(pairs, _mm512_set1_epi16(6554));
-  const __m512i ones = _mm512_sub_epi16(pairs, _mm512_mullo_epi16(tens, _mm512_set1_epi16(10)));
-  return _mm512_or_si512(tens, _mm512_slli_epi16(ones, 8));
+  const __m512i above = _mm512_slli_epi32(fours, 16);
+  const __m512i both = _mm512_or_si512(fours, above);
+  const __m512i hundreds = _mm512_srli_epi16(_mm512_mulhi_epu16(both, _mm512_set1_epi16(5243)), 3);
+  const __m512i factors = _mm512_set1_epi32(static_cast<int>(0xFF9C'0001U));
+  return Part_Pairs(_mm512_add_epi16(above, _mm512_mullo_epi16(hundreds, factors)));
 }
 
 // Writes the last `count` characters of one window, at most all, to `out`.
@@ -122,13 +129,6 @@ inline void Write_Window(char* out, std::size_t count, __m512i even, __m512i odd
   _mm512_mask_storeu_epi8(out, First_Bytes(count), _mm512_permutex2var_epi8(even, places, odd));
 }
 
-// The eight digits of numbers below 100 as bytes.
-inline __m512i Part_Pairs(__m512i pairs) {
-  const __m512i tens = _mm512_mulhi_epu16(pairs, _mm512_set1_epi16(6554));
-  const __m512i ones = _mm512_sub_epi16(pairs, _mm512_mullo_epi16(tens, _mm512_set1_epi16(10)));
-  return _mm512_or_si512(_mm512_slli_epi64(tens, 48), _mm512_slli_epi64(ones, 56));
-}
-
 // Characters of eight numbers, sixteen bytes each: numbers 0, 2, 4, 6 and 1, 3, 5, 7.
 struct Eight_Texts {
   __m512i even;
@@ -149,7 +149,8 @@ inline Eight_Texts Characters_Of(__m512i numbers) {
                         26);
   const __m512i low =
       _mm512_sub_epi64(numbers, _mm512_mul_epu32(high, _mm512_set1_epi64(100'000'000)));
-  const __m512i first = _mm512_or_si512(D == 10 ? Part_Pairs(high) : Part_Eights(high), zeros);
+  const __m512i first =
+      _mm512_or_si512(D == 10 ? _mm512_slli_epi64(Part_Pairs(high), 48) : Part_Eights(high), zeros);
   const __m512i second = _mm512_or_si512(Part_Eights(low), zeros);
   return {_mm512_unpacklo_epi64(first, second), _mm512_unpackhi_epi64(first, second)};
 }

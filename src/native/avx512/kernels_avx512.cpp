@@ -13,11 +13,25 @@ namespace quorvex::native {
 
 const Kernels& Avx512_Kernels() {
   static constexpr Kernels kernels = {
-      Multiply_Tiny,     Multiply_In_Lanes, Short_Scratch, 3200,
-      Lanes::count,      Read_Eights,       Forward,       Multiply_Points,
-      Inverse,           Recombine_Eights,  Write_Eights,  true,
-      Read_Grain_Eights, Fold_Waves,        Split_Waves,   Multiply_Waves,
-      Carry_Wave_Eights};
+      .multiply_tiny = Multiply_Tiny,
+      .multiply_short = Multiply_In_Lanes,
+      .short_scratch = Short_Scratch,
+      .short_from = 0,
+      .transform_from = 2300,
+      .square_from = 1750,
+      .lanes = Lanes::count,
+      .read_points = Read_Eights,
+      .forward = Forward,
+      .multiply_points = Multiply_Points,
+      .inverse = Inverse,
+      .recombine = Recombine_Eights,
+      .write_points = Write_Eights,
+      .read_grains = Read_Grain_Eights,
+      .fold = Fold_Waves,
+      .split = Split_Waves,
+      .multiply_waves = Multiply_Waves,
+      .carry_wave = Carry_Wave_Eights,
+  };
   return kernels;
 }
 

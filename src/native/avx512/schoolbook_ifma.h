@@ -93,14 +93,15 @@ constexpr std::size_t Short_Scratch(std::size_t a_size, std::size_t b_size) {
 
 // A square has no second text.
 inline std::size_t Multiply_In_Lanes(const char* a_text, std::size_t a_size, const char* b_text,
-                                     std::size_t b_size, char* out, std::uint64_t* scratch) {
+                                     std::size_t b_size, char* out, void* scratch) {
   const std::size_t a_count = Limbs_Of(a_size);
   const std::size_t b_count = Limbs_Of(b_size);
   const __m512i zero = _mm512_setzero_si512();
-  std::uint64_t* const a = scratch + columns_at_once;
+  auto* const before = static_cast<std::uint64_t*>(scratch);
+  std::uint64_t* const a = before + columns_at_once;
   std::uint64_t* const a_end = a + Rounded_Up(a_count, lane_count);
   for (std::size_t i = 0; i < columns_at_once; i += lane_count) {
-    _mm512_storeu_si512(scratch + i, zero);
+    _mm512_storeu_si512(before + i, zero);
     _mm512_storeu_si512(a_end + i, zero);
   }
   const std::uint64_t* b = a;

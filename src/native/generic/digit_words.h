@@ -4,6 +4,7 @@
 // step one multiplication for the whole word; and parted again by multiplying with reciprocals.
 #pragma once
 
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -50,12 +51,18 @@ static inline std::uint64_t Non_Digits(std::uint64_t word) {
   return ((values + 0x7676767676767676U) | values) & 0x8080808080808080U;
 }
 
-/// The number that eight digits write.
-static inline std::uint64_t Join_Digits(std::uint64_t word) {
+/// The numbers that the first and the last four of eight digits write, the first one in the low
+/// half.
+static inline std::uint64_t Join_To_Fours(std::uint64_t word) {
   word &= 0x0F0F0F0F0F0F0F0FU;
   word = (word * 10 + (word >> 8U)) & 0x00FF00FF00FF00FFU;
-  word = (word * 100 + (word >> 16U)) & 0x0000FFFF0000FFFFU;
-  return (word * 10'000 + (word >> 32U)) & 0xFFFFFFFFU;
+  return (word * 100 + (word >> 16U)) & 0x0000FFFF0000FFFFU;
+}
+
+/// The number that eight digits write.
+static inline std::uint64_t Join_Digits(std::uint64_t word) {
+  const std::uint64_t fours = Join_To_Fours(word);
+  return (fours * 10'000 + (fours >> 32U)) & 0xFFFFFFFFU;
 }
 
 /// The eight digits of a number below 10^8. 10,486 / 2^20 and 103 / 2^10 are the reciprocals of
@@ -67,6 +74,40 @@ static inline std::uint64_t Part_Digits(std::uint64_t number) {
   const std::uint64_t pairs = hundreds | ((fours - hundreds * 100) << 16U);
   const std::uint64_t tens = ((pairs * 103) >> 10U) & 0x000F000F000F000FU;
   return (tens | ((pairs - tens * 10) << 8U)) | 0x3030303030303030U;
+}
+
+static constexpr std::uint64_t Ten_To_The(std::size_t exponent) {
+  std::uint64_t power = 1;
+  for (; exponent > 0; --exponent) power *= 10;
+  return power;
+}
+
+/// The characters of all numbers of two digits.
+static constexpr auto pairs_of_digits = [] {
+  std::array<char, 200> pairs{};
+  for (std::size_t i = 0; i < 100; ++i) {
+    pairs[2 * i] = static_cast<char>('0' + i / 10);
+    pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
+  }
+  return pairs;
+}();
+
+/// Writes so many digits, an even count from four to eighteen, of a number that has no more.
+///
+/// The number is taken as one of two digits with a fraction of 64 bits; a hundred times the
+/// fraction is two digits more. The fraction is too large by less than 2^-56, which the steps leave
+/// below a quarter of the last digit; it must not be too small at all, as pairs are rounded down.
+template <std::size_t digits>
+static inline void Write_Pairs(char* out, std::uint64_t number) {
+  static_assert(digits % 2 == 0 && digits >= 4 && digits <= 18);
+  constexpr std::uint64_t divisor = Ten_To_The(digits - 2);
+  constexpr auto shift = static_cast<unsigned>(std::bit_width(divisor)) - 1;
+  constexpr auto reciprocal = static_cast<std::uint64_t>((Wide{1} << (64U + shift)) / divisor + 1);
+  Wide pair = (Wide{number} * reciprocal >> shift) + 1;
+  for (std::size_t place = 0; place < digits; place += 2) {
+    std::memcpy(out + place, &pairs_of_digits[2 * static_cast<std::size_t>(pair >> 64U)], 2);
+    pair = Wide{static_cast<std::uint64_t>(pair)} * 100;
+  }
 }
 
 /// The last `count` (1 to 8) of eight digits as a word, from a text that has no more; zeros before.

@@ -9,7 +9,7 @@ namespace quorvex::native {
 namespace {
 
 // Measured: below this many limbs the plain kernel is faster.
-constexpr std::size_t threshold = 40;
+constexpr std::size_t threshold = 64;
 
 // Adds `b` to the front of `a` and carries on to the end of `a`.
 void Add_To(Limb* a, std::size_t a_count, const Limb* b, std::size_t b_count) {

@@ -21,14 +21,18 @@ struct Kernels {
   std::size_t (*multiply_tiny)(const char* a_text, std::size_t a_size, const char* b_text,
                                std::size_t b_size, char* out);
 
-  /// A product of short operands, the shorter of at most 60,000 digits, or null. A square has no
-  /// second text. `scratch` has as many words as short_scratch tells.
+  /// A product of short operands, which are those below transform_from, or null. A square has no
+  /// second text. `scratch` has as many words of 64 bits as short_scratch tells, on the boundary of
+  /// a cache line.
   std::size_t (*multiply_short)(const char* a_text, std::size_t a_size, const char* b_text,
-                                std::size_t b_size, char* out, std::uint64_t* scratch);
+                                std::size_t b_size, char* out, void* scratch);
   std::size_t (*short_scratch)(std::size_t a_size, std::size_t b_size);
+  /// From this mean of the lengths on it is faster than limbs, as measured.
+  std::size_t short_from;
 
   /// From this harmonic mean of the lengths on the transform is faster, as measured.
   std::size_t transform_from;
+  std::size_t square_from;  ///< the same for squares
   std::size_t lanes;
   bool (*read_points)(const char* text, std::size_t count, const Cut& cut, double* points);
   void (*forward)(double* x, const Length& length, const Twiddles& tables);
@@ -39,8 +43,6 @@ struct Kernels {
                               char* out);
 
   /// Products by waves; where points are complex, they are two doubles.
-  /// Points of four digits are for kinds that are faster with them than by primes, as measured.
-  bool has_fine_grain;
   bool (*read_grains)(const char* text, std::size_t count, const Grain& grain, double* points);
   void (*fold)(const double* from, std::size_t count, const Wave_Length& length,
                const Wave_Roots* roots, double* x, double* squares);

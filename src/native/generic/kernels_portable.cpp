@@ -1,29 +1,36 @@
 // Long products in portable instructions.
-#include "native/generic/grains.h"
 #include "native/generic/kernels.h"
 #include "native/generic/points.h"
 #include "native/generic/vector_portable.h"
 // The vectors come first.
+#include "native/generic/grains.h"
 #include "native/generic/recombine.h"
 #include "native/generic/transform_pieces.h"
-#include "native/generic/wave_fold.h"
+#include "native/generic/wave_carry.h"
 
 namespace quorvex::native {
-namespace {
-
-void Carry_Wave(const double* x, const Wave_Length& length, const Grain& /*grain*/,
-                std::size_t count, double* groups) {
-  Unfold_Waves(x, length, groups);
-  Carry_Grains(groups, count);
-}
-
-}  // namespace
 
 const Kernels& Portable_Kernels() {
   static constexpr Kernels kernels = {
-      nullptr,     nullptr,         nullptr,     11'000,         Lanes::count, Read_Points,
-      Forward,     Multiply_Points, Inverse,     Recombine,      Write_Points, false,
-      Read_Grains, Fold_Waves,      Split_Waves, Multiply_Waves, Carry_Wave};
+      .multiply_tiny = nullptr,
+      .multiply_short = nullptr,
+      .short_scratch = nullptr,
+      .short_from = 0,
+      .transform_from = 2100,
+      .square_from = 2300,
+      .lanes = Lanes::count,
+      .read_points = Read_Points,
+      .forward = Forward,
+      .multiply_points = Multiply_Points,
+      .inverse = Inverse,
+      .recombine = Recombine,
+      .write_points = Write_Points,
+      .read_grains = Read_Grains,
+      .fold = Fold_Waves,
+      .split = Split_Waves,
+      .multiply_waves = Multiply_Waves,
+      .carry_wave = Carry_Wave,
+  };
   return kernels;
 }
 

@@ -6,8 +6,6 @@
 namespace quorvex::native {
 namespace {
 
-constexpr std::uint64_t ten_to_16 = ten_to_8 * ten_to_8;
-
 // One limb of eighteen characters; what is found amiss is added to `bad`.
 Limb Read_Whole(const char* text, std::uint64_t& bad) {
   const std::uint64_t head = Load_Word(text);
@@ -32,16 +30,6 @@ Limb Read_Partial(const char* text, std::size_t count, std::uint64_t& bad) {
   return limb;
 }
 
-void Write_Whole(char* out, Limb limb) {
-  const std::uint64_t head = limb / ten_to_16;
-  const std::uint64_t rest = limb - head * ten_to_16;
-  const std::uint64_t middle = rest / ten_to_8;
-  out[0] = static_cast<char>('0' + head / 10);
-  out[1] = static_cast<char>('0' + head % 10);
-  Store_Word(out + 2, Part_Digits(middle));
-  Store_Word(out + 10, Part_Digits(rest - middle * ten_to_8));
-}
-
 }  // namespace
 
 bool Read_Limbs(const char* text, std::size_t count, Limb* limbs) {
@@ -59,7 +47,7 @@ std::size_t Write_Limbs(const Limb* limbs, std::size_t count, char* out) {
   Expects(count > 0);
   std::size_t written = Write_Number(out, limbs[count - 1]);
   for (std::size_t i = count - 1; i-- > 0; written += limb_digits)
-    Write_Whole(out + written, limbs[i]);
+    Write_Pairs<limb_digits>(out + written, limbs[i]);
   return written;
 }
 

@@ -34,13 +34,17 @@ bool Read_All(const char* text, std::size_t count, double* points) {
   return bad == 0;
 }
 
-// The last eight digits overwrite what the others leave behind them.
-void Write_Whole(char* out, double point, std::size_t digits) {
-  const auto number = static_cast<std::uint64_t>(point);
-  const std::uint64_t high = number / ten_to_8;
-  const std::uint64_t head = Part_Digits(high);
-  Store_Word(out, head >> (8 * (16 - digits)));
-  Store_Word(out + digits - 8, Part_Digits(number - high * ten_to_8));
+template <std::size_t digits>
+std::size_t Write_All(const double* points, std::size_t count, char* out) {
+  while (points[count - 1] == 0) --count;
+  // Signed numbers are what machines convert.
+  const auto number = [points](std::size_t i) {
+    return static_cast<std::uint64_t>(static_cast<std::int64_t>(points[i]));
+  };
+  std::size_t written = Write_Number(out, number(count - 1));
+  for (std::size_t i = count - 1; i-- > 0; written += digits)
+    Write_Pairs<digits>(out + written, number(i));
+  return written;
 }
 
 }  // namespace
@@ -50,11 +54,8 @@ bool Read_Points(const char* text, std::size_t count, const Cut& cut, double* po
 }
 
 std::size_t Write_Points(const double* points, std::size_t count, std::size_t digits, char* out) {
-  while (points[count - 1] == 0) --count;
-  std::size_t written = Write_Number(out, static_cast<std::uint64_t>(points[count - 1]));
-  for (std::size_t i = count - 1; i-- > 0; written += digits)
-    Write_Whole(out + written, points[i], digits);
-  return written;
+  if (digits == 8) return Write_All<8>(points, count, out);
+  return digits == 12 ? Write_All<12>(points, count, out) : Write_All<10>(points, count, out);
 }
 
 }  // namespace quorvex::native

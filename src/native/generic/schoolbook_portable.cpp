@@ -3,44 +3,56 @@
 #include <algorithm>
 
 #include "expects.h"
-#include "native/generic/limb_division.h"
+#include "native/generic/columns.h"
 
 namespace quorvex::native {
 namespace {
 
-// The sum of a[first + i] * b[-i] for i below count, `b` pointing at the factor of a[first].
-Wide Column(const Limb* a, const Limb* b, std::size_t count) {
-  Wide sum = 0;
-  for (std::size_t i = 0; i < count; ++i) sum += Wide{a[i]} * *(b - i);
-  return sum;
-}
+// What columns of a block meet beyond the ends of a factor.
+constexpr std::size_t zeros = columns_in_block - 1;
+
+class Padded {
+ public:
+  Padded(const Limb* limbs, std::size_t count) {
+    std::fill_n(limbs_, zeros, 0);
+    std::copy_n(limbs, count, limbs_ + zeros);
+    std::fill_n(limbs_ + zeros + count, zeros, 0);
+  }
+  const Limb* limbs() const { return limbs_ + zeros; }
+
+ private:
+  Limb limbs_[schoolbook_ceiling + 2 * zeros];
+};
 
 }  // namespace
 
 void Multiply_Schoolbook(Limb* out, const Limb* a, std::size_t a_count, const Limb* b,
                          std::size_t b_count) {
-  Expects(std::min(a_count, b_count) > 0 && std::min(a_count, b_count) <= schoolbook_ceiling);
-  Wide column = 0;
-  for (std::size_t k = 0; k + 1 < a_count + b_count; ++k) {
+  if (a_count < b_count) return Multiply_Schoolbook(out, b, b_count, a, a_count);
+  Expects(b_count > 0 && b_count <= schoolbook_ceiling);
+  const Padded padded(b, b_count);
+  Take_Blocks(out, a_count + b_count, [&](std::size_t k, Wide(&sums)[columns_in_block]) {
     const std::size_t from = k < b_count ? 0 : k - b_count + 1;
-    const std::size_t to = std::min(k + 1, a_count);
-    column += Column(a + from, b + (k - from), to - from);
-    out[k] = Take_Limb(column);
-  }
-  out[a_count + b_count - 1] = static_cast<Limb>(column);
+    const std::size_t to = std::min(k + columns_in_block, a_count);
+    Add_Block(sums, a + from, padded.limbs() + k - from, to - from);
+  });
 }
 
+// Each product of two different limbs counts twice, so those of which `a` has the lower are enough.
 void Square_Schoolbook(Limb* out, const Limb* a, std::size_t count) {
   Expects(count > 0 && count <= schoolbook_ceiling);
-  Wide carry = 0;
-  for (std::size_t k = 0; k + 1 < 2 * count; ++k) {
+  const Padded padded(a, count);
+  Take_Blocks(out, 2 * count, [&](std::size_t k, Wide(&sums)[columns_in_block]) {
     const std::size_t from = k < count ? 0 : k - count + 1;
-    Wide column = 2 * Column(a + from, a + (k - from), (k + 1) / 2 - from);
-    if (k % 2 == 0) column += Wide{a[k / 2]} * a[k / 2];
-    carry += column;
-    out[k] = Take_Limb(carry);
-  }
-  out[2 * count - 1] = static_cast<Limb>(carry);
+    const Limb* const middle = padded.limbs() + k / 2;
+    Add_Block(sums, a + from, padded.limbs() + k - from, k / 2 - from);
+    sums[1] += Wide{middle[0]} * middle[1];
+    sums[2] += Wide{middle[0]} * middle[2];
+    sums[3] += Wide{middle[0]} * middle[3] + Wide{middle[1]} * middle[2];
+    for (Wide& sum : sums) sum *= 2;
+    sums[0] += Wide{middle[0]} * middle[0];
+    sums[2] += Wide{middle[1]} * middle[1];
+  });
 }
 
 }  // namespace quorvex::native

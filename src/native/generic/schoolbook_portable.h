@@ -5,9 +5,8 @@
 
 namespace quorvex::native {
 
-/// The most limbs that the shorter operand may have: so many products of two limbs fit a sum of
-/// 128 bits, 340 * (10^18 - 1)^2 + 2^69 < 2^128.
-inline constexpr std::size_t schoolbook_ceiling = 340;
+/// The most limbs that the shorter operand may have; a column may have 340 products.
+inline constexpr std::size_t schoolbook_ceiling = 64;
 
 /// Writes all a_count + b_count limbs of the product. `out` overlaps neither operand.
 void Multiply_Schoolbook(Limb* out, const Limb* a, std::size_t a_count, const Limb* b,

@@ -31,8 +31,8 @@ constexpr bool keeps_blocks = true;
 #endif
 constexpr std::size_t most_kept = std::size_t{13} << 20U;
 
-// Blocks that no call of the system stands behind.
-constexpr std::size_t few = std::size_t{16} << 10U;
+// Blocks that the C library has at hand.
+constexpr std::size_t few = std::size_t{1} << 10U;
 
 bool Is_Kept(std::size_t bytes) {
   return keeps_blocks && bytes > few && bytes <= most_kept;

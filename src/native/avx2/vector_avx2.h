@@ -58,9 +58,33 @@ inline Lanes Reduce(Lanes a, const Modulus& modulus) {
   return {_mm256_fnmadd_pd(quotient, modulus.p.lane, a.lane)};
 }
 
-inline Lanes Add_If_Negative(Lanes a, Lanes b) {
+// The lanes of `value` where `a` is negative, zero elsewhere.
+inline Lanes If_Negative(Lanes a, Lanes value) {
   const __m256d negative = _mm256_cmp_pd(a.lane, _mm256_setzero_pd(), _CMP_LT_OQ);
-  return {_mm256_add_pd(a.lane, _mm256_and_pd(negative, b.lane))};
+  return {_mm256_and_pd(negative, value.lane)};
+}
+
+inline Lanes Add_If_Negative(Lanes a, Lanes b) {
+  return a + If_Negative(a, b);
+}
+
+// The whole number nearest to a product that is below 2^51 in size.
+inline Lanes Nearest_Of(Lanes a, Lanes b) {
+  return {Nearest_Product(a.lane, b.lane)};
+}
+
+// Each lane's neighbour below: the last lane of `before`, then all but the last of `lanes`.
+inline Lanes From_Below(Lanes before, Lanes lanes) {
+  const __m256d crossing = _mm256_permute2f128_pd(before.lane, lanes.lane, 0x21);
+  return {_mm256_shuffle_pd(crossing, lanes.lane, 0x5)};
+}
+
+// Neighbours of two runs of lanes, the second of each times a factor, added.
+inline Lanes Join_Neighbours(Lanes a, Lanes b, Lanes factor) {
+  const __m256d even = _mm256_unpacklo_pd(a.lane, b.lane);
+  const __m256d odd = _mm256_unpackhi_pd(a.lane, b.lane);
+  const __m256d joined = _mm256_fmadd_pd(odd, factor.lane, even);
+  return {_mm256_permute4x64_pd(joined, 0xD8)};
 }
 
 inline void Transpose(Lanes (&rows)[Lanes::count]) {
