@@ -37,6 +37,12 @@ bool Is_Near(const Number& number) {
   return number.low >= -highest_power && number.top() <= highest_power;
 }
 
+std::size_t Count_Zeros_Behind(limbs::Limb limb) {
+  std::size_t zeros = 0;
+  for (; limb % 10 == 0; limb /= 10) ++zeros;
+  return zeros;
+}
+
 // Digits without a separator, as division takes them, and how many of them stood behind it.
 struct Dividable {
   explicit Dividable(const Number& number) {
@@ -52,6 +58,22 @@ struct Dividable {
   NumberText digits;
   std::int64_t decimals = 0;
 };
+
+// A divisor of two limbs may have no more digits than one: both numbers times a power of ten have
+// the same quotient, with a divisor of one limb. False, and nothing done, for all others.
+bool Divide_By_Shifted(Number& a, const Number& b, std::size_t digits_kept) {
+  if (b.count() != 2 || a.is_zero()) return false;
+  const std::size_t in_lower = limbs::digits - Count_Zeros_Behind(b.data()[0]);
+  if (b.data()[1] >= limbs::Ten_To(limbs::digits - in_lower)) return false;
+  limbs::Limb shift = limbs::Ten_To(in_lower);
+  Number factor;
+  limbs::Trim({&shift, 1, 0, false}, factor);
+  Number dividend;
+  Number divisor;
+  limbs::Multiply(a, factor, (a.count() + 1) * limbs::digits, dividend);
+  limbs::Multiply(b, factor, 3 * limbs::digits, divisor);
+  return limbs::Divide(dividend, divisor, digits_kept, a);
+}
 
 }  // namespace
 
@@ -94,6 +116,7 @@ void Steps::multiply(Step_Number& a, const Step_Number& b) const {
 void Steps::divide(Step_Number& a, const Step_Number& b) const {
   if (!are_in_limbs(a, b) || !Can_Multiply()) return by_text(operation::divide, a, b);
   if (limbs::Divide(a.number_, b.number_, digits_ + divided_beyond, a.number_)) return;
+  if (Divide_By_Shifted(a.number_, b.number_, digits_ + divided_beyond)) return;
   a = With_Handler([&] { return long_quotient(a.number_, b.number_); },
                    [](const Run_Time_Failure&) { return Step_Number(value_token); });
 }
