@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "arith/powers/newton_end.h"
 #include "arith/powers/root_pair.h"
 #include "host/conversions.h"
 #include "host/platform.h"
@@ -186,6 +187,7 @@ class Newton_Iteration {
 Decimal Newton_Root(const Step_Number& radicand, const Step_Number& degree, Step_Number start,
                     const Newton_Limits& limits, Power_Step power) {
   Refuse_Endless_Way(Least_Work(radicand, degree, start, limits));
+  if (auto end = Newton_End(radicand, degree, start, limits)) return *std::move(end);
   const Newton_Iteration iteration(radicand, degree, Steps(limits.steps), power);
   const double compared = limits.maxSD - 1;
   History history(compared);

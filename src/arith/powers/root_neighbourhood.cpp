@@ -20,8 +20,9 @@ using limbs::Number;
 // product is f m^2 / 10 of v less than a / T, m being the mantissa of s, 1 to 10: a reciprocal of a
 // number with the mantissa m has 10 / m, and the quotient m again.
 //
-// For T = s + e the quotient is s - e + e^2 / T, and the reciprocal (1 - e / s + e^2 / (s T)) / s.
-// Where e is below 10^(-(p + 9) / 2) of s the last terms are less than 10^-8 units of digit p.
+// For T = s + e and w = e / s the quotient is s - e g, and the reciprocal (1 - w g) / s, with
+// g = 1 - w + w^2 and so on. Where w is below 10^(-(p + 9) / 4), the three terms leave less than
+// 10^-8 units of digit p, and where it is below 10^(-(p + 9) / 2), the first one does.
 //
 // That the digits of the reciprocal are the cut ones is shown where division finds them: T has no
 // more than p - 2 digits, and not all of the p / 4 - 1 behind the first one of its reciprocal are
@@ -156,14 +157,42 @@ bool Root_Neighbourhood::is_told() const {
          inverse - std::floor(inverse) > least_behind_first;
 }
 
+// How far a value is from the root, as the quotient and the reciprocal need it.
+struct Root_Neighbourhood::Offset {
+  Number e;
+  Number w;
+  std::optional<Number> g;  // where it is not 1
+  std::size_t digits;       // of e, w and g that count
+};
+
+std::optional<Root_Neighbourhood::Offset> Root_Neighbourhood::offset_of(const Number& value) const {
+  const std::size_t p = digits_ + guard_digits;
+  Offset offset;
+  offset.e = Sum(value, found_.root, true, p + beyond_quotient);
+  if (offset.e.is_zero()) return offset;
+  const std::int64_t distance =
+      limbs::Leading_Power(found_.root) - limbs::Leading_Power(offset.e) - 1;
+  const auto reach = static_cast<std::int64_t>(p + 9);
+  if (4 * distance < reach) return std::nullopt;
+  const auto all = static_cast<std::int64_t>(p + beyond_quotient);
+  offset.digits = static_cast<std::size_t>(std::max<std::int64_t>(all - distance, 1));
+  if (2 * distance >= reach) return offset;
+  offset.w = Product(offset.e, found_.inverse, offset.digits);
+  const Number one = Short_Number(1, 0);
+  const Number rest = Product(offset.w, Sum(one, offset.w, !offset.w.negative, offset.digits),
+                              offset.digits);
+  offset.g = Sum(one, rest, !rest.negative, p + beyond_quotient);
+  return offset;
+}
+
 // f, or below 0 where it can't be told.
-double Root_Neighbourhood::lost_by_inverse(const Number& distance) const {
+double Root_Neighbourhood::lost_by_inverse(const Offset& offset) const {
   constexpr double least = 1e-6;
   const std::size_t p = digits_ + guard_digits;
   const std::int64_t last = limbs::Leading_Power(found_.inverse) + 1 - static_cast<std::int64_t>(p);
-  const std::size_t short_digits = p / 2 + beyond_quotient;
-  Number correction = Product(distance, found_.inverse, short_digits);
-  limbs::Multiply(correction, found_.inverse, short_digits, correction);
+  const Number w = offset.g ? offset.w : Product(offset.e, found_.inverse, offset.digits);
+  Number correction = Product(w, found_.inverse, offset.digits);
+  if (offset.g) limbs::Multiply(correction, *offset.g, offset.digits, correction);
   const double part =
       Part_Behind(Sum(found_.inverse, correction, !correction.negative, p + beyond_quotient), last);
   return part > least && part < 1 - least ? part : -1;
@@ -171,28 +200,25 @@ double Root_Neighbourhood::lost_by_inverse(const Number& distance) const {
 
 std::optional<Step_Number> Root_Neighbourhood::quotient(const Step_Number& value) const {
   if (!value.is_in_limbs()) return std::nullopt;
-  const std::size_t p = digits_ + guard_digits;
-  const std::size_t all = p + beyond_quotient;
-  const Number distance = Sum(value.in_limbs(), found_.root, true, all);
-  const auto nearest = static_cast<std::int64_t>(p + 9) / 2 + 1;
-  const bool is_near =
-      distance.is_zero() ||
-      limbs::Leading_Power(distance) < limbs::Leading_Power(found_.root) - nearest;
-  if (!is_near) return std::nullopt;
-
-  Number quotient = Sum(found_.root, distance, !distance.negative, all);
+  const std::optional<Offset> offset = offset_of(value.in_limbs());
+  if (!offset) return std::nullopt;
+  const Number less = offset->g ? Product(offset->e, *offset->g, offset->digits) : offset->e;
+  Number quotient =
+      Sum(found_.root, less, !less.negative, digits_ + guard_digits + beyond_quotient);
   const double guards = Part_Behind(quotient, last_) * guard_units;
   Raise raise = Raise_Between(guards - most_lost_ - safe, guards + safe);
   if (raise == Raise::in_doubt) {
-    const double part = lost_by_inverse(distance);
+    const double part = lost_by_inverse(*offset);
     if (part < 0) return std::nullopt;
     const double lowered = guards - part * most_lost_;
     raise = Raise_Between(lowered - safe, lowered + safe);
     if (raise == Raise::in_doubt) return std::nullopt;
   }
   const double to_next = (raise == Raise::yes ? guard_units : 0) - guards;
-  limbs::Add(quotient, Short_Number(std::llround(to_next), last_ - static_cast<std::int64_t>(guard_digits)), to_next < 0,
-             digits_, quotient);
+  limbs::Add(quotient,
+             Short_Number(std::llround(std::fabs(to_next)),
+                          last_ - static_cast<std::int64_t>(guard_digits)),
+             to_next < 0, digits_, quotient);
   return Step_Number(std::move(quotient));
 }
 

@@ -39,8 +39,11 @@ class Root_Neighbourhood {
  private:
   Root_Neighbourhood(const limbs::Number& radicand, std::size_t limit);
 
+  struct Offset;
+
   bool is_told() const;
-  double lost_by_inverse(const limbs::Number& distance) const;
+  std::optional<Offset> offset_of(const limbs::Number& value) const;
+  double lost_by_inverse(const Offset& offset) const;
   Step_Number half_of(const limbs::Number& twice, double to_sum) const;
 
   std::size_t digits_;       // that a quotient keeps
