@@ -5,7 +5,7 @@
 // are formatted, one.
 #pragma once
 
-#include <algorithm>
+#include <cmath>
 #include <cstddef>
 
 #include "text/options.h"
@@ -38,8 +38,8 @@ constexpr double Digits_Formatted(double maxSD) {
 }
 
 /// No limit is above the ceiling of digits.
-constexpr double Up_To_Ceiling(double limit) {
-  return std::min(limit, maximum_digits);
+inline double Up_To_Ceiling(double limit) {
+  return std::fmin(limit, maximum_digits);
 }
 
 }  // namespace quorvex

@@ -9,6 +9,7 @@
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "text/guard_digits.h"
 #include "text/tokens.h"
 
 namespace quorvex {
@@ -79,7 +80,7 @@ bool Is_Same(const Decimal& a, const Decimal& b) {
 class Mean_Iteration {
  public:
   Mean_Iteration(const Step_Number& radicand, const Step_Number& start, double maxSD)
-      : radicand_(radicand), maxSD_(maxSD), steps_(maxSD + 1) {
+      : radicand_(radicand), maxSD_(maxSD), steps_(With_Guard_Digit(maxSD)) {
     if (!Is_Square_Of(radicand, start, steps_)) {
       near_ = Root_Neighbourhood::Of(radicand, steps_.limit());
     }

@@ -229,6 +229,7 @@ bool Takes_Limbs(const Decimal& base, Word exponent, double limit) {
 
 Decimal Whole_Power(const Decimal& base, const NumberText& exponent, double maxSD,
                     double working_digits) {
+  Expects(base.digits != "0" && Is_Stripped(base));
   const std::optional<Word> word = Exactly_Split(exponent, maxSD);
   if (!word) return Any_Power(base, exponent, maxSD, working_digits, 0);
   if (!Takes_Limbs(base, *word, working_digits + maxSD)) {

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "arith/fractions/reduce_fraction.h"
+#include "arith/operation/four_operations.h"
 #include "arith/powers/power_chain.h"
 #include "arith/powers/root_function.h"
 #include "host/conversions.h"
@@ -17,6 +18,7 @@
 #include "text/compare_numbers.h"
 #include "text/digit_runs.h"
 #include "text/format_result.h"
+#include "text/guard_digits.h"
 #include "text/options.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
@@ -63,14 +65,8 @@ Decimal Raise(Decimal base, const NumberText& exponent, double maxSD, double wor
   return Is_Too_Long(power) ? Decimal_Token(num_token) : power;
 }
 
-// With the guard digit that operations add.
-type_Restrictionator Step_Formats(double limit) {
-  type_Restrictionator options;
-  options.maxSD = std::fmin(limit, maximum_digits) + 1;
-  return options;
-}
-
-// An operation between two steps, rounded as formatting rounds.
+// An operation between two steps: what `Intermediate` is to texts. Digits are rounded as formatting
+// rounds them, and no text is formed.
 template <typename Operation>
 Step_Number Take_Step(const Step_Number& a, const Step_Number& b, double limit,
                       const Operation& operation) {
@@ -79,14 +75,14 @@ Step_Number Take_Step(const Step_Number& a, const Step_Number& b, double limit,
         if (a.is_token() || b.is_token()) {
           if (const auto token = Token_Of_Operands(a.text(), b.text())) return Step_Number(*token);
         }
-        const type_Restrictionator options = Step_Formats(limit);
+        const type_Restrictionator options = Intermediate_Format(limit);
         Decimal result = operation(options.maxSD);
         if (Has_Token_Mark(result.digits)) return Step_Number(std::string_view(result.digits));
         if (result.digits.empty() || Has_Non_Digit(result.digits)) {
           return Step_Number(Format_Result(std::move(result), options, true));
         }
         Strip_Zeros(result);
-        Round(result, options.maxSD + 1);
+        Round(result, Digits_Formatted(options.maxSD));
         return Step_Number(result);
       },
       [](const Run_Time_Failure&) { return Step_Number(value_token); });
@@ -124,7 +120,8 @@ bool Is_Low_Power(const Step_Number& base, const Step_Number& exponent, double l
 }
 
 Step_Number Low_Power(const Step_Number& base, const Step_Number& exponent, double limit) {
-  const Steps products(limit + 1 + Length_Without_Separator(base) + 1);
+  // The exponent's one digit and those of the base are guard digits.
+  const Steps products(With_Guard_Digit(limit) + Length_Without_Separator(base) + 1);
   return With_Handler(
       [&] {
         Yield();

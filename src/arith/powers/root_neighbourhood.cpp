@@ -5,6 +5,8 @@
 
 #include "arith/digits/multiply_digits.h"
 #include "arith/powers/leading_digits.h"
+#include "expects.h"
+#include "text/guard_digits.h"
 
 namespace quorvex {
 namespace {
@@ -70,6 +72,7 @@ Number Product(const Number& a, const Number& b, std::size_t digits) {
 
 // The half of a positive number, cut behind a power of ten.
 Number Half_Down(const Number& number, std::int64_t last) {
+  Expects(!number.negative);
   const std::size_t count = number.count() + 1;
   const std::int64_t low = number.low - 1;
   limbs::Scratch scratch(count);
@@ -144,7 +147,7 @@ std::optional<Root_Neighbourhood> Root_Neighbourhood::Of(const Step_Number& radi
 }
 
 Root_Neighbourhood::Root_Neighbourhood(const Number& radicand, std::size_t limit)
-    : digits_(limit + 1), found_(Find_Root(radicand, 2, digits_ + beyond_quotient)) {
+    : digits_(Digits_Of_Quotient(limit)), found_(Find_Root(radicand, 2, digits_ + beyond_quotient)) {
   const Leading_Digits root = Leading_Digits_Of(found_.root);
   last_ = root.power + 1 - static_cast<std::int64_t>(digits_);
   most_lost_ = root.mantissa * root.mantissa / 10;
@@ -251,7 +254,7 @@ std::optional<Later_Values> Root_Neighbourhood::later_values(const Step_Number& 
   const double left = guards + added - units * guard_units;
   const Raise raise = Raise_Between(left - most_lost_ - slack, left + slack);
   Later_Values later;
-  later.rounds = reached->rounds;
+  later.rounds = reached->rounds + 1;
   if (raise != Raise::yes) later.values.push_back(half_of(twice, units * guard_units - guards));
   if (raise != Raise::no) {
     Step_Number raised = half_of(twice, (units + 1) * guard_units - guards);
@@ -273,6 +276,7 @@ Step_Number Root_Neighbourhood::half_of(const Number& twice, double to_sum) cons
 // Neither has digits behind u. Division by 2 finds a number just below the half of their sum, so
 // that the half of a unit is dropped.
 Step_Number Root_Neighbourhood::mean(const Step_Number& value, const Step_Number& quotient) const {
+  Expects(value.is_in_limbs() && quotient.is_in_limbs());
   return Step_Number(
       Half_Down(Sum(value.in_limbs(), quotient.in_limbs(), false, digits_ + 1), last_));
 }
