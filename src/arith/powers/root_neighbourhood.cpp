@@ -33,8 +33,7 @@ using limbs::Number;
 // the root.
 constexpr std::size_t guard_digits = 3;
 constexpr double guard_units = 1000;
-constexpr std::size_t least_digits = 24;   // p / 4 - 1 is 5 then
-constexpr double least_behind_first = 2e-5;
+constexpr double least_behind_first = 2e-5;  // p / 4 - 1 is 5 and more
 constexpr double near_power_of_ten = 1e-6;
 constexpr std::size_t beyond_quotient = 13;  // digits of the root that are more than a quotient's
 
@@ -135,10 +134,12 @@ std::optional<Far_Value> Way_To_Root(const Number& value, const Number& root, st
 
 std::optional<Root_Neighbourhood> Root_Neighbourhood::Of(const Step_Number& radicand,
                                                          double limit) {
+  // Below, two divisions cost less.
+  constexpr double least_limit = 36;
   constexpr double highest_limit = 1'000'000;
   constexpr std::int64_t farthest_power = 1'000'000;
   const bool is_for_this = radicand.is_in_limbs() && !radicand.is_zero() &&
-                           !radicand.is_negative() && limit >= least_digits &&
+                           !radicand.is_negative() && limit >= least_limit &&
                            limit <= highest_limit && std::trunc(limit) == limit && Can_Multiply();
   if (!is_for_this || std::abs(radicand.leading_power()) > farthest_power) return std::nullopt;
   Root_Neighbourhood near(radicand.in_limbs(), static_cast<std::size_t>(limit));

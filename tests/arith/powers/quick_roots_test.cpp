@@ -59,7 +59,7 @@ std::string Radicand(Random_Numbers& random, std::size_t limit) {
 }
 
 std::size_t Limit(Random_Numbers& random) {
-  return random.one_in(9) ? 200 + random.below(2000) : 24 + random.below(170);
+  return random.one_in(9) ? 200 + random.below(2000) : 36 + random.below(160);
 }
 
 TEST(QuickRoots, QuotientsNearTheRootAreThoseOfDivision) {
