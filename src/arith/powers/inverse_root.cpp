@@ -41,9 +41,9 @@ Number Shortened(const Number& number, std::size_t digits) {
   limbs::Scratch scratch(count);
   limbs::Copy(number.data() + left, count, scratch.data());
   Number shortened;
-  limbs::Trim({scratch.data(), count, number.low + static_cast<std::int64_t>(left),
-               number.negative},
-              shortened);
+  limbs::Trim(
+      {scratch.data(), count, number.low + static_cast<std::int64_t>(left), number.negative},
+      shortened);
   return shortened;
 }
 

@@ -54,8 +54,8 @@ double Part_Behind(const limbs::Number& number, std::int64_t last) {
   const Limb unit = limbs::Ten_To(static_cast<std::size_t>(last - place * limb_digits));
   const bool is_there = place >= number.low && place < number.top();
   const Limb limb = is_there ? number.data()[place - number.low] : 0;
-  const double behind = (Limb_At(number, place - 1) + Limb_At(number, place - 2) / float_base) /
-                        float_base;
+  const double behind =
+      (Limb_At(number, place - 1) + Limb_At(number, place - 2) / float_base) / float_base;
   return (static_cast<double>(limb % unit) + behind) / static_cast<double>(unit);
 }
 

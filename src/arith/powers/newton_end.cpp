@@ -23,17 +23,18 @@ using limbs::Number;
 //      by the last quotient 0.97 down and 0.5 up, as three guard digits may round;
 //      by that of the radicand and the power the same, and 0.7 d and 5 of 10^-(S + 2) of it by the
 //      power; it is a d-th part of the sum;
-//      by product and sum 0.5 each, half a unit of digit S + 2, where d is above 10. Before, whole u
-//      have room there.
-//    All values are to have as many whole digits as s, and the reciprocal of the power a digit other
-//    than 0 soon behind its first one, as division asks.
+//      by product and sum 0.5 each, half a unit of digit S + 2, where d is above 10. Before, whole
+//      u have room there.
+//    All values are to have as many whole digits as s, and the reciprocal of the power a digit
+//    other than 0 soon behind its first one, as division asks.
 // 2. The end compares c digits of two values in a row: as many as `maxSD` less one, and one less
 //    below 1. While e is three units of digit c or more, they differ. Nor has one only grown by a
 //    digit there: it would have to be longer than that, which takes zeros behind the separator.
 // 3. From then on the values are known to within what is rounded away, and so is what they are
 //    rounded to. A value is a whole number of u, as the borders of rounding are: one that is less
-//    than a border b is b - u at most. If they differ, the first may still have c digits itself, and
-//    the second one more, which ends the iteration too: it is next to a number of c digits then.
+//    than a border b is b - u at most. If they differ, the first may still have c digits itself,
+//    and the second one more, which ends the iteration too: it is next to a number of c digits
+//    then.
 constexpr std::int64_t beyond_result = 20;
 constexpr std::int64_t least_digits = 20;
 constexpr double near_power_of_ten = 1e-6;
@@ -78,8 +79,7 @@ class Newton_Values {
 
   // At least 0.1, and with fewer whole digits than are compared.
   bool is_told() const {
-    const double power =
-        Mantissa_Of_Power(Leading_Digits_Of(found_.inverse).mantissa, degree_ - 1);
+    const double power = Mantissa_Of_Power(Leading_Digits_Of(found_.inverse).mantissa, degree_ - 1);
     return root_.power >= -1 && root_.power < limit_ - 2 &&
            root_.mantissa > 1 + near_power_of_ten && root_.mantissa < 10 - near_power_of_ten &&
            power - std::floor(power) > least_behind_first;
@@ -198,8 +198,8 @@ std::optional<Decimal> Newton_Values::end(const Number& start) const {
   if (distance.mantissa == 0) return std::nullopt;
   Distance now{Scaled(distance.mantissa / root_.mantissa, distance.power - root_.power)};
   const std::int64_t compared = compared_digits();
-  const bool is_near = std::fabs(now.e.number()) * static_cast<double>(degree_) <=
-                       greatest_first_distance;
+  const bool is_near =
+      std::fabs(now.e.number()) * static_cast<double>(degree_) <= greatest_first_distance;
   const auto is_clear = [&] { return std::fabs(units(now, compared)) >= clear; };
   if (!is_near || !is_clear()) return std::nullopt;
   while (is_clear()) now = next(now);

@@ -220,8 +220,8 @@ bool Takes_Limbs(const Decimal& base, Word exponent, double limit) {
   constexpr double farthest_power = 1e12;
   if (base.is_token() || !(limit >= 1 && limit <= most_digits)) return false;
   if (std::trunc(limit) != limit || !Can_Multiply()) return false;
-  const double power = std::fabs(static_cast<double>(base.power_of_ten)) +
-                       static_cast<double>(base.digits.size());
+  const double power =
+      std::fabs(static_cast<double>(base.power_of_ten)) + static_cast<double>(base.digits.size());
   return power * static_cast<double>(exponent) <= farthest_power;
 }
 

@@ -148,7 +148,8 @@ std::optional<Root_Neighbourhood> Root_Neighbourhood::Of(const Step_Number& radi
 }
 
 Root_Neighbourhood::Root_Neighbourhood(const Number& radicand, std::size_t limit)
-    : digits_(Digits_Of_Quotient(limit)), found_(Find_Root(radicand, 2, digits_ + beyond_quotient)) {
+    : digits_(Digits_Of_Quotient(limit)),
+      found_(Find_Root(radicand, 2, digits_ + beyond_quotient)) {
   const Leading_Digits root = Leading_Digits_Of(found_.root);
   last_ = root.power + 1 - static_cast<std::int64_t>(digits_);
   most_lost_ = root.mantissa * root.mantissa / 10;
@@ -183,8 +184,8 @@ std::optional<Root_Neighbourhood::Offset> Root_Neighbourhood::offset_of(const Nu
   if (2 * distance >= reach) return offset;
   offset.w = Product(offset.e, found_.inverse, offset.digits);
   const Number one = Short_Number(1, 0);
-  const Number rest = Product(offset.w, Sum(one, offset.w, !offset.w.negative, offset.digits),
-                              offset.digits);
+  const Number rest =
+      Product(offset.w, Sum(one, offset.w, !offset.w.negative, offset.digits), offset.digits);
   offset.g = Sum(one, rest, !rest.negative, p + beyond_quotient);
   return offset;
 }
@@ -226,15 +227,15 @@ std::optional<Step_Number> Root_Neighbourhood::quotient(const Step_Number& value
   return Step_Number(std::move(quotient));
 }
 
-// Let T be s (1 + e). The quotient by T and T together, M, are the twofold root and s e^2 / (1 + e),
-// rounded as above, since T has no digits behind u. So the value behind T, the half of M, is known
-// without T as soon as that last part is known to parts of v. Here it is from the first T on where
-// e^2 is below 10^(8 - D):
+// Let T be s (1 + e). The quotient by T and T together, M, are the twofold root and s e^2 / (1 +
+// e), rounded as above, since T has no digits behind u. So the value behind T, the half of M, is
+// known without T as soon as that last part is known to parts of v. Here it is from the first T on
+// where e^2 is below 10^(8 - D):
 //
 // 1. A value behind another one has e^2 / (2 (1 + e)) for e. A value below the root has a quotient
 //    above it, and the same mean as that. Floats tell e to 10^-15 of itself where it begins, and
-//    grow wrong with each round by (2 + e) / (1 + e) times and a rounding. What the iteration itself
-//    rounds away is less than 2 u of T. That makes less than 10^-3 v of s e^2.
+//    grow wrong with each round by (2 + e) / (1 + e) times and a rounding. What the iteration
+//    itself rounds away is less than 2 u of T. That makes less than 10^-3 v of s e^2.
 // 2. No round up to that T ends the iteration: e was above 10^(7 - D) / 2.1 in each, so that
 //    quotient and mean were as far apart, and to agree they have to be within 10^(5 - D). Each was
 //    closer together than the one before.
@@ -243,8 +244,8 @@ std::optional<Later_Values> Root_Neighbourhood::later_values(const Step_Number& 
   const std::optional<Far_Value> reached = Way_To_Root(value.in_limbs(), found_.root, digits_);
   if (!reached) return std::nullopt;
   const double root = Leading_Digits_Of(found_.root).mantissa;
-  const Leading_Digits square = Scaled(reached->e.mantissa * reached->e.mantissa * root,
-                                       2 * reached->e.power);
+  const Leading_Digits square =
+      Scaled(reached->e.mantissa * reached->e.mantissa * root, 2 * reached->e.power);
   const auto p = static_cast<std::int64_t>(digits_ + guard_digits);
   const double added = Leading_Digits{square.mantissa, square.power + p - 1}.number();
   const double slack = 1e-3 + 2 * added * reached->error;

@@ -46,10 +46,10 @@ class Root_Neighbourhood {
   double lost_by_inverse(const Offset& offset) const;
   Step_Number half_of(const limbs::Number& twice, double to_sum) const;
 
-  std::size_t digits_;       // that a quotient keeps
-  std::int64_t last_;        // the power of ten of the last of them
+  std::size_t digits_;  // that a quotient keeps
+  std::int64_t last_;   // the power of ten of the last of them
   Root_And_Inverse found_;
-  double most_lost_ = 0;     // of a product by a reciprocal that is cut, in thousandths of a unit
+  double most_lost_ = 0;  // of a product by a reciprocal that is cut, in thousandths of a unit
 };
 
 }  // namespace quorvex

@@ -80,10 +80,15 @@ TEST(InverseRoot, WhatStandsBehindAPlaceIsAPartOfItsUnit) {
     std::int64_t last;
     double part;
   };
-  constexpr Case cases[] = {
-      {"12.5", 0, 0.5},    {"12.5", 1, 0.25},  {"12.5", 2, 0.125}, {"12.5", -1, 0},
-      {"12.5", 40, 0},     {"12.5", -40, 0},   {"0.0625", 0, 0.0625},
-      {"3.000000000000000000999", -18, 0.999}, {"5000000000000000000", 19, 0.5}};
+  constexpr Case cases[] = {{"12.5", 0, 0.5},
+                            {"12.5", 1, 0.25},
+                            {"12.5", 2, 0.125},
+                            {"12.5", -1, 0},
+                            {"12.5", 40, 0},
+                            {"12.5", -40, 0},
+                            {"0.0625", 0, 0.0625},
+                            {"3.000000000000000000999", -18, 0.999},
+                            {"5000000000000000000", 19, 0.5}};
   for (const Case& c : cases) {
     EXPECT_NEAR(Part_Behind(Step_Number(c.number).in_limbs(), c.last), c.part, 1e-15)
         << c.number << " behind " << c.last;

@@ -118,8 +118,8 @@ TEST(QuickRoots, ValuesThatRoundsLeadToAreAmongThoseTold) {
     }
     ASSERT_TRUE(std::any_of(later->values.begin(), later->values.end(),
                             [&](const Step_Number& each) { return Is_Equal(each, value); }))
-        << radicand.text() << " at " << limit << ": not " << later->values.front().text() << " after "
-        << later->rounds << " rounds, but " << value.text();
+        << radicand.text() << " at " << limit << ": not " << later->values.front().text()
+        << " after " << later->rounds << " rounds, but " << value.text();
     ++told;
     doubtful += later->values.size() > 1 ? 1 : 0;
   }
