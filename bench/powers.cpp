@@ -53,8 +53,8 @@ void Pi(benchmark::State& state) {
   for (auto step : state) benchmark::DoNotOptimize(engine.qvxPi(digits));
 }
 
-BENCHMARK(Power)->Name("Call/power")->Arg(100)->Arg(1000)->Arg(10'000);
-BENCHMARK(Mpfr_Power)->Name("Mpfr/power")->Arg(100)->Arg(1000)->Arg(10'000);
+BENCHMARK(Power)->Name("Call/power")->Arg(30)->Arg(100)->Arg(300)->Arg(1000)->Arg(10'000);
+BENCHMARK(Mpfr_Power)->Name("Mpfr/power")->Arg(30)->Arg(100)->Arg(300)->Arg(1000)->Arg(10'000);
 BENCHMARK(Pi)->Name("Call/pi")->Arg(32'767);
 
 }  // namespace

@@ -25,6 +25,20 @@ void Square_Root(benchmark::State& state) {
   }
 }
 
+std::string Operand(const benchmark::State& state) {
+  const auto digits = static_cast<std::size_t>(state.range(0));
+  return "7." + bench::Digits(digits - 1, 1);
+}
+
+void Long_Square_Root(benchmark::State& state) {
+  const HostValue number(Operand(state));
+  const HostValue limit(state.range(0));
+  cls_Quorvex engine;
+  for (auto step : state) {
+    benchmark::DoNotOptimize(engine.qvxSQRT(number, Missing, Missing, Missing, limit));
+  }
+}
+
 void Root(benchmark::State& state) {
   const HostValue limit(state.range(0));
   cls_Quorvex engine;
@@ -34,7 +48,7 @@ void Root(benchmark::State& state) {
 }
 
 template <typename Take_Root>
-void Mpfr(benchmark::State& state, const Take_Root& take_root) {
+void Mpfr(benchmark::State& state, const std::string& radicand, const Take_Root& take_root) {
   const auto digits = static_cast<std::size_t>(state.range(0));
   constexpr double bits_a_digit = 3.3219280948873626;
   const auto bits = static_cast<mpfr_prec_t>(static_cast<double>(digits) * bits_a_digit) + 8;
@@ -42,7 +56,7 @@ void Mpfr(benchmark::State& state, const Take_Root& take_root) {
   mpfr_init2(root, bits);
   std::string text(digits + 4, '\0');
   for (auto step : state) {
-    mpfr_set_str(root, "2", 10, MPFR_RNDN);
+    mpfr_set_str(root, radicand.c_str(), 10, MPFR_RNDN);
     take_root(root);
     mpfr_exp_t scale = 0;
     benchmark::DoNotOptimize(mpfr_get_str(text.data(), &scale, 10, digits, root, MPFR_RNDN));
@@ -51,11 +65,15 @@ void Mpfr(benchmark::State& state, const Take_Root& take_root) {
 }
 
 void Mpfr_Square_Root(benchmark::State& state) {
-  Mpfr(state, [](mpfr_ptr root) { mpfr_sqrt(root, root, MPFR_RNDN); });
+  Mpfr(state, "2", [](mpfr_ptr root) { mpfr_sqrt(root, root, MPFR_RNDN); });
+}
+
+void Mpfr_Long_Square_Root(benchmark::State& state) {
+  Mpfr(state, Operand(state), [](mpfr_ptr root) { mpfr_sqrt(root, root, MPFR_RNDN); });
 }
 
 void Mpfr_Root(benchmark::State& state) {
-  Mpfr(state, [](mpfr_ptr root) { mpfr_rootn_ui(root, root, degree, MPFR_RNDN); });
+  Mpfr(state, "2", [](mpfr_ptr root) { mpfr_rootn_ui(root, root, degree, MPFR_RNDN); });
 }
 
 void Common_Divisor(benchmark::State& state) {
@@ -84,6 +102,8 @@ void Gmp_Common_Divisor(benchmark::State& state) {
 
 BENCHMARK(Square_Root)->Name("Call/sqrt")->Arg(30)->Arg(100)->Arg(1000)->Arg(10'000);
 BENCHMARK(Mpfr_Square_Root)->Name("Mpfr/sqrt")->Arg(30)->Arg(100)->Arg(1000)->Arg(10'000);
+BENCHMARK(Long_Square_Root)->Name("Call/sqrtn")->Arg(30)->Arg(100)->Arg(1000)->Arg(10'000);
+BENCHMARK(Mpfr_Long_Square_Root)->Name("Mpfr/sqrtn")->Arg(30)->Arg(100)->Arg(1000)->Arg(10'000);
 BENCHMARK(Root)->Name("Call/root")->Arg(30)->Arg(100)->Arg(1000)->Arg(10'000);
 BENCHMARK(Mpfr_Root)->Name("Mpfr/root")->Arg(30)->Arg(100)->Arg(1000)->Arg(10'000);
 BENCHMARK(Common_Divisor)->Name("Call/gcd")->Arg(100)->Arg(1000);

@@ -97,20 +97,26 @@ def print_powers(times, peer):
     print("|---|---:|---:|---:|---:|---:|")
     for size in sizes(times, "Call/power"):
         ours = times[f"Call/power/{size}"]
-        peers = [times[f"Mpfr/power/{size}"], peer[f"power/{size}"]]
+        mpfr, dec = times[f"Mpfr/power/{size}"], peer.get(f"power/{size}")
+        best = mpfr if dec is None else min(mpfr, dec)
         print(
-            f"| qvxPOWER | {int(size):,} | {min(peers) / ours:.1f} | {unit(ours)} "
-            f"| {' | '.join(unit(time) for time in peers)} |"
+            f"| qvxPOWER | {int(size):,} | {best / ours:.1f} | {unit(ours)} | {unit(mpfr)} "
+            f"| {'' if dec is None else unit(dec)} |"
         )
     for size in sizes(times, "Call/pi"):
         print(f"| qvxPi | {int(size):,} | | {unit(times[f'Call/pi/{size}'])} | | |")
 
 
 def print_roots(times, peer):
-    """Whole calls of the roots of 2, and of common divisors, which the last peer takes of its int."""
+    """Whole calls of roots, and of common divisors, which the last peer takes of its int."""
     print("| call | digits | best peer / ours | ours | MPFR, GMP | Python |")
     print("|---|---:|---:|---:|---:|---:|")
-    calls = {"sqrt": ("qvxSQRT", "Mpfr"), "root": ("qvxROOT", "Mpfr"), "gcd": ("qvxGCD", "Gmp")}
+    calls = {
+        "sqrt": ("qvxSQRT(2)", "Mpfr"),
+        "sqrtn": ("qvxSQRT", "Mpfr"),
+        "root": ("qvxROOT", "Mpfr"),
+        "gcd": ("qvxGCD", "Gmp"),
+    }
     for name, (call, library) in calls.items():
         for size in sizes(times, f"Call/{name}"):
             ours, native = times[f"Call/{name}/{size}"], times[f"{library}/{name}/{size}"]

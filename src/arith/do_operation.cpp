@@ -12,6 +12,7 @@
 #include "host/run_time_failure.h"
 #include "text/decimal.h"
 #include "text/format_result.h"
+#include "text/guard_digits.h"
 #include "text/operand.h"
 #include "text/tokens.h"
 
@@ -49,8 +50,7 @@ NumberText Operate_On_Texts(std::int16_t Operation, std::string_view number1,
                             const Operation_Flags& flags) {
   const Operand operand1(number1);
   const Operand operand2(number2);
-  // One guard digit here, and formatting keeps one more: so results have two beyond the limit.
-  options.maxSD += 1;
+  options.maxSD = With_Guard_Digit(options.maxSD);
   if (flags.intermediate && !options.FormatDecimalPlace.is_missing()) {
     options.FormatDecimalPlace = Missing;
   }

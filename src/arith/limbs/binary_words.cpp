@@ -118,6 +118,7 @@ limbs::Number To_Decimal(Span whole, std::int64_t shift, bool negative) {
 }
 
 void Multiply_By_Fraction(Span& a, const Word* fraction_end, Word* scratch) {
+  Expects(a.count > 0 && scratch != a.words && fraction_end != nullptr);
   // Rows of products whose high part reaches the place below the last. The others would add less
   // than a unit each there.
   std::fill_n(scratch, a.count + 1, 0);

@@ -6,6 +6,7 @@
 #include "expects.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "text/guard_digits.h"
 #include "text/tokens.h"
 
 namespace quorvex {
@@ -35,7 +36,7 @@ Decimal Product(const Decimal& a, const Decimal& b, double limit) {
                   a.negative != b.negative};
   if (product.is_token()) return Decimal_Token(value_token);
   Strip_Zeros(product);
-  Round(product, limit + 2);
+  Round(product, Digits_Of_Result(limit));
   Check_Size(product);
   return product;
 }

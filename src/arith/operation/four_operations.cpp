@@ -1,7 +1,6 @@
 #include "arith/operation/four_operations.h"
 
 #include <algorithm>
-#include <cmath>
 #include <string_view>
 #include <utility>
 
@@ -13,6 +12,7 @@
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "text/format_result.h"
+#include "text/guard_digits.h"
 #include "text/options.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
@@ -108,6 +108,12 @@ Decimal Operate(const type_SignOp& reduced, double limit) {
   }
 }
 
+type_Restrictionator Intermediate_Format(double limit) {
+  type_Restrictionator options;
+  options.maxSD = With_Guard_Digit(Up_To_Ceiling(limit));
+  return options;
+}
+
 NumberText Intermediate(std::int16_t Operation, std::string_view number1, std::string_view number2,
                         double limit) {
   return With_Handler(
@@ -115,9 +121,7 @@ NumberText Intermediate(std::int16_t Operation, std::string_view number1, std::s
         if (const auto token = Token_Of_Operands(number1, number2)) return NumberText(*token);
         const Operand operand1(number1);
         const Operand operand2(number2);
-        type_Restrictionator options;
-        // The guard digit of an operation; formatting adds another one.
-        options.maxSD = std::fmin(limit, maximum_digits) + 1;
+        const type_Restrictionator options = Intermediate_Format(limit);
         Decimal result = Operate(Resolve_Signs(Operation, operand1, operand2), options.maxSD);
         return Format_Result(std::move(result), options, true);
       },

@@ -7,6 +7,7 @@
 #include "arith/operation/resolve_signs.h"
 #include "host/host_value.h"
 #include "text/decimal.h"
+#include "text/options.h"
 
 namespace quorvex {
 
@@ -15,6 +16,10 @@ namespace quorvex {
 /// other two give a token for it, or what the digit routines make of it. An unknown operation gives
 /// nothing.
 Decimal Operate(const type_SignOp& reduced, double limit);
+
+/// What the result of an operation at a limit is formatted by, where it is an intermediate value:
+/// the limit with the guard digit of an operation, the ceiling of digits at most.
+type_Restrictionator Intermediate_Format(double limit);
 
 /// An intermediate value of one of the four operations at a limit: as `Do_Operation` gives it to a
 /// worker that passes no options.

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "expects.h"
 #include "host/conversions.h"
 #include "text/compare_numbers.h"
 #include "text/digit_runs.h"
@@ -76,6 +77,7 @@ bool Step_Number::is_negative() const {
 }
 
 std::int64_t Step_Number::leading_power() const {
+  Expects(!is_token());
   if (!text_) return number_.is_zero() ? 0 : limbs::Leading_Power(number_);
   const Operand number(*text_);
   const Decimal_Parts& parts = number.parts();
@@ -100,6 +102,7 @@ Decimal Read_Decimal(const Step_Number& number) {
 }
 
 std::int64_t Plain_Length(const Step_Number& number) {
+  Expects(!number.is_token());
   return number.is_in_limbs() ? limbs::Plain_Length(number.in_limbs())
                               : Plain_Length(number.decimal());
 }

@@ -12,7 +12,8 @@ namespace quorvex {
 /// digit, and forms no text where both operands are held in limbs and the limit is a whole number
 /// from 1 to a million; products know no upper bound.
 ///
-/// Powers and roots at a limit stand in `powers`, where they are worked out by these.
+/// Powers and roots at a limit stand in `powers`. Roots are worked out by these steps; a power is a
+/// chain of products of its own, which are rounded alike.
 class Steps {
  public:
   explicit Steps(double limit);

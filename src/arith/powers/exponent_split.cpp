@@ -3,12 +3,15 @@
 #include <charconv>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 #include <utility>
 
 #include "arith/limbs/limb_number.h"
 #include "arith/operation/steps.h"
+#include "expects.h"
 #include "host/platform.h"
+#include "text/digit_runs.h"
 #include "text/primitives.h"
 
 namespace quorvex {
@@ -19,28 +22,6 @@ Step_Number Whole_Quotient(const Step_Number& a, const Step_Number& b, const Ste
   const Step_Number quotient = steps.quotient(a, b);
   if (!quotient.is_in_limbs()) return Step_Number(Integer_Part_Text(quotient.text()));
   return Step_Number(limbs::Floor(quotient.in_limbs()));
-}
-
-// The exponent's own digits, a half of it, and what divisions need so that they never round up to
-// a whole number: the fraction of n / a is at most 1 - 1/a.
-bool Is_Exact(const NumberText& n, double maxSD) {
-  return n.size() <= std::numeric_limits<std::uint64_t>::digits10 - 1 &&
-         maxSD >= static_cast<double>(n.size()) + 2;
-}
-
-Exponent_Split Split_Exactly(const NumberText& text) {
-  std::uint64_t n = 0;
-  std::from_chars(text.data(), text.data() + text.size(), n);
-  std::uint64_t best = n;
-  std::uint64_t A = n;
-  // Ends before the half is 0: by 1 the split costs n - 1, and by n / 2 it cost less than that.
-  for (std::uint64_t a = n / 2; a > 0; a /= 2) {
-    const std::uint64_t cost = a - 1 + (n / a - 1) + n % a;
-    if (best <= cost) break;
-    best = cost;
-    A = a;
-  }
-  return {std::to_string(A), std::to_string(n / A), std::to_string(n % A)};
 }
 
 }  // namespace
@@ -68,8 +49,36 @@ Exponent_Split Split_Exponent_By_Steps(const NumberText& text, double maxSD) {
   }
 }
 
+// The exponent's own digits, a half of it, and what divisions need so that they never round up to
+// a whole number: the fraction of n / a is at most 1 - 1/a.
+std::optional<std::uint64_t> Exactly_Split(const NumberText& n, double maxSD) {
+  constexpr std::size_t most_digits = std::numeric_limits<std::uint64_t>::digits10 - 1;
+  const bool is_plain = !n.empty() && n.size() <= most_digits && !Has_Non_Digit(n);
+  if (!is_plain || maxSD < static_cast<double>(n.size()) + 2) return std::nullopt;
+  std::uint64_t number = 0;
+  std::from_chars(n.data(), n.data() + n.size(), number);
+  return number;
+}
+
+Short_Split Split_Exponent(std::uint64_t n) {
+  Expects(n > 3);
+  std::uint64_t best = n;
+  std::uint64_t A = n;
+  // Ends before the half is 0: by 1 the split costs n - 1, and by n / 2 it cost less than that.
+  for (std::uint64_t a = n / 2; a > 0; a /= 2) {
+    const std::uint64_t cost = a - 1 + (n / a - 1) + n % a;
+    if (best <= cost) break;
+    best = cost;
+    A = a;
+  }
+  return {A, n / A, n % A};
+}
+
 Exponent_Split Split_Exponent(const NumberText& n, double maxSD) {
-  return Is_Exact(n, maxSD) ? Split_Exactly(n) : Split_Exponent_By_Steps(n, maxSD);
+  const std::optional<std::uint64_t> exact = Exactly_Split(n, maxSD);
+  if (!exact) return Split_Exponent_By_Steps(n, maxSD);
+  const Short_Split split = Split_Exponent(*exact);
+  return {std::to_string(split.A), std::to_string(split.B), std::to_string(split.C)};
 }
 
 }  // namespace quorvex

@@ -1,6 +1,9 @@
 // The split of an exponent that a power is worked out by.
 #pragma once
 
+#include <cstdint>
+#include <optional>
+
 #include "host/host_value.h"
 
 namespace quorvex {
@@ -23,5 +26,17 @@ Exponent_Split Split_Exponent(const NumberText& n, double maxSD);
 
 /// The same, always by steps at the limit.
 Exponent_Split Split_Exponent_By_Steps(const NumberText& n, double maxSD);
+
+/// The same of an exponent that a machine word holds, for limits at which its division is exact.
+struct Short_Split {
+  std::uint64_t A;
+  std::uint64_t B;
+  std::uint64_t C;
+};
+
+Short_Split Split_Exponent(std::uint64_t n);
+
+/// The exponent as such a word, if it is one above 0 and the limit allows it.
+std::optional<std::uint64_t> Exactly_Split(const NumberText& n, double maxSD);
 
 }  // namespace quorvex

@@ -1,12 +1,15 @@
 #include "arith/powers/mean_root.h"
 
+#include <optional>
 #include <utility>
 
 #include "arith/operation/steps.h"
+#include "arith/powers/root_neighbourhood.h"
 #include "arith/powers/root_pair.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "text/guard_digits.h"
 #include "text/tokens.h"
 
 namespace quorvex {
@@ -25,10 +28,15 @@ bool Is_Below_Digits(const Step_Number& difference, const Step_Number& value, do
 // Counts how often the difference of the two has not become less.
 class Stalls {
  public:
+  Stalls() = default;
+  /// After so many rounds, each of which had a smaller difference than the one before.
+  explicit Stalls(int rounds) : seen_(rounds) {}
+
   /// The count, if the round stalls; otherwise 0.
   int see(const Step_Number& difference) {
     ++seen_;
-    const bool stalls = seen_ > differences_before_stalls && Is_At_Least(difference, last_);
+    const bool stalls =
+        last_ && seen_ > differences_before_stalls && Is_At_Least(difference, *last_);
     last_ = difference;
     return stalls ? ++count_ : 0;
   }
@@ -36,7 +44,7 @@ class Stalls {
  private:
   int seen_ = 0;
   int count_ = 0;
-  Step_Number last_{0};
+  std::optional<Step_Number> last_;
 };
 
 // The two values of a round.
@@ -51,16 +59,6 @@ Step_Number Distance(const Step_Number& a, const Step_Number& b, const Steps& st
   return difference;
 }
 
-// False where a step is a token.
-bool Take_Round(const Step_Number& radicand, const Steps& steps, Round_Values& values) {
-  values.quotient = steps.quotient(radicand, values.mean);
-  if (values.quotient.is_token()) return false;
-  steps.add(values.mean, values.quotient);
-  if (values.mean.is_token()) return false;
-  steps.divide(values.mean, Step_Number(2));
-  return !values.mean.is_token();
-}
-
 bool May_Settle(const Round_Values& values, double maxSD) {
   return !values.quotient.is_negative() && May_Be_Alike(values.quotient, values.mean, maxSD);
 }
@@ -69,35 +67,103 @@ Decimal Token_Of_Round(const Round_Values& values) {
   return Decimal_Token((values.quotient.is_token() ? values.quotient : values.mean).text());
 }
 
-}  // namespace
+// Whether the square is the radicand: nothing is left to be found then.
+bool Is_Square_Of(const Step_Number& radicand, const Step_Number& root, const Steps& steps) {
+  if (!radicand.is_in_limbs() || !root.is_in_limbs()) return false;
+  return Is_Equal(steps.product(root, root), radicand);
+}
 
-Decimal Mean_Root(const Step_Number& radicand, const Step_Number& start, double maxSD) {
-  const Steps steps(maxSD + 1);
+bool Is_Same(const Decimal& a, const Decimal& b) {
+  return a.digits == b.digits && a.power_of_ten == b.power_of_ten && a.negative == b.negative;
+}
+
+class Mean_Iteration {
+ public:
+  Mean_Iteration(const Step_Number& radicand, const Step_Number& start, double maxSD)
+      : radicand_(radicand), maxSD_(maxSD), steps_(With_Guard_Digit(maxSD)) {
+    if (!Is_Square_Of(radicand, start, steps_)) {
+      near_ = Root_Neighbourhood::Of(radicand, steps_.limit());
+    }
+  }
+
+  Decimal root(const Step_Number& start) const {
+    if (near_) {
+      if (const auto later = near_->later_values(start)) {
+        if (auto root = common_root(*later)) return *std::move(root);
+      }
+    }
+    return iterate(start, Stalls());
+  }
+
+ private:
+  // What all of the values lead to.
+  std::optional<Decimal> common_root(const Later_Values& later) const {
+    std::optional<Decimal> common;
+    for (const Step_Number& value : later.values) {
+      Decimal root = iterate(value, Stalls(later.rounds));
+      if (common && !Is_Same(*common, root)) return std::nullopt;
+      common = std::move(root);
+    }
+    return common;
+  }
+
+  Decimal iterate(const Step_Number& start, Stalls stalls) const;
+  bool take_round(Round_Values& values) const;
+
+  const Step_Number& radicand_;
+  double maxSD_;
+  Steps steps_;
+  std::optional<Root_Neighbourhood> near_;
+};
+
+// False where a step is a token.
+bool Mean_Iteration::take_round(Round_Values& values) const {
+  if (near_) {
+    if (auto quotient = near_->quotient(values.mean)) {
+      values.quotient = *std::move(quotient);
+      values.mean = near_->mean(values.mean, values.quotient);
+      return true;
+    }
+  }
+  values.quotient = steps_.quotient(radicand_, values.mean);
+  if (values.quotient.is_token()) return false;
+  steps_.add(values.mean, values.quotient);
+  if (values.mean.is_token()) return false;
+  steps_.divide(values.mean, Step_Number(2));
+  return !values.mean.is_token();
+}
+
+Decimal Mean_Iteration::iterate(const Step_Number& start, Stalls stalls) const {
   Round_Values values{Step_Number(0), start};
-  Stalls stalls;
   for (;;) {
     Yield();
-    if (!Take_Round(radicand, steps, values)) return Token_Of_Round(values);
-    if (May_Settle(values, maxSD)) {
-      Root_Pair pair(values.quotient, values.mean, maxSD);
+    if (!take_round(values)) return Token_Of_Round(values);
+    if (May_Settle(values, maxSD_)) {
+      Root_Pair pair(values.quotient, values.mean, maxSD_);
       if (pair.settle()) return std::move(pair).root();
       // Limits below 0 and next to the ceiling can leave nothing.
       if (pair.is_empty()) {
         throw Run_Time_Failure(Failure_Number::type_mismatch, "A value of a root has no digits.");
       }
     }
-    const Step_Number difference = Distance(values.quotient, values.mean, steps);
+    const Step_Number difference = Distance(values.quotient, values.mean, steps_);
     if (difference.is_token()) return Decimal_Token(difference.text());
     const int count = stalls.see(difference);
     if (count < stalls_before_end) continue;
     // Neighbours that never meet have the root between them.
-    if (Is_Below_Digits(difference, values.quotient, maxSD - 1)) {
-      Root_Pair pair(values.quotient, values.mean, maxSD);
+    if (Is_Below_Digits(difference, values.quotient, maxSD_ - 1)) {
+      Root_Pair pair(values.quotient, values.mean, maxSD_);
       pair.part();
       return std::move(pair).root();
     }
     if (count > stalls_before_end) return Decimal_Token(num_token);
   }
+}
+
+}  // namespace
+
+Decimal Mean_Root(const Step_Number& radicand, const Step_Number& start, double maxSD) {
+  return Mean_Iteration(radicand, start, maxSD).root(start);
 }
 
 }  // namespace quorvex

@@ -7,7 +7,9 @@
 #include <utility>
 #include <vector>
 
+#include "arith/powers/newton_end.h"
 #include "arith/powers/root_pair.h"
+#include "expects.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
@@ -185,7 +187,9 @@ class Newton_Iteration {
 
 Decimal Newton_Root(const Step_Number& radicand, const Step_Number& degree, Step_Number start,
                     const Newton_Limits& limits, Power_Step power) {
+  Expects(!degree.is_negative());
   Refuse_Endless_Way(Least_Work(radicand, degree, start, limits));
+  if (auto end = Newton_End(radicand, degree, start, limits)) return *std::move(end);
   const Newton_Iteration iteration(radicand, degree, Steps(limits.steps), power);
   const double compared = limits.maxSD - 1;
   History history(compared);

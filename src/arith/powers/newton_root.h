@@ -13,10 +13,11 @@ using Power_Step = Step_Number (*)(const Step_Number& base, const Step_Number& e
                                    const Steps& steps);
 
 /// Iterates from `start` until two values in a row agree to `maxSD` less one characters, and gives
-/// the first of the two. A value of 0 is replaced by the time of day, which begins anew from
-/// somewhere. A token of a step is the result, and so is "#NUM!" where values come back too often
-/// among the last ten. Fails with too_complex where they come back in a longer circle, and at once
-/// where the way to the root can be seen to be longer than anybody waits.
+/// the first of the two, of which `maxSD` and one digit count: others may be left out. A value of 0
+/// is replaced by the time of day, which begins anew from somewhere. A token of a step is the
+/// result, and so is "#NUM!" where values come back too often among the last ten. Fails with
+/// too_complex where they come back in a longer circle, and at once where the way to the root can
+/// be seen to be longer than anybody waits.
 Decimal Newton_Root(const Step_Number& radicand, const Step_Number& degree, Step_Number start,
                     const Newton_Limits& limits, Power_Step power);
 

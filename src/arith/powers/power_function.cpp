@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "arith/fractions/reduce_fraction.h"
-#include "arith/operation/decimal_product.h"
-#include "arith/powers/exponent_split.h"
+#include "arith/operation/four_operations.h"
+#include "arith/powers/power_chain.h"
 #include "arith/powers/root_function.h"
 #include "host/conversions.h"
 #include "host/platform.h"
@@ -18,95 +18,13 @@
 #include "text/compare_numbers.h"
 #include "text/digit_runs.h"
 #include "text/format_result.h"
+#include "text/guard_digits.h"
 #include "text/options.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
 
 namespace quorvex {
 namespace {
-
-constexpr int deepest_split = 1000;
-
-// The numbers of a chain stay digits with a count of zeros: huge exponents write none, and the
-// library of products takes digits as fast as limbs are multiplied, at any length.
-Decimal Digit(char digit) {
-  return {NumberText(1, digit)};
-}
-
-bool Is_One(const Decimal& number) {
-  return number.digits == "1" && number.power_of_ten == 0 && !number.negative;
-}
-
-// Whether a whole number is greater than three. Fails for one that is a token.
-bool Is_Split(const NumberText& exponent) {
-  const bool is_plain = !exponent.empty() && exponent.front() != '0' && !Has_Non_Digit(exponent);
-  if (is_plain || exponent == "0") return exponent.size() > 1 || exponent.front() > '3';
-  return Is_Greater(exponent, "3");
-}
-
-Decimal Reciprocal(const Decimal& base, double limit) {
-  if (base.is_token()) return base;
-  return Steps(limit).quotient(Step_Number(1), Step_Number(base)).decimal();
-}
-
-// The product of one to three factors. The first one is multiplied by 1, which rounds it.
-Decimal Multiply_Out(const Decimal& base, int factors, double limit) {
-  if (factors == 1) return Product(Digit('1'), base, limit);
-  Decimal rounded;
-  const bool is_cut = static_cast<double>(base.digits.size()) > limit + 2;
-  if (is_cut) {
-    rounded = base;
-    Round(rounded, limit + 2);
-  }
-  Decimal product = Product(is_cut ? rounded : base, base, limit);
-  return factors == 2 ? product : Product(product, base, limit);
-}
-
-Decimal Integer_Power(const Decimal& base, const NumberText& n, double maxSD, int depth);
-
-Decimal Positive_Power(const Decimal& base, const NumberText& exponent, double maxSD, double limit,
-                       int depth) {
-  if (Is_Split(exponent)) return Integer_Power(base, exponent, maxSD, depth);
-  return Multiply_Out(base, exponent.front() - '0', limit);
-}
-
-// A whole power of a number other than 0.
-Decimal Whole_Power(const Decimal& base, const NumberText& exponent, double maxSD,
-                    double working_digits, int depth) {
-  if (exponent == "0" || Is_One(base)) return Digit('1');
-  if (exponent == "1") return base;
-  const double limit = working_digits + maxSD;
-  if (!exponent.starts_with('-')) return Positive_Power(base, exponent, maxSD, limit, depth);
-  return Positive_Power(Reciprocal(base, limit), exponent.substr(1), maxSD, limit, depth);
-}
-
-// The power as `Do_Operation` gives it at the limit.
-Decimal Power_At(const Decimal& base, const NumberText& exponent, double limit, int depth) {
-  if (base.is_token()) return base;
-  const double working_digits =
-      static_cast<double>(Plain_Length(base)) + static_cast<double>(exponent.size());
-  Decimal power = Whole_Power(base, exponent, limit + 1, working_digits, depth + 1);
-  Round(power, limit + 2);
-  return power;
-}
-
-Decimal Partial_Power(const Decimal& base, const NumberText& n, double maxSD, int depth) {
-  return Is_Split(n) ? Integer_Power(base, n, maxSD, depth + 1) : Power_At(base, n, maxSD, depth);
-}
-
-// base to the n = A * B + C, every product rounded at the limit.
-Decimal Integer_Power(const Decimal& base, const NumberText& n, double maxSD, int depth) {
-  if (depth > deepest_split) {
-    throw Run_Time_Failure(Failure_Number::too_complex,
-                           "An exponent is too long for the limit of digits.");
-  }
-  const Exponent_Split split = Split_Exponent(n, maxSD);
-  Decimal power = Partial_Power(base, split.A, maxSD, depth);
-  if (!power.is_token()) power = Partial_Power(power, split.B, maxSD, depth);
-  if (power.is_token()) return power;
-  const Decimal rest = Partial_Power(base, split.C, maxSD, depth);
-  return Is_One(rest) ? power : Product(power, rest, maxSD);
-}
 
 // The root of the fraction's divisor, raised to its numerator.
 Decimal Fractional_Power(const Decimal& base, const NumberText& exponent, double limit) {
@@ -135,25 +53,20 @@ bool Is_Too_Long(const Decimal& number) {
 
 // The power of a number in normal form.
 Decimal Raise(Decimal base, const NumberText& exponent, double maxSD, double working_digits) {
-  if (exponent == "0") return Digit('1');
+  if (exponent == "0") return {"1"};
   if (base.digits == "0") return base;
-  if (Is_One(base) || exponent == "1") return base;
+  const bool is_one = base.digits == "1" && base.power_of_ten == 0 && !base.negative;
+  if (is_one || exponent == "1") return base;
   if (Has_Fraction(exponent)) {
     return base.negative ? Decimal_Token(num_token)
                          : Fractional_Power(base, exponent, working_digits + maxSD);
   }
-  Decimal power = Whole_Power(base, exponent, maxSD, working_digits, 0);
+  Decimal power = Whole_Power(base, exponent, maxSD, working_digits);
   return Is_Too_Long(power) ? Decimal_Token(num_token) : power;
 }
 
-// With the guard digit that operations add.
-type_Restrictionator Step_Formats(double limit) {
-  type_Restrictionator options;
-  options.maxSD = std::fmin(limit, maximum_digits) + 1;
-  return options;
-}
-
-// An operation between two steps, rounded as formatting rounds.
+// An operation between two steps: what `Intermediate` is to texts. Digits are rounded as formatting
+// rounds them, and no text is formed.
 template <typename Operation>
 Step_Number Take_Step(const Step_Number& a, const Step_Number& b, double limit,
                       const Operation& operation) {
@@ -162,14 +75,14 @@ Step_Number Take_Step(const Step_Number& a, const Step_Number& b, double limit,
         if (a.is_token() || b.is_token()) {
           if (const auto token = Token_Of_Operands(a.text(), b.text())) return Step_Number(*token);
         }
-        const type_Restrictionator options = Step_Formats(limit);
+        const type_Restrictionator options = Intermediate_Format(limit);
         Decimal result = operation(options.maxSD);
         if (Has_Token_Mark(result.digits)) return Step_Number(std::string_view(result.digits));
         if (result.digits.empty() || Has_Non_Digit(result.digits)) {
           return Step_Number(Format_Result(std::move(result), options, true));
         }
         Strip_Zeros(result);
-        Round(result, options.maxSD + 1);
+        Round(result, Digits_Formatted(options.maxSD));
         return Step_Number(result);
       },
       [](const Run_Time_Failure&) { return Step_Number(value_token); });
@@ -207,7 +120,8 @@ bool Is_Low_Power(const Step_Number& base, const Step_Number& exponent, double l
 }
 
 Step_Number Low_Power(const Step_Number& base, const Step_Number& exponent, double limit) {
-  const Steps products(limit + 1 + Length_Without_Separator(base) + 1);
+  // The exponent's one digit and those of the base are guard digits.
+  const Steps products(With_Guard_Digit(limit) + Length_Without_Separator(base) + 1);
   return With_Handler(
       [&] {
         Yield();

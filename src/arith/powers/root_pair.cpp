@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "arith/limbs/limb_number.h"
+#include "expects.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
 #include "text/digit_runs.h"
@@ -54,6 +55,7 @@ Shown_Number::Shown_Number(const Step_Number& number) {
 }
 
 char Shown_Number::at(std::size_t place) const {
+  Expects(place < length());
   if (has_separator_ && place == integer_digits_) return '.';
   return digits_[digits_in(place + 1) - 1];
 }
