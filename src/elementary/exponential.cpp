@@ -32,8 +32,8 @@ std::int32_t Multiple_Of_Ln2(const NumberText& number, const NumberText& ln2) {
 }
 
 constexpr Series_Rule rule{.stride = 1,
-                           .divisor = [](std::uint64_t k) { return k; },
-                           .keeps_power = false,
+                           .power_divisor = [](std::uint64_t k) { return k; },
+                           .term_divisor = nullptr,
                            .ends_by_power = true,
                            .alternates = false};
 

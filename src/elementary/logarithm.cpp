@@ -85,8 +85,8 @@ bool Adds_Nothing(const Step_Number& sum, const Step_Number& term, double limit)
 }
 
 constexpr Series_Rule rule{.stride = 2,
-                           .divisor = [](std::uint64_t k) { return k; },
-                           .keeps_power = true,
+                           .power_divisor = nullptr,
+                           .term_divisor = [](std::uint64_t k) { return k; },
                            .ends_by_power = false,
                            .alternates = false};
 

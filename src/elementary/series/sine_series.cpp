@@ -22,8 +22,8 @@ bool Is_Zero_As_Float(const Step_Number& x) {
 }
 
 constexpr Series_Rule rule{.stride = 2,
-                           .divisor = [](std::uint64_t k) { return k * (k - 1); },
-                           .keeps_power = false,
+                           .power_divisor = [](std::uint64_t k) { return k * (k - 1); },
+                           .term_divisor = nullptr,
                            .ends_by_power = true,
                            .alternates = true};
 

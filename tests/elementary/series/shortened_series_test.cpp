@@ -93,8 +93,8 @@ TEST(Shortened_Series, Sums_Up_As_Exact_Steps_Do) {
 
 // What differs is that some divisors are exact, and that powers are halved at least.
 constexpr Series_Rule geometric{.stride = 1,
-                                .divisor = [](std::uint64_t) { return std::uint64_t{1}; },
-                                .keeps_power = true,
+                                .power_divisor = nullptr,
+                                .term_divisor = nullptr,
                                 .ends_by_power = true,
                                 .alternates = false};
 
