@@ -49,6 +49,20 @@ struct Parted_Column {
 
 }  // namespace
 
+Row_Table::Row_Table(std::size_t rows, std::size_t width) : width_(width) {
+  Require_Memory(static_cast<double>(rows * width) * sizeof(Limb));
+  limbs_.resize(rows * width);
+}
+
+Number Product_Down_To(std::int64_t low, const Number& a, const Number& b) {
+  Number product;
+  if (a.is_zero() || b.is_zero()) return product;
+  const std::int64_t leading = Leading_Power(a) + Leading_Power(b) + 1;
+  const std::int64_t kept = leading - low * static_cast<std::int64_t>(digits) + 1;
+  Multiply(a, b, static_cast<std::size_t>(std::max<std::int64_t>(kept, 1)), product);
+  return product;
+}
+
 void To_Row(const Number& number, std::int64_t low, std::size_t count, Limb* row) {
   Expects(number.top() <= low + static_cast<std::int64_t>(count));
   std::fill_n(row, count, 0);

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <vector>
 
 #include "arith/limbs/limb_number.h"
 #include "arith/limbs/row_divisor.h"
@@ -15,6 +16,25 @@ inline constexpr std::size_t rows_at_once = 4;
 /// A limb of a row whose carries are not settled, from -1 to 1.5 or from 0 to 2 bases, or one of a
 /// sum of some rows.
 using Loose_Limb = std::int64_t;
+
+/// Rows of one length.
+class Row_Table {
+ public:
+  /// Fails with out_of_memory.
+  Row_Table(std::size_t rows, std::size_t width);
+
+  std::size_t width() const { return width_; }
+  Limb* row(std::size_t index) { return limbs_.data() + index * width_; }
+  const Limb* row_end(std::size_t index) const { return limbs_.data() + (index + 1) * width_; }
+
+ private:
+  std::size_t width_;
+  std::vector<Limb> limbs_;
+};
+
+/// The product of two numbers, rounded at the limb at the power `low` of the base: wrong by half
+/// a unit of it at most.
+Number Product_Down_To(std::int64_t low, const Number& a, const Number& b);
 
 /// The limbs of a magnitude from the power `low` of the base on; those below are cut off.
 void To_Row(const Number& number, std::int64_t low, std::size_t count, Limb* row);

@@ -36,6 +36,10 @@ double Shortened_Series::Add_Doubt(double doubt) {
   return std::exchange(added_doubt, doubt);
 }
 
+double Shortened_Series::Added_Doubt() {
+  return added_doubt;
+}
+
 Shortened_Series::Shortened_Series(const Series_Rule& rule, const Step_Number& factor, double limit,
                                    std::int64_t last_power, std::uint64_t last_k)
     : rule_(rule), factor_(factor), limit_(limit), last_power_(last_power), last_k_(last_k) {

@@ -37,6 +37,7 @@ class Shortened_Series {
   /// What tests add to the bound of all errors, in units of a sum's last place; gives what was
   /// added before.
   static double Add_Doubt(double doubt);
+  static double Added_Doubt();
 
   /// True if the powers are at least halved by each step, and all that are still to come cannot
   /// move the sum's leading digit to another place.

@@ -18,6 +18,7 @@ namespace {
 using limbs::Limb;
 using limbs::Number;
 using limbs::Row_Divisor;
+using limbs::Row_Table;
 using limbs::rows_at_once;
 
 constexpr auto limb_digits = static_cast<std::int64_t>(limbs::digits);
@@ -37,33 +38,9 @@ Number Scaled(const Number& number, std::int64_t shift) {
   return scaled;
 }
 
-// A product wrong by less than half a unit of the limb at the power `low` of the base.
-Number Product(const Number& a, const Number& b, std::int64_t low) {
-  if (a.is_zero() || b.is_zero()) return {};
-  const std::int64_t leading = limbs::Leading_Power(a) + limbs::Leading_Power(b) + 1;
-  const std::int64_t digits = std::max<std::int64_t>(leading - low * limb_digits + 1, 1);
-  Number product;
-  limbs::Multiply(a, b, static_cast<std::size_t>(digits), product);
-  return product;
-}
-
 void Add(Number& sum, const Number& other) {
   limbs::Add(sum, other, other.negative, all_digits, sum);
 }
-
-// Rows of limbs of one length.
-class Table {
- public:
-  Table(std::size_t rows, std::size_t width) : width_(width), limbs_(rows * width) {}
-
-  Limb* row(std::size_t index) { return limbs_.data() + index * width_; }
-  const Limb* row_end(std::size_t index) const { return limbs_.data() + (index + 1) * width_; }
-  std::size_t width() const { return width_; }
-
- private:
-  std::size_t width_;
-  std::vector<Limb> limbs_;
-};
 
 std::size_t Rows_For(std::uint64_t terms, std::size_t width) {
   const double root = std::sqrt(static_cast<double>(terms));
@@ -118,8 +95,8 @@ class Groups {
     for (std::size_t index = 0; index < size_; ++index) {
       const std::size_t half = index / 2;
       Number power = index == 0       ? factor
-                     : index % 2 == 1 ? Product(powers[half], powers[half], low)
-                                      : Product(last_baby_, factor, low);
+                     : index % 2 == 1 ? limbs::Product_Down_To(low, powers[half], powers[half])
+                                      : limbs::Product_Down_To(low, last_baby_, factor);
       limbs::To_Row(power, low, babies_.width(), babies_.row(index));
       const std::int64_t zeros = power.is_zero() ? -low : std::min(-power.top(), -low);
       zeros_[index] = static_cast<std::size_t>(zeros);
@@ -134,7 +111,7 @@ class Groups {
     std::size_t count;
   };
 
-  Part part_of(Table& table, std::size_t first, std::size_t ways) {
+  Part part_of(Row_Table& table, std::size_t first, std::size_t ways) {
     Part part{{}, width_ - std::min(zeros_[first], width_)};
     for (std::size_t way = 0; way < ways; ++way) {
       part.rows[way] = table.row(first + way) + (table.width() - width_);
@@ -163,7 +140,7 @@ class Groups {
       return false;
     }
     const Number whole = power_divisors.empty() ? sum_of_terms(count) : sum_of(power_divisors);
-    Add(sum_, Product(giant_, whole, -1));
+    Add(sum_, limbs::Product_Down_To(-1, giant_, whole));
     k_ += count * rule_.stride;
     left_ -= count;
     if (left_ > 0) next_giant(!power_divisors.empty());
@@ -197,7 +174,7 @@ class Groups {
   // Terms of the group that are a row times what stands in the tables. False where one may be
   // rounded to either side.
   bool round_terms(const Limb* row, std::size_t first, std::size_t count) {
-    const Table& table = rule_.term_divisor == nullptr ? babies_ : divided_;
+    const Row_Table& table = rule_.term_divisor == nullptr ? babies_ : divided_;
     std::size_t above = width_ - 1;
     while (above > 0 && row[above] == 0) --above;
     for (std::size_t index = first; index < first + count; ++index) {
@@ -218,7 +195,7 @@ class Groups {
   // The terms of the group in units of its first power, where powers are not divided.
   Number sum_of_terms(std::size_t count) {
     constexpr std::size_t rows_between = 2 * rows_at_once;
-    Table& table = rule_.term_divisor == nullptr ? babies_ : divided_;
+    Row_Table& table = rule_.term_divisor == nullptr ? babies_ : divided_;
     std::fill_n(sum_of_row_.data(), width_ + 1, 0);
     for (std::size_t first = 0; first < count; first += rows_at_once) {
       const std::size_t ways = std::min(count - first, rows_at_once);
@@ -231,7 +208,7 @@ class Groups {
 
   // The same where they are divided: the last one first.
   Number sum_of(std::vector<Row_Divisor> divisors) {
-    Table& table = rule_.term_divisor == nullptr ? babies_ : divided_;
+    Row_Table& table = rule_.term_divisor == nullptr ? babies_ : divided_;
     std::fill_n(sum_of_row_.data(), width_ + 1, 0);
     std::reverse(divisors.begin(), divisors.end());
     for (std::size_t done = 0; done < divisors.size(); done += rows_at_once) {
@@ -256,7 +233,7 @@ class Groups {
 
   void next_giant(bool is_divided) {
     if (is_divided) limbs::Trim({row_.data(), width_, -1, false}, giant_);
-    giant_ = Product(giant_, last_baby_, -1);
+    giant_ = limbs::Product_Down_To(-1, giant_, last_baby_);
   }
 
   // What is left is a whole number but for errors, and rounded to it.
@@ -290,11 +267,11 @@ class Groups {
   double doubt_;
   Error_Of_Steps errors_;
   double cut_off_ = 0;
-  Number giant_;      // the power that begins a group
-  std::size_t size_;  // of a group
-  Table babies_;      // powers of the factor, from the first on
-  Table divided_;     // the same, divided for the terms of a group
-  Table turns_;
+  Number giant_;       // the power that begins a group
+  std::size_t size_;   // of a group
+  Row_Table babies_;   // powers of the factor, from the first on
+  Row_Table divided_;  // the same, divided for the terms of a group
+  Row_Table turns_;
   std::vector<std::size_t> zeros_;  // limbs of a power that are 0 behind the point
   Number last_baby_;
   std::size_t width_ = 0;  // limbs of the group's numbers
