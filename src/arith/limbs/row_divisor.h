@@ -28,7 +28,7 @@ class Row_Divisor {
         shift_(static_cast<unsigned>(std::bit_width(number - 1)) - 1),
         reciprocal_(static_cast<Limb>((Wide{1} << (64U + shift_)) / number +
                                       static_cast<Limb>(!std::has_single_bit(number)))),
-        lift_((base + base / 2) / number + 1) {
+        lift_(bases_ + bases_ / 2 + 3) {
     Expects(number >= 2 && number < end);
   }
 
@@ -45,7 +45,7 @@ class Row_Divisor {
 
   /// The same for one of -1.5 to 3 bases, rounded down.
   std::int64_t divide_signed(Limb& rest, std::int64_t limb) const {
-    // Lifted by a multiple of the divisor.
+    // Lifted by a multiple of the divisor, no less than 1.5 bases and hardly more.
     const Limb lifted = static_cast<Limb>(limb) + lift_ * number_;
     return static_cast<std::int64_t>(divide(rest, lifted) - lift_);
   }

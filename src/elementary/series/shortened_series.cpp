@@ -7,13 +7,16 @@
 #include "elementary/series/tail_in_groups.h"
 #include "elementary/series/tail_in_turn.h"
 #include "elementary/series/term_sizes.h"
+#include "elementary/steps/step_digits.h"
 
 namespace quorvex {
 namespace {
 
-// Below these limits a run hardly pays. What groups cut off is bounded up to the highest.
+// Below these limits a run, and one in groups, hardly pays: groups take two divisions a term where
+// powers are divided. What they cut off is bounded up to the highest.
 constexpr double lowest_limit = 15;
-constexpr double lowest_limit_of_groups = 200;
+constexpr double lowest_limit_of_groups = 260;
+constexpr double lowest_limit_of_divided_groups = 400;
 constexpr double highest_limit = 1'000'000;
 
 // So many places the first power lies below the sum. Its digits behind the last place of the sum
@@ -25,6 +28,11 @@ constexpr std::int64_t places_below_of_groups = 6;
 constexpr double margin = 1e-9;
 
 double added_doubt = 0;
+
+bool Takes_Groups(const Series_Rule& rule, double limit) {
+  return limit >=
+         (rule.power_divisor == nullptr ? lowest_limit_of_groups : lowest_limit_of_divided_groups);
+}
 
 bool Is_Number(const Step_Number& number) {
   return number.is_in_limbs() && !number.is_zero();
@@ -55,15 +63,15 @@ std::optional<Step_Number> Shortened_Series::sum_from(const Series_State& state)
                          last_k_, added_doubt};
   // The end is to be among the places of the sum.
   const std::int64_t end = last_power_ + 1 + tail.shift();
-  if (end < 0 || static_cast<double>(end) > limit_ + 2) return std::nullopt;
-  return limit_ >= lowest_limit_of_groups ? Sum_In_Groups(tail) : Sum_In_Turn(tail);
+  if (end < 0 || static_cast<double>(end) > Kept_Digits(limit_)) return std::nullopt;
+  return Takes_Groups(rule_, limit_) ? Sum_In_Groups(tail) : Sum_In_Turn(tail);
 }
 
 bool Shortened_Series::is_ready(const Series_State& state) const {
   if (is_over_ || !Is_Number(state.power) || !Is_Number(state.sum)) return false;
   if (state.power.is_negative() && !rule_.alternates) return false;
   const std::int64_t below = state.sum.leading_power() - state.power.leading_power();
-  if (below < (limit_ >= lowest_limit_of_groups ? places_below_of_groups : places_below)) {
+  if (below < (Takes_Groups(rule_, limit_) ? places_below_of_groups : places_below)) {
     return false;
   }
   const double still_to_come = std::pow(10.0, static_cast<double>(1 - below)) + margin;

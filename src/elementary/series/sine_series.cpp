@@ -3,9 +3,11 @@
 #include <cstdint>
 #include <utility>
 
+#include "arith/digits/multiply_digits.h"
 #include "arith/powers/power_function.h"
 #include "elementary/series/series.h"
 #include "elementary/series/shortened_series.h"
+#include "elementary/steps/step_digits.h"
 #include "host/conversions.h"
 
 namespace quorvex {
@@ -36,13 +38,30 @@ constexpr Series_Rule rule_of_divided{.stride = 2,
                                       .ends_by_power = true,
                                       .alternates = true};
 
+// From the first that is not 0 to the last.
+std::int64_t Significant_Digits(const limbs::Number& number) {
+  std::int64_t last = number.low * static_cast<std::int64_t>(limbs::digits);
+  for (limbs::Limb limb = *number.data(); limb % 10 == 0; limb /= 10) ++last;
+  return limbs::Leading_Power(number) - last + 1;
+}
+
+// The second power. Of a number with no more digits than products keep, a power forms all digits
+// and rounds them once, as a product does.
+Step_Number Square_Of(const Step_Number& x, const Steps& steps) {
+  const auto digits = Whole_Digits_Of(steps.limit());
+  const bool is_product =
+      digits && x.is_in_limbs() && !x.is_zero() && Can_Multiply() &&
+      static_cast<double>(Significant_Digits(x.in_limbs())) <= Kept_Digits(steps.limit());
+  return is_product ? steps.product(x, x) : Power(x, Step_Number(2), steps);
+}
+
 // The terms of sine or cosine, by what the first one is and how far the counter has come with it.
 class Sine_Terms {
  public:
   Sine_Terms(Step_Number first, double k, const Step_Number& x, const Steps& steps)
       : term_(std::move(first)),
         k_(k, steps),
-        square_(Power(x, Step_Number(2), steps)),
+        square_(Square_Of(x, steps)),
         steps_(steps),
         end_(steps.limit()) {}
 

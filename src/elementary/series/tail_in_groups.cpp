@@ -10,6 +10,7 @@
 
 #include "arith/limbs/limb_rows.h"
 #include "elementary/series/term_sizes.h"
+#include "elementary/steps/step_digits.h"
 #include "host/platform.h"
 
 namespace quorvex {
@@ -292,7 +293,7 @@ std::optional<Step_Number> Sum_In_Groups(const Series_Tail& tail) {
   if (!rest) return std::nullopt;
   Number scaled = Scaled(*rest, -tail.shift());
   scaled.negative = tail.state.power.is_negative() != tail.rule.alternates;
-  limbs::Add(sum, scaled, scaled.negative, static_cast<std::size_t>(tail.limit) + 2, sum);
+  limbs::Add(sum, scaled, scaled.negative, static_cast<std::size_t>(Kept_Digits(tail.limit)), sum);
   return Step_Number(std::move(sum));
 }
 

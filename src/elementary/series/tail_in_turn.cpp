@@ -4,6 +4,7 @@
 
 #include "arith/limbs/binary_words.h"
 #include "elementary/series/term_sizes.h"
+#include "elementary/steps/step_digits.h"
 #include "host/platform.h"
 
 namespace quorvex {
@@ -50,7 +51,7 @@ std::optional<Step_Number> Sum_In_Turn(const Series_Tail& tail) {
   const Series_Rule& rule = tail.rule;
   const Number& whole_sum = tail.state.sum.in_limbs();
   const std::int64_t shift = tail.shift();
-  const auto places = static_cast<std::size_t>(tail.limit) + 2;
+  const auto places = static_cast<std::size_t>(Kept_Digits(tail.limit));
   const auto end = static_cast<std::size_t>(tail.last_power + 1 + shift);
 
   const std::size_t room = words::Room_For(places);

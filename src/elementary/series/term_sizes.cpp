@@ -34,9 +34,11 @@ class Long_Float {
     return *this;
   }
 
-  // In units of a power of ten; 0 or infinite where floats don't reach.
+  // In units of a power of ten, or any number that is too large for doubt.
   double in_units_of(std::int64_t power) const {
-    return mantissa_ * std::pow(10.0, static_cast<double>(power_ - power));
+    constexpr double ten = 10;
+    if (power_ > power) return ten;
+    return mantissa_ * std::pow(ten, static_cast<double>(power_ - power));
   }
 
  private:
