@@ -4,6 +4,7 @@
 #include <mpfr.h>
 
 #include <string>
+#include <string_view>
 
 #include "quorvex.h"
 
@@ -13,12 +14,18 @@ using quorvex::cls_Quorvex;
 using quorvex::HostValue;
 using quorvex::Missing;
 
-// One argument for all, written with few digits.
-constexpr const char* argument = "0.7";
+// 20 / 7 with as many digits as are asked for: one of few makes products short that are long
+// for most numbers.
+std::string Argument(std::size_t digits) {
+  constexpr std::string_view period = "857142";
+  std::string text = "2.";
+  while (text.size() < digits + 1) text += period[(text.size() - 2) % period.size()];
+  return text;
+}
 
 template <typename Function>
 void Call(benchmark::State& state, const Function& function) {
-  const HostValue number(argument);
+  const HostValue number(Argument(static_cast<std::size_t>(state.range(0))));
   const HostValue limit(state.range(0));
   cls_Quorvex engine;
   for (auto step : state) benchmark::DoNotOptimize(function(engine, number, limit));
@@ -27,6 +34,12 @@ void Call(benchmark::State& state, const Function& function) {
 void Sine(benchmark::State& state) {
   Call(state, [](cls_Quorvex& engine, const HostValue& number, const HostValue& limit) {
     return engine.qvxSIN(number, limit);
+  });
+}
+
+void Tangent(benchmark::State& state) {
+  Call(state, [](cls_Quorvex& engine, const HostValue& number, const HostValue& limit) {
+    return engine.qvxTAN(number, limit);
   });
 }
 
@@ -54,11 +67,12 @@ void Mpfr(benchmark::State& state, Mpfr_Function function) {
   const auto digits = static_cast<std::size_t>(state.range(0));
   constexpr double bits_a_digit = 3.3219280948873626;
   const auto bits = static_cast<mpfr_prec_t>(static_cast<double>(digits) * bits_a_digit) + 8;
+  const std::string argument = Argument(digits);
   mpfr_t number;
   mpfr_init2(number, bits);
   std::string text(digits + 4, '\0');
   for (auto step : state) {
-    mpfr_set_str(number, argument, 10, MPFR_RNDN);
+    mpfr_set_str(number, argument.c_str(), 10, MPFR_RNDN);
     function(number, number, MPFR_RNDN);
     mpfr_exp_t scale = 0;
     benchmark::DoNotOptimize(mpfr_get_str(text.data(), &scale, 10, digits, number, MPFR_RNDN));
@@ -97,14 +111,16 @@ void Poisson_Sum(benchmark::State& state) {
 }
 
 void Sizes(benchmark::internal::Benchmark* bench) {
-  for (const int digits : {30, 100, 300, 1000}) bench->Arg(digits);
+  for (const int digits : {30, 100, 300, 1000, 3000, 10'000}) bench->Arg(digits);
 }
 
 BENCHMARK(Sine)->Name("Elementary/sin")->Apply(Sizes);
+BENCHMARK(Tangent)->Name("Elementary/tan")->Apply(Sizes);
 BENCHMARK(Arc_Tangent)->Name("Elementary/atan")->Apply(Sizes);
 BENCHMARK(Logarithm)->Name("Elementary/ln")->Apply(Sizes);
 BENCHMARK(Exponential)->Name("Elementary/exp")->Apply(Sizes);
 BENCHMARK_CAPTURE(Mpfr, sin, mpfr_sin)->Name("Mpfr/sin")->Apply(Sizes);
+BENCHMARK_CAPTURE(Mpfr, tan, mpfr_tan)->Name("Mpfr/tan")->Apply(Sizes);
 BENCHMARK_CAPTURE(Mpfr, atan, mpfr_atan)->Name("Mpfr/atan")->Apply(Sizes);
 BENCHMARK_CAPTURE(Mpfr, ln, mpfr_log)->Name("Mpfr/ln")->Apply(Sizes);
 BENCHMARK_CAPTURE(Mpfr, exp, mpfr_exp)->Name("Mpfr/exp")->Apply(Sizes);

@@ -128,20 +128,28 @@ def print_roots(times, peer):
             )
 
 
-ELEMENTARY_CALLS = {"sin": "qvxSIN", "atan": "qvxATAN", "ln": "qvxLN", "exp": "qvxEXP"}
+ELEMENTARY_CALLS = {
+    "sin": "qvxSIN",
+    "tan": "qvxTAN",
+    "atan": "qvxATAN",
+    "ln": "qvxLN",
+    "exp": "qvxEXP",
+}
 
 
 def print_elementary(times, peer):
-    """Whole calls of functions of 0.7; bc answers to as many decimals."""
+    """Whole calls of functions of 20 / 7; bc answers to as many decimals."""
     print("| call | digits | mpmath / ours | bc / ours | MPFR / ours | ours | mpmath | bc | MPFR |")
     print("|---|---:|---:|---:|---:|---:|---:|---:|---:|")
     for name, call in ELEMENTARY_CALLS.items():
         for size in sizes(times, f"Elementary/{name}"):
             ours, mpfr = times[f"Elementary/{name}/{size}"], times[f"Mpfr/{name}/{size}"]
-            peers = [peer[f"mpmath/{name}/{size}"], peer[f"bc/{name}/{size}"], mpfr]
+            peers = [peer[f"mpmath/{name}/{size}"], peer.get(f"bc/{name}/{size}"), mpfr]
+            ratios = ["" if time is None else f"{time / ours:.2f}" for time in peers]
+            spent = ["" if time is None else unit(time) for time in peers]
             print(
-                f"| {call} | {int(size):,} | {' | '.join(f'{time / ours:.2f}' for time in peers)} "
-                f"| {unit(ours)} | {' | '.join(unit(time) for time in peers)} |"
+                f"| {call} | {int(size):,} | {' | '.join(ratios)} | {unit(ours)} "
+                f"| {' | '.join(spent)} |"
             )
 
 

@@ -1,26 +1,19 @@
 #include "elementary/angle_units.h"
 
-#include <cmath>
-
 #include "arith/operation/steps.h"
-#include "elementary/constants.h"
-#include "host/conversions.h"
+#include "elementary/steps/step_constants.h"
+#include "elementary/steps/step_digits.h"
 #include "text/limits.h"
-#include "text/options.h"
 
 namespace quorvex {
 namespace {
 
 constexpr double half_turn = 180;
 
-Step_Number Pi_Of(double digits) {
-  return Step_Number(To_Text(Pi_Digits(digits)));
-}
-
 // `angle` times `numerator` / `denominator`.
 NumberText Convert(const NumberText& angle, const Step_Number& numerator,
                    const Step_Number& denominator, double digits) {
-  const Steps steps(std::fmin(digits, maximum_digits));
+  const Steps steps(Up_To_Ceiling(digits));
   return steps.product(steps.quotient(numerator, denominator), Step_Number(angle)).text();
 }
 

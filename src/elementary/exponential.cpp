@@ -2,17 +2,21 @@
 
 #include <cmath>
 #include <cstdint>
+#include <optional>
 #include <utility>
 
+#include "arith/digits/multiply_digits.h"
 #include "arith/operation/steps.h"
 #include "arith/powers/power_function.h"
 #include "elementary/constants.h"
+#include "elementary/series/exponential_sum.h"
 #include "elementary/series/shortened_series.h"
 #include "elementary/steps/logarithm_steps.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "text/compare_numbers.h"
+#include "text/decimal.h"
 #include "text/limits.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
@@ -32,14 +36,14 @@ std::int32_t Multiple_Of_Ln2(const NumberText& number, const NumberText& ln2) {
 }
 
 constexpr Series_Rule rule{.stride = 1,
-                           .divisor = [](std::uint64_t k) { return k; },
-                           .keeps_power = false,
+                           .power_divisor = [](std::uint64_t k) { return k; },
+                           .term_divisor = nullptr,
                            .ends_by_power = true,
                            .alternates = false};
 
 // The sum of r^k / k!.
-Step_Number Taylor_Series(const Step_Number& r, std::int32_t limit) {
-  const Steps steps(limit);
+Step_Number Taylor_Series(const Step_Number& r, const Steps& steps) {
+  const auto limit = static_cast<std::int32_t>(steps.limit());
   const std::int32_t last_factor = 5 * limit;
   Step_Number sum = steps.sum(Step_Number(1), r);
   Step_Number term = r;
@@ -57,10 +61,17 @@ Step_Number Taylor_Series(const Step_Number& r, std::int32_t limit) {
   return sum;
 }
 
-// e to a number of 0 or more, which is shown without its sign.
-Step_Number Power_Of_E(const NumberText& magnitude, std::int32_t limit) {
-  const Steps steps(limit);
-  const NumberText ln2 = To_Text(Ln2_Digits(limit));
+// A number as a small rest, of which the series takes e to the power, and what is left to do then.
+struct Reduced {
+  Step_Number rest;
+  int halvings;
+  std::int32_t multiple_of_ln2;
+  bool is_negative;
+};
+
+// Of a magnitude.
+Reduced Reduce(const NumberText& magnitude, bool is_negative, const Steps& steps) {
+  const NumberText ln2 = To_Text(Ln2_Digits(steps.limit()));
   const std::int32_t n = Multiple_Of_Ln2(magnitude, ln2);
   Step_Number r =
       steps.difference(Step_Number(magnitude), steps.product(Step_Number(n), Step_Number(ln2)));
@@ -71,13 +82,61 @@ Step_Number Power_Of_E(const NumberText& magnitude, std::int32_t limit) {
     Yield();
     steps.divide(r, two);
   }
-  Step_Number power = Taylor_Series(r, limit);
-  for (; halvings > 0; --halvings) {
+  return {std::move(r), halvings, n, is_negative};
+}
+
+// From e to the power of the rest to that of the number.
+Step_Number Restored(Step_Number power, const Reduced& reduced, const Steps& steps) {
+  for (int left = reduced.halvings; left > 0; --left) {
     Yield();
     steps.multiply(power, power);
   }
-  if (n <= 0) return power;
-  return steps.product(power, Power(two, Step_Number(n), steps));
+  if (reduced.multiple_of_ln2 > 0) {
+    steps.multiply(power, Power(Step_Number(2), Step_Number(reduced.multiple_of_ln2), steps));
+  }
+  return reduced.is_negative ? steps.quotient(Step_Number(1), power) : power;
+}
+
+// The value rounded as results are, by another sum of the series; nothing where the value that the
+// definition gives may be rounded to either side, or can't be told so.
+//
+// The sum of the series is from 1 to 1.11, and its last place is u = 10^-(limit + 1). Each term is
+// rounded to that, by half of it at most, and the term of r^k is below 10^-k: no more than
+// limit + 1 are added. By what exact steps have lost, the term of r^k is wrong by less than 20 k u
+// times its size, and all together, with what would come behind the end, are by less than 2 u. The
+// other sum is rounded once. So the two differ by less than (limit / 2 + 4) u.
+//
+// A square doubles a relative difference. It and the product with the power of two are rounded in
+// both chains, by half a unit each; a reciprocal leaves off less than 10 u.
+std::optional<Step_Number> Quick_Value(const Reduced& reduced, double digits, const Steps& steps) {
+  constexpr double lowest_limit = 70;  // below, terms in turn cost less
+  constexpr double highest_limit = 1'000'000;
+  constexpr std::int64_t lowest_power = -15;
+  const Step_Number& r = reduced.rest;
+  const double limit = steps.limit();
+  const bool is_whole = digits >= 1 && limit == digits + guard_digits;
+  if (!is_whole || limit < lowest_limit || limit > highest_limit || !Can_Multiply() ||
+      !r.is_in_limbs() || r.is_zero() || r.is_negative() || r.leading_power() < lowest_power) {
+    return std::nullopt;
+  }
+  Step_Number power(Exponential_Less_One(r.in_limbs(), static_cast<std::size_t>(limit)));
+  steps.add(power, Step_Number(1));
+  power = Restored(std::move(power), reduced, steps);
+  if (!power.is_in_limbs() || power.is_zero()) return std::nullopt;
+
+  constexpr double rounded_twice = 1.01;
+  double difference = limit / 2 + 4;
+  for (int left = reduced.halvings; left > 0; --left) difference = 2 * difference + rounded_twice;
+  difference += rounded_twice + 20;
+  // The value is below ten of its leading digit, and of that the last place of results counts
+  // 10^-(digits + 1).
+  difference += Shortened_Series::Added_Doubt() * std::pow(10, guard_digits - 1);
+  const Step_Number off(Decimal{Number_To_Text(std::ceil(difference)),
+                                power.leading_power() - static_cast<std::int64_t>(limit)});
+  const Steps as_result(digits);
+  Step_Number low = as_result.difference(power, off);
+  if (!Is_Equal(low, as_result.sum(power, off))) return std::nullopt;
+  return low;
 }
 
 }  // namespace
@@ -89,10 +148,14 @@ NumberText Exp_Function(const HostValue& num, const HostValue& exponential_notat
         const NumberText number = Normal_Form(num);
         if (Is_Equal(number, "0")) return NumberText("1");
         const HostValue digits = Limit_As_Given(maxSD);
-        const std::int32_t limit = To_Int32(To_Number(digits) + guard_digits);
+        const double shown = To_Number(digits);
+        const Steps steps(To_Int32(shown + guard_digits));
         const bool is_negative = number.front() == '-';
-        Step_Number power = Power_Of_E(is_negative ? number.substr(1) : number, limit);
-        if (is_negative) power = Steps(limit).quotient(Step_Number(1), power);
+        const Reduced reduced = Reduce(is_negative ? number.substr(1) : number, is_negative, steps);
+        if (const auto value = Quick_Value(reduced, shown, steps)) {
+          return Finish(*value, exponential_notation, digits);
+        }
+        const Step_Number power = Restored(Taylor_Series(reduced.rest, steps), reduced, steps);
         return Finish(power, exponential_notation, digits);
       },
       [](const Run_Time_Failure&) { return NumberText(value_token); });

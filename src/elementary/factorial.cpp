@@ -6,12 +6,14 @@
 
 #include "arith/digits/multiply_digits.h"
 #include "arith/operation/steps.h"
+#include "elementary/steps/step_digits.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "host/shown_text.h"
 #include "numbers/whole_part.h"
 #include "text/close_number.h"
+#include "text/length_limit.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
 
@@ -118,10 +120,19 @@ NumberText FactDouble_Function(const HostValue& num, const Format_Arguments& for
   return Formatted_Product({whole, -2, (whole + 1) / 2}, format);
 }
 
-NumberText Running_Factorial::next() {
-  if (next_ > 0) Steps(Default_MaxSD()).multiply(product_, Step_Number(next_));
+// A result keeps a digit less than steps do. One that may be too long for a cell goes by its text.
+Step_Number Running_Factorial::next() {
+  const double limit = Default_MaxSD();
+  if (next_ > 0) Steps(limit).multiply(product_, Step_Number(next_));
   ++next_;
-  return Close_Number(product_.decimal(), {});
+  const auto digits = Whole_Digits_Of(limit);
+  if (!digits || !product_.is_in_limbs() ||
+      static_cast<double>(Plain_Length(product_)) >= longest_cell_text) {
+    return Step_Number(Close_Number(product_.decimal(), {}));
+  }
+  limbs::Number rounded;
+  limbs::Add(product_.in_limbs(), {}, false, *digits + 1, rounded);
+  return Step_Number(std::move(rounded));
 }
 
 }  // namespace quorvex

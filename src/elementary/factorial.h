@@ -29,7 +29,7 @@ NumberText FactDouble_Function(const HostValue& num, const Format_Arguments& for
 class Running_Factorial {
  public:
   /// The factorial of the number that follows.
-  NumberText next();
+  Step_Number next();
 
  private:
   std::int32_t next_ = 0;

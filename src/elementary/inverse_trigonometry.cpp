@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "arith/powers/power_function.h"
-#include "elementary/constants.h"
 #include "elementary/series/arc_tangent_series.h"
+#include "elementary/steps/step_constants.h"
 #include "elementary/steps/step_functions.h"
 #include "host/conversions.h"
 #include "text/compare_numbers.h"
@@ -16,10 +16,6 @@ namespace quorvex {
 namespace {
 
 constexpr double half = 0.5;
-
-Step_Number Pi_Of(const Steps& steps) {
-  return Step_Number(To_Text(Pi_Digits(steps.limit())));
-}
 
 bool Exceeds_1(const Step_Number& num) {
   return Is_Greater(Magnitude_Of(num), Step_Number(1));
@@ -67,13 +63,13 @@ Step_Number Other_Leg(const Step_Number& num, const Steps& steps) {
 HostValue ATan_Function(const HostValue& num, const HostValue& maxSD) {
   const Step_Number number(To_Text(num));
   const Steps steps(Working_Limit(maxSD));
-  return Arc_Tangent(number, Pi_Of(steps), steps).text();
+  return Arc_Tangent(number, Pi_Of(steps.limit()), steps).text();
 }
 
 HostValue ASin_Function(const HostValue& num, const HostValue& maxSD) {
   const Step_Number number(To_Text(num));
   const Steps steps(Working_Limit(maxSD));
-  const Step_Number pi = Pi_Of(steps);
+  const Step_Number pi = Pi_Of(steps.limit());
   if (Exceeds_1(number)) return num_token;
   if (Is_Equal(number, Step_Number(1))) return steps.product(pi, Step_Number(half)).text();
   if (Is_Equal(number, Step_Number(-1))) return steps.product(pi, Step_Number(-half)).text();
@@ -84,7 +80,7 @@ HostValue ACos_Function(const HostValue& num, const HostValue& maxSD) {
   const Step_Number number(To_Text(num));
   const double as_float = To_Number(num);
   const Steps steps(Working_Limit(maxSD));
-  const Step_Number pi = Pi_Of(steps);
+  const Step_Number pi = Pi_Of(steps.limit());
   if (Exceeds_1(number)) return num_token;
   // By the float and not by the digits, so that a worksheet's 1 with a trace of rounding is 1.
   if (as_float == 1) return 0;

@@ -1,10 +1,11 @@
 #include "elementary/logarithm.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <optional>
-#include <string>
+#include <string_view>
 #include <utility>
 
 #include "arith/operation/steps.h"
@@ -12,6 +13,7 @@
 #include "elementary/constants.h"
 #include "elementary/series/shortened_series.h"
 #include "elementary/steps/logarithm_steps.h"
+#include "elementary/steps/step_digits.h"
 #include "elementary/steps/step_functions.h"
 #include "host/conversions.h"
 #include "host/platform.h"
@@ -25,14 +27,10 @@
 namespace quorvex {
 namespace {
 
-NumberText Value_Token(const Run_Time_Failure&) {
-  return NumberText(value_token);
-}
-
 // The logarithms that are known by a look at the number.
-std::optional<NumberText> Known_Logarithm(const NumberText& num) {
+std::optional<std::string_view> Known_Logarithm(const NumberText& num) {
   if (Is_Equal(num, "1")) return "0";
-  if (Is_At_Least("0", num)) return NumberText(num_token);
+  if (Is_At_Least("0", num)) return num_token;
   return std::nullopt;
 }
 
@@ -80,13 +78,13 @@ class Precision {
 // (t is next to 0 where it is negative), and each lies below the last digit that sums keep, and
 // behind it leaves a "0" as the first dropped digit, by which alone is rounded.
 bool Adds_Nothing(const Step_Number& sum, const Step_Number& term, double limit) {
-  const auto kept = static_cast<std::int64_t>(std::ceil(limit)) + 2;
+  const auto kept = static_cast<std::int64_t>(Kept_Digits(std::ceil(limit)));
   return term.is_negative() && term.leading_power() < sum.leading_power() - kept;
 }
 
 constexpr Series_Rule rule{.stride = 2,
-                           .divisor = [](std::uint64_t k) { return k; },
-                           .keeps_power = true,
+                           .power_divisor = nullptr,
+                           .term_divisor = [](std::uint64_t k) { return k; },
                            .ends_by_power = false,
                            .alternates = false};
 
@@ -136,29 +134,45 @@ Step_Number Value_Of_Logarithm(const NumberText& num, const HostValue& ln2,
 }
 
 // The natural logarithm as `close` makes it of its value; known ones are not closed.
-template <typename Close>
-NumberText Natural_Logarithm(const HostValue& num, const HostValue& maxSD, const Close& close) {
+template <typename Result, typename Close>
+Result Natural_Logarithm(const HostValue& num, const HostValue& maxSD, const Close& close) {
   return With_Handler(
       [&] {
         const NumberText number = Normal_Form(num);
         // A limit below -1 fails here, whatever the number.
         const HostValue ln2 = Ln2_Digits(maxSD);
-        if (auto known = Known_Logarithm(number)) return *std::move(known);
+        if (const auto known = Known_Logarithm(number)) return Result(*known);
         return close(Value_Of_Logarithm(number, ln2, maxSD));
       },
-      Value_Token);
+      [](const Run_Time_Failure&) { return Result(value_token); });
+}
+
+// As `Round_To_SD` rounds the text: a zero before the separator and a minus are characters that
+// count, and zeros behind it do. Where nines carry into a longer number, the text is asked.
+Step_Number Rounded(const Step_Number& value, double limit) {
+  if (Whole_Digits_Of(limit) && value.is_in_limbs() && !value.is_zero()) {
+    const std::int64_t leading = value.leading_power();
+    const std::int64_t counted = std::max<std::int64_t>(leading, 0) + (value.is_negative() ? 2 : 1);
+    const std::int64_t decimals = static_cast<std::int64_t>(limit) - counted;
+    if (decimals > 0 && decimals + leading >= 0) {
+      limbs::Number rounded;
+      limbs::Add(value.in_limbs(), {}, false, static_cast<std::size_t>(decimals + leading + 1),
+                 rounded);
+      if (limbs::Leading_Power(rounded) == leading) return Step_Number(std::move(rounded));
+    }
+  }
+  return Step_Number(To_Text(Round_To_SD(value.text(), limit)));
 }
 
 // The natural logarithm as a part of another one: rounded to the limit, and not formatted.
-NumberText Rounded_Logarithm(const HostValue& num, double limit) {
-  return Natural_Logarithm(num, limit, [&](const Step_Number& value) {
-    return To_Text(Round_To_SD(value.text(), limit));
-  });
+Step_Number Rounded_Logarithm(const HostValue& num, double limit) {
+  return Natural_Logarithm<Step_Number>(
+      num, limit, [&](const Step_Number& value) { return Rounded(value, limit); });
 }
 
-NumberText Logarithm_Of_Base(const HostValue& num_base, double base, double limit) {
-  if (base == 10) return To_Text(Ln10_Digits(limit));
-  if (base == 2) return To_Text(Ln2_Digits(limit));
+Step_Number Logarithm_Of_Base(const HostValue& num_base, double base, double limit) {
+  if (base == 10) return Step_Number(To_Text(Ln10_Digits(limit)));
+  if (base == 2) return Step_Number(To_Text(Ln2_Digits(limit)));
   return Rounded_Logarithm(num_base, limit);
 }
 
@@ -167,7 +181,7 @@ NumberText Logarithm_Of_Base(const HostValue& num_base, double base, double limi
 NumberText Ln_Function(const HostValue& num, const HostValue& exponential_notation,
                        const HostValue& maxSD) {
   const HostValue digits = Limit_As_Given(maxSD);
-  return Natural_Logarithm(num, digits, [&](const Step_Number& value) {
+  return Natural_Logarithm<NumberText>(num, digits, [&](const Step_Number& value) {
     return Finish(value, exponential_notation, digits);
   });
 }
@@ -177,17 +191,17 @@ NumberText Log_Function(const HostValue& num, const HostValue& num_base,
   return With_Handler(
       [&] {
         const NumberText number = Normal_Form(num);
-        if (auto known = Known_Logarithm(number)) return *std::move(known);
+        if (const auto known = Known_Logarithm(number)) return NumberText(*known);
         const HostValue digits = Limit_As_Given(maxSD);
         // The base itself is the count of guard digits. The last digits of results depend on it,
         // and so does the greatest base that there are digits for, so it stays.
         const double base = num_base.is_missing() ? 10 : To_Number(num_base);
         const double limit = To_Int32(base + To_Number(digits));
-        const Step_Number below(Logarithm_Of_Base(num_base, base, limit));
-        const Step_Number above(Rounded_Logarithm(number, limit));
+        const Step_Number below = Logarithm_Of_Base(num_base, base, limit);
+        const Step_Number above = Rounded_Logarithm(number, limit);
         return Finish(Steps(limit).quotient(above, below), exponential_notation, digits);
       },
-      Value_Token);
+      [](const Run_Time_Failure&) { return NumberText(value_token); });
 }
 
 }  // namespace quorvex

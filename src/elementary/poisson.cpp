@@ -80,7 +80,7 @@ Step_Number Poisson_Sum(const Step_Number& exp_term, const Events& events) {
   Step_Number sum(0);
   for (Step_Number k(0); !Is_Greater(k, target); k = Next_Count(k, events)) {
     Yield();
-    const Step_Number factorial(factorials.next());
+    const Step_Number factorial = factorials.next();
     events.steps.add(sum, Poisson_Term(k, factorial, exp_term, events));
     if (sum.is_token()) break;
   }

@@ -4,9 +4,10 @@
 #include <utility>
 
 #include "arith/powers/power_function.h"
-#include "elementary/constants.h"
 #include "elementary/series/sine_series.h"
 #include "elementary/steps/reduce_to_90.h"
+#include "elementary/steps/step_constants.h"
+#include "elementary/steps/step_digits.h"
 #include "elementary/steps/step_functions.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
@@ -42,21 +43,26 @@ bool Is_Negative(const Ratio& ratio, const Step_Number& quadrant) {
 
 // What the limit can't tell from 0 is 0.
 NumberText Without_Traces(const Step_Number& value, const Steps& steps) {
+  if (value.is_in_limbs() && Whole_Digits_Of(steps.limit())) {
+    const bool is_trace =
+        value.is_zero() || static_cast<double>(value.leading_power()) < -steps.limit();
+    return is_trace ? "0" : value.text();
+  }
   const Step_Number threshold = Power(Step_Number(10), Step_Number(0 - steps.limit()), steps);
   return Is_Greater(threshold, Magnitude_Of(value)) ? "0" : value.text();
 }
 
-Step_Number Pi_Of(const Steps& steps) {
-  const NumberText pi = To_Text(Pi_Digits(steps.limit()));
-  if (Has_Token_Mark(pi)) {
+Step_Number Stored_Pi(const Steps& steps) {
+  Step_Number pi = Pi_Of(steps.limit());
+  if (pi.is_token()) {
     throw Run_Time_Failure(Failure_Number::type_mismatch,
                            "More digits of pi are asked for than are stored.");
   }
-  return Step_Number(pi);
+  return pi;
 }
 
 NumberText Evaluate(const Ratio& ratio, const NumberText& angle, const Steps& steps) {
-  const Step_Number pi = Pi_Of(steps);
+  const Step_Number pi = Stored_Pi(steps);
   const Step_Number halfpi = steps.quotient(pi, Step_Number(2));
   const type_Reduce90 folded = Reduce_To_90(Step_Number(angle), halfpi, steps);
   // Up to an eighth of a turn the series takes the angle, and beyond it what is left to a quarter.

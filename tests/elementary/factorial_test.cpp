@@ -72,7 +72,7 @@ TEST(Factorials, OfOneNumberAfterTheOtherAreTheSame) {
     const Default_Limit limit(digits);
     Running_Factorial factorials;
     for (int number = 0; number < 120; ++number) {
-      EXPECT_EQ(factorials.next(), Fact_Function(number, {})) << number << " at " << digits;
+      EXPECT_EQ(factorials.next().text(), Fact_Function(number, {})) << number << " at " << digits;
     }
   }
 }

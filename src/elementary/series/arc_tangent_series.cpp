@@ -11,8 +11,8 @@ namespace quorvex {
 namespace {
 
 constexpr Series_Rule rule{.stride = 2,
-                           .divisor = [](std::uint64_t k) { return k; },
-                           .keeps_power = true,
+                           .power_divisor = nullptr,
+                           .term_divisor = [](std::uint64_t k) { return k; },
                            .ends_by_power = true,
                            .alternates = true};
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "elementary/steps/step_digits.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
@@ -9,11 +10,11 @@
 namespace quorvex {
 namespace {
 
-// Sums and products keep two digits more than the limit says. Counts as long as that are exact, and
-// floats count up to here without a loss.
+// Counts with no more digits than sums and products keep are exact, and floats count up to here
+// without a loss.
 double Exact_Below(double limit) {
   constexpr double longest = 15;
-  return limit < -1 ? 0 : std::pow(10, std::fmin(std::floor(limit) + 2, longest));
+  return limit < -1 ? 0 : std::pow(10, std::fmin(Kept_Digits(std::floor(limit)), longest));
 }
 
 }  // namespace

@@ -55,12 +55,15 @@ NumberText Sum_Of(const NumberText& x, double limit) {
 
 constexpr Series all_series[] = {{"sine", Sum_Of<Sin_Series>, "0001", true},
                                  {"cosine", Sum_Of<Cos_Series>, "0001", true},
+                                 {"tangent", Sum_Of<Tan_Series>, "0001", true},
                                  {"arc tangent", Sum_Of<ATan_Series>, "0", true},
                                  {"logarithm", Logarithm, "000123456789", false},
                                  {"exponential", Exponential, "000123456789", true}};
 
 // Random digits behind a few random zeros, at times so many that the terms vanish at once.
 std::string Random_Argument(Random_Numbers& random, const Series& series, std::size_t digits) {
+  constexpr const char* round[] = {"0.1", "0.01", "0.05", "0.25", "0.3", "0.001"};
+  if (random.one_in(12)) return round[random.below(std::size(round))];
   std::string text(1, random.one_of(series.whole_parts));
   text +=
       "." + std::string(random.one_in(4) ? random.below(random.one_in(4) ? digits : 5) : 0, '0');
@@ -78,7 +81,7 @@ TEST(Shortened_Series, Sums_Up_As_Exact_Steps_Do) {
   constexpr int cases = 3000;
   for (int i = 0; i < cases; ++i) {
     const Series& series = all_series[random.below(std::size(all_series))];
-    const std::size_t most = random.one_in(300) ? 2200 : random.one_in(10) ? 300 : 60;
+    const std::size_t most = random.one_in(300) ? 2200 : random.one_in(10) ? 700 : 60;
     const auto limit = static_cast<double>(1 + random.below(most));
     const NumberText x = Random_Argument(random, series, static_cast<std::size_t>(limit));
     NumberText exact;
@@ -93,8 +96,8 @@ TEST(Shortened_Series, Sums_Up_As_Exact_Steps_Do) {
 
 // What differs is that some divisors are exact, and that powers are halved at least.
 constexpr Series_Rule geometric{.stride = 1,
-                                .divisor = [](std::uint64_t) { return std::uint64_t{1}; },
-                                .keeps_power = true,
+                                .power_divisor = nullptr,
+                                .term_divisor = nullptr,
                                 .ends_by_power = true,
                                 .alternates = false};
 
@@ -123,7 +126,11 @@ TEST(Shortened_Series, Begins_Where_All_Digits_Can_Be_Told) {
       {"-0.000012", "2", "0.1", 30, false},       // terms that never end it
       {"0.000012", "2", "0.1", 14, false},        // few digits
       {"0.000012", "2", "0.1", 30.5, false},      // no count of digits
-      {"0.000012", "2", "0.1", 2001, false},      // many digits
+      {"0.000012", "2", "0.1", 2001, false},      // of many digits, more have to be behind
+      {"0.0000012", "2", "0.1", 2001, true},
+      {"0.0000012", "2", "0.1", 1000001, false},  // too many
+      {"0.000001", "2", "0.1", 2001, false},      // next to the end
+      {"0.000001", "20", "0.1", 2001, true},      // and too small to change the sum
       // The first term added ends in half a unit and a hundred thousandth, then in a tenth more.
       {"0.00001200000000000000000000000050001", "2", "0.1", 30, false},
       {"0.00001200000000000000000000000060001", "2", "0.1", 30, true},
@@ -137,6 +144,8 @@ TEST(Shortened_Series, Begins_Where_All_Digits_Can_Be_Told) {
         << c.power << " " << c.sum << " " << c.factor << " " << c.limit;
   }
   EXPECT_EQ(Geometric_Sum("0.000012", "2", "0.1", 20)->text(), "2.000001333333333333333");
+  EXPECT_EQ(Geometric_Sum("0.0000012", "2", "0.1", 2000)->text(),
+            "2.0000001" + std::string(1994, '3'));
 }
 
 }  // namespace
