@@ -5,6 +5,7 @@
 
 #include "arith/operation/four_operations.h"
 #include "arith/operation/resolve_signs.h"
+#include "arith/operation/short_operation.h"
 #include "arith/operation/step_options.h"
 #include "arith/powers/power_function.h"
 #include "arith/powers/root_function.h"
@@ -74,6 +75,10 @@ NumberText Do_Operation(std::int16_t Operation, const HostValue& number1, const 
                         const Format_Arguments& format, const Operation_Flags& flags) {
   return With_Value_Token(
       [&] {
+        if (NumberText result;
+            Short_Operation(Operation, number1, number2, format, flags.intermediate, result)) {
+          return result;
+        }
         std::string scratch1;
         std::string scratch2;
         const std::string_view text1 = Operand_Text(number1, scratch1);

@@ -49,8 +49,8 @@ NumberText Fold(const List& list, Element_Form form, bool refuses_negatives, con
   options.msd = Default_MaxSD();
   NumberText running;
   bool refused = false;
-  Walk_List(list, options, [&](std::string_view text) {
-    auto element = Element_Of(text, form);
+  Walk_List(list, options, [&](const List_Element& each) {
+    auto element = Element_Of(each.text, form);
     if (!element) return Walk::on;
     refused = refuses_negatives && !Is_Positive(*element);
     if (refused) return Walk::end;

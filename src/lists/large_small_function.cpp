@@ -33,19 +33,20 @@ std::size_t Offset(const std::string& what, double index, int lower, std::size_t
 NumberText LargeSmall_Function(const HostValue& numlist, std::string_view k,
                                Sort_Direction direction) {
   if (k.empty()) return NumberText(num_token);
-  Array block = Block_Of(numlist);
-  const double rows = Upper_Bound(block.lower_row, block.rows);
-  const double columns = Upper_Bound(block.lower_column, block.columns);
-  const double place = Text_To_Number(k);
-  if (place <= 0 || place > rows * columns) return NumberText(num_token);
-  const Array sorted = Sort_Numbers(std::move(block), direction);
+  const Number_Block block(numlist);
+  const Array& numbers = block.array();
+  const double rows = Upper_Bound(numbers.lower_row, numbers.rows);
+  const double columns = Upper_Bound(numbers.lower_column, numbers.columns);
+  const double wanted = Text_To_Number(k);
+  if (wanted <= 0 || wanted > rows * columns) return NumberText(num_token);
+  const auto indices = Sorted_Indices(numbers, Cell_Path::by_column, direction);
 
-  const bool ends_column = std::fmod(place, rows) == 0;
-  const double column = std::trunc(place / rows) + (ends_column ? 0 : 1);
-  const double row = Nearest(place - (column - 1) * rows);
-  NumberText text =
-      To_Text(sorted.values[Offset("row", row, sorted.lower_row, sorted.rows) * sorted.columns +
-                            Offset("column", column, sorted.lower_column, sorted.columns)]);
+  const bool ends_column = std::fmod(wanted, rows) == 0;
+  const double column = std::trunc(wanted / rows) + (ends_column ? 0 : 1);
+  const double row = Nearest(wanted - (column - 1) * rows);
+  const std::size_t place = Offset("row", row, numbers.lower_row, numbers.rows) * numbers.columns +
+                            Offset("column", column, numbers.lower_column, numbers.columns);
+  NumberText text = To_Text(numbers.values[indices[place]]);
   return Is_Number_Text(text) ? text : NumberText(num_token);
 }
 

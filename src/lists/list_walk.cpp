@@ -8,6 +8,7 @@
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "text/primitives.h"
 #include "text/tokens.h"
 
 namespace quorvex {
@@ -64,9 +65,10 @@ bool May_Fold(std::string_view text) {
          std::ranges::any_of(rest, [](char c) { return static_cast<unsigned char>(c) >= 'a'; });
 }
 
+template <typename Visit>
 class Text_Walk {
  public:
-  explicit Text_Walk(const std::function<Walk(std::string_view)>& visit) : visit_(visit) {}
+  explicit Text_Walk(const Visit& visit) : visit_(visit) {}
 
   Walk argument(const HostValue& value) {
     if (Is_Single_Cell(value)) return argument(Cell_Of(value));
@@ -92,9 +94,25 @@ class Text_Walk {
     return text.empty() ? Walk::on : visit_(text);
   }
 
-  const std::function<Walk(std::string_view)>& visit_;
+  const Visit& visit_;
   std::string scratch_;
 };
+
+template <typename Visit>
+void Walk_Texts(const List& list, const Visit& visit) {
+  Text_Walk<Visit> walk(visit);
+  for (std::size_t i = 0; i < list.size(); ++i) {
+    Yield_At(i + 1);
+    if (walk.argument(list[i]) == Walk::end) return;
+  }
+}
+
+// Whether a plain number is written in capitals: digits are, and so are most separators.
+bool Is_In_Capitals(std::string_view text, const Plain_Number& number) {
+  const bool has_separator =
+      number.parts.integer.size() + static_cast<std::size_t>(number.negative) != text.size();
+  return !has_separator || !May_Fold(Decimal_Separator());
+}
 
 }  // namespace
 
@@ -103,19 +121,18 @@ void For_Each_Cell(const HostValue& block, const std::function<Walk(const HostVa
 }
 
 void For_Each_Text(const List& list, const std::function<Walk(std::string_view)>& visit) {
-  Text_Walk walk(visit);
-  for (std::size_t i = 0; i < list.size(); ++i) {
-    Yield_At(i + 1);
-    if (walk.argument(list[i]) == Walk::end) return;
-  }
+  Walk_Texts(list, visit);
 }
 
 void Walk_List(const List& list, List_Options& options,
-               const std::function<Walk(std::string_view)>& visit) {
+               const std::function<Walk(const List_Element&)>& visit) {
   std::string scratch;
-  For_Each_Text(list, [&](std::string_view text) {
+  Walk_Texts(list, [&](std::string_view text) {
+    if (Plain_Number plain; Read_Plain(text, plain) && Is_In_Capitals(text, plain)) {
+      return visit({text, &plain});
+    }
     const std::string_view capitals = Capitals_Of(text, scratch);
-    if (!Is_Option_String(capitals)) return visit(capitals);
+    if (!Is_Option_String(capitals)) return visit({capitals});
     Read_Option_String(capitals, options);
     return Walk::on;
   });

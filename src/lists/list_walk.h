@@ -7,6 +7,7 @@
 
 #include "host/host_value.h"
 #include "lists/list_options.h"
+#include "text/operand.h"
 
 namespace quorvex {
 
@@ -25,11 +26,17 @@ void For_Each_Cell(const HostValue& block, const std::function<Walk(const HostVa
 /// the cells of another.
 void For_Each_Text(const List& list, const std::function<Walk(std::string_view)>& visit);
 
-/// Walks a list as arithmetic does: `visit` gets each element's text in capitals, and option
-/// strings go into `options`, where they act on all that follows. The text lives as long as the
-/// call of `visit`. Fails as `For_Each_Text` and `Read_Option_String` do.
+/// An element as arithmetic sees it.
+struct List_Element {
+  std::string_view text;                // in capitals
+  const Plain_Number* plain = nullptr;  // the same, if it has been read as one
+};
+
+/// Walks a list as arithmetic does: `visit` gets each element, and option strings go into
+/// `options`, where they act on all that follows. The element lives as long as the call of `visit`.
+/// Fails as `For_Each_Text` and `Read_Option_String` do.
 void Walk_List(const List& list, List_Options& options,
-               const std::function<Walk(std::string_view)>& visit);
+               const std::function<Walk(const List_Element&)>& visit);
 
 /// Text in capitals: the text itself where it holds nothing to fold, otherwise `scratch`.
 std::string_view Capitals_Of(std::string_view text, std::string& scratch);

@@ -51,8 +51,8 @@ class Best {
 NumberText MaxMin_Function(const List& list, Extreme extreme) {
   List_Options options;
   Best best(extreme);
-  Walk_List(list, options, [&](std::string_view element) {
-    best.offer(element);
+  Walk_List(list, options, [&](const List_Element& element) {
+    best.offer(element.text);
     return Walk::on;
   });
   return Finish_List(std::move(best).text(), options);

@@ -39,8 +39,8 @@ struct Numbers {
 NumberText Median_Function(const List& list) {
   List_Options options;
   std::vector<std::string> elements;
-  Walk_List(list, options, [&](std::string_view element) {
-    elements.emplace_back(element);
+  Walk_List(list, options, [&](const List_Element& element) {
+    elements.emplace_back(element.text);
     return Walk::on;
   });
   const Numbers numbers(elements);

@@ -13,14 +13,14 @@ namespace quorvex {
 namespace {
 
 // A text that is the same for equal numbers, and for no others.
-void Write_Value(const Comparable_Number& number, std::string& text) {
+void Write_Value(const Digits_And_Power& number, std::string& text) {
   text.clear();
-  if (number.sign() == 0) return;
-  if (number.sign() < 0) text += '-';
-  text += number.first_digits();
-  text += number.more_digits();
+  if (number.sign == 0) return;
+  if (number.sign < 0) text += '-';
+  text += number.first;
+  text += number.more;
   text += 'E';
-  text += std::to_string(number.power());
+  text += std::to_string(number.power);
 }
 
 }  // namespace
@@ -31,7 +31,7 @@ void Mode_Table::add(std::string_view element) {
     if (number.is_number()) columns_.push_back({NumberText(element)});
     return;
   }
-  Write_Value(number, value_);
+  Write_Value(number.value(), value_);
   if (const auto found = places_.find(std::string_view(value_)); found != places_.end()) {
     ++columns_[found->second].count;
     return;

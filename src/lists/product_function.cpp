@@ -9,8 +9,8 @@ namespace quorvex {
 NumberText Product_Function(const List& list) {
   List_Options options;
   Running_Product product;
-  Walk_List(list, options, [&](std::string_view element) {
-    product.multiply(element, options.msd);
+  Walk_List(list, options, [&](const List_Element& element) {
+    product.multiply(element.text, options.msd);
     return Walk::on;
   });
   return Finish_List(product.text(), options);

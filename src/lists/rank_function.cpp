@@ -1,6 +1,7 @@
 #include "lists/rank_function.h"
 
 #include <compare>
+#include <cstddef>
 #include <string>
 
 #include "host/conversions.h"
@@ -34,13 +35,14 @@ class Equality {
 NumberText Rank_Function(std::string_view num, const HostValue& numlist, Sort_Direction direction,
                          bool tie_compensation) {
   if (!Is_Number_Text(num)) return "NUM!";
-  const Array sorted = Sort_Numbers_By_Row(Block_Of(numlist), direction);
+  const Number_Block block(numlist);
+  const Array& numbers = block.array();
   Equality equality(num);
   double ties = -1;
   double position = 0;
-  for (const HostValue& cell : sorted.values) {
+  for (const std::size_t index : Sorted_Indices(numbers, Cell_Path::by_row, direction)) {
     Yield();
-    if (equality.holds(cell)) {
+    if (equality.holds(numbers.values[index])) {
       ++ties;
     } else if (ties >= 0) {
       break;

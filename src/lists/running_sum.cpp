@@ -29,6 +29,7 @@ std::size_t Digits_Never_Cut(double msd) {
 
 bool Running_Sum::add(std::string_view element, double msd) {
   if (in_chain_) return add_in_chain(element, msd);
+  if (Plain_Number plain; Read_Plain(element, plain) && add_plain(plain, msd)) return true;
   bool is_number = false;
   const bool was_in_place = With_Handler_But_For_Memory(
       [&] {
@@ -43,14 +44,59 @@ bool Running_Sum::add(std::string_view element, double msd) {
   return was_in_place ? is_number : add_in_chain(element, msd);
 }
 
+// As many as have few carries.
+bool Running_Sum::admit(const Decimal_Parts& parts, double msd) {
+  if (in_chain_ || !Column_Sum::has_room_for(parts)) return false;
+  constexpr std::size_t count = 100'000;
+  constexpr std::size_t digits_of_count = 6;
+  const std::size_t integer = std::max(admitted_integer_, parts.integer.size());
+  const std::size_t fraction = std::max(admitted_fraction_, parts.fraction.size());
+  // What is there and what comes have one digit more together than the longer of them.
+  const std::size_t most = std::max(integer_digits(), integer + digits_of_count) + 1 +
+                           std::max(fraction_digits(), fraction);
+  if (most > Digits_Never_Cut(msd)) return false;
+  admitted_count_ = count;
+  admitted_integer_ = integer;
+  admitted_fraction_ = fraction;
+  admitted_msd_ = msd;
+  return true;
+}
+
+// Bounds for a sum of all that has been added so far.
+std::size_t Running_Sum::integer_digits() const {
+  return std::max({positive_.integer_digits(), negative_.integer_digits(),
+                   positive_columns_.integer_digits(), negative_columns_.integer_digits()}) +
+         1;
+}
+
+std::size_t Running_Sum::fraction_digits() const {
+  return std::max({positive_.fraction_digits(), negative_.fraction_digits(),
+                   positive_columns_.fraction_digits(), negative_columns_.fraction_digits()});
+}
+
+void Running_Sum::pour_columns() {
+  const auto pour = [](Column_Sum& columns, Magnitude_Sum& sum) {
+    if (columns.is_empty()) return;
+    sum.add(Without_Leading_Zeros(columns.parts()));
+    columns.clear();
+  };
+  pour(positive_columns_, positive_);
+  pour(negative_columns_, negative_);
+}
+
 // False if a limit might cut the sum, or the one before it.
 bool Running_Sum::add_in_place(const Operand& element, double msd) {
+  admitted_count_ = 0;
   const Decimal_Parts& parts = element.parts();
-  const std::size_t integer =
-      std::max({positive_.integer_digits(), negative_.integer_digits(), parts.integer.size()});
-  const std::size_t fraction =
-      std::max({positive_.fraction_digits(), negative_.fraction_digits(), parts.fraction.size()});
-  if (integer + 1 + fraction > Digits_Never_Cut(msd)) return false;
+  const auto may_be_cut = [&] {
+    return std::max(integer_digits(), parts.integer.size()) + 1 +
+               std::max(fraction_digits(), parts.fraction.size()) >
+           Digits_Never_Cut(msd);
+  };
+  if (may_be_cut()) {
+    pour_columns();  // then bounds are narrower
+    if (may_be_cut()) return false;
+  }
   (element.positive() ? positive_ : negative_).add(parts);
   return true;
 }
@@ -71,6 +117,8 @@ bool Running_Sum::add_in_chain(std::string_view element, double msd) {
 
 NumberText Running_Sum::text() {
   if (in_chain_) return chain_;
+  pour_columns();
+  admitted_count_ = 0;
   const Decimal_Parts positive = Without_Leading_Zeros(positive_.parts());
   const Decimal_Parts negative = Without_Leading_Zeros(negative_.parts());
   type_Subtraction sum = Subtract_Decimals(positive, negative);

@@ -1,5 +1,6 @@
 #include "lists/selection_order.h"
 
+#include <algorithm>
 #include <numeric>
 #include <set>
 #include <utility>
@@ -51,11 +52,15 @@ class Unsorted_Tail {
   std::set<std::size_t> uncompared_;
 };
 
-}  // namespace
-
-std::vector<std::size_t> Selection_Order(const std::vector<std::size_t>& ranks) {
-  std::vector<std::size_t> order(ranks.size());
+std::vector<std::size_t> In_Order(std::size_t count) {
+  std::vector<std::size_t> order(count);
   std::iota(order.begin(), order.end(), std::size_t{0});
+  return order;
+}
+
+// Where some numbers compare with nothing.
+std::vector<std::size_t> Order_By_Search(const std::vector<std::size_t>& ranks) {
+  std::vector<std::size_t> order = In_Order(ranks.size());
   Unsorted_Tail tail(ranks);
   for (std::size_t current = 0; current < order.size(); ++current) {
     if (current % steps_between_yields == 0) Yield();
@@ -66,6 +71,58 @@ std::vector<std::size_t> Selection_Order(const std::vector<std::size_t>& ranks) 
     tail.put(current, no_number_rank);
   }
   return order;
+}
+
+// The places of numbers, those of the least rank first, and where each rank's end.
+struct Ranked_Places {
+  explicit Ranked_Places(const std::vector<std::size_t>& ranks) {
+    std::size_t count = 0;
+    for (const std::size_t rank : ranks) {
+      if (rank != no_number_rank) count = std::max(count, rank + 1);
+    }
+    ends.resize(count + 1);
+    for (const std::size_t rank : ranks) {
+      if (rank != no_number_rank) ++ends[rank + 1];
+    }
+    for (std::size_t rank = 0; rank < count; ++rank) ends[rank + 1] += ends[rank];
+    places.resize(ends.back());
+    for (std::size_t place = 0; place < ranks.size(); ++place) {
+      if (ranks[place] != no_number_rank) places[ends[ranks[place]]++] = place;
+    }
+    ends.pop_back();
+  }
+
+  std::vector<std::size_t> places;
+  std::vector<std::size_t> ends;
+};
+
+// Where all numbers compare: while one rank is taken, no number of it is moved aside. For the one
+// that stands at the current position is the first of them, and stays.
+std::vector<std::size_t> Order_By_Rank(const std::vector<std::size_t>& ranks) {
+  std::vector<std::size_t> order = In_Order(ranks.size());
+  std::vector<std::size_t> position = order;  // of each place
+  const Ranked_Places ranked(ranks);
+  std::vector<std::size_t> bests;
+  std::size_t current = 0;
+  for (const std::size_t end : ranked.ends) {
+    bests.clear();
+    for (std::size_t i = current; i < end; ++i) bests.push_back(position[ranked.places[i]]);
+    if (bests.size() > 1) std::ranges::sort(bests);
+    for (const std::size_t best : bests) {
+      if (current % steps_between_yields == 0) Yield();
+      std::swap(order[current], order[best]);
+      position[order[best]] = best;
+      ++current;
+    }
+  }
+  return order;
+}
+
+}  // namespace
+
+std::vector<std::size_t> Selection_Order(const std::vector<std::size_t>& ranks) {
+  const bool all_compare = std::ranges::find(ranks, uncompared_rank) == ranks.end();
+  return all_compare ? Order_By_Rank(ranks) : Order_By_Search(ranks);
 }
 
 }  // namespace quorvex

@@ -11,10 +11,10 @@ namespace quorvex {
 Array Sort_Function(const HostValue& numlist, const Sort_Options& options) {
   const auto direction =
       options.descending ? Sort_Direction::descending : Sort_Direction::ascending;
-  Array block = Block_Of(numlist);
-  const Block_Size size = Size_Of_Block(options.rows, options.columns, block);
-  Array sorted = options.left_to_right ? Sort_Numbers_By_Row(std::move(block), direction)
-                                       : Sort_Numbers(std::move(block), direction);
+  const Number_Block block(numlist);
+  const Block_Size size = Size_Of_Block(options.rows, options.columns, block.array());
+  Array sorted = options.left_to_right ? Sort_Numbers_By_Row(block.array(), direction)
+                                       : Sort_Numbers(block.array(), direction);
   return options.fit_to_array
              ? Fit_Sort_Result(sorted, size, options.blank_text, options.left_to_right)
              : Copy_Sort_Result(std::move(sorted), size, options.blank_text);

@@ -18,7 +18,7 @@ struct Sort_Options {
 };
 
 /// The worker of `qvxSORT`: the cells of a block in order, in a block of the caller's size. Fails
-/// as `Block_Of`, `Sort_Numbers` and `Size_Of_Block` do.
+/// as `Number_Block`, `Sort_Numbers` and `Size_Of_Block` do.
 Array Sort_Function(const HostValue& numlist, const Sort_Options& options);
 
 }  // namespace quorvex

@@ -13,7 +13,8 @@
 namespace quorvex {
 namespace {
 
-std::vector<std::size_t> Places_By_Row(const Array& array) {
+std::vector<std::size_t> Places_Of(const Array& array, Cell_Path path) {
+  if (path == Cell_Path::by_column) return Places_By_Column(array);
   std::vector<std::size_t> places(array.values.size());
   std::iota(places.begin(), places.end(), std::size_t{0});
   return places;
@@ -37,29 +38,26 @@ class Cell_Texts {
   std::deque<std::string> written_;
 };
 
-// The first round looks at every cell and makes text of the blank ones. The first cell is put back
-// as it was where nothing takes its place.
-void Fill_Blanks(Array& array, const std::vector<std::size_t>& places,
-                 const std::vector<std::string_view>& texts, bool first_is_displaced) {
-  for (std::size_t i = first_is_displaced ? 0 : 1; i < places.size(); ++i) {
-    HostValue& cell = array.values[places[i]];
-    if (!cell.is_text() && texts[i].empty()) cell = "";
-  }
+bool Is_Blank(const HostValue& cell) {
+  if (Is_Single_Cell(cell)) return Is_Blank(Cell_Of(cell));
+  return cell.is_empty();
 }
 
-Array Sorted(Array array, const std::vector<std::size_t>& places, Sort_Direction direction) {
-  std::vector<std::size_t> order;
-  {
-    const Cell_Texts texts(array, places);
-    order = Selection_Order(Ranks_Of(texts.views(), direction));
-    Fill_Blanks(array, places, texts.views(), !order.empty() && order.front() != 0);
+// The first round of the sort looks at every cell and makes text of the blank ones. The first cell
+// is put back as it was where nothing takes its place: it is the only one that then stays blank.
+Array Sorted(const Array& numbers, Cell_Path path, Sort_Direction direction) {
+  const auto indices = Sorted_Indices(numbers, path, direction);
+  Array sorted{numbers.rows, numbers.columns, numbers.lower_row, numbers.lower_column, {}};
+  sorted.values.reserve(indices.size());
+  for (std::size_t i = 0; i < indices.size(); ++i) {
+    const HostValue& cell = numbers.values[indices[i]];
+    if (Is_Blank(cell) && !(i == 0 && indices[i] == 0)) {
+      sorted.values.emplace_back("");
+    } else {
+      sorted.values.push_back(cell);
+    }
   }
-  std::vector<HostValue> sorted(order.size());
-  for (std::size_t i = 0; i < order.size(); ++i) {
-    sorted[places[i]] = std::move(array.values[places[order[i]]]);
-  }
-  array.values = std::move(sorted);
-  return array;
+  return sorted;
 }
 
 }  // namespace
@@ -75,14 +73,22 @@ std::vector<std::size_t> Places_By_Column(const Array& array) {
   return places;
 }
 
-Array Sort_Numbers(Array numbers, Sort_Direction direction) {
-  const auto places = Places_By_Column(numbers);
-  return Sorted(std::move(numbers), places, direction);
+std::vector<std::size_t> Sorted_Indices(const Array& numbers, Cell_Path path,
+                                        Sort_Direction direction) {
+  const auto places = Places_Of(numbers, path);
+  const Cell_Texts texts(numbers, places);
+  const auto order = Selection_Order(Ranks_Of(texts.views(), direction));
+  std::vector<std::size_t> indices(order.size());
+  for (std::size_t i = 0; i < order.size(); ++i) indices[places[i]] = places[order[i]];
+  return indices;
 }
 
-Array Sort_Numbers_By_Row(Array numbers, Sort_Direction direction) {
-  const auto places = Places_By_Row(numbers);
-  return Sorted(std::move(numbers), places, direction);
+Array Sort_Numbers(const Array& numbers, Sort_Direction direction) {
+  return Sorted(numbers, Cell_Path::by_column, direction);
+}
+
+Array Sort_Numbers_By_Row(const Array& numbers, Sort_Direction direction) {
+  return Sorted(numbers, Cell_Path::by_row, direction);
 }
 
 }  // namespace quorvex

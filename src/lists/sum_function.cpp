@@ -23,8 +23,9 @@ NumberText Sum_Function(const List& list, Sum_Kind kind) {
   List_Options options;
   Running_Sum sum;
   double count = 0;
-  Walk_List(list, options, [&](std::string_view element) {
-    if (sum.add(element, options.msd)) ++count;
+  Walk_List(list, options, [&](const List_Element& element) {
+    const bool is_added = element.plain != nullptr && sum.add_plain(*element.plain, options.msd);
+    if (is_added || sum.add(element.text, options.msd)) ++count;
     return Walk::on;
   });
   if (kind == Sum_Kind::count) return Finish_List(Number_To_Text(count), options);

@@ -17,11 +17,11 @@ bool Has_More(std::string_view& first, std::string_view& more) {
 }
 
 // The order of two fractions that end with no zeros.
-std::strong_ordering Compare_Digits(const Comparable_Number& a, const Comparable_Number& b) {
-  std::string_view a_first = a.first_digits();
-  std::string_view a_more = a.more_digits();
-  std::string_view b_first = b.first_digits();
-  std::string_view b_more = b.more_digits();
+std::strong_ordering Compare_Digits(const Digits_And_Power& a, const Digits_And_Power& b) {
+  std::string_view a_first = a.first;
+  std::string_view a_more = a.more;
+  std::string_view b_first = b.first;
+  std::string_view b_more = b.more;
   for (;;) {
     const bool a_goes_on = Has_More(a_first, a_more);
     const bool b_goes_on = Has_More(b_first, b_more);
@@ -39,29 +39,39 @@ std::strong_ordering Compare_Digits(const Comparable_Number& a, const Comparable
 }  // namespace
 
 bool Comparable_Number::read(std::string_view text) {
-  if (!Read_For_Comparison(text, operand_, Exponent_Zeros::counted)) return false;
-  first_ = operand_->parts().integer;
-  more_ = operand_->parts().fraction;
-  first_.remove_prefix(Count_Leading_Zeros(first_));
-  power_ = operand_->power_of_ten() + static_cast<std::int64_t>(first_.size());
-  if (first_.empty()) {
-    const std::size_t zeros = Count_Leading_Zeros(more_);
-    power_ -= static_cast<std::int64_t>(zeros);
-    first_ = std::exchange(more_, {}).substr(zeros);
+  Plain_Number plain;
+  is_plain_ = Read_Plain(text, plain);
+  if (is_plain_) {
+    take(plain.parts, !plain.negative, 0);
+    return true;
   }
-  more_.remove_suffix(Count_Trailing_Zeros(more_));
-  if (more_.empty()) first_.remove_suffix(Count_Trailing_Zeros(first_));
-  sign_ = 0;
-  if (!first_.empty()) sign_ = operand_->positive() ? 1 : -1;
+  if (!Read_For_Comparison(text, operand_, Exponent_Zeros::counted)) return false;
+  take(operand_->parts(), operand_->positive(), operand_->power_of_ten());
   return true;
 }
 
-std::strong_ordering operator<=>(const Comparable_Number& a, const Comparable_Number& b) {
-  if (a.sign() != b.sign()) return a.sign() <=> b.sign();
-  if (a.sign() == 0) return std::strong_ordering::equal;
-  const Comparable_Number& lesser = a.sign() > 0 ? a : b;
-  const Comparable_Number& greater = a.sign() > 0 ? b : a;
-  if (lesser.power() != greater.power()) return lesser.power() <=> greater.power();
+void Comparable_Number::take(const Decimal_Parts& parts, bool positive, std::int64_t power_of_ten) {
+  std::string_view first = parts.integer;
+  std::string_view more = parts.fraction;
+  if (first.starts_with('0')) first.remove_prefix(Count_Leading_Zeros(first));
+  std::int64_t power = power_of_ten + static_cast<std::int64_t>(first.size());
+  if (first.empty()) {
+    const std::size_t zeros = Count_Leading_Zeros(more);
+    power -= static_cast<std::int64_t>(zeros);
+    first = std::exchange(more, {}).substr(zeros);
+  }
+  if (more.ends_with('0')) more.remove_suffix(Count_Trailing_Zeros(more));
+  if (more.empty() && first.ends_with('0')) first.remove_suffix(Count_Trailing_Zeros(first));
+  const int sign = positive ? 1 : -1;
+  value_ = {first.empty() ? 0 : sign, power, first, more};
+}
+
+std::strong_ordering operator<=>(const Digits_And_Power& a, const Digits_And_Power& b) {
+  if (a.sign != b.sign) return a.sign <=> b.sign;
+  if (a.sign == 0) return std::strong_ordering::equal;
+  const Digits_And_Power& lesser = a.sign > 0 ? a : b;
+  const Digits_And_Power& greater = a.sign > 0 ? b : a;
+  if (lesser.power != greater.power) return lesser.power <=> greater.power;
   return Compare_Digits(lesser, greater);
 }
 

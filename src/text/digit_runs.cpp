@@ -44,7 +44,7 @@ std::size_t Count_Digits_In_Piece(std::string_view text) {
 
 }  // namespace
 
-std::size_t Count_Digits(std::string_view text) {
+std::size_t Count_Many_Digits(std::string_view text) {
   std::size_t count = 0;
   for (;;) {
     const auto piece = text.substr(count, digits_between_yields);
@@ -74,10 +74,6 @@ std::size_t Count_Trailing_Zeros(std::string_view text) {
   }
   while (end > 0 && data[end - 1] == '0') --end;
   return text.size() - end;
-}
-
-bool Has_Non_Digit(std::string_view text) {
-  return Count_Digits(text) != text.size();
 }
 
 }  // namespace quorvex

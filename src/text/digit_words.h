@@ -39,6 +39,28 @@ inline void Store(char* digits, std::uint64_t word) {
   std::memcpy(digits, &word, size);
 }
 
+/// A text of fewer than eight characters in the high bytes of a word, null bytes behind them.
+inline std::uint64_t Load_Few(const char* text, std::size_t count) {
+  Expects(count > 0 && count < size);
+  const auto to_place = [](std::size_t place) { return 8 * (size - 1 - place); };
+  if (count < size / 2) {
+    const auto at = [&](std::size_t place) {
+      return std::uint64_t{static_cast<unsigned char>(text[place])} << to_place(place);
+    };
+    return at(0) | at(count / 2) | at(count - 1);
+  }
+  // Two halves that overlap.
+  std::uint32_t first = 0;
+  std::uint32_t last = 0;
+  std::memcpy(&first, text, sizeof first);
+  std::memcpy(&last, text + count - sizeof last, sizeof last);
+  if constexpr (std::endian::native == std::endian::little) {
+    first = __builtin_bswap32(first);
+    last = __builtin_bswap32(last);
+  }
+  return std::uint64_t{first} << 32U | std::uint64_t{last} << to_place(count - 1);
+}
+
 /// The first `count` digits of a text in the low bytes of a word, zeros above. The text must have
 /// eight characters all the same.
 inline std::uint64_t Load_First(const char* digits, std::size_t count) {
@@ -58,6 +80,14 @@ inline void Store_Last(char* digits, std::uint64_t word, std::size_t count) {
 inline std::uint64_t Non_Digit_Bits(std::uint64_t word) {
   const std::uint64_t values = word ^ zeros;
   return ((values + Repeat(0x76)) | values) & Repeat(0x80);
+}
+
+/// How many digits the word begins with. Nothing runs over from one byte into the next here, so
+/// each byte is judged by itself.
+inline std::size_t Leading_Digits(std::uint64_t word) {
+  const std::uint64_t values = word ^ zeros;
+  const std::uint64_t others = (((values & Repeat(0x7F)) + Repeat(0x76)) | values) & Repeat(0x80);
+  return static_cast<std::size_t>(std::countl_zero(others)) / size;
 }
 
 /// Takes the bias off bytes that hold a digit (0 to 9) or a digit plus 0xF6, and makes them ASCII.

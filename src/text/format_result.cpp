@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "expects.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/utf8.h"
@@ -157,6 +158,13 @@ NumberText Format_Result(Decimal number, const type_Restrictionator& options, bo
   if (options.FormatCurrency) Add_Currency_Symbol(result);
   Apply_Sign(result, positive, options.FormatNegative, noLengthChecks);
   return std::move(result);
+}
+
+NumberText Unformatted(NumberText digits, std::size_t places, bool negative) {
+  Expects(!digits.empty() && !Has_Non_Digit(digits));
+  Write_Plain(digits, places);
+  if (negative && digits != "0") digits.insert(0, 1, '-');
+  return digits;
 }
 
 NumberText Format_Number(std::string_view number, const Format_Arguments& arguments) {

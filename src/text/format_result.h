@@ -1,6 +1,7 @@
 // Where every result becomes the text of a cell.
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 #include "host/host_value.h"
@@ -21,6 +22,10 @@ namespace quorvex {
 /// a `FormatDecimalPlace` that is no 32-bit number, and with type_mismatch when a carry of rounding
 /// to fixed places runs into a thousands separator.
 NumberText Format_Result(Decimal number, const type_Restrictionator& options, bool noLengthChecks);
+
+/// The same for digits that no limit cuts, where no option asks for anything: with so many of them
+/// behind the separator.
+NumberText Unformatted(NumberText digits, std::size_t places, bool negative);
 
 /// The worker of `qvxFORMAT`: `Clean_Up_Number`, then `Format_Result` with the limit as given.
 NumberText Format_Number(std::string_view number, const Format_Arguments& arguments);

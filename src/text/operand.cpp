@@ -29,16 +29,11 @@ std::strong_ordering Compare_Fractions(const Decimal_Parts& a, const Decimal_Par
 
 }  // namespace
 
-bool Split_Decimal(std::string_view text, Decimal_Parts& parts) {
-  const std::size_t integer = Count_Digits(text);
-  parts.integer = text.substr(0, integer);
-  if (integer == text.size()) return true;
+bool Split_Fraction(std::string_view text, Decimal_Parts& parts) {
   const std::string& separator = Decimal_Separator();
-  std::string_view rest = text.substr(integer);
-  if (!rest.starts_with(separator)) return false;
-  rest.remove_prefix(separator.size());
-  parts.fraction = rest;
-  return !Has_Non_Digit(rest);
+  if (!text.starts_with(separator)) return false;
+  parts.fraction = text.substr(separator.size());
+  return !Has_Non_Digit(parts.fraction);
 }
 
 std::strong_ordering Compare_Magnitudes(const Decimal_Parts& a, const Decimal_Parts& b) {

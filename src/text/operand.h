@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "text/digit_runs.h"
+
 namespace quorvex {
 
 /// Digits left and right of the decimal separator, as views into some text; either may be empty.
@@ -15,9 +17,34 @@ struct Decimal_Parts {
   std::string_view fraction;
 };
 
+/// Reads a decimal separator and the digits behind it as the fraction. False for any other text.
+bool Split_Fraction(std::string_view text, Decimal_Parts& parts);
+
 /// Cuts a text of digits with at most one decimal separator into its parts. False for any other
 /// text, whose parts mean nothing.
-bool Split_Decimal(std::string_view text, Decimal_Parts& parts);
+inline bool Split_Decimal(std::string_view text, Decimal_Parts& parts) {
+  const std::size_t integer = Count_Digits(text);
+  parts.integer = text.substr(0, integer);
+  return integer == text.size() || Split_Fraction(text.substr(integer), parts);
+}
+
+/// Digits with at most one decimal separator and at most a leading minus, as most numbers are
+/// written.
+struct Plain_Number {
+  bool negative = false;
+  Decimal_Parts parts;
+};
+
+/// Reads a plain number that has a digit. False for any other text, which may be a number too.
+inline bool Read_Plain(std::string_view text, Plain_Number& number) {
+  number.negative = text.starts_with('-');
+  if (number.negative) text.remove_prefix(1);
+  const std::size_t integer = Count_Digits(text);
+  number.parts = {text.substr(0, integer), {}};
+  if (integer == text.size()) return integer != 0;
+  return Split_Fraction(text.substr(integer), number.parts) &&
+         !(integer == 0 && number.parts.fraction.empty());
+}
 
 /// The order of two magnitudes by value, whatever zeros stand around them.
 std::strong_ordering Compare_Magnitudes(const Decimal_Parts& a, const Decimal_Parts& b);

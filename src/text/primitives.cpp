@@ -12,6 +12,7 @@ namespace {
 // Takes every occurrence of `part` out, in one pass.
 void Remove_All(std::string& text, std::string_view part) {
   if (part.empty()) return;
+  if (text.find(part) == std::string::npos) return;
   if (part.size() == 1) {
     std::erase(text, part.front());
     return;

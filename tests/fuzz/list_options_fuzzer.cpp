@@ -61,7 +61,7 @@ std::vector<std::string> Lines(std::string_view text) {
 // Failed readings only have to fail alike.
 bool Reads_All(const List& list, List_Options& options) {
   try {
-    Walk_List(list, options, [](std::string_view) { return Walk::on; });
+    Walk_List(list, options, [](const List_Element&) { return Walk::on; });
     return true;
   } catch (const Run_Time_Failure&) {
     return false;

@@ -69,8 +69,8 @@ TEST(ListWalk, FoldsToCapitalsAndTakesOptionStringsOut) {
                      Array_Of(1, {"format:msd=7,negative", "x"}),
                      " format:thousands",
                      "fOrMaT:Currency"};
-  Walk_List(list, options, [&](std::string_view text) {
-    seen += std::string(text) + (options.has_msd ? "|" : "/");
+  Walk_List(list, options, [&](const List_Element& element) {
+    seen += std::string(element.text) + (options.has_msd ? "|" : "/");
     return Walk::on;
   });
   EXPECT_EQ(seen, "ABC/1.5E+3/ÄÖß/X| FORMAT:THOUSANDS|");

@@ -116,6 +116,41 @@ TEST(RunningSum, SettlesCarriesBeforeTheyOverflow) {
   }
 }
 
+// Bytes, lanes and what is admitted at once run full at different counts.
+TEST(RunningSum, KeepsColumnsApartForAnyCount) {
+  const auto zeros = [](std::size_t count) { return std::string(count, '0'); };
+  for (const std::size_t count : {27U, 28U, 29U, 7279U, 7280U, 7281U, 250'000U}) {
+    // So many times the number below a power of ten, on both sides of the point.
+    const std::string text = std::to_string(count);
+    const Exact_Decimal expected =
+        Exact_Decimal(text + zeros(112)) + -Exact_Decimal("0." + zeros(128 - text.size()) + text);
+    Running_Sum sum;
+    for (std::size_t i = 0; i < count; ++i) {
+      ASSERT_TRUE(sum.add(std::string(112, '9') + "." + std::string(128, '9'), maximum_digits));
+    }
+    ASSERT_EQ(sum.text(), expected.text()) << count;
+  }
+}
+
+// Whatever the road of each, a sum that a limit just leaves alone is not cut, and one that it cuts
+// is.
+TEST(RunningSum, TellsToTheDigitWhatALimitCuts) {
+  const std::string nines(20, '9');
+  for (double msd = 15; msd < 45; ++msd) {
+    Running_Sum sum;
+    Chain chain(operation::add, "0");
+    for (const char* more : {"", ".5", "$", "-", ".", "", "-", ".25"}) {
+      const std::string element = *more == '.' ? nines + more : more + nines;
+      for (int i = 0; i < 12; ++i) {
+        ASSERT_EQ(sum.add(element, msd), chain.take(element, msd));
+        if (i % 5 == 0) {
+          ASSERT_EQ(sum.text(), chain.text()) << msd << ' ' << element;
+        }
+      }
+    }
+  }
+}
+
 // Passed over as if it were no number, an element would make the result wrong.
 TEST(RunningResults, FailWhereAnElementHasNoRoom) {
   for (const double msd : {3.0, maximum_digits}) {

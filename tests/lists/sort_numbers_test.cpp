@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <compare>
 #include <numeric>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "frame/class/cls_Quorvex.h"
@@ -14,6 +16,7 @@
 #include "support/cells.h"
 #include "support/failures.h"
 #include "support/surroundings.h"
+#include "text/comparable_number.h"
 #include "text/compare_numbers.h"
 #include "text/recognition.h"
 
@@ -131,6 +134,32 @@ TEST(SortNumbers, TellsLongNumbersApart) {
       ASSERT_EQ(Shown(Sort_Numbers(column, direction)),
                 Shown(Selection_Sort(column, Places(column, true), direction)))
           << seed;
+    }
+  }
+}
+
+// Where sizes lie far apart, few bits are left to tell first digits by.
+TEST(SortNumbers, PutsNumbersOfAllSizesInOrder) {
+  for (const std::size_t powers : {1U, 7U, 600U, 2'000'000'000U}) {
+    Random_Numbers random(static_cast<unsigned>(powers));
+    std::vector<HostValue> cells;
+    for (int i = 0; i < 3000; ++i) {
+      std::string text = random.one_in(20) ? "0" : random.digits(1 + random.below(30));
+      if (random.one_in(2)) {
+        text.insert(1, ".");
+        text += "E" + random.one_of("+-") + std::to_string(random.below(powers));
+      }
+      if (random.one_in(2)) text.insert(0, 1, '-');
+      cells.emplace_back(std::move(text));
+    }
+    const Array sorted = Sort_Numbers(Array_Of(1, cells), Sort_Direction::ascending);
+    ASSERT_EQ(sorted.values.size(), cells.size());
+    Comparable_Number lower;
+    Comparable_Number upper;
+    for (std::size_t i = 1; i < sorted.values.size(); ++i) {
+      ASSERT_TRUE(lower.read(sorted.values[i - 1].text()) && upper.read(sorted.values[i].text()));
+      ASSERT_TRUE(std::is_lteq(lower <=> upper))
+          << sorted.values[i - 1].text() << ' ' << sorted.values[i].text();
     }
   }
 }

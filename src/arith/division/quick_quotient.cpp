@@ -79,11 +79,29 @@ class Minuend {
   std::size_t place_ = 0;
 };
 
+// The same in two words, where divisor, dividend and reciprocal have no more digits than a limb.
+std::optional<Decimal> Divide_In_Words(std::string_view X, const limbs::Divisor& k,
+                                       std::size_t length, std::size_t p) {
+  const std::optional<Limb> g = Missing_From_Power(k, length, p);
+  if (!g) return std::nullopt;
+  const Wide power = Wide{limbs::Ten_To(p)} * limbs::Ten_To(length - 1);
+  const Wide product = (power - *g) / k.number() * limbs::Read(X);
+  // It has the digits of both factors, or one less.
+  std::size_t left = X.size();
+  if (product < Wide{limbs::Ten_To(p)} * limbs::Ten_To(X.size() - 1)) --left;
+  std::array<char, limbs::digits> digits;
+  limbs::Write(digits.data(), static_cast<Limb>(product / limbs::Ten_To(left)));
+  return Decimal{NumberText(digits.end() - p, digits.end()), static_cast<std::int64_t>(left)};
+}
+
 // Let the reciprocal's digits be (10^s - g) / k. Then the product is (X 10^s - X g) / k without a
 // rest, and its first digits are those of a division from the left, in one pass.
 std::optional<Decimal> Divide_By_Limb(std::string_view X, std::string_view k_digits,
                                       std::size_t p) {
   const limbs::Divisor k(limbs::Read(k_digits));
+  if (X.size() <= limbs::digits && p <= limbs::digits) {
+    return Divide_In_Words(X, k, k_digits.size(), p);
+  }
   Require_Memory(2.0 * static_cast<double>(X.size() + p));
   const std::optional<Limb> g = Missing_From_Power(k, k_digits.size(), p);
   if (!g) return std::nullopt;

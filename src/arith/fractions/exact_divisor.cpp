@@ -1,7 +1,7 @@
 // Euclid's algorithm on binary words, many steps at once by the leading bits of both numbers
 // (D. H. Lehmer, Euclid's Algorithm for Large Numbers, Amer. Math. Monthly 45, 1938; the test for
-// how long the leading bits tell the quotient is that of D. E. Knuth, The Art of Computer
-// Programming 2, 4.5.2, algorithm L).
+// how long the leading bits tell the quotient is that of G. E. Collins, as T. Jebelean has it in A
+// Double-Digit Lehmer-Euclid Algorithm, J. Symbolic Computation 19, 1995).
 #include "arith/fractions/exact_divisor.h"
 
 #include <algorithm>
@@ -25,7 +25,7 @@ using limbs::Wide;
 __extension__ using Signed_Wide = __int128;
 
 constexpr std::size_t word_bits = 64;
-constexpr std::size_t leading_bits = 62;  // so that sums with a coefficient stay in a signed word
+constexpr std::size_t leading_bits = 126;
 
 // The least word first, none of them 0 at the end.
 using Number = std::vector<Word>;
@@ -151,40 +151,109 @@ Number Read(std::string_view digits, const Number& modulus = {}) {
   return number;
 }
 
-// What several steps make of two numbers: a becomes A a + B b, and b becomes C a + D b.
+// What several steps make of two numbers: a becomes A a - B b, and b becomes D b - C a; or all that
+// with the other sign, after an odd count of steps.
 struct Steps {
-  std::int64_t A = 1;
-  std::int64_t B = 0;
-  std::int64_t C = 0;
-  std::int64_t D = 1;
+  Word A = 1;
+  Word B = 0;
+  Word C = 0;
+  Word D = 1;
+  bool odd = false;
 };
 
-// As many steps as the leading bits of both tell beyond doubt.
-Steps Steps_By(std::int64_t x, std::int64_t y) {
+// As many steps as the leading bits x and y, x the greater, of both numbers tell beyond doubt.
+//
+// Let a step leave z of x, and let its factors grow to C' and D'. Of the numbers themselves it
+// leaves z 2^h + C' e - D' f or that with the other sign, where e and f, below 2^h, are what stands
+// behind the leading bits. As D' is the greater factor, z >= D' makes that a number from 0 on, and
+// y - z >= D + D' makes it less than what y stands for: then it is the remainder. No factor gets
+// longer than half of x, since its product with y is no more than x was.
+Steps Steps_By_Words(Word x, Word y) {
   Steps steps;
-  while (y + steps.C != 0 && y + steps.D != 0) {
-    const std::int64_t quotient = (x + steps.A) / (y + steps.C);
-    if (quotient != (x + steps.B) / (y + steps.D)) break;
-    steps.A = std::exchange(steps.C, steps.A - quotient * steps.C);
-    steps.B = std::exchange(steps.D, steps.B - quotient * steps.D);
-    x = std::exchange(y, x - quotient * y);
+  while (y != 0) {
+    const Word quotient = x / y;
+    const Word rest = x - quotient * y;
+    const Word factor = steps.B + quotient * steps.D;
+    if (rest < factor || y - rest < factor + steps.D) break;
+    steps.A = std::exchange(steps.C, steps.A + quotient * steps.C);
+    steps.B = std::exchange(steps.D, factor);
+    steps.odd = !steps.odd;
+    x = std::exchange(y, rest);
   }
   return steps;
 }
 
+// The leading bits of x, and those of y that stand in the same places.
+Steps Steps_By_Leading(Wide x, Wide y, int bits) {
+  const auto high = static_cast<Word>(x >> word_bits);
+  const int length =
+      high != 0 ? 128 - std::countl_zero(high) : 64 - std::countl_zero(static_cast<Word>(x));
+  const int shift = std::max(length - bits, 0);
+  return Steps_By_Words(static_cast<Word>(x >> shift), static_cast<Word>(y >> shift));
+}
+
+void Apply(const Steps& steps, Wide& x, Wide& y) {
+  const Wide before = x;
+  x = steps.A * x - steps.B * y;
+  y = steps.D * y - steps.C * before;
+  if (!steps.odd) return;
+  x = Wide{0} - x;
+  y = Wide{0} - y;
+}
+
+Steps Joined(const Steps& first, const Steps& then) {
+  return {then.A * first.A + then.B * first.C, then.A * first.B + then.B * first.D,
+          then.C * first.A + then.D * first.C, then.C * first.B + then.D * first.D,
+          first.odd != then.odd};
+}
+
+// The steps that two words of leading bits tell: those by their leading bits in turn, and by the
+// leading bits of what these leave. Of the latter it is enough that neither number can become less
+// than 0: they needn't be remainders to have the same divisors.
+Steps Steps_By(Wide x, Wide y) {
+  constexpr int bits_of_first = 62;
+  constexpr int bits_of_second = 58;  // which most often leaves room for what is in doubt
+  const Steps first = Steps_By_Leading(x, y, bits_of_first);
+  if (first.B == 0) return first;
+  Apply(first, x, y);
+  const Steps then = Steps_By_Leading(x, y, bits_of_second);
+  Apply(then, x, y);
+  const Steps both = Joined(first, then);
+  return y >= both.D && x - y >= Wide{both.B} + both.D ? both : first;
+}
+
+// The words of x's multiples less those of y's, the lowest first.
+class Difference {
+ public:
+  Difference(Word x_factor, Word y_factor) : x_factor_(x_factor), y_factor_(y_factor) {}
+
+  Word next(Word x, Word y) {
+    // Factors have 62 bits at most, so that products have room beside the sign.
+    rest_ += static_cast<Signed_Wide>(Wide{x_factor_} * x);
+    rest_ -= static_cast<Signed_Wide>(Wide{y_factor_} * y);
+    const auto word = static_cast<Word>(rest_);
+    rest_ >>= word_bits;
+    return word;
+  }
+
+ private:
+  Word x_factor_;
+  Word y_factor_;
+  Signed_Wide rest_ = 0;
+};
+
 void Apply(const Steps& steps, Number& a, Number& b) {
   b.resize(a.size());
-  Signed_Wide first = 0;
-  Signed_Wide second = 0;
+  // Of the two numbers, x is the one of which more is taken.
+  Number& x = steps.odd ? b : a;
+  Number& y = steps.odd ? a : b;
+  Difference first = steps.odd ? Difference(steps.B, steps.A) : Difference(steps.A, steps.B);
+  Difference second = steps.odd ? Difference(steps.C, steps.D) : Difference(steps.D, steps.C);
   for (std::size_t place = 0; place < a.size(); ++place) {
-    const auto x = static_cast<Signed_Wide>(a[place]);
-    const auto y = static_cast<Signed_Wide>(b[place]);
-    first += x * steps.A + y * steps.B;
-    second += x * steps.C + y * steps.D;
-    a[place] = static_cast<Word>(first);
-    b[place] = static_cast<Word>(second);
-    first >>= word_bits;
-    second >>= word_bits;
+    const Word x_word = x[place];
+    const Word y_word = y[place];
+    a[place] = first.next(x_word, y_word);
+    b[place] = second.next(y_word, x_word);
   }
   Trim(a);
   Trim(b);
@@ -194,9 +263,9 @@ Number Common_Divisor(Number a, Number b) {
   if (Is_Less(a, b)) std::swap(a, b);
   while (a.size() > 1 && !b.empty()) {
     Yield();
-    const std::size_t shift = Bits(a) - leading_bits;
-    const Steps steps = Steps_By(static_cast<std::int64_t>(Shifted_Right(a, shift)),
-                                 static_cast<std::int64_t>(Shifted_Right(b, shift)));
+    const std::size_t bits = Bits(a);
+    const std::size_t shift = bits > leading_bits ? bits - leading_bits : 0;
+    const Steps steps = Steps_By(Shifted_Right(a, shift), Shifted_Right(b, shift));
     if (steps.B == 0) {
       Reduce(a, b);
       std::swap(a, b);

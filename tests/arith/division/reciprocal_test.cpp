@@ -155,6 +155,11 @@ TEST(Reciprocal, QuickQuotientsAreProductsWithTheIteration) {
     if (k == "1") continue;
     check(Odd_Digits(random, 1 + random() % 130), k, static_cast<std::int32_t>(8 + random() % 122));
   }
+  for (int round = 0; round < 4000; ++round) {
+    const NumberText k = Odd_Digits(random, 1 + random() % 18);
+    if (k == "1") continue;
+    check(Odd_Digits(random, 1 + random() % 19), k, static_cast<std::int32_t>(8 + random() % 12));
+  }
   for (int round = 0; round < 40;
        ++round) {  // reciprocals that end: two to the 64th, five to the 27th
     const NumberText k = round % 2 == 0 ? "18446744073709551616" : "7450580596923828125";
