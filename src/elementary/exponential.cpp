@@ -84,7 +84,7 @@ Step_Number Power_Of_E(const NumberText& magnitude, std::int32_t limit) {
 
 NumberText Exp_Function(const HostValue& num, const HostValue& exponential_notation,
                         const HostValue& maxSD) {
-  return With_Handler(
+  return With_Outer_Handler(
       [&] {
         const NumberText number = Normal_Form(num);
         if (Is_Equal(number, "0")) return NumberText("1");

@@ -52,7 +52,7 @@ bool Read_For_Comparison(std::string_view text, std::optional<Operand>& number,
                          Exponent_Zeros zeros) {
   number.reset();
   if (Is_Lone_Mark(text)) return false;
-  return With_Handler_But_For_Memory(
+  return With_Handler(
       [&] { return Is_Comparable(number.emplace(text, zeros), text); },
       [](const Run_Time_Failure&) { return false; });
 }
