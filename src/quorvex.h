@@ -1,9 +1,9 @@
 // Everything that a program using the library needs: the public class, its catalogue, the values
 // that go in and out, and the platform underneath.
 //
-// Threads. Any number of instances of the class may be made and used in any number of threads at any
-// time, and several threads may use one, since instances keep nothing of their own: every method
-// that calculates; `SetExcelApp`; `Invoke`, `Catalogue` and `Find_Method`; the conversions;
+// Threads. Any number of instances of the class may be made and used in any number of threads at
+// any time, and several threads may use one, since instances keep nothing of their own: every
+// method that calculates; `SetExcelApp`; `Invoke`, `Catalogue` and `Find_Method`; the conversions;
 // `Default_MaxSD` and `Set_Default_MaxSD`. The default limit and the host are those of the process,
 // and guarded: a call sees the one before or the one after. Each call runs in the thread that made
 // it, and in no other. Values are the caller's: no two threads may use one while either changes it,

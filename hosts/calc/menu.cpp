@@ -47,7 +47,7 @@ void Ask_Time_Limit(const Context& context) {
     const auto seconds = Seconds(To_Utf8(dialog.entry("txtSeconds")->getText()));
     if (!seconds) return Say("Enter a count of seconds, 0 or more.");
     With_Outer_Handler([&] { Set_Time_Limit(*seconds); },
-                 [](const Run_Time_Failure& failure) { Say(failure.what()); });
+                       [](const Run_Time_Failure& failure) { Say(failure.what()); });
     dialog.close();
   });
   dialog.add_button("cmdCancel", {164, 74, 50, 16}, "Cancel", false, [&] { dialog.close(); });
@@ -61,7 +61,7 @@ class Menu final : public cppu::WeakImplHelper2<com::sun::star::task::XJobExecut
 
   void SAL_CALL trigger(const rtl::OUString& entry) override {
     With_Outer_Handler([&] { open(To_Utf8(entry)); },
-                 [](const Run_Time_Failure& failure) { Say(failure.what()); });
+                       [](const Run_Time_Failure& failure) { Say(failure.what()); });
   }
 
   rtl::OUString SAL_CALL getImplementationName() override { return "quorvex.calc.MenuImpl"; }

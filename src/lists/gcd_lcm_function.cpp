@@ -28,7 +28,8 @@ std::optional<NumberText> Element_Of(std::string_view text, Element_Form form) {
 }
 
 // What the two are reduced by; nothing where one of them is no number, which is passed over. A step
-// that fails for any other reason must not pass over an element: the result would be a wrong number.
+// that fails for any other reason must not pass over an element: the result would be a wrong
+// number.
 std::optional<NumberText> Common_Divisor(const NumberText& running, const NumberText& element) {
   type_Fraction fraction = Reduce_Fraction(running, element, {.simplify_signs = true});
   if (!Has_Token_Mark(fraction.Reduced_By)) return std::move(fraction.Reduced_By);

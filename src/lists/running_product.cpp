@@ -19,9 +19,8 @@ namespace quorvex {
 
 void Running_Product::multiply(std::string_view element, double msd) {
   std::optional<Operand> operand;
-  const bool is_number =
-      With_Handler([&] { return operand.emplace(element).is_number(); },
-                                  [](const Run_Time_Failure&) { return false; });
+  const bool is_number = With_Handler([&] { return operand.emplace(element).is_number(); },
+                                      [](const Run_Time_Failure&) { return false; });
   if (!is_number || zero_) return;
   Decimal factor = Significant_Digits(!operand->positive(), operand->parts());
   if (factor.digits == "0") {

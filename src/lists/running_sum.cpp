@@ -62,8 +62,8 @@ bool Running_Sum::add_in_chain(std::string_view element, double msd) {
   }
   type_Restrictionator options;
   options.maxSD = std::min(msd, maximum_digits);
-  NumberText sum = Do_Operation_On_Texts(operation::add, chain_, element, options,
-                                         {.intermediate = true});
+  NumberText sum =
+      Do_Operation_On_Texts(operation::add, chain_, element, options, {.intermediate = true});
   if (Has_Token_Mark(sum)) return false;
   chain_ = std::move(sum);
   return true;

@@ -80,9 +80,9 @@ Outcome Outcome_Of(cls_Quorvex& engine, const Tried_Call& call, Shortage shortag
 
 // Of these a failure of any kind ends in a token, as their users rely on.
 bool Has_Token_For_Failures(const Method& method) {
-  constexpr std::array<std::string_view, 9> methods{"qvxADD",  "qvxSUBTRACT", "qvxMULTIPLY",
-                                                    "qvxDIVIDE", "qvxROOT",   "qvxPOWER",
-                                                    "qvxLOG",  "qvxLN",       "qvxEXP"};
+  constexpr std::array<std::string_view, 9> methods{"qvxADD",    "qvxSUBTRACT", "qvxMULTIPLY",
+                                                    "qvxDIVIDE", "qvxROOT",     "qvxPOWER",
+                                                    "qvxLOG",    "qvxLN",       "qvxEXP"};
   return std::ranges::find(methods, method.name) != methods.end();
 }
 

@@ -1,5 +1,5 @@
-// Short calls that ask for much: exponents, limits, degrees and counts of any size. Each ends within
-// a bound of the work done, which is counted by its yields, and within a bound of memory.
+// Short calls that ask for much: exponents, limits, degrees and counts of any size. Each ends
+// within a bound of the work done, which is counted by its yields, and within a bound of memory.
 #include <gtest/gtest.h>
 
 #include <cstddef>

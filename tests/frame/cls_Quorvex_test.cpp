@@ -75,9 +75,15 @@ TEST(ClsQuorvex, MemoryThatCantBeHadIsAFailureWhereNoTokenStandsForIt) {
       [&] { engine.qvxFORMAT("5", Missing, Missing, Missing, Missing, Missing, 2000000000); },
       [&] { engine.qvxISGREATER(greater, one); },
       [&] { engine.qvxABS("1E+2000000000"); },
-      [&] { engine.qvxGCD({"6E+2000000000", "4E+2000000000"}); },
-      [&] { engine.qvxLCM({"6E+2000000000", "4"}); },
-      [&] { engine.qvxSUM2({"1E+2000000000", "4"}); },
+      [&] {
+        engine.qvxGCD({"6E+2000000000", "4E+2000000000"});
+      },
+      [&] {
+        engine.qvxLCM({"6E+2000000000", "4"});
+      },
+      [&] {
+        engine.qvxSUM2({"1E+2000000000", "4"});
+      },
   };
   for (const auto& call : calls) EXPECT_EQ(Failure_Of(call), Failure_Number::out_of_memory);
 }

@@ -1,4 +1,5 @@
-// Calls of all kinds in several threads, under the thread sanitizer: each gives what it gives alone.
+// Calls of all kinds in several threads, under the thread sanitizer: each gives what it gives
+// alone.
 //   quorvex_thread_tests [CALLS]   so many in each thread
 #include <gtest/gtest.h>
 
