@@ -1,17 +1,19 @@
 // Everything that a program using the library needs: the public class, its catalogue, the values
 // that go in and out, and the platform underneath.
 //
-// Threads. These may run at any time in any number of threads: every method that calculates, on
-// one instance of the class or on several, since instances keep nothing of their own; `Invoke`,
-// `Catalogue` and `Find_Method`; the conversions; `Default_MaxSD` and `Set_Default_MaxSD`. Values
-// are the caller's: no two threads may use one while either changes it, and a method changes those
-// that it takes by reference.
+// Threads. Any number of instances of the class may be made and used in any number of threads at
+// any time, and several threads may use one, since instances keep nothing of their own: every
+// method that calculates; `SetExcelApp`; `Invoke`, `Catalogue` and `Find_Method`; the conversions;
+// `Default_MaxSD` and `Set_Default_MaxSD`. The default limit and the host are those of the process,
+// and guarded: a call sees the one before or the one after. Each call runs in the thread that made
+// it, and in no other. Values are the caller's: no two threads may use one while either changes it,
+// and a method changes those that it takes by reference.
 //
-// All else belongs to one thread, that of the host: making an instance, `SetExcelApp`, `qvxABOUT`,
-// the forms and what else is in quorvex/shell, and running what timers are due. Parts of
-// `Current_Platform` are replaced before other threads calculate. Those put there must bear being
-// asked by several threads at once where several calculate; those of the library do, but for
-// `Deadline`.
+// All else belongs to one thread, that of the host: `qvxABOUT`, the forms and what else is in
+// quorvex/shell, and running what timers are due. On Windows the timer that describes the functions
+// to a host goes off in the thread that made the first instance. Parts of `Current_Platform` are
+// replaced before other threads calculate. Those put there must bear being asked by several threads
+// at once where several calculate or make instances; those of the library do, but for `Deadline`.
 #pragma once
 
 #include "frame/catalogue.h"

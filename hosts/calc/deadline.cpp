@@ -31,7 +31,7 @@ void Install(double seconds) {
 double Time_Limit() {
   const auto stored = Current_Platform().settings->read(application, section, key);
   if (!stored) return default_time_limit;
-  return With_Handler(
+  return With_Outer_Handler(
       [&] {
         const double seconds = Text_To_Number(*stored);
         return seconds >= 0 ? seconds : default_time_limit;

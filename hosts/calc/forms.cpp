@@ -84,7 +84,7 @@ class Face_Of_Office final : public Form_Face {
  private:
   // An empty box keeps the dialog open.
   static void press_ok(frmMaxSD& form, Dialog& dialog) {
-    With_Handler([&] { form.cmdOK_Click(); }, [](const Run_Time_Failure&) {});
+    With_Outer_Handler([&] { form.cmdOK_Click(); }, [](const Run_Time_Failure&) {});
     if (form.is_loaded()) return;
     if (form.storing_problem()) {
       Current_Platform().message_box->show(form.Caption, *form.storing_problem(),

@@ -28,7 +28,7 @@ void Say(std::string_view text) {
 
 // Seconds as the user writes them; nothing for what is no time.
 std::optional<double> Seconds(const std::string& text) {
-  return With_Handler(
+  return With_Outer_Handler(
       [&]() -> std::optional<double> {
         const double seconds = Text_To_Number(text);
         return seconds >= 0 ? std::optional(seconds) : std::nullopt;
@@ -46,8 +46,8 @@ void Ask_Time_Limit(const Context& context) {
   dialog.add_button("cmdOK", {108, 74, 50, 16}, "OK", true, [&] {
     const auto seconds = Seconds(To_Utf8(dialog.entry("txtSeconds")->getText()));
     if (!seconds) return Say("Enter a count of seconds, 0 or more.");
-    With_Handler([&] { Set_Time_Limit(*seconds); },
-                 [](const Run_Time_Failure& failure) { Say(failure.what()); });
+    With_Outer_Handler([&] { Set_Time_Limit(*seconds); },
+                       [](const Run_Time_Failure& failure) { Say(failure.what()); });
     dialog.close();
   });
   dialog.add_button("cmdCancel", {164, 74, 50, 16}, "Cancel", false, [&] { dialog.close(); });
@@ -60,8 +60,8 @@ class Menu final : public cppu::WeakImplHelper2<com::sun::star::task::XJobExecut
   explicit Menu(const Context& context) : context_(context) { Settle_In(context); }
 
   void SAL_CALL trigger(const rtl::OUString& entry) override {
-    With_Handler([&] { open(To_Utf8(entry)); },
-                 [](const Run_Time_Failure& failure) { Say(failure.what()); });
+    With_Outer_Handler([&] { open(To_Utf8(entry)); },
+                       [](const Run_Time_Failure& failure) { Say(failure.what()); });
   }
 
   rtl::OUString SAL_CALL getImplementationName() override { return "quorvex.calc.MenuImpl"; }
@@ -83,7 +83,7 @@ class Menu final : public cppu::WeakImplHelper2<com::sun::star::task::XJobExecut
 
   // A stored limit that is no number is mended here, so it must not be in the way.
   void show_max_sd() {
-    With_Handler([&] { Start_Engine(context_); }, [](const Run_Time_Failure&) {});
+    With_Outer_Handler([&] { Start_Engine(context_); }, [](const Run_Time_Failure&) {});
     Show_MaxSD();
   }
 

@@ -62,42 +62,39 @@ NumberText Operate_On_Texts(std::int16_t Operation, std::string_view number1,
   return Format_Result(std::move(result), options, flags.intermediate);
 }
 
-template <typename Body>
-NumberText With_Value_Token(const Body& body, const Operation_Flags& flags) {
-  const auto token = [](const Run_Time_Failure&) { return NumberText(value_token); };
-  return flags.lack_of_memory_fails ? With_Handler_But_For_Memory(body, token)
-                                    : With_Handler(body, token);
+NumberText Value_Token(const Run_Time_Failure&) {
+  return NumberText(value_token);
 }
 
 }  // namespace
 
 NumberText Do_Operation(std::int16_t Operation, const HostValue& number1, const HostValue& number2,
                         const Format_Arguments& format, const Operation_Flags& flags) {
-  return With_Value_Token(
-      [&] {
-        if (NumberText result;
-            Short_Operation(Operation, number1, number2, format, flags.intermediate, result)) {
-          return result;
-        }
-        std::string scratch1;
-        std::string scratch2;
-        const std::string_view text1 = Operand_Text(number1, scratch1);
-        const std::string_view text2 = Operand_Text(number2, scratch2);
-        if (const auto token = Token_Of_Operands(text1, text2)) return NumberText(*token);
-        return Operate_On_Texts(Operation, text1, text2, Restrictionator(format), flags);
-      },
-      flags);
+  const auto operate = [&] {
+    if (NumberText result;
+        Short_Operation(Operation, number1, number2, format, flags.intermediate, result)) {
+      return result;
+    }
+    std::string scratch1;
+    std::string scratch2;
+    const std::string_view text1 = Operand_Text(number1, scratch1);
+    const std::string_view text2 = Operand_Text(number2, scratch2);
+    if (const auto token = Token_Of_Operands(text1, text2)) return NumberText(*token);
+    return Operate_On_Texts(Operation, text1, text2, Restrictionator(format), flags);
+  };
+  return flags.is_step ? With_Handler(operate, Value_Token)
+                       : With_Outer_Handler(operate, Value_Token);
 }
 
 NumberText Do_Operation_On_Texts(std::int16_t Operation, std::string_view number1,
                                  std::string_view number2, const type_Restrictionator& options,
                                  const Operation_Flags& flags) {
-  return With_Value_Token(
+  return With_Handler(
       [&] {
         if (const auto token = Token_Of_Operands(number1, number2)) return NumberText(*token);
         return Operate_On_Texts(Operation, number1, number2, options, flags);
       },
-      flags);
+      Value_Token);
 }
 
 }  // namespace quorvex

@@ -14,9 +14,9 @@ namespace quorvex {
 struct Operation_Flags {
   /// An intermediate value of a worker: no length checks, and no fixed places.
   bool intermediate = false;
-  /// Lack of memory fails with out_of_memory instead of giving "#VALUE!", for callers to whom that
-  /// token means that an operand is no number.
-  bool lack_of_memory_fails = false;
+  /// A step of a call and not the whole of it: lack of memory fails with out_of_memory instead of
+  /// giving "#VALUE!", which the next step would take for something about the operands.
+  bool is_step = false;
   /// For roots and powers: refuses operands that have too many digits together.
   bool restrict_input_lengths = false;
   /// For roots and powers: the guard digits of their steps. Missing, they choose them.
@@ -29,7 +29,7 @@ struct Operation_Flags {
 NumberText Do_Operation(std::int16_t Operation, const HostValue& number1, const HostValue& number2,
                         const Format_Arguments& format, const Operation_Flags& flags = {});
 
-/// The same for texts and resolved options, where it is called from within.
+/// The same for texts and resolved options, where it is called from within: as a step.
 NumberText Do_Operation_On_Texts(std::int16_t Operation, std::string_view number1,
                                  std::string_view number2, const type_Restrictionator& options,
                                  const Operation_Flags& flags = {});

@@ -143,7 +143,7 @@ std::optional<Step_Number> Quick_Value(const Reduced& reduced, double digits, co
 
 NumberText Exp_Function(const HostValue& num, const HostValue& exponential_notation,
                         const HostValue& maxSD) {
-  return With_Handler(
+  return With_Outer_Handler(
       [&] {
         const NumberText number = Normal_Form(num);
         if (Is_Equal(number, "0")) return NumberText("1");

@@ -181,14 +181,18 @@ Step_Number Logarithm_Of_Base(const HostValue& num_base, double base, double lim
 NumberText Ln_Function(const HostValue& num, const HostValue& exponential_notation,
                        const HostValue& maxSD) {
   const HostValue digits = Limit_As_Given(maxSD);
-  return Natural_Logarithm<NumberText>(num, digits, [&](const Step_Number& value) {
-    return Finish(value, exponential_notation, digits);
-  });
+  return With_Outer_Handler(
+      [&] {
+        return Natural_Logarithm<NumberText>(num, digits, [&](const Step_Number& value) {
+          return Finish(value, exponential_notation, digits);
+        });
+      },
+      Value_Token);
 }
 
 NumberText Log_Function(const HostValue& num, const HostValue& num_base,
                         const HostValue& exponential_notation, const HostValue& maxSD) {
-  return With_Handler(
+  return With_Outer_Handler(
       [&] {
         const NumberText number = Normal_Form(num);
         if (const auto known = Known_Logarithm(number)) return NumberText(*known);

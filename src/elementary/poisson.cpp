@@ -1,6 +1,7 @@
 #include "elementary/poisson.h"
 
 #include <cstdint>
+#include <cstdlib>
 #include <optional>
 #include <string>
 #include <utility>
@@ -37,8 +38,37 @@ Step_Number Power_Of(const Step_Number& base, const Step_Number& exponent, const
   return power(base, exponent, events.steps);
 }
 
+// e to an average so small is 1 at all digits that a step keeps. The power is a root whose degree
+// has as many digits as the average has decimals, and lies nearer to 1 than the average to 0; with
+// thousands of decimals it would take hours.
+bool Is_Trace(const Step_Number& average, double limit) {
+  constexpr double guard_digits = 10;
+  return static_cast<double>(-average.leading_power()) > limit + guard_digits;
+}
+
+// Nothing holds the decimals of e to minus an average of so many digits, and where it has
+// thousands, finding that out by products takes minutes.
+bool Is_Beyond_Decimals(const Step_Number& average) {
+  constexpr std::int64_t highest_power = 17;
+  return average.leading_power() > highest_power;
+}
+
+// What the lengths of the operands would refuse is left to the power.
+bool Is_Never_Refused(const Step_Number& average) {
+  constexpr std::int64_t never_refused = 100'000'000;
+  return !average.is_zero() && !average.is_negative() &&
+         std::abs(average.leading_power()) < never_refused;
+}
+
 Step_Number Poisson_Exp_Term(const Events& events) {
-  const Step_Number e(To_Text(E_Digits(Constant_Digits(events.steps.limit()))));
+  const double limit = events.steps.limit();
+  const Step_Number e(To_Text(E_Digits(Constant_Digits(limit))));
+  if (limit >= 1 && !e.is_token() && Is_Never_Refused(events.average)) {
+    if (Is_Trace(events.average, limit)) return Step_Number(1);
+    if (Is_Beyond_Decimals(events.average)) {
+      throw Run_Time_Failure(Failure_Number::out_of_memory, "A number has too many decimals.");
+    }
+  }
   return Power_Of(e, Opposite_Of(events.average), events);
 }
 
@@ -87,13 +117,40 @@ Step_Number Poisson_Sum(const Step_Number& exp_term, const Events& events) {
   return sum;
 }
 
-NumberText Poisson_Core(const Events& events) {
-  const Step_Number exp_term = Poisson_Exp_Term(events);
-  if (events.cumulative) return Poisson_Sum(exp_term, events).text();
+Step_Number Poisson_Of(const Step_Number& exp_term, const Events& events) {
+  if (events.cumulative) return Poisson_Sum(exp_term, events);
   // At the default limit, and not at that of the call: longer results are wrong behind those
   // digits, but sheets that hold them compare with them, so it stays.
   const Step_Number factorial(Fact_Function(events.target.text(), {}));
-  return Poisson_Term(events.target, factorial, exp_term, events).text();
+  return Poisson_Term(events.target, factorial, exp_term, events);
+}
+
+// A great average has terms that begin millions of places behind the separator. No digit depends on
+// where they begin, so they are worked out as whole numbers and put back at the end: steps would
+// write all these zeros each time. Nothing where the terms are of common sizes.
+std::int64_t Places_Apart(const Step_Number& exp_term) {
+  constexpr std::int64_t common_power = 1'000'000;
+  const bool is_far = exp_term.is_in_limbs() && exp_term.leading_power() < -common_power;
+  return is_far ? exp_term.in_limbs().low : 0;
+}
+
+Step_Number Moved(const Step_Number& number, std::int64_t limbs) {
+  if (limbs == 0 || !number.is_in_limbs() || number.is_zero()) return number;
+  limbs::Number moved = number.in_limbs();
+  moved.low += limbs;
+  return Step_Number(std::move(moved));
+}
+
+Step_Number Poisson_Core(const Events& events) {
+  const Step_Number exp_term = Poisson_Exp_Term(events);
+  const std::int64_t apart = Places_Apart(exp_term);
+  return Moved(Poisson_Of(Moved(exp_term, -apart), events), apart);
+}
+
+// Numbers in limbs are written once, with the zeros that they then have.
+NumberText Close(const Step_Number& probability, const Format_Arguments& format) {
+  return probability.is_in_limbs() ? Close_Number(probability.decimal(), format)
+                                   : Close_Text(probability.text(), format);
 }
 
 struct Count {
@@ -143,13 +200,13 @@ NumberText Poisson_Function(const HostValue& target_num, const HostValue& averag
   const auto restricted = Read_Truth(restrict_input_lengths, true);
   if (!limit || !restricted) return NumberText(value_token);
 
-  const NumberText probability =
+  const Step_Number probability =
       Poisson_Core({Step_Number(Trunc_Function(target.number)), Step_Number(average.number),
                     *cumulative, *restricted, Steps(*limit)});
   const HostValue shown_notation = *notation;
   const HostValue shown_limit = *limit;
-  return Close_Text(probability, {.exponential_notation = shown_notation,
-                                  .maximum_significant_digits = shown_limit});
+  return Close(probability,
+               {.exponential_notation = shown_notation, .maximum_significant_digits = shown_limit});
 }
 
 }  // namespace quorvex

@@ -70,6 +70,14 @@ class QUORVEX_API HostValue {
   enum class Kind { missing, empty, number, text, boolean, error, array, list, range };
 
   HostValue() noexcept = default;
+  HostValue(const HostValue& other) { copy(other); }
+  HostValue(HostValue&& other) noexcept = default;
+  HostValue& operator=(const HostValue& other) {
+    if (this != &other) copy(other);
+    return *this;
+  }
+  HostValue& operator=(HostValue&& other) noexcept = default;
+  ~HostValue() = default;
   HostValue(double number) noexcept : data_(number) {}
   HostValue(bool boolean) noexcept : data_(boolean) {}
   HostValue(std::string text) noexcept : data_(std::move(text)) {}
@@ -116,6 +124,16 @@ class QUORVEX_API HostValue {
  private:
   template <typename Integer>
   static constexpr bool Fits_A_Float = std::numeric_limits<Integer>::digits <= 53;
+
+  // A text is copied before it takes the place of what was there: a variant whose value can't be
+  // made has none afterwards, which is no kind. Nothing else that is copied asks for memory.
+  void copy(const HostValue& other) {
+    if (other.is_text()) {
+      data_ = std::string(other.text());
+    } else {
+      data_ = other.data_;
+    }
+  }
 
   struct Blank {};
   explicit HostValue(Blank blank) noexcept : data_(blank) {}

@@ -45,17 +45,20 @@ class Memory_Settings final : public Settings_Store {
  public:
   std::optional<std::string> read(std::string_view application, std::string_view section,
                                   std::string_view key) override {
+    const std::scoped_lock lock(guard_);
     const auto found = settings_.find(Name(application, section, key));
     return found == settings_.end() ? std::nullopt : std::optional(found->second);
   }
   void write(std::string_view application, std::string_view section, std::string_view key,
              std::string_view value) override {
+    const std::scoped_lock lock(guard_);
     settings_[Name(application, section, key)] = value;
   }
 
  private:
   using Name = std::tuple<std::string, std::string, std::string>;
 
+  std::mutex guard_;
   std::map<Name, std::string> settings_;
 };
 

@@ -25,11 +25,14 @@ enum class Failure_Number : int {
 /// A run-time failure: the host's error number, and a message that a user can act on.
 ///
 /// A routine with a handler turns it into an error token; from every other routine it leaves the
-/// public method. `Failure_Number::interrupted` passes every handler of a calculation, since it
-/// says that somebody wants it to end, and nothing about the operands.
+/// public method. `Failure_Number::interrupted` and `Failure_Number::out_of_memory` pass the
+/// handlers inside a calculation: they say that somebody wants it to end, or that there is no room
+/// to go on, and nothing about the operands.
 class QUORVEX_API Run_Time_Failure : public std::runtime_error {
  public:
   Run_Time_Failure(Failure_Number number, const std::string& message);
+  /// `out_of_memory` with a message that needs none: it stays where it is for ever.
+  explicit Run_Time_Failure(const char* memory_message);
   Run_Time_Failure(const Run_Time_Failure&) = default;
   Run_Time_Failure& operator=(const Run_Time_Failure&) = default;
   Run_Time_Failure(Run_Time_Failure&&) = default;
@@ -37,9 +40,11 @@ class QUORVEX_API Run_Time_Failure : public std::runtime_error {
   ~Run_Time_Failure() override;
 
   Failure_Number number() const noexcept { return number_; }
+  const char* what() const noexcept override;
 
  private:
   Failure_Number number_;
+  const char* memory_message_ = nullptr;
 };
 
 /// Runs `body` and gives what it gives. Memory that can't be had and texts longer than the machine
@@ -49,16 +54,16 @@ auto With_Memory_Failures(Body&& body) -> decltype(body()) {
   try {
     return body();
   } catch (const std::bad_alloc&) {
-    throw Run_Time_Failure(Failure_Number::out_of_memory, "There is not enough memory.");
+    throw Run_Time_Failure("There is not enough memory.");
   } catch (const std::length_error&) {
-    throw Run_Time_Failure(Failure_Number::out_of_memory, "A text would grow too long.");
+    throw Run_Time_Failure("A text would grow too long.");
   }
 }
 
 /// Runs `body` and gives what it gives. A failure in it goes, as a `Run_Time_Failure`, to
 /// `handler`, whose result is then given. Memory that can't be had and texts longer than the
 /// machine can hold arrive as `out_of_memory`. For work with the host's own objects, where
-/// `interrupted` is one more way for the host to refuse; calculations take `With_Handler`.
+/// `interrupted` is one more way for the host to refuse; calculations take one of those below.
 template <typename Body, typename Handler>
 auto With_Handler_For_All(Body&& body, Handler&& handler) -> decltype(body()) {
   try {
@@ -68,20 +73,22 @@ auto With_Handler_For_All(Body&& body, Handler&& handler) -> decltype(body()) {
   }
 }
 
-/// The same, but `interrupted` is thrown on.
+/// The same, but `interrupted` is thrown on. For what ends a whole call, and for work around calls:
+/// nothing is calculated any more with what the handler gives.
 template <typename Body, typename Handler>
-auto With_Handler(Body&& body, Handler&& handler) -> decltype(body()) {
+auto With_Outer_Handler(Body&& body, Handler&& handler) -> decltype(body()) {
   return With_Handler_For_All(body, [&](const Run_Time_Failure& failure) {
     if (failure.number() == Failure_Number::interrupted) throw Run_Time_Failure(failure);
     return handler(failure);
   });
 }
 
-/// As `With_Handler`, but `out_of_memory` is thrown on as well: for callers to whom the handler's
-/// result would say something about the operand, such as that it is no number.
+/// As `With_Outer_Handler`, but `out_of_memory` is thrown on as well. For the steps of a call: a
+/// number that has no room must not become a token or a truth value that another step takes for
+/// something about the number.
 template <typename Body, typename Handler>
-auto With_Handler_But_For_Memory(Body&& body, Handler&& handler) -> decltype(body()) {
-  return With_Handler(body, [&](const Run_Time_Failure& failure) {
+auto With_Handler(Body&& body, Handler&& handler) -> decltype(body()) {
+  return With_Outer_Handler(body, [&](const Run_Time_Failure& failure) {
     if (failure.number() == Failure_Number::out_of_memory) throw Run_Time_Failure(failure);
     return handler(failure);
   });

@@ -7,8 +7,10 @@
 
 #include "arith/fractions/reduce_fraction.h"
 #include "arith/operation/steps.h"
+#include "host/run_time_failure.h"
 #include "lists/list_result.h"
 #include "lists/list_walk.h"
+#include "text/clean_up_number.h"
 #include "text/options.h"
 #include "text/primitives.h"
 #include "text/round_function.h"
@@ -25,8 +27,15 @@ std::optional<NumberText> Element_Of(std::string_view text, Element_Form form) {
   return whole;
 }
 
-type_Fraction Reduce(const NumberText& running, const NumberText& element) {
-  return Reduce_Fraction(running, element, {.simplify_signs = true});
+// What the two are reduced by; nothing where one of them is no number, which is passed over. A step
+// that fails for any other reason must not pass over an element: the result would be a wrong
+// number.
+std::optional<NumberText> Common_Divisor(const NumberText& running, const NumberText& element) {
+  type_Fraction fraction = Reduce_Fraction(running, element, {.simplify_signs = true});
+  if (!Has_Token_Mark(fraction.Reduced_By)) return std::move(fraction.Reduced_By);
+  if (Clean_Up_Number(running, true, true).IsError || Clean_Up_Number(element, true, true).IsError)
+    return std::nullopt;
+  throw Run_Time_Failure(Failure_Number::invalid_call, "A common divisor can't be formed.");
 }
 
 // The multiple as the limit allows it, but never cut: it has no more significant digits than both
@@ -70,16 +79,14 @@ NumberText GCD_Function(const List& list, Element_Form form) {
   const bool refuses_negatives = form == Element_Form::truncated;
   return Fold(list, form, refuses_negatives,
               [](NumberText& running, const NumberText& element, double) {
-                type_Fraction fraction = Reduce(running, element);
-                if (!Has_Token_Mark(fraction.Reduced_By)) running = std::move(fraction.Reduced_By);
+                if (auto divisor = Common_Divisor(running, element)) running = *std::move(divisor);
               });
 }
 
 NumberText LCM_Function(const List& list, Element_Form form) {
   return Fold(list, form, true, [](NumberText& running, const NumberText& element, double limit) {
-    const type_Fraction fraction = Reduce(running, element);
-    if (Has_Token_Mark(fraction.Reduced_By)) return;
-    running = Common_Multiple(running, element, fraction.Reduced_By, limit);
+    const auto divisor = Common_Divisor(running, element);
+    if (divisor) running = Common_Multiple(running, element, *divisor, limit);
   });
 }
 

@@ -19,9 +19,8 @@ namespace quorvex {
 
 void Running_Product::multiply(std::string_view element, double msd) {
   std::optional<Operand> operand;
-  const bool is_number =
-      With_Handler_But_For_Memory([&] { return operand.emplace(element).is_number(); },
-                                  [](const Run_Time_Failure&) { return false; });
+  const bool is_number = With_Handler([&] { return operand.emplace(element).is_number(); },
+                                      [](const Run_Time_Failure&) { return false; });
   if (!is_number || zero_) return;
   Decimal factor = Significant_Digits(!operand->positive(), operand->parts());
   if (factor.digits == "0") {
@@ -64,8 +63,7 @@ void Running_Product::join_last_two() {
   partial_.pop_back();
   partial_.back() = Multiply_Digits(partial_.back(), last);
   if (Has_Token_Mark(partial_.back())) {
-    throw Run_Time_Failure(Failure_Number::out_of_memory,
-                           "There is not enough memory for the product of the list.");
+    throw Run_Time_Failure(Failure_Number::invalid_call, "A product can't be formed.");
   }
 }
 

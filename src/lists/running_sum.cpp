@@ -31,7 +31,7 @@ bool Running_Sum::add(std::string_view element, double msd) {
   if (in_chain_) return add_in_chain(element, msd);
   if (Plain_Number plain; Read_Plain(element, plain) && add_plain(plain, msd)) return true;
   bool is_number = false;
-  const bool was_in_place = With_Handler_But_For_Memory(
+  const bool was_in_place = With_Handler(
       [&] {
         const Operand operand(element);
         is_number = operand.is_number();
@@ -108,8 +108,8 @@ bool Running_Sum::add_in_chain(std::string_view element, double msd) {
   }
   type_Restrictionator options;
   options.maxSD = std::min(msd, maximum_digits);
-  NumberText sum = Do_Operation_On_Texts(operation::add, chain_, element, options,
-                                         {.intermediate = true, .lack_of_memory_fails = true});
+  NumberText sum =
+      Do_Operation_On_Texts(operation::add, chain_, element, options, {.intermediate = true});
   if (Has_Token_Mark(sum)) return false;
   chain_ = std::move(sum);
   return true;

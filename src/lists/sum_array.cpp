@@ -33,7 +33,8 @@ class Checked_Sum {
   void add(const HostValue& cell) {
     if (!failed_ && add_number(cell)) return;
     const HostValue sum = failed_ ? *failed_ : sum_.text();
-    failed_ = Do_Operation(operation::add, sum, cell, {.maximum_significant_digits = limit_});
+    failed_ = Do_Operation(operation::add, sum, cell, {.maximum_significant_digits = limit_},
+                           {.is_step = true});
   }
 
   NumberText text() { return failed_ ? *failed_ : sum_.text(); }
@@ -85,7 +86,7 @@ NumberText Sum_Array(const HostValue& block, const Format_Arguments& format) {
     throw Run_Time_Failure(Failure_Number::type_mismatch,
                            "A sum of cells takes an array or a range of several cells.");
   }
-  return Do_Operation(operation::add, sum.text(), 0, format);
+  return Do_Operation(operation::add, sum.text(), 0, format, {.is_step = true});
 }
 
 }  // namespace quorvex

@@ -11,7 +11,7 @@ namespace quorvex {
 /// make the host calculate, and the user may want that to end.
 template <typename Statement>
 void Pass_Over_Failures(Statement&& statement) {
-  With_Handler(std::forward<Statement>(statement), [](const Run_Time_Failure&) {});
+  With_Outer_Handler(std::forward<Statement>(statement), [](const Run_Time_Failure&) {});
 }
 
 /// The same for statements that calculate nothing: one that fails is passed over, whatever the

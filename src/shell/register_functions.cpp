@@ -73,20 +73,28 @@ void Restore(Host_Application* application) {
   Pass_Over_All_Failures([&] { application->set_ScreenUpdating(true); });
 }
 
+// Sets the timer going, or at rest. While the flag stands, no instance arms it.
+void Settle(bool is_armed, bool started) {
+  const std::scoped_lock lock(Shell_Guard());
+  Shell().graphics->Timer1.set_Enabled(is_armed);
+  Shell().Started_Flag = started;
+}
+
 void Give_Up(const Attempt& attempt) {
-  Shell_State& shell = Shell();
-  shell.graphics->Timer1.set_Enabled(false);
+  Settle(false, true);
   Restore(attempt.application.get());
-  shell.Started_Flag = false;
+  Settle(false, false);
 }
 
 void Try_Later(const Attempt& attempt) {
   Shell_State& shell = Shell();
   if (shell.retries < std::numeric_limits<std::int16_t>::max()) ++shell.retries;
-  shell.Started_Flag = true;
-  shell.graphics->Timer1.set_Enabled(true);
+  Settle(true, true);
   if (shell.retries < quick_retries) return;
-  shell.graphics->Timer1.set_Interval(later_delay);
+  {
+    const std::scoped_lock lock(Shell_Guard());
+    shell.graphics->Timer1.set_Interval(later_delay);
+  }
   if (shell.retries >= last_retry) Give_Up(attempt);
 }
 
@@ -119,9 +127,7 @@ class Registering {
 
 void Register_Functions() {
   const Registering registering;
-  Shell_State& shell = Shell();
-  shell.graphics->Timer1.set_Enabled(false);
-  shell.Started_Flag = true;
+  Settle(false, true);
   Attempt attempt;
   // Nothing is calculated here that anybody could break off: every failure is the host's refusal.
   const bool is_attached = With_Handler_For_All([&] { return Attach(attempt); },
@@ -133,7 +139,7 @@ void Register_Functions() {
   if (!is_attached) return;
   Describe_Functions(*attempt.application);
   Restore(attempt.application.get());
-  shell.Started_Flag = false;
+  Settle(false, false);
 }
 
 }  // namespace quorvex

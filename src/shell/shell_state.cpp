@@ -15,8 +15,15 @@ Shell_State& Shell() {
   return *shell;
 }
 
+std::recursive_mutex& Shell_Guard() {
+  alignas(std::recursive_mutex) static std::byte storage[sizeof(std::recursive_mutex)];
+  static auto* const guard = new (storage) std::recursive_mutex();
+  return *guard;
+}
+
 std::shared_ptr<Host_Application> Excel_App(const std::shared_ptr<Host_Application>& new_app,
                                             bool clear) {
+  const std::scoped_lock lock(Shell_Guard());
   Shell_State& shell = Shell();
   if (new_app != nullptr) shell.application = new_app;
   if (clear) shell.application.reset();

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <mutex>
 
 #include "host/application.h"
 
@@ -13,7 +14,9 @@ class frmAbout;
 class frmMaxSD;
 struct frmGraphics;
 
-/// Shared by all instances of the class. The host's one thread is the only one that comes here.
+/// Shared by all instances of the class. Instances may be made, and told their host, in any thread:
+/// what that touches (the first two flags, the application, the timer) is under `Shell_Guard`. The
+/// rest belongs to the host's one thread.
 struct Shell_State {
   bool Started_Flag = false;    // from when the timer is armed until its work is done
   bool arms_timer = true;       // when an instance of the class is made
@@ -28,5 +31,8 @@ struct Shell_State {
 };
 
 Shell_State& Shell();
+
+/// Never held while the host is called: it may wait for a thread that makes an instance.
+std::recursive_mutex& Shell_Guard();
 
 }  // namespace quorvex

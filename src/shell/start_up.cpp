@@ -56,7 +56,7 @@ void Refresh_Default_MaxSD() {
 }
 
 std::optional<std::string> Store_Default_MaxSD() {
-  return With_Handler(
+  return With_Outer_Handler(
       []() -> std::optional<std::string> {
         Current_Platform().settings->write(application, section, key,
                                            Number_To_Text(Default_MaxSD()));
@@ -66,6 +66,7 @@ std::optional<std::string> Store_Default_MaxSD() {
 }
 
 void Leave_Registration_To_Host() {
+  const std::scoped_lock lock(Shell_Guard());
   Shell_State& shell = Shell();
   shell.arms_timer = false;
   if (shell.graphics != nullptr) shell.graphics->Timer1.set_Enabled(false);
@@ -73,6 +74,7 @@ void Leave_Registration_To_Host() {
 }
 
 void Class_Initialize() {
+  const std::scoped_lock lock(Shell_Guard());
   Load_Default_MaxSD();
   Shell_State& shell = Shell();
   if (!shell.arms_timer || shell.Started_Flag) return;

@@ -52,9 +52,8 @@ bool Read_For_Comparison(std::string_view text, std::optional<Operand>& number,
                          Exponent_Zeros zeros) {
   number.reset();
   if (Is_Lone_Mark(text)) return false;
-  return With_Handler_But_For_Memory(
-      [&] { return Is_Comparable(number.emplace(text, zeros), text); },
-      [](const Run_Time_Failure&) { return false; });
+  return With_Handler([&] { return Is_Comparable(number.emplace(text, zeros), text); },
+                      [](const Run_Time_Failure&) { return false; });
 }
 
 HostValue Compare_Numbers(std::string_view number1, std::string_view number2, bool testEqual,

@@ -106,6 +106,7 @@ void Write_Plain(NumberText& digits, std::size_t places) {
   if (digits.empty()) {
     digits = "0";
   } else if (digits.size() <= places) {
+    Require_Memory(texts_at_once * static_cast<double>(places));
     NumberText front("0");
     front.append(Decimal_Separator()).append(places - digits.size(), '0');
     digits.insert(0, front);

@@ -34,10 +34,55 @@ NumberText Term(int k, const NumberText& average, double limit) {
                       Fact_Function(k, {}), limit);
 }
 
+// As a result shows it.
+NumberText Formatted(const NumberText& number, double limit) {
+  const HostValue shown = limit - 1;
+  return Do_Operation(operation::add, number, 0, {.maximum_significant_digits = shown});
+}
+
 std::string Random_Average(Random_Numbers& random) {
   std::string average = std::to_string(1 + random.below(30));
   if (random.one_in(2)) average += "." + std::to_string(1 + random.below(99));
   return average;
+}
+
+// No root is taken for an average whose e to it can't be told from 1, and no zeros are written
+// between the terms of a great one. Both change no digit.
+TEST(Poisson, OfTinyAndGreatAveragesIsItsDefinitionToo) {
+  for (const double limit : {1.0, 2.0, 3.0, 7.0, 18.0, 40.0}) {
+    for (const int more : {8, 9, 10, 11, 12, 13, 14, 30}) {
+      const std::size_t zeros =
+          static_cast<std::size_t>(limit) + static_cast<std::size_t>(more) - 1;
+      const NumberText average = "0." + NumberText(zeros, '0') + "95";
+      for (const int target : {0, 1, 3}) {
+        ASSERT_EQ(Poisson(target, average, false, limit),
+                  Formatted(Term(target, average, limit), limit))
+            << target << " of " << average << " at " << limit;
+      }
+    }
+  }
+  for (const char* average : {"2302500", "2302700", "3000000.5"}) {
+    NumberText sum = "0";
+    for (int k = 0; k <= 3; ++k) {
+      const NumberText term = Term(k, average, 20);
+      EXPECT_EQ(Poisson(k, average, false, 20), Formatted(term, 20)) << k << " of " << average;
+      sum = Intermediate(operation::add, sum, term, 20);
+      EXPECT_EQ(Poisson(k, average, true, 20), Formatted(sum, 20)) << k << " of " << average;
+    }
+  }
+}
+
+// Few characters that ask for much.
+TEST(Poisson, OfAveragesWithHugeExponentsIsQuickOrFailsForMemory) {
+  EXPECT_EQ(Poisson(0, "1E-3000", false, 100), "1");
+  EXPECT_EQ(Poisson(0, "1E-100000", true, 100), "1");
+  EXPECT_EQ(Poisson(0, "1E-50000", true, 40000), "#NUM!");  // more digits than e is stored with
+  EXPECT_EQ(Failure_Of([&] { Poisson(5, "1E+100000", true, 100); }), Failure_Number::out_of_memory);
+  const Memory_Guard little(100'000'000);
+  for (const bool cumulative : {false, true}) {
+    const auto failure = Failure_Of([&] { Poisson(5, "1E+9", cumulative, 100); });
+    EXPECT_EQ(failure, Failure_Number::out_of_memory);
+  }
 }
 
 TEST(Poisson, TakesEveryTermAnewAndAddsThemUp) {
@@ -46,17 +91,14 @@ TEST(Poisson, TakesEveryTermAnewAndAddsThemUp) {
     const std::string average = Random_Average(random);
     const int target = static_cast<int>(random.below(90));
     const auto limit = static_cast<double>(3 + random.below(random.one_in(4) ? 150 : 30));
-    const HostValue shown = limit - 1;
-    const auto formatted = [&](const NumberText& number) {
-      return Do_Operation(operation::add, number, 0, {.maximum_significant_digits = shown});
-    };
-    ASSERT_EQ(Poisson(target, average, false, limit), formatted(Term(target, average, limit)))
+    ASSERT_EQ(Poisson(target, average, false, limit),
+              Formatted(Term(target, average, limit), limit))
         << target << " of " << average << " at " << limit;
     NumberText sum = "0";
     for (int k = 0; k <= target; ++k) {
       sum = Intermediate(operation::add, sum, Term(k, average, limit), limit);
     }
-    ASSERT_EQ(Poisson(target, average, true, limit), formatted(sum))
+    ASSERT_EQ(Poisson(target, average, true, limit), Formatted(sum, limit))
         << target << " of " << average << " at " << limit;
   }
 }

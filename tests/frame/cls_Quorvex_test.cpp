@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 
 #include "frame/catalogue.h"
@@ -66,13 +67,25 @@ TEST(ClsQuorvex, MemoryThatCantBeHadIsAFailureWhereNoTokenStandsForIt) {
   HostValue greater = "1E+2000000000";
   HostValue one = 1;
   EXPECT_EQ(engine.qvxADD("1E+2000000000", 1), "#VALUE!");
+  EXPECT_EQ(engine.qvxPOWER("2", "1E+9"), "#VALUE!");
+  EXPECT_EQ(engine.qvxEXP(1e9), "#VALUE!");
   EXPECT_EQ(engine.qvxSIGN("0E+2000000000").number(), 0);  // which needs no zeros written
-  EXPECT_EQ(engine.qvxFORMAT("1E-2000000000"), "#VALUE!");
-  EXPECT_EQ(engine.qvxISGREATER(greater, one).text(), "#NUM!");
-  EXPECT_EQ(Failure_Of([&] {
-              engine.qvxFORMAT("5", Missing, Missing, Missing, Missing, Missing, 2000000000);
-            }),
-            Failure_Number::out_of_memory);
+  const std::function<void()> calls[] = {
+      [&] { engine.qvxFORMAT("1E-2000000000"); },
+      [&] { engine.qvxFORMAT("5", Missing, Missing, Missing, Missing, Missing, 2000000000); },
+      [&] { engine.qvxISGREATER(greater, one); },
+      [&] { engine.qvxABS("1E+2000000000"); },
+      [&] {
+        engine.qvxGCD({"6E+2000000000", "4E+2000000000"});
+      },
+      [&] {
+        engine.qvxLCM({"6E+2000000000", "4"});
+      },
+      [&] {
+        engine.qvxSUM2({"1E+2000000000", "4"});
+      },
+  };
+  for (const auto& call : calls) EXPECT_EQ(Failure_Of(call), Failure_Number::out_of_memory);
 }
 
 }  // namespace

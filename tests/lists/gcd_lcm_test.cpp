@@ -8,8 +8,11 @@
 #include <vector>
 
 #include "support/exact_decimal.h"
+#include "support/failures.h"
 #include "support/random_numbers.h"
+#include "support/surroundings.h"
 #include "support/whole_number.h"
+#include "support/without_libraries.h"
 #include "text/options.h"
 
 namespace quorvex {
@@ -83,6 +86,26 @@ TEST(GcdAndLcm, AreExactForNumbersInENotation) {
     const List list = {"1E+40", "1099511627776", "3.7E+30", "format:MSD=2"};
     EXPECT_EQ(GCD_Function(list, form), "537000000");
     EXPECT_EQ(LCM_Function(list, form), "370000000000000000000000000000000000000000");
+  }
+}
+
+// An element that is no number is passed over, and never one whose step has failed.
+TEST(GcdAndLcm, FailWhereAStepDoes) {
+  const List numbers{"999999999999999999999999999999999999", "333333333333333333333333"};
+  const List with_text{"999999999999", "abc", "666666666666"};
+  EXPECT_EQ(GCD_Function(with_text, Element_Form::whole), "333333333333");
+  {
+    const Without_Libraries without;
+    for (const Element_Form form : {Element_Form::whole, Element_Form::truncated}) {
+      EXPECT_EQ(Failure_Of([&] { GCD_Function(numbers, form); }), Failure_Number::invalid_call);
+      EXPECT_EQ(Failure_Of([&] { LCM_Function(numbers, form); }), Failure_Number::invalid_call);
+    }
+  }
+  const Memory_Guard poor(0);
+  const List long_numbers{"6E+100000000", "4E+100000000"};
+  for (const Element_Form form : {Element_Form::whole, Element_Form::truncated}) {
+    EXPECT_EQ(Failure_Of([&] { GCD_Function(long_numbers, form); }), Failure_Number::out_of_memory);
+    EXPECT_EQ(Failure_Of([&] { LCM_Function(long_numbers, form); }), Failure_Number::out_of_memory);
   }
 }
 

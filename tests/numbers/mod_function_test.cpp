@@ -134,8 +134,8 @@ TEST(Remainders, CanBeBrokenOff) {
 
 TEST(Remainders, NeedRoomForWhatIsWrittenOut) {
   const Memory_Guard little(10'000'000);
-  EXPECT_EQ(Mod("1E+900000000", "7", true), "#VALUE!");
-  EXPECT_EQ(IsOdd_Function("1E+900000000").text(), "#NUM!");
+  EXPECT_EQ(Failure_Of([] { Mod("1E+900000000", "7", true); }), Failure_Number::out_of_memory);
+  EXPECT_EQ(Failure_Of([] { IsOdd_Function("1E+900000000"); }), Failure_Number::out_of_memory);
 }
 
 }  // namespace

@@ -129,7 +129,7 @@ std::string Obstacle_Text(Cell_Address obstacle) {
 void Calculate(const Workbook& workbook, cls_Quorvex& engine, Calculation& calculation,
                Explain explain) {
   Sheet_References references(workbook, calculation);
-  Outcome outcome = With_Handler(
+  Outcome outcome = With_Outer_Handler(
       [&] {
         return Outcome_For(calculation, Evaluate(engine, calculation.formula, references, explain));
       },

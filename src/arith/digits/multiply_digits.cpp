@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 #include <string_view>
 
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "text/digit_runs.h"
 #include "text/tokens.h"
 
 namespace quorvex {
@@ -45,6 +47,10 @@ struct Factor {
   std::size_t length;
 };
 
+std::string_view Digits(Factor factor) {
+  return {factor.digits, factor.length};
+}
+
 NumberText Product(Factor op1, Factor op2) {
   const std::size_t longest = std::max(op1.length, op2.length);
   Require_Memory(2.0 * static_cast<double>(longest));
@@ -52,6 +58,8 @@ NumberText Product(Factor op1, Factor op2) {
   Find_Multiply()(op1.digits, op2.digits, product.data(), access_code);
   product.resize(Digits_Of(product, op1.length + op2.length));
   if (product.empty()) {
+    // Digits that give nothing had no room.
+    if (!Has_Non_Digit(Digits(op1)) && !Has_Non_Digit(Digits(op2))) throw std::bad_alloc();
     throw Run_Time_Failure(Failure_Number::type_mismatch, "A factor is no number.");
   }
   return product;

@@ -9,8 +9,8 @@
 namespace quorvex {
 
 /// The product of two digit strings: "0" if either is empty or exactly "0", otherwise digits with
-/// no leading zero. "#VALUE!" for any failure: the library can't be found, an operand holds a
-/// character that is no digit, there is not enough memory.
+/// no leading zero. "#VALUE!" where the library can't be found or an operand holds a character that
+/// is no digit. Fails with out_of_memory.
 NumberText Multiply_Digits(const NumberText& op1, const NumberText& op2);
 
 /// The same for parts of texts.

@@ -99,13 +99,7 @@ void Divide(std::string_view X, std::string_view Y, Operands operands, std::int3
 Decimal Quotient(std::string_view X, std::string_view Y, Operands operands, std::int32_t sd) {
   Decimal quotient;
   if (Is_Answered_At_Once(X, Y, quotient)) return quotient;
-  With_Handler([&] { Divide(X, Y, operands, sd, quotient); },
-               [&](const Run_Time_Failure& failure) {
-                 // What there is then would be taken for a number.
-                 if (failure.number() == Failure_Number::out_of_memory) {
-                   quotient = Decimal_Token(value_token);
-                 }
-               });
+  With_Handler([&] { Divide(X, Y, operands, sd, quotient); }, [](const Run_Time_Failure&) {});
   return quotient;
 }
 

@@ -16,8 +16,8 @@ namespace quorvex {
 ///
 /// Tokens, as `digits`: that of an operand that is no number ("#NUM!", "#VALUE!"), "#DIV/0!" for a
 /// divisor of 0, "#VALUE!" where products can't be formed, which is cut to `sd` characters if `sd`
-/// is 4 or more, and to three more if it is less. Lack of memory is "#VALUE!" too. Any other
-/// failure ends the routine with what it has.
+/// is 4 or more, and to three more if it is less. Any other failure ends the routine with what it
+/// has.
 type_Division_Recip Recip_Divide(NumberText& X, NumberText& Y, std::int32_t sd);
 
 /// The same for digits without leading zeros, "0" for 0.

@@ -158,10 +158,8 @@ type_Division_Recip Iterate(const NumberText& k, std::int32_t p) {
   return Polish(k, std::move(x), length);
 }
 
-// Digits that can't be held are no digits: a quotient with none would be 0.
-type_Division_Recip Failed_Reciprocal(const Run_Time_Failure& failure) {
-  if (failure.number() != Failure_Number::out_of_memory) return {};
-  return {NumberText(value_token), 0};
+type_Division_Recip Failed_Reciprocal(const Run_Time_Failure&) {
+  return {};
 }
 
 }  // namespace

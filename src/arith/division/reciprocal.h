@@ -19,9 +19,9 @@ struct type_Division_Recip {
 /// below and cuts at each step, so that a reciprocal that ends comes out as a run of nines: that of
 /// 2 is a 4 and nines.
 ///
-/// Failures end the iteration: `digits` is then empty, or "#VALUE!" for lack of memory, and cut to
-/// `p` characters where products can't be formed, or "#EXPR!" where the iteration would never end
-/// (a `p` of 2). A `p` below 2 gives no digits.
+/// Failures end the iteration: `digits` is then empty, or "#VALUE!", cut to `p` characters, where
+/// products can't be formed, or "#EXPR!" where the iteration would never end (a `p` of 2). A `p`
+/// below 2 gives no digits.
 type_Division_Recip Iterated_Reciprocal(const NumberText& k, std::int32_t p);
 
 /// The same digits and tokens, most often without the iteration; "1" gives itself, "0" gives nines
