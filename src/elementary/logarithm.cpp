@@ -187,7 +187,7 @@ NumberText Ln_Function(const HostValue& num, const HostValue& exponential_notati
           return Finish(value, exponential_notation, digits);
         });
       },
-      Value_Token);
+      [](const Run_Time_Failure&) { return NumberText(value_token); });
 }
 
 NumberText Log_Function(const HostValue& num, const HostValue& num_base,

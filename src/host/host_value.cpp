@@ -1,5 +1,7 @@
 #include "host/host_value.h"
 
+#include "host/platform.h"
+
 namespace quorvex {
 
 Range::~Range() = default;

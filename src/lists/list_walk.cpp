@@ -78,8 +78,9 @@ class Text_Walk {
       case Kind::error:
         return visit_(value_token);
       case Kind::array:
+        return Walk_Array(value.array(), [this](const HostValue& each) { return cell(each); });
       case Kind::range:
-        return Walk_Block(value, [this](const HostValue& each) { return cell(each); });
+        return used_cells(value.range());
       case Kind::list:
         throw Run_Time_Failure(Failure_Number::type_mismatch,
                                "A list among the arguments has no rows and columns.");
@@ -89,6 +90,16 @@ class Text_Walk {
   }
 
  private:
+  // Blank cells are passed over, and whole columns are mostly blank.
+  Walk used_cells(const Range& range) {
+    Walk walked = Walk::on;
+    range.visit_used([&](const HostValue& each) {
+      walked = cell(each);
+      return walked == Walk::on;
+    });
+    return walked;
+  }
+
   Walk cell(const HostValue& value) {
     const std::string_view text = Text_Of(value, scratch_);
     return text.empty() ? Walk::on : visit_(text);

@@ -238,6 +238,24 @@ TEST_F(Recalculate, TouchesUsedCellsOnly) {
   EXPECT_EQ(shown("D1000"), "3");
 }
 
+TEST_F(Recalculate, ListsCostTheCellsThatAreUsed) {
+  sheet.set({1, 2}, "1");
+  sheet.set({2, 5}, "2");
+  sheet.set({2, 1}, "40");
+  sheet.set({maximum_rows, maximum_columns}, "3");
+  sheet.set({maximum_rows, 4}, "x");
+  for (std::uint32_t row = 5; row < 300; ++row) {
+    sheet.set({row, 1}, "=qvxSUM2(B1:XFD1048576)");
+    sheet.set({row, 2}, "'no number");
+  }
+  sheet.set({3, 1}, "=qvxCOUNT(B1:C1048576)");
+  sheet.set({4, 1}, "=qvxMAX(E1:E1048576)");
+  EXPECT_LT(Yields_Of([&] { calculate(); }), 10000U);
+  EXPECT_EQ(shown("A299"), "6");
+  EXPECT_EQ(shown("A3"), "1");
+  EXPECT_EQ(shown("A4"), "2");
+}
+
 TEST_F(Recalculate, CanBeBrokenOffAnywhereAndRunAgain) {
   for (std::uint32_t row = 1; row < 50; ++row) {
     sheet.set({row, 1}, "=qvxADD(A" + std::to_string(row + 1) + ",1)");
