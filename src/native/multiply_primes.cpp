@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "native/generic/kernels.h"
+#include "native/generic/pieces.h"
 #include "native/generic/points.h"
 #include "native/generic/scratch.h"
 #include "native/stair.h"
@@ -97,17 +98,6 @@ class Convolution {
 
 const Cut& Cut_For(std::size_t digits) {
   return Points_For(digits, cuts[0]) <= cuts[0].most_points ? cuts[0] : cuts[1];
-}
-
-// Adds a product to the points from `to` on; those beyond `fresh` have not been set yet.
-void Add_Points(double* to, const double* product, std::size_t count, std::size_t overlap,
-                double base) {
-  double carry = 0;
-  for (std::size_t i = 0; i < count; ++i) {
-    const double sum = product[i] + carry + (i < overlap ? to[i] : 0);
-    carry = sum >= base ? 1 : 0;
-    to[i] = sum - carry * base;
-  }
 }
 
 std::size_t Multiply_Cut(const Operands& operands, char* out, const Kernels& kernels) {

@@ -20,20 +20,22 @@
 // up.
 #include <algorithm>
 #include <bit>
-#include <optional>
 
 #include "native/generic/kernels.h"
+#include "native/generic/pieces.h"
 #include "native/generic/scratch.h"
 #include "native/stair.h"
 
 namespace quorvex::native {
 namespace {
 
-// Longer products are cut by the other transform.
-constexpr std::size_t most_unbalanced = 16;
+// Where one operand is longer than so many times the other, it is cut into pieces of about seven
+// times the other's length, which share its transform.
+constexpr std::size_t most_unbalanced = 12;
+constexpr std::size_t piece_lengths = 7;
 
-std::size_t Coefficients_For(const Operands& operands, const Grain& grain) {
-  return Grains_For(operands.a.size(), grain) + Grains_For(operands.b.size(), grain) - 1;
+std::size_t Coefficients_For(std::size_t a_size, std::size_t b_size, const Grain& grain) {
+  return Grains_For(a_size, grain) + Grains_For(b_size, grain) - 1;
 }
 
 // The greatest |x|^2 |y|^2 that leaves coefficients off by less than a half, with room for the
@@ -45,24 +47,34 @@ double Most_Squares(std::size_t points) {
 }
 
 // Whether points would be small enough if digits were as likely as each other.
-bool Is_Worth_Trying(const Operands& operands, const Grain& grain) {
-  const auto points = [&grain](std::string_view text) {
-    return static_cast<double>(Grains_For(text.size(), grain));
+bool Is_Worth_Trying(std::size_t a_size, std::size_t b_size, const Grain& grain) {
+  const auto points = [&grain](std::size_t digits) {
+    return static_cast<double>(Grains_For(digits, grain));
   };
   const double square = static_cast<double>(grain.base) * static_cast<double>(grain.base) / 12;
-  const std::size_t length = std::bit_ceil(Coefficients_For(operands, grain)) / 2;
-  return points(operands.a) * points(operands.b) * square * square < Most_Squares(length);
+  const std::size_t length = std::bit_ceil(Coefficients_For(a_size, b_size, grain)) / 2;
+  return points(a_size) * points(b_size) * square * square < Most_Squares(length);
 }
 
+enum class Outcome {
+  done,
+  impossible,  ///< a character is no digit, or there is no memory
+  uncertain    ///< points are too large for the result to be certain
+};
+
+// Everything that products of one length need but the operands: with a second one that several may
+// share, or of one by itself.
 class Wave_Product {
  public:
-  Wave_Product(const Operands& operands, const Kernels& kernels, const Grain& grain)
-      : operands_(operands),
+  Wave_Product(std::size_t a_size, std::size_t b_size, bool is_square, const Kernels& kernels,
+               const Grain& grain)
+      : is_square_(is_square),
         kernels_(kernels),
         grain_(grain),
-        length_(Wave_Length_For(Coefficients_For(operands, grain), kernels.lanes * kernels.lanes)),
+        length_(Wave_Length_For(Coefficients_For(a_size, b_size, grain),
+                                kernels.lanes * kernels.lanes)),
         pieces_(Pieces_Of(length_)),
-        memory_((operands.is_square ? 2 : 3) * length_.coefficients()) {}
+        memory_((is_square ? 2 : 3) * length_.coefficients()) {}
 
   bool is_ready() {
     if (memory_.get() == nullptr) return false;
@@ -71,18 +83,21 @@ class Wave_Product {
     return true;
   }
 
-  /// Nothing if the points are too large for the result to be certain.
-  std::optional<std::size_t> write(char* out) {
-    if (!read(operands_.a, first(), first_squares_)) return 0;
-    if (!operands_.is_square && !read(operands_.b, second(), second_squares_)) return 0;
-    if (!is_certain()) return std::nullopt;
-    if (!operands_.is_square) kernels_.split(second(), length_, roots_);
-    kernels_.multiply_waves(first(), operands_.is_square ? nullptr : second(), length_, roots_);
-    const std::size_t groups =
-        Groups_For(operands_.a.size(), grain_) + Groups_For(operands_.b.size(), grain_) + 1;
-    kernels_.carry_wave(first(), length_, grain_, groups, row());
-    return kernels_.write_points(row(), groups, grain_.digits, out);
+  bool set_second(std::string_view digits) {
+    if (!read(digits, second(), second_squares_)) return false;
+    kernels_.split(second(), length_, roots_);
+    return true;
   }
+
+  /// The product of a first operand, as so many groups.
+  Outcome multiply(std::string_view digits, std::size_t groups) {
+    if (!read(digits, first(), first_squares_)) return Outcome::impossible;
+    if (!is_certain()) return Outcome::uncertain;
+    kernels_.multiply_waves(first(), is_square_ ? nullptr : second(), length_, roots_);
+    kernels_.carry_wave(first(), length_, grain_, groups, row());
+    return Outcome::done;
+  }
+  const double* groups() const { return row(); }
 
  private:
   double* row() const { return memory_.get(); }
@@ -97,13 +112,13 @@ class Wave_Product {
   }
 
   bool is_certain() const {
-    const double* const second = operands_.is_square ? first_squares_ : second_squares_;
+    const double* const second = is_square_ ? first_squares_ : second_squares_;
     for (std::size_t k = 0; k < pieces_.count; ++k)
       if (first_squares_[k] * second[k] > Most_Squares(pieces_.piece[k].size)) return false;
     return true;
   }
 
-  const Operands& operands_;
+  bool is_square_;
   const Kernels& kernels_;
   const Grain& grain_;
   Wave_Length length_;
@@ -114,20 +129,76 @@ class Wave_Product {
   double second_squares_[most_wave_pieces] = {};
 };
 
+bool Is_Cut(std::size_t a_size, std::size_t b_size) {
+  return a_size / most_unbalanced > b_size;
+}
+
+// The length of pieces, in whole groups and alike.
+std::size_t Piece_Size(std::size_t a_size, std::size_t b_size, const Grain& grain) {
+  const std::size_t pieces = (a_size + piece_lengths * b_size / 2) / (piece_lengths * b_size);
+  return (Groups_For(a_size, grain) + pieces - 1) / pieces * grain.digits;
+}
+
+Outcome Multiply_Whole(const Operands& operands, char* out, const Kernels& kernels,
+                       const Grain& grain, std::size_t& written) {
+  const auto& [a, b, is_square] = operands;
+  Wave_Product product(a.size(), b.size(), is_square, kernels, grain);
+  if (!product.is_ready()) return Outcome::impossible;
+  if (!is_square && !product.set_second(b)) return Outcome::impossible;
+  const std::size_t groups = Groups_For(a.size(), grain) + Groups_For(b.size(), grain) + 1;
+  const Outcome outcome = product.multiply(a, groups);
+  if (outcome != Outcome::done) return outcome;
+  written = kernels.write_points(product.groups(), groups, grain.digits, out);
+  return Outcome::done;
+}
+
+Outcome Multiply_Cut(const Operands& operands, char* out, const Kernels& kernels,
+                     const Grain& grain, std::size_t& written) {
+  const auto& [a, b, is_square] = operands;
+  const std::size_t size = Piece_Size(a.size(), b.size(), grain);
+  const std::size_t b_groups = Groups_For(b.size(), grain);
+  const std::size_t groups = Groups_For(a.size(), grain) + b_groups;
+  Wave_Product product(size, b.size(), is_square, kernels, grain);
+  // Whole registers are written.
+  const std::size_t room = groups + kernels.lanes;
+  const Scratch<double> all(room);
+  if (!product.is_ready() || all.get() == nullptr) return Outcome::impossible;
+  if (!product.set_second(b)) return Outcome::impossible;
+  std::fill(all.get() + groups, all.get() + room, 0.0);
+  const auto base = static_cast<double>(grain.base) * static_cast<double>(grain.base);
+  std::string_view left = a;
+  for (std::size_t at = 0; !left.empty(); at += size / grain.digits) {
+    const std::size_t digits = std::min(left.size(), size);
+    const std::size_t count = Groups_For(digits, grain) + b_groups;
+    const Outcome outcome = product.multiply(left.substr(left.size() - digits), count);
+    if (outcome != Outcome::done) return outcome;
+    Add_Points(all.get() + at, product.groups(), count, at == 0 ? 0 : b_groups, base);
+    left.remove_suffix(digits);
+  }
+  written = kernels.write_points(all.get(), groups, grain.digits, out);
+  return Outcome::done;
+}
+
 }  // namespace
 
 bool Are_Wave_Lengths(std::size_t a_size, std::size_t b_size) noexcept {
-  return a_size / most_unbalanced <= b_size &&
-         Grains_For(a_size, fine_grain) + Grains_For(b_size, fine_grain) <= 2 * most_wave_points;
+  const std::size_t size = Is_Cut(a_size, b_size) ? Piece_Size(a_size, b_size, fine_grain) : a_size;
+  return Grains_For(size, fine_grain) + Grains_For(b_size, fine_grain) <= 2 * most_wave_points;
 }
 
 std::size_t Multiply_By_Waves(const Operands& operands, char* out,
                               const Kernels& kernels) noexcept {
+  const std::size_t b_size = operands.b.size();
+  const bool is_cut = Is_Cut(operands.a.size(), b_size);
   for (const Grain* grain : {&coarse_grain, &fine_grain}) {
-    if (!Is_Worth_Trying(operands, *grain)) continue;
-    Wave_Product product(operands, kernels, *grain);
-    if (!product.is_ready()) return 0;
-    if (const auto count = product.write(out)) return *count;
+    const std::size_t size =
+        is_cut ? Piece_Size(operands.a.size(), b_size, *grain) : operands.a.size();
+    if (!Is_Worth_Trying(size, b_size, *grain)) continue;
+    std::size_t written = 0;
+    const auto multiply = is_cut ? Multiply_Cut : Multiply_Whole;
+    const Outcome outcome = multiply(operands, out, kernels, *grain, written);
+    if (outcome == Outcome::done) return written;
+    if (outcome == Outcome::impossible) return 0;
   }
   return Multiply_By_Primes(operands, out, kernels);
 }

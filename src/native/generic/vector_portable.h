@@ -79,8 +79,13 @@ inline Lanes Nearest_Of(Lanes a, Lanes b) {
   return Add_Product(a, b, magic) - magic;
 }
 
+inline Lanes Reduce(Lanes a, const Modulus& modulus) {
+  return Take_Product(Nearest_Of(a, modulus.reciprocal), modulus.p, a);
+}
+
 // The quotient comes from doubles. Where products are rounded once, so does the remainder,
-// elsewhere from the low 64 bits of whole numbers, which hold it entirely.
+// elsewhere from the low 64 bits of whole numbers, which hold it entirely; the quotient has been
+// rounded once more there, so that the remainder can pass the bound by a fifth, and is reduced.
 inline Lanes Multiply_Mod(Lanes a, Lanes b, const Modulus& modulus) {
   const Lanes product = a * b;
   const Lanes quotient = Nearest_Of(product, modulus.reciprocal);
@@ -97,12 +102,9 @@ inline Lanes Multiply_Mod(Lanes a, Lanes b, const Modulus& modulus) {
   const auto remainders = [&remainder](Pair x, Pair y, Pair q, Pair p) {
     return Pair{remainder(x[0], y[0], q[0], p[0]), remainder(x[1], y[1], q[1], p[1])};
   };
-  return {remainders(a.low, b.low, quotient.low, modulus.p.low),
-          remainders(a.high, b.high, quotient.high, modulus.p.high)};
-}
-
-inline Lanes Reduce(Lanes a, const Modulus& modulus) {
-  return Take_Product(Nearest_Of(a, modulus.reciprocal), modulus.p, a);
+  return Reduce({remainders(a.low, b.low, quotient.low, modulus.p.low),
+                 remainders(a.high, b.high, quotient.high, modulus.p.high)},
+                modulus);
 }
 
 // The lanes of `value` where `a` is negative, zero elsewhere.
