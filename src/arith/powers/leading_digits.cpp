@@ -43,7 +43,7 @@ Leading_Digits Leading_Digits_Of(const limbs::Number& number) {
   const double magnitude =
       first + (Limb_At(number, top - 1) + Limb_At(number, top - 2) / float_base) / float_base;
   const std::int64_t power = limbs::Leading_Power(number);
-  const double unit =
+  const auto unit =
       static_cast<double>(limbs::Ten_To(static_cast<std::size_t>(power - top * limb_digits)));
   return {(number.negative ? -magnitude : magnitude) / unit, power};
 }

@@ -240,7 +240,7 @@ std::optional<Step_Number> Root_Neighbourhood::quotient(const Step_Number& value
 //    quotient and mean were as far apart, and to agree they have to be within 10^(5 - D). Each was
 //    closer together than the one before.
 std::optional<Later_Values> Root_Neighbourhood::later_values(const Step_Number& value) const {
-  if (!value.is_in_limbs()) return std::nullopt;
+  if (!value.is_in_limbs() || value.is_zero() || value.is_negative()) return std::nullopt;
   const std::optional<Far_Value> reached = Way_To_Root(value.in_limbs(), found_.root, digits_);
   if (!reached) return std::nullopt;
   const double root = Leading_Digits_Of(found_.root).mantissa;
