@@ -1,7 +1,7 @@
 #include "elementary/angle_units.h"
 
 #include "arith/operation/steps.h"
-#include "elementary/steps/step_constants.h"
+#include "elementary/constants.h"
 #include "elementary/steps/step_digits.h"
 #include "text/limits.h"
 

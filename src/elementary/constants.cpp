@@ -50,6 +50,10 @@ HostValue Pi_Digits(const HostValue& digits) {
   return Serve({'3', quorvex::digits::pi, limit_of_pi_and_e}, digits);
 }
 
+Step_Number Pi_Of(double digits) {
+  return Step_Number(To_Text(Pi_Digits(digits)));
+}
+
 HostValue E_Digits(const HostValue& digits) {
   return Serve({'2', quorvex::digits::e, limit_of_pi_and_e}, digits);
 }

@@ -1,6 +1,7 @@
 // Pi, e and the two logarithms that the elementary functions need, served from stored digits.
 #pragma once
 
+#include "arith/operation/step_number.h"
 #include "host/host_value.h"
 
 namespace quorvex {
@@ -16,5 +17,8 @@ HostValue Pi_Digits(const HostValue& digits);
 HostValue E_Digits(const HostValue& digits);
 HostValue Ln2_Digits(const HostValue& digits);
 HostValue Ln10_Digits(const HostValue& digits);
+
+/// Pi as a number between steps, or the token.
+Step_Number Pi_Of(double digits);
 
 }  // namespace quorvex

@@ -7,7 +7,6 @@
 
 #include "arith/digits/multiply_digits.h"
 #include "arith/operation/steps.h"
-#include "arith/powers/power_function.h"
 #include "elementary/constants.h"
 #include "elementary/series/exponential_sum.h"
 #include "elementary/series/shortened_series.h"
@@ -92,7 +91,7 @@ Step_Number Restored(Step_Number power, const Reduced& reduced, const Steps& ste
     steps.multiply(power, power);
   }
   if (reduced.multiple_of_ln2 > 0) {
-    steps.multiply(power, Power(Step_Number(2), Step_Number(reduced.multiple_of_ln2), steps));
+    steps.multiply(power, Two_To(reduced.multiple_of_ln2, steps));
   }
   return reduced.is_negative ? steps.quotient(Step_Number(1), power) : power;
 }

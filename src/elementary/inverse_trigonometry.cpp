@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "arith/powers/power_function.h"
+#include "elementary/constants.h"
 #include "elementary/series/arc_tangent_series.h"
-#include "elementary/steps/step_constants.h"
 #include "elementary/steps/step_functions.h"
 #include "host/conversions.h"
 #include "text/compare_numbers.h"

@@ -9,7 +9,6 @@
 #include <utility>
 
 #include "arith/operation/steps.h"
-#include "arith/powers/power_function.h"
 #include "elementary/constants.h"
 #include "elementary/series/shortened_series.h"
 #include "elementary/steps/logarithm_steps.h"
@@ -124,7 +123,7 @@ Step_Number Value_Of_Logarithm(const NumberText& num, const HostValue& ln2,
   const Steps& steps = precision.steps();
 
   const Step_Number number(num);
-  const Step_Number power = Power(Step_Number(2), Step_Number(std::abs(n)), steps);
+  const Step_Number power = Two_To(std::abs(n), steps);
   const Step_Number y = n < 0 ? steps.product(number, power) : steps.quotient(number, power);
   const Step_Number one(1);
   const Step_Number t = steps.quotient(steps.difference(y, one), steps.sum(y, one));

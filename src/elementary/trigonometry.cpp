@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "arith/powers/power_function.h"
+#include "elementary/constants.h"
 #include "elementary/series/sine_series.h"
 #include "elementary/steps/reduce_to_90.h"
-#include "elementary/steps/step_constants.h"
 #include "elementary/steps/step_digits.h"
 #include "elementary/steps/step_functions.h"
 #include "host/conversions.h"

@@ -117,23 +117,23 @@ limbs::Number To_Decimal(Span whole, std::int64_t shift, bool negative) {
   return number;
 }
 
-void Multiply_By_Fraction(Span& a, const Word* fraction_end, Word* scratch) {
-  Expects(a.count > 0 && scratch != a.words && fraction_end != nullptr);
-  // Rows of products whose high part reaches the place below the last. The others would add less
-  // than a unit each there.
-  std::fill_n(scratch, a.count + 1, 0);
-  for (std::size_t row = 0; row < a.count; ++row) {
-    const Word* const fraction = fraction_end - row - 1;
-    const Word factor = a.words[row];
-    Word carry = 0;
-    for (std::size_t place = 0; place <= row; ++place) {
-      const Wide sum = Wide{factor} * fraction[place] + scratch[place] + carry;
-      scratch[place] = static_cast<Word>(sum);
-      carry = static_cast<Word>(sum >> word_bits);
+void Multiply_By_Fraction(Span& a, const Word* fraction_end) {
+  Expects(a.count > 0 && fraction_end != nullptr);
+  // Columns from the one below the last place on, of rows whose high part reaches it. The others
+  // would add less than a unit each there. A column no longer needs the word below its own.
+  Wide sum = 0;
+  for (std::size_t column = 0; column < a.count; ++column) {
+    const Word* fraction = fraction_end;
+    Wide over = 0;
+    for (std::size_t row = column; row < a.count; ++row) {
+      const Wide product = Wide{a.words[row]} * *--fraction;
+      sum += product;
+      over += static_cast<Wide>(sum < product);
     }
-    scratch[row + 1] = carry;
+    if (column > 0) a.words[column - 1] = static_cast<Word>(sum);
+    sum = sum >> word_bits | over << word_bits;
   }
-  std::copy_n(scratch + 1, a.count, a.words);
+  a.words[a.count - 1] = static_cast<Word>(sum);
   Strip(a);
 }
 

@@ -35,9 +35,8 @@ void Fraction_From_Decimal(const limbs::Number& number, std::size_t count, Word*
 limbs::Number To_Decimal(Span whole, std::int64_t shift, bool negative);
 
 /// Turns `a` into its product with a fraction, whose words end at `fraction_end` and are no fewer
-/// than those of `a`. At most a unit of 2^-64 for each word and two more too small. `scratch` has
-/// room for a word more than `a`.
-void Multiply_By_Fraction(Span& a, const Word* fraction_end, Word* scratch);
+/// than those of `a`. At most a unit of 2^-64 for each word and two more too small.
+void Multiply_By_Fraction(Span& a, const Word* fraction_end);
 
 /// a / divisor into `out`, which may be that of `a`, cut off.
 Span Divide(Span a, const limbs::Divisor& divisor, Word* out);

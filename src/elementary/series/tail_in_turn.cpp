@@ -32,6 +32,7 @@ Answer Rounds_Up(Word fraction, double error) {
 
 // `bound` is 1 or more.
 Answer Is_Below(const Span& number, const Span& bound, double error) {
+  if (number.count > bound.count + 1) return Answer::no;
   const double above = words::Ratio(number, bound) - 1;
   if (std::fabs(above) <= float_margin + error) return Answer::in_doubt;
   return above < 0 ? Answer::yes : Answer::no;
@@ -55,7 +56,7 @@ std::optional<Step_Number> Sum_In_Turn(const Series_Tail& tail) {
   const auto end = static_cast<std::size_t>(tail.last_power + 1 + shift);
 
   const std::size_t room = words::Room_For(places);
-  limbs::Scratch scratch(6 * room);
+  limbs::Scratch scratch(5 * room);
   Word* const place = scratch.data();
   const Span fixed_sum = words::From_Decimal(whole_sum, shift, place);
   Span power = words::From_Decimal(tail.state.power.in_limbs(), shift, place + room);
@@ -63,8 +64,7 @@ std::optional<Step_Number> Sum_In_Turn(const Series_Tail& tail) {
   Word* const factor = place + 3 * room;
   words::Fraction_From_Decimal(tail.factor, power.count, factor);
   const Word* const factor_end = factor + power.count;
-  Word* const product = place + 4 * room;
-  Word* const quotient = place + 5 * room;
+  Word* const quotient = place + 4 * room;
   Span sum{fixed_sum.words + 1, fixed_sum.count - 1};
 
   Error_Of_Steps errors(tail);
@@ -72,7 +72,7 @@ std::optional<Step_Number> Sum_In_Turn(const Series_Tail& tail) {
   bool subtract = tail.state.power.is_negative() != whole_sum.negative;
   for (std::uint64_t k = tail.state.k + rule.stride; k <= tail.last_k; k += rule.stride) {
     Yield();
-    words::Multiply_By_Fraction(power, factor_end, product);
+    words::Multiply_By_Fraction(power, factor_end);
     if (rule.power_divisor != nullptr) {
       power = words::Divide(power, limbs::Divisor(rule.power_divisor(k)), power.words);
     }

@@ -1,8 +1,12 @@
 #include "elementary/steps/logarithm_steps.h"
 
+#include <cmath>
 #include <string>
 
+#include "arith/digits/multiply_digits.h"
 #include "arith/do_operation.h"
+#include "arith/powers/power_function.h"
+#include "elementary/steps/step_digits.h"
 #include "host/conversions.h"
 #include "text/clean_up_number.h"
 #include "text/format_result.h"
@@ -27,6 +31,17 @@ NumberText Finish(const Step_Number& value, const HostValue& exponential_notatio
   }
   options.maxSD += 1;  // as the sum with 0 would have it
   return Format_Result(value.decimal(), options, false);
+}
+
+// A small power has no digits to be rounded.
+Step_Number Two_To(std::int32_t exponent, const Steps& steps) {
+  constexpr std::int32_t most = 49;
+  constexpr std::size_t digits_of_most = 15;
+  const auto digits = Whole_Digits_Of(steps.limit());
+  if (exponent <= most && digits && *digits >= digits_of_most && Can_Multiply()) {
+    return Step_Number(std::ldexp(1, exponent));
+  }
+  return Power(Step_Number(2), Step_Number(exponent), steps);
 }
 
 bool Ends_Series(const Step_Number& term, std::int64_t last) {

@@ -1,7 +1,10 @@
 // What the logarithms and the exponential begin and end with.
 #pragma once
 
+#include <cstdint>
+
 #include "arith/operation/step_number.h"
+#include "arith/operation/steps.h"
 #include "host/host_value.h"
 
 namespace quorvex {
@@ -14,6 +17,9 @@ NumberText Normal_Form(const HostValue& num);
 /// type_mismatch for an option that can't be read.
 NumberText Finish(const Step_Number& value, const HostValue& exponential_notation,
                   const HostValue& maxSD);
+
+/// 2 to the power of a whole number of 0 or more, at the limit of the steps.
+Step_Number Two_To(std::int32_t exponent, const Steps& steps);
 
 /// True where a series is to end after the term: its power of ten is `last` or less. A negative
 /// term never ends one: its power is taken from its text, where the minus counts as a digit before
