@@ -4,6 +4,8 @@
 #include <atomic>
 #include <cstring>
 #include <filesystem>
+#include <memory>
+#include <new>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -41,6 +43,14 @@ std::string Folder_Of_This_Library() {
 // only until the process enters another folder. Never destroyed, as the platform isn't.
 const auto* const folder_when_loaded = new std::string(Folder_Of_This_Library());
 
+// Why a library can't be loaded is told in words alone, which are the user's own. One that has no
+// room must not be taken for one that isn't there: what needs no product of it goes on without.
+bool Is_Room_For_A_Library() {
+  constexpr std::size_t room = std::size_t{4} << 20U;
+  const std::unique_ptr<char[]> block(new (std::nothrow) char[room]);
+  return block != nullptr;
+}
+
 class Loaded_Libraries final : public Library_Loader {
  public:
   Loaded_Libraries() = default;
@@ -59,6 +69,7 @@ class Loaded_Libraries final : public Library_Loader {
       }
     }
     void* const handle = ::dlopen(library, RTLD_NOW | RTLD_LOCAL);
+    if (handle == nullptr && !Is_Room_For_A_Library()) throw std::bad_alloc();
     void* const symbol = handle == nullptr ? nullptr : ::dlsym(handle, name);
     if (symbol != nullptr) remember({library, name, symbol});
     return symbol;
