@@ -99,6 +99,7 @@ class Queue final : public Timer_Service {
     }
     std::ranges::stable_sort(found, {}, [](const auto& timer) { return timer.first; });
     std::vector<std::shared_ptr<Timer_State>> due;
+    due.reserve(found.size());
     for (auto& timer : found) due.push_back(std::move(timer.second));
     return due;
   }

@@ -2,6 +2,8 @@
 #include <dlfcn.h>
 
 #include <filesystem>
+#include <memory>
+#include <new>
 #include <string>
 #include <system_error>
 
@@ -49,12 +51,21 @@ void* Loaded(const char* library) {
   return ::dlopen(library, RTLD_NOW | RTLD_LOCAL);
 }
 
+// Why a library can't be loaded is told in words alone, which are the user's own. One that has no
+// room must not be taken for one that isn't there: what needs no product of it goes on without.
+bool Is_Room_For_A_Library() {
+  constexpr std::size_t room = std::size_t{4} << 20U;
+  const std::unique_ptr<char[]> block(new (std::nothrow) char[room]);
+  return block != nullptr;
+}
+
 class Loaded_Libraries final : public Library_Loader {
  public:
   // A library that was found stays loaded; one that was not is looked for again.
   void* symbol(const char* library, const char* name) override {
     if (void* const known = found_.find(library, name)) return known;
     void* const handle = Loaded(library);
+    if (handle == nullptr && !Is_Room_For_A_Library()) throw std::bad_alloc();
     void* const symbol = handle == nullptr ? nullptr : ::dlsym(handle, name);
     if (symbol != nullptr) found_.remember(library, name, symbol);
     return symbol;
