@@ -1,4 +1,5 @@
 // Ranges over the cells of a worksheet.
+#include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "sheet/worksheet.h"
 
