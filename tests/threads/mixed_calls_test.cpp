@@ -17,7 +17,9 @@
 #include "allocation/calls.h"
 #include "batch/value_codec.h"
 #include "frame/catalogue.h"
+#include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "shell/unload.h"
 #include "support/locales.h"
 #include "support/surroundings.h"
 #include "text/options.h"
@@ -65,6 +67,10 @@ TEST(Threads, GiveTheAnswersOfOneToMixedCalls) {
   const Locale_Guard locale(Point_Locale());
   const std::vector<Known_Call> known = Known_Calls();
   ASSERT_GT(known.size(), 2000U);
+  // So that the threads make the first instances, and look for the library of products, themselves.
+  Shell_Shut_Down();
+  Current_Platform().settings = Settings_In_Memory();
+  Current_Platform().libraries = Default_Platform().libraries;
   std::array<std::string, threads> first_wrong;
   std::barrier start(threads);
   const auto work = [&](std::size_t thread) {
