@@ -66,24 +66,48 @@ NumberText Value_Token(const Run_Time_Failure&) {
   return NumberText(value_token);
 }
 
+template <typename Body>
+NumberText With_Value_Token(const Body& body, const Operation_Flags& flags) {
+  return flags.is_step ? With_Handler(body, Value_Token) : With_Outer_Handler(body, Value_Token);
+}
+
+// Options are resolved behind the look for tokens, which are the result whatever they say.
+template <typename Resolve>
+NumberText Operate_On_Values(std::int16_t Operation, const HostValue& number1,
+                             const HostValue& number2, const Operation_Flags& flags,
+                             const Resolve& options) {
+  std::string scratch1;
+  std::string scratch2;
+  const std::string_view text1 = Operand_Text(number1, scratch1);
+  const std::string_view text2 = Operand_Text(number2, scratch2);
+  if (const auto token = Token_Of_Operands(text1, text2)) return NumberText(*token);
+  return Operate_On_Texts(Operation, text1, text2, options(), flags);
+}
+
 }  // namespace
 
 NumberText Do_Operation(std::int16_t Operation, const HostValue& number1, const HostValue& number2,
                         const Format_Arguments& format, const Operation_Flags& flags) {
-  const auto operate = [&] {
-    if (NumberText result;
-        Short_Operation(Operation, number1, number2, format, flags.intermediate, result)) {
-      return result;
-    }
-    std::string scratch1;
-    std::string scratch2;
-    const std::string_view text1 = Operand_Text(number1, scratch1);
-    const std::string_view text2 = Operand_Text(number2, scratch2);
-    if (const auto token = Token_Of_Operands(text1, text2)) return NumberText(*token);
-    return Operate_On_Texts(Operation, text1, text2, Restrictionator(format), flags);
-  };
-  return flags.is_step ? With_Handler(operate, Value_Token)
-                       : With_Outer_Handler(operate, Value_Token);
+  return With_Value_Token(
+      [&] {
+        if (NumberText result;
+            Short_Operation(Operation, number1, number2, format, flags.intermediate, result)) {
+          return result;
+        }
+        return Operate_On_Values(Operation, number1, number2, flags,
+                                 [&] { return Restrictionator(format); });
+      },
+      flags);
+}
+
+NumberText Do_Operation_On_Values(std::int16_t Operation, const HostValue& number1,
+                                  const HostValue& number2, const type_Restrictionator& options,
+                                  const Operation_Flags& flags) {
+  return With_Value_Token(
+      [&] {
+        return Operate_On_Values(Operation, number1, number2, flags, [&] { return options; });
+      },
+      flags);
 }
 
 NumberText Do_Operation_On_Texts(std::int16_t Operation, std::string_view number1,

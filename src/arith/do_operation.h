@@ -29,7 +29,11 @@ struct Operation_Flags {
 NumberText Do_Operation(std::int16_t Operation, const HostValue& number1, const HostValue& number2,
                         const Format_Arguments& format, const Operation_Flags& flags = {});
 
-/// The same for texts and resolved options, where it is called from within: as a step.
+/// The same with resolved options, where it is called from within: for values,
+/// and as a step for texts.
+NumberText Do_Operation_On_Values(std::int16_t Operation, const HostValue& number1,
+                                  const HostValue& number2, const type_Restrictionator& options,
+                                  const Operation_Flags& flags = {});
 NumberText Do_Operation_On_Texts(std::int16_t Operation, std::string_view number1,
                                  std::string_view number2, const type_Restrictionator& options,
                                  const Operation_Flags& flags = {});

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <bit>
 
+#include "expects.h"
+
 namespace quorvex {
 
 Position_Tree::Position_Tree(const std::vector<std::size_t>& values)
@@ -14,6 +16,7 @@ Position_Tree::Position_Tree(const std::vector<std::size_t>& values)
 }
 
 void Position_Tree::set(std::size_t position, std::size_t value) {
+  Expects(position < width_);
   std::size_t node = position + width_;
   values_[node] = value;
   for (node /= 2; node > 0; node /= 2) {

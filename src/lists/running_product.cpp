@@ -12,7 +12,6 @@
 #include "text/decimal.h"
 #include "text/digit_runs.h"
 #include "text/format_result.h"
-#include "text/round_to_length.h"
 #include "text/tokens.h"
 
 namespace quorvex {
@@ -38,12 +37,12 @@ void Running_Product::multiply(std::string_view element, double msd) {
 // Each product keeps two digits more than the limit.
 void Running_Product::cut(double msd) {
   join_all();
-  NumberText& product = partial_.front();
-  product = Round_To_Length(std::move(product), std::min(msd, maximum_digits) + 2);
-  const std::size_t zeros = Count_Trailing_Zeros(product);
-  power_of_ten_ += static_cast<std::int64_t>(zeros);
-  product.resize(product.size() - zeros);
-  digits_ = product.size();
+  Decimal product{std::move(partial_.front()), power_of_ten_};
+  Strip_Zeros(product);
+  Round(product, std::min(msd, maximum_digits) + 2);
+  partial_.front() = std::move(product.digits);
+  power_of_ten_ = product.power_of_ten;
+  digits_ = partial_.front().size();
 }
 
 void Running_Product::join_all() {

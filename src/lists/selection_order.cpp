@@ -5,6 +5,7 @@
 #include <set>
 #include <utility>
 
+#include "expects.h"
 #include "host/platform.h"
 #include "lists/number_ranks.h"
 #include "lists/position_tree.h"
@@ -105,6 +106,7 @@ std::vector<std::size_t> Order_By_Rank(const std::vector<std::size_t>& ranks) {
   std::vector<std::size_t> bests;
   std::size_t current = 0;
   for (const std::size_t end : ranked.ends) {
+    Expects(end > current);  // ranks are counted without gaps
     bests.clear();
     for (std::size_t i = current; i < end; ++i) bests.push_back(position[ranked.places[i]]);
     if (bests.size() > 1) std::ranges::sort(bests);

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "expects.h"
 #include "host/conversions.h"
 #include "lists/selection_order.h"
 
@@ -75,6 +76,7 @@ std::vector<std::size_t> Places_By_Column(const Array& array) {
 
 std::vector<std::size_t> Sorted_Indices(const Array& numbers, Cell_Path path,
                                         Sort_Direction direction) {
+  Expects(numbers.values.size() == numbers.rows * numbers.columns);
   const auto places = Places_Of(numbers, path);
   const Cell_Texts texts(numbers, places);
   const auto order = Selection_Order(Ranks_Of(texts.views(), direction));

@@ -17,24 +17,24 @@ namespace {
 
 using Kind = HostValue::Kind;
 
-// A sum that a cell which is no number turns into a token.
+// A sum that a cell which is no number turns into a token. The limit is read once; what one that
+// can't be read gives is for each addition to say, as its operands may be tokens.
 class Checked_Sum {
  public:
   explicit Checked_Sum(const HostValue& maximum_significant_digits)
       : limit_(maximum_significant_digits) {
-    msd_ = With_Handler(
-        [&]() -> std::optional<double> {
-          return Restrictionator({.maximum_significant_digits = limit_}).maxSD;
-        },
-        [](const Run_Time_Failure&) { return std::optional<double>(); });
-    if (!msd_) failed_ = "0";
+    With_Handler([&] { options_ = Restrictionator({.maximum_significant_digits = limit_}); },
+                 [](const Run_Time_Failure&) {});
+    if (!options_) failed_ = "0";
   }
 
   void add(const HostValue& cell) {
     if (!failed_ && add_number(cell)) return;
     const HostValue sum = failed_ ? *failed_ : sum_.text();
-    failed_ = Do_Operation(operation::add, sum, cell, {.maximum_significant_digits = limit_},
-                           {.is_step = true});
+    failed_ = options_
+                  ? Do_Operation_On_Values(operation::add, sum, cell, *options_, {.is_step = true})
+                  : Do_Operation(operation::add, sum, cell, {.maximum_significant_digits = limit_},
+                                 {.is_step = true});
   }
 
   NumberText text() { return failed_ ? *failed_ : sum_.text(); }
@@ -44,11 +44,11 @@ class Checked_Sum {
     const Kind kind = cell.kind();
     if (kind != Kind::text && kind != Kind::number && kind != Kind::empty) return false;
     std::string scratch;
-    return sum_.add(Text_Of(cell, scratch), *msd_);
+    return sum_.add(Text_Of(cell, scratch), options_->maxSD);
   }
 
   const HostValue& limit_;
-  std::optional<double> msd_;
+  std::optional<type_Restrictionator> options_;
   Running_Sum sum_;
   std::optional<NumberText> failed_;  // once a cell has failed, what additions give
 };

@@ -28,6 +28,8 @@ Match_Table::Match_Table(std::string_view entry) : entry_(entry) {
 }
 
 bool Occurrences::stand_at(std::size_t place) {
+  Expects(place >= asked_);
+  asked_ = place;
   if (read_ < place) {
     read_ = place;
     matched_ = 0;

@@ -45,6 +45,7 @@ class Occurrences {
  private:
   std::string_view text_;
   Match_Table table_;
+  std::size_t asked_ = 0;
   std::size_t read_ = 0;
   Match_Table::Length matched_ = 0;
 };

@@ -73,9 +73,13 @@ HostValue Compare_Numbers(std::string_view number1, std::string_view number2, bo
       [](const Run_Time_Failure&) { return HostValue(num_token); });
 }
 
+std::strong_ordering Order_Of_Digits(std::string_view text1, std::string_view text2) {
+  return text1.size() != text2.size() ? text1.size() <=> text2.size() : text1 <=> text2;
+}
+
 bool Compare_Digit_Strings(std::string_view text1, std::string_view text2, bool orEqual,
                            bool orGreater) {
-  const auto order = text1.size() != text2.size() ? text1.size() <=> text2.size() : text1 <=> text2;
+  const auto order = Order_Of_Digits(text1, text2);
   return (orEqual && std::is_eq(order)) || (orGreater && std::is_gt(order));
 }
 

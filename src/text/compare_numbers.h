@@ -1,6 +1,7 @@
 // The order of two numbers held as text, at any length.
 #pragma once
 
+#include <compare>
 #include <optional>
 #include <string_view>
 
@@ -26,8 +27,11 @@ bool Is_At_Least(std::string_view a, std::string_view b);
 bool Read_For_Comparison(std::string_view text, std::optional<Operand>& number,
                          Exponent_Zeros zeros = Exponent_Zeros::all);
 
-/// Compares two digit strings of like scale, without leading zeros: the longer is the greater, and
-/// at equal lengths the first different character decides.
+/// The order of two digit strings of like scale, without leading zeros: the longer is the greater,
+/// and at equal lengths the first different character decides.
+std::strong_ordering Order_Of_Digits(std::string_view text1, std::string_view text2);
+
+/// The same as the answer to a question.
 bool Compare_Digit_Strings(std::string_view text1, std::string_view text2, bool orEqual,
                            bool orGreater);
 

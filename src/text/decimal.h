@@ -22,6 +22,7 @@ struct Decimal {
   std::int64_t power_of_ten = 0;
   bool negative = false;
 
+  /// True if a mark begins the digits, which only a token's does: digits are no text of users.
   bool is_token() const;
 };
 

@@ -1,6 +1,7 @@
 #include "arith/division/exact_remainder.h"
 
 #include <algorithm>
+#include <compare>
 #include <cstddef>
 #include <string_view>
 #include <utility>
@@ -79,14 +80,14 @@ NumberText Remainder_By_Products(std::string_view x, std::string_view d) {
   const NumberText product = Checked(Multiply_Digits(Near_Quotient(x, d), d));
   type_Subtraction rest = Difference_Of(x, product);
   while (rest.NegativeSubtraction) rest = Difference_Of(d, rest.Difference);
-  while (Compare_Digit_Strings(rest.Difference, d, true, true)) {
+  while (std::is_gteq(Order_Of_Digits(rest.Difference, d))) {
     rest = Difference_Of(rest.Difference, d);
   }
   return std::move(rest.Difference);
 }
 
 bool Is_Below(std::string_view x, std::string_view d) {
-  return Compare_Digit_Strings(d, x, false, true);
+  return std::is_lt(Order_Of_Digits(x, d));
 }
 
 // x modulo d, of digits without leading zeros; "0" or empty for 0.

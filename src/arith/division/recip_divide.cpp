@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <compare>
 #include <limits>
 #include <optional>
 #include <string>
@@ -132,12 +133,12 @@ type_Division_Recip Recip_Divide(NumberText& X, NumberText& Y, std::int32_t sd) 
 double DivisionDecimalPosition(const NumberText& divisor, const NumberText& dividend) {
   const auto divided = static_cast<double>(divisor.size());
   const auto by = static_cast<double>(dividend.size());
-  if (Compare_Digit_Strings(dividend, divisor, false, true)) {
+  if (std::is_gt(Order_Of_Digits(dividend, divisor))) {
     const NumberText leading = dividend.substr(0, divisor.size());
-    return Compare_Digit_Strings(leading, divisor, true, true) ? 1 - divided + by : by - divided;
+    return std::is_gteq(Order_Of_Digits(leading, divisor)) ? 1 - divided + by : by - divided;
   }
   if (by > divided) return 0;
-  return Compare_Digit_Strings(dividend, divisor, true, true) ? 1 : 0;
+  return std::is_gteq(Order_Of_Digits(dividend, divisor)) ? 1 : 0;
 }
 
 HostValue Min(const HostValue& num1, const HostValue& num2) {

@@ -116,6 +116,25 @@ TEST(CommonDivisor, IsExactInWords) {
   }
 }
 
+// Neighbours in a row in which each number is the sum of the two before it, or nearly: the
+// quotients are as small as can be, and as many.
+TEST(CommonDivisor, TakesTheMostStepsThereAre) {
+  Random_Numbers random(84);
+  for (unsigned most = 1; most < 4; ++most) {
+    const Whole_Number common(random.digits(40) + "7");
+    Whole_Number a("0");
+    Whole_Number b = common;
+    for (int step = 0; step < 1200; ++step) {
+      const Whole_Number quotient(std::to_string(1 + random.below(most)));
+      const Whole_Number next = a + quotient * b;
+      a = b;
+      b = next;
+      if (step % 7 != 0) continue;
+      ASSERT_EQ(Exact_Divisor(a.text(), b.text()), common.text()) << a.text() << ' ' << b.text();
+    }
+  }
+}
+
 TEST(ReducedFractions, AreATokenWhereNoProductsCanBeFormed) {
   const Without_Libraries without;
   const type_Fraction fraction =
