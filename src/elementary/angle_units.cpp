@@ -2,7 +2,7 @@
 
 #include "arith/operation/steps.h"
 #include "elementary/constants.h"
-#include "elementary/steps/step_digits.h"
+#include "text/guard_digits.h"
 #include "text/limits.h"
 
 namespace quorvex {

@@ -18,6 +18,7 @@
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "text/compare_numbers.h"
+#include "text/guard_digits.h"
 #include "text/limits.h"
 #include "text/options.h"
 #include "text/round_to_sd.h"
@@ -77,7 +78,7 @@ class Precision {
 // (t is next to 0 where it is negative), and each lies below the last digit that sums keep, and
 // behind it leaves a "0" as the first dropped digit, by which alone is rounded.
 bool Adds_Nothing(const Step_Number& sum, const Step_Number& term, double limit) {
-  const auto kept = static_cast<std::int64_t>(Kept_Digits(std::ceil(limit)));
+  const auto kept = static_cast<std::int64_t>(Digits_Of_Result(std::ceil(limit)));
   return term.is_negative() && term.leading_power() < sum.leading_power() - kept;
 }
 

@@ -12,6 +12,7 @@
 #include "text/decimal.h"
 #include "text/digit_runs.h"
 #include "text/format_result.h"
+#include "text/guard_digits.h"
 #include "text/tokens.h"
 
 namespace quorvex {
@@ -39,7 +40,7 @@ void Running_Product::cut(double msd) {
   join_all();
   Decimal product{std::move(partial_.front()), power_of_ten_};
   Strip_Zeros(product);
-  Round(product, std::min(msd, maximum_digits) + 2);
+  Round(product, Digits_Of_Result(Up_To_Ceiling(msd)));
   partial_.front() = std::move(product.digits);
   power_of_ten_ = product.power_of_ten;
   digits_ = partial_.front().size();

@@ -9,6 +9,7 @@
 #include "host/run_time_failure.h"
 #include "text/digit_runs.h"
 #include "text/format_result.h"
+#include "text/guard_digits.h"
 #include "text/operand.h"
 #include "text/tokens.h"
 
@@ -24,7 +25,7 @@ Decimal_Parts Without_Leading_Zeros(Decimal_Parts parts) {
 
 std::size_t Digits_Never_Cut(double msd) {
   if (!(msd > 0)) return 0;
-  return static_cast<std::size_t>(std::min(msd, maximum_digits)) + 1;
+  return static_cast<std::size_t>(With_Guard_Digit(Up_To_Ceiling(msd)));
 }
 
 bool Running_Sum::add(std::string_view element, double msd) {
@@ -107,7 +108,7 @@ bool Running_Sum::add_in_chain(std::string_view element, double msd) {
     in_chain_ = true;
   }
   type_Restrictionator options;
-  options.maxSD = std::min(msd, maximum_digits);
+  options.maxSD = Up_To_Ceiling(msd);
   NumberText sum =
       Do_Operation_On_Texts(operation::add, chain_, element, options, {.intermediate = true});
   if (Has_Token_Mark(sum)) return false;

@@ -14,6 +14,7 @@
 #include "text/decimal.h"
 #include "text/digit_runs.h"
 #include "text/fixed_places.h"
+#include "text/guard_digits.h"
 #include "text/length_limit.h"
 #include "text/primitives.h"
 #include "text/round_to_length.h"
@@ -89,7 +90,7 @@ void Show_Sign(NumberText& text, bool positive, std::int16_t style) {
 
 // True for digits that formatting leaves as they are, but for their separator, zeros and sign.
 bool Is_Plain(const NumberText& digits, std::size_t places, const type_Restrictionator& options) {
-  return !digits.empty() && static_cast<double>(digits.size()) <= options.maxSD + 1 &&
+  return !digits.empty() && static_cast<double>(digits.size()) <= Digits_Formatted(options.maxSD) &&
          digits.size() + places < short_enough && !options.FormatThousands &&
          !options.FormatCurrency && !options.ExponentialNotation &&
          options.FormatDecimalPlace.is_missing() && !Has_Non_Digit(digits);
@@ -145,7 +146,7 @@ NumberText Format_Result(Decimal number, const type_Restrictionator& options, bo
   const std::optional<std::int32_t> places = Fixed_Places(options.FormatDecimalPlace);
   if (result.empty() || Has_Token_Mark(result)) return std::move(result);
 
-  Cut_To_Significant_Digits(result, options.maxSD + 1);
+  Cut_To_Significant_Digits(result, Digits_Formatted(options.maxSD));
   if (result.starts_with(token_mark)) return std::move(result);
   Set_Separator(result, decimals);
   Strip_Trailing_Zeros(result);

@@ -4,6 +4,7 @@
 
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
+#include "text/guard_digits.h"
 #include "text/options.h"
 #include "text/primitives.h"
 
@@ -33,12 +34,12 @@ double Limit_As_Number(const HostValue& maxSD) {
 }
 
 double Working_Limit(const HostValue& maxSD) {
-  return maxSD.is_missing() ? Default_MaxSD() : std::fmin(To_Number(maxSD), maximum_digits);
+  return maxSD.is_missing() ? Default_MaxSD() : Up_To_Ceiling(To_Number(maxSD));
 }
 
 double Limit_Unless_Blank(const HostValue& maxSD) {
   if (Is_Single_Cell(maxSD)) return Limit_Unless_Blank(Cell_Of(maxSD));
-  return Is_Absent(maxSD) ? Default_MaxSD() : std::fmin(To_Number(maxSD), maximum_digits);
+  return Is_Absent(maxSD) ? Default_MaxSD() : Up_To_Ceiling(To_Number(maxSD));
 }
 
 std::optional<std::int32_t> Whole_Limit(const HostValue& maxSD) {
@@ -50,7 +51,7 @@ std::optional<std::int32_t> Whole_Limit(const HostValue& maxSD) {
 
 double Constant_Digits(const HostValue& digits) {
   if (digits.is_missing()) return Default_MaxSD();
-  return std::fmin(Count_Of_Digits(digits), maximum_digits);
+  return Up_To_Ceiling(Count_Of_Digits(digits));
 }
 
 double Count_Of_Digits(const HostValue& digits) {

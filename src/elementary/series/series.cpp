@@ -2,10 +2,10 @@
 
 #include <cmath>
 
-#include "elementary/steps/step_digits.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "text/guard_digits.h"
 
 namespace quorvex {
 namespace {
@@ -14,7 +14,7 @@ namespace {
 // without a loss.
 double Exact_Below(double limit) {
   constexpr double longest = 15;
-  return limit < -1 ? 0 : std::pow(10, std::fmin(Kept_Digits(std::floor(limit)), longest));
+  return limit < -1 ? 0 : std::pow(10, std::fmin(Digits_Of_Result(std::floor(limit)), longest));
 }
 
 }  // namespace

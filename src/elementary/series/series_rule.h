@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "arith/operation/step_number.h"
-#include "elementary/steps/step_digits.h"
+#include "text/guard_digits.h"
 
 namespace quorvex {
 
@@ -45,7 +45,7 @@ struct Series_Tail {
 
   /// The power of ten that turns the sum's last place into ones.
   std::int64_t shift() const {
-    return static_cast<std::int64_t>(Kept_Digits(limit)) - 1 - state.sum.leading_power();
+    return static_cast<std::int64_t>(Digits_Of_Result(limit)) - 1 - state.sum.leading_power();
   }
 };
 

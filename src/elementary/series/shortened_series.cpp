@@ -7,7 +7,7 @@
 #include "elementary/series/tail_in_groups.h"
 #include "elementary/series/tail_in_turn.h"
 #include "elementary/series/term_sizes.h"
-#include "elementary/steps/step_digits.h"
+#include "text/guard_digits.h"
 
 namespace quorvex {
 namespace {
@@ -63,7 +63,7 @@ std::optional<Step_Number> Shortened_Series::sum_from(const Series_State& state)
                          last_k_, added_doubt};
   // The end is to be among the places of the sum.
   const std::int64_t end = last_power_ + 1 + tail.shift();
-  if (end < 0 || static_cast<double>(end) > Kept_Digits(limit_)) return std::nullopt;
+  if (end < 0 || static_cast<double>(end) > Digits_Of_Result(limit_)) return std::nullopt;
   return Takes_Groups(rule_, limit_) ? Sum_In_Groups(tail) : Sum_In_Turn(tail);
 }
 

@@ -9,6 +9,7 @@
 #include "elementary/series/shortened_series.h"
 #include "elementary/steps/step_digits.h"
 #include "host/conversions.h"
+#include "text/guard_digits.h"
 
 namespace quorvex {
 namespace {
@@ -51,7 +52,7 @@ Step_Number Square_Of(const Step_Number& x, const Steps& steps) {
   const auto digits = Whole_Digits_Of(steps.limit());
   const bool is_product =
       digits && x.is_in_limbs() && !x.is_zero() && Can_Multiply() &&
-      static_cast<double>(Significant_Digits(x.in_limbs())) <= Kept_Digits(steps.limit());
+      static_cast<double>(Significant_Digits(x.in_limbs())) <= Digits_Of_Result(steps.limit());
   return is_product ? steps.product(x, x) : Power(x, Step_Number(2), steps);
 }
 

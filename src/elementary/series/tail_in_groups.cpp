@@ -10,8 +10,8 @@
 
 #include "arith/limbs/limb_rows.h"
 #include "elementary/series/term_sizes.h"
-#include "elementary/steps/step_digits.h"
 #include "host/platform.h"
+#include "text/guard_digits.h"
 
 namespace quorvex {
 namespace {
@@ -293,7 +293,8 @@ std::optional<Step_Number> Sum_In_Groups(const Series_Tail& tail) {
   if (!rest) return std::nullopt;
   Number scaled = Scaled(*rest, -tail.shift());
   scaled.negative = tail.state.power.is_negative() != tail.rule.alternates;
-  limbs::Add(sum, scaled, scaled.negative, static_cast<std::size_t>(Kept_Digits(tail.limit)), sum);
+  limbs::Add(sum, scaled, scaled.negative, static_cast<std::size_t>(Digits_Of_Result(tail.limit)),
+             sum);
   return Step_Number(std::move(sum));
 }
 

@@ -4,8 +4,8 @@
 
 #include "arith/limbs/binary_words.h"
 #include "elementary/series/term_sizes.h"
-#include "elementary/steps/step_digits.h"
 #include "host/platform.h"
+#include "text/guard_digits.h"
 
 namespace quorvex {
 namespace {
@@ -52,7 +52,7 @@ std::optional<Step_Number> Sum_In_Turn(const Series_Tail& tail) {
   const Series_Rule& rule = tail.rule;
   const Number& whole_sum = tail.state.sum.in_limbs();
   const std::int64_t shift = tail.shift();
-  const auto places = static_cast<std::size_t>(Kept_Digits(tail.limit));
+  const auto places = static_cast<std::size_t>(Digits_Of_Result(tail.limit));
   const auto end = static_cast<std::size_t>(tail.last_power + 1 + shift);
 
   const std::size_t room = words::Room_For(places);

@@ -1,25 +1,11 @@
-// How many digits the steps of a chain keep, and the ceiling of limits.
+// Limits of steps in limbs.
 #pragma once
 
-#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <optional>
 
-#include "text/options.h"
-
 namespace quorvex {
-
-/// What sums and products at a limit keep, two digits more than it says.
-constexpr double Kept_Digits(double limit) {
-  constexpr double guard_digits = 2;
-  return limit + guard_digits;
-}
-
-/// The limit, or the ceiling of limits if it is above that.
-inline double Up_To_Ceiling(double limit) {
-  return std::fmin(limit, maximum_digits);
-}
 
 /// A limit that is a count of digits which limbs take: a whole number from 1 to a million.
 inline std::optional<std::size_t> Whole_Digits_Of(double limit) {
