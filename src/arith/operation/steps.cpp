@@ -7,6 +7,7 @@
 
 #include "arith/digits/multiply_digits.h"
 #include "arith/division/limb_quotient.h"
+#include "arith/division/quick_reciprocal.h"
 #include "arith/division/recip_divide.h"
 #include "arith/operation/four_operations.h"
 #include "arith/operation/operation_codes.h"
@@ -64,6 +65,9 @@ bool Divide_By_Shifted(Number& a, const Number& b, std::size_t digits_kept) {
   if (b.count() != 2 || a.is_zero()) return false;
   const std::size_t in_lower = limbs::digits - Count_Zeros_Behind(b.data()[0]);
   if (b.data()[1] >= limbs::Ten_To(limbs::digits - in_lower)) return false;
+  // Shorter quotients aren't told by limbs.
+  const std::size_t length = in_lower + limbs::Count_Digits(b.data()[1]);
+  if (Digits_Behind_First(digits_kept) < length) return false;
   limbs::Limb shift = limbs::Ten_To(in_lower);
   Number factor;
   limbs::Trim({&shift, 1, 0, false}, factor);

@@ -81,7 +81,7 @@ class Mean_Iteration {
  public:
   Mean_Iteration(const Step_Number& radicand, const Step_Number& start, double maxSD)
       : radicand_(radicand), maxSD_(maxSD), steps_(With_Guard_Digit(maxSD)) {
-    if (!Is_Square_Of(radicand, start, steps_)) {
+    if (Root_Neighbourhood::Is_For(steps_.limit()) && !Is_Square_Of(radicand, start, steps_)) {
       near_ = Root_Neighbourhood::Of(radicand, steps_.limit());
     }
   }

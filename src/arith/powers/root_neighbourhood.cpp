@@ -132,15 +132,17 @@ std::optional<Far_Value> Way_To_Root(const Number& value, const Number& root, st
 
 }  // namespace
 
-std::optional<Root_Neighbourhood> Root_Neighbourhood::Of(const Step_Number& radicand,
-                                                         double limit) {
-  // Below, two divisions cost less.
+bool Root_Neighbourhood::Is_For(double limit) {
   constexpr double least_limit = 36;
   constexpr double highest_limit = 1'000'000;
+  return limit >= least_limit && limit <= highest_limit && std::trunc(limit) == limit;
+}
+
+std::optional<Root_Neighbourhood> Root_Neighbourhood::Of(const Step_Number& radicand,
+                                                         double limit) {
   constexpr std::int64_t farthest_power = 1'000'000;
   const bool is_for_this = radicand.is_in_limbs() && !radicand.is_zero() &&
-                           !radicand.is_negative() && limit >= least_limit &&
-                           limit <= highest_limit && std::trunc(limit) == limit && Can_Multiply();
+                           !radicand.is_negative() && Is_For(limit) && Can_Multiply();
   if (!is_for_this || std::abs(radicand.leading_power()) > farthest_power) return std::nullopt;
   Root_Neighbourhood near(radicand.in_limbs(), static_cast<std::size_t>(limit));
   if (!near.is_told()) return std::nullopt;

@@ -23,6 +23,9 @@ struct Later_Values {
 /// without taking it. Nothing where that can't be told.
 class Root_Neighbourhood {
  public:
+  /// Whether limits are neither too short, where two divisions cost less, nor too long.
+  static bool Is_For(double limit);
+
   /// Nothing for radicands and limits that this is not for.
   static std::optional<Root_Neighbourhood> Of(const Step_Number& radicand, double limit);
 
