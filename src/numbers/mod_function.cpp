@@ -12,6 +12,7 @@
 #include "text/compare_numbers.h"
 #include "text/decimal.h"
 #include "text/format_result.h"
+#include "text/guard_digits.h"
 #include "text/limits.h"
 #include "text/operand.h"
 #include "text/primitives.h"
@@ -38,9 +39,9 @@ double Wanted_Sign(const HostValue& sign) {
 // The operation that forms the difference keeps two digits more than the limit. What that does not
 // cut need not be written out and read again.
 Decimal As_Operation_Gives(Decimal exact, double limit) {
-  if (static_cast<double>(exact.digits.size()) <= limit + 2) return exact;
+  if (static_cast<double>(exact.digits.size()) <= Digits_Of_Result(limit)) return exact;
   type_Restrictionator options;
-  options.maxSD = std::min(limit, maximum_digits) + 1;
+  options.maxSD = With_Guard_Digit(Up_To_Ceiling(limit));
   return Read_Decimal(Format_Result(std::move(exact), options, true));
 }
 

@@ -131,7 +131,7 @@ class SystemLocale : public testing::Test {
     const std::string command = "localedef -c --quiet --no-archive -i '" + path + ".source' -f " +
                                 codeset + " '" + path + "' >/dev/null 2>&1";
     // It reports the categories left out as a failure; a locale that isn't there fails its test.
-    static_cast<void>(std::system(command.c_str()));
+    static_cast<void>(!std::system(command.c_str()));
   }
 
   static Temporary_Folder* folder_;

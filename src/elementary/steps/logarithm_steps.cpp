@@ -10,6 +10,7 @@
 #include "host/conversions.h"
 #include "text/clean_up_number.h"
 #include "text/format_result.h"
+#include "text/guard_digits.h"
 #include "text/options.h"
 
 namespace quorvex {
@@ -29,7 +30,8 @@ NumberText Finish(const Step_Number& value, const HostValue& exponential_notatio
   if (!value.is_in_limbs()) {
     return Do_Operation_On_Texts(operation::add, value.text(), "0", options);
   }
-  options.maxSD += 1;  // as the sum with 0 would have it
+  // As the sum with 0 would have it.
+  options.maxSD = With_Guard_Digit(options.maxSD);
   return Format_Result(value.decimal(), options, false);
 }
 
