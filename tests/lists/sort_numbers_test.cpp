@@ -147,7 +147,9 @@ TEST(SortNumbers, PutsNumbersOfAllSizesInOrder) {
       std::string text = random.one_in(20) ? "0" : random.digits(1 + random.below(30));
       if (random.one_in(2)) {
         text.insert(1, ".");
-        text += "E" + random.one_of("+-") + std::to_string(random.below(powers));
+        text += 'E';
+        text += random.one_of("+-");
+        text += std::to_string(random.below(powers));
       }
       if (random.one_in(2)) text.insert(0, 1, '-');
       cells.emplace_back(std::move(text));
