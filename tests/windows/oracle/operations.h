@@ -11,7 +11,7 @@
   DO(mpz_tdiv_r)         \
   DO(mpz_gcd)
 #define WHOLE_BY_ONE(DO) DO(mpz_set) DO(mpz_sqrt)
-#define WHOLE_BY_ONE_AND_COUNT(DO) DO(mpz_pow_ui)
+#define WHOLE_BY_ONE_AND_COUNT(DO) DO(mpz_pow_ui) DO(mpz_root)
 #define WHOLE_BY_COUNT(DO) DO(mpz_fac_ui) DO(mpz_2fac_ui)
 #define WHOLE_COMPARED(DO) DO(mpz_cmp) DO(mpz_cmpabs)
 
@@ -23,6 +23,7 @@
   DO(mpfr_atan)         \
   DO(mpfr_exp)          \
   DO(mpfr_exp10)        \
+  DO(mpfr_expm1)        \
   DO(mpfr_log)          \
   DO(mpfr_log10)        \
   DO(mpfr_neg)
