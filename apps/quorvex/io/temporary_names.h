@@ -1,10 +1,10 @@
 // How files are called that will take the place of others.
 #pragma once
 
-#include <cctype>
 #include <filesystem>
 #include <random>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <vector>
 
@@ -29,10 +29,8 @@ inline std::vector<std::filesystem::path> Temporaries_Beside(const std::filesyst
        entry.increment(error)) {
     const auto name = entry->path().filename().native();
     if (name.size() <= begin.size() || !name.starts_with(begin)) continue;
-    if (name.find_first_not_of(std::filesystem::path("0123456789").native(), begin.size()) ==
-        name.npos) {
-      found.push_back(entry->path());
-    }
+    const auto behind = std::filesystem::path(name.substr(begin.size())).string();
+    if (behind.find_first_not_of("0123456789") == std::string::npos) found.push_back(entry->path());
   }
   return found;
 }
