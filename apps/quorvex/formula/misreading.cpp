@@ -71,6 +71,14 @@ bool Any_Text(const HostValue& value, const Look& look) {
     const HostValue single = Single(value);
     return single.is_text() && look(single);
   }
+  if (value.kind() == HostValue::Kind::range) {
+    bool is_found = false;
+    value.range().visit_used([&](const HostValue& each) {
+      is_found = each.is_text() && look(each);
+      return !is_found;
+    });
+    return is_found;
+  }
   const Elements elements(value);
   for (std::size_t row = 0; row < elements.rows(); ++row) {
     Yield();

@@ -118,6 +118,14 @@ TEST(SheetCommand, TakesAwayWhatKilledRunsLeftAndNothingElse) {
   ::close(lock);
 }
 
+TEST(SheetCommand, WholeColumnsCostTheCellsThatAreUsed) {
+  const Tool_Run run = Run_Tool({"--timeout", "20", "sheet", "-", "-o", "-"},
+                                "1,2\n\"=qvxSUM2(B1:XFD1048576)\",3,7\n"
+                                "\"=qvxCOUNT(B1:XFD1048576)\"\n\"=qvxMEDIAN(B1:XFD1048576)\"\n");
+  EXPECT_EQ(run.output, "1,2,\n12,3,7\n3,,\n3,,\n");
+  EXPECT_EQ(run.errors, "");
+}
+
 TEST(SheetCommand, ReadsAWholeTextOrNone) {
   struct {
     const char* words;
