@@ -4,12 +4,12 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
-#include <iostream>
+#include <iterator>
 #include <string>
 #include <vector>
 
 #include "frame/catalogue.h"
+#include "fuzz/require.h"
 #include "host/deadline.h"
 #include "support/localized.h"
 #include "support/surroundings.h"
@@ -24,9 +24,7 @@ using namespace quorvex;
 constexpr double all_digits = 100000;
 
 void Require(bool condition, const char* complaint, const std::string& a, const std::string& b) {
-  if (condition) return;
-  std::cerr << complaint << ": " << a << " and " << b << '\n';
-  std::abort();
+  if (!condition) quorvex::Require(false, complaint, a + " and " + b);
 }
 
 std::string Digits(FuzzedDataProvider& data, std::size_t most) {
@@ -181,8 +179,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
   } catch (const Run_Time_Failure& failure) {
     // A busy machine has less time than there is.
     if (failure.number() == Failure_Number::interrupted) return 0;
-    std::cerr << "a calculation failed: " << failure.what() << '\n';
-    std::abort();
+    quorvex::Require(false, "a calculation failed", failure.what());
   }
   return 0;
 }

@@ -2,31 +2,22 @@
 // as the same one.
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <iostream>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "formula/formula.h"
+#include "fuzz/require.h"
 #include "host/platform.h"
 
 namespace {
 
-void Require(bool condition, const char* complaint, std::string_view about) {
-  if (condition) return;
-  std::cerr << complaint << ": " << about << '\n';
-  std::abort();
-}
+using quorvex::Require;
 
 void Check_Mark(std::string_view text, std::size_t position) {
   const std::string marked = quorvex::Mark_Place(text, position);
   Require(marked.ends_with('^') && marked.size() < 1000, "no short mark", marked);
 }
-
-}  // namespace
-
-namespace {
 
 void Check(const std::string& text) {
   std::string written;

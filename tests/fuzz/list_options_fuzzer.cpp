@@ -1,13 +1,12 @@
 // Any bytes as option strings: read as a slow reading of the rules reads them.
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <iostream>
 #include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "fuzz/require.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
 #include "lists/list_options.h"
@@ -16,12 +15,6 @@
 namespace {
 
 using namespace quorvex;
-
-void Require(bool condition, const char* complaint, std::string_view about) {
-  if (condition) return;
-  std::cerr << complaint << ": " << about << '\n';
-  std::abort();
-}
 
 // Words found by trying every place, digits by trying every character.
 struct Slow_Reading {

@@ -3,13 +3,12 @@
 // its whole part and the rest.
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <iostream>
 #include <string>
 #include <string_view>
 
 #include "arith/do_operation.h"
 #include "frame/class/cls_Quorvex.h"
+#include "fuzz/require.h"
 #include "support/localized.h"
 #include "support/surroundings.h"
 #include "text/clean_up_number.h"
@@ -23,12 +22,6 @@
 namespace {
 
 using namespace quorvex;
-
-void Require(bool condition, const char* complaint, std::string_view about) {
-  if (condition) return;
-  std::cerr << complaint << ": " << about << '\n';
-  std::abort();
-}
 
 // Exponents whose zeros would take the time of thousands of runs.
 bool Asks_For_Much(const std::string& text) {

@@ -2,26 +2,19 @@
 // is a part of it that can be read as a name.
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <iostream>
 #include <string>
 #include <string_view>
 
 #include "cli/prompt.h"
 #include "cli/prompt_names.h"
 #include "formula/formula.h"
+#include "fuzz/require.h"
 #include "host/conversions.h"
 #include "host/platform.h"
 
 namespace {
 
 using namespace quorvex;
-
-void Require(bool condition, const char* complaint, std::string_view about) {
-  if (condition) return;
-  std::cerr << complaint << ": " << about << '\n';
-  std::abort();
-}
 
 // Where files are completed the folders of this machine would answer.
 bool Asks_For_Files(std::string_view line) {

@@ -3,10 +3,9 @@
 #include <fuzzer/FuzzedDataProvider.h>
 
 #include <cstdint>
-#include <cstdlib>
-#include <iostream>
 #include <string>
 
+#include "fuzz/require.h"
 #include "host/locale_rules.h"
 #include "host/platform.h"
 #include "host/settings_text.h"
@@ -14,12 +13,6 @@
 namespace {
 
 using namespace quorvex;
-
-void Require(bool condition, const char* complaint, const std::string& about) {
-  if (condition) return;
-  std::cerr << complaint << ": " << about << '\n';
-  std::abort();
-}
 
 void Check_Settings(FuzzedDataProvider& data) {
   const std::string application = data.ConsumeRandomLengthString(20);

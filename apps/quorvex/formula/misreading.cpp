@@ -4,7 +4,6 @@
 #include <string_view>
 #include <utility>
 
-#include "formula/elements.h"
 #include "formula/number_problem.h"
 #include "host/platform.h"
 
@@ -66,11 +65,6 @@ bool Any_Text(const HostValue& value, const Look& look) {
     return std::ranges::any_of(value.list(),
                                [&](const HostValue& each) { return Any_Text(each, look); });
   }
-  if (!Is_Block(value)) {
-    if (value.kind() != HostValue::Kind::range) return false;
-    const HostValue single = Single(value);
-    return single.is_text() && look(single);
-  }
   if (value.kind() == HostValue::Kind::range) {
     bool is_found = false;
     value.range().visit_used([&](const HostValue& each) {
@@ -79,15 +73,11 @@ bool Any_Text(const HostValue& value, const Look& look) {
     });
     return is_found;
   }
-  const Elements elements(value);
-  for (std::size_t row = 0; row < elements.rows(); ++row) {
+  if (value.kind() != HostValue::Kind::array) return false;
+  return std::ranges::any_of(value.array().values, [&](const HostValue& each) {
     Yield();
-    for (std::size_t column = 0; column < elements.columns(); ++column) {
-      const HostValue each = elements.at(row, column);
-      if (each.is_text() && look(each)) return true;
-    }
-  }
-  return false;
+    return each.is_text() && look(each);
+  });
 }
 
 // Options of functions of lists stand among the values, as in "format:MSD=50".
