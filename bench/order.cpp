@@ -1,6 +1,8 @@
 // Sorting and counting fifty-digit numbers, and taking numbers out of long texts.
 #include <benchmark/benchmark.h>
+#include <gmp.h>
 
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -42,6 +44,29 @@ void Sort(benchmark::State& state) {
   for (auto step : state) benchmark::DoNotOptimize(engine.qvxSORT(column));
 }
 
+// Numbers are allocated once; their texts are copied in their order.
+void Gmp_Sort(benchmark::State& state) {
+  const auto count = static_cast<std::size_t>(state.range(0));
+  std::vector<std::string> texts;
+  for (unsigned i = 0; i < count; ++i) texts.push_back(bench::Digits(digits_of_each, i + 2));
+  std::vector<mpz_t> numbers(count);
+  for (auto& number : numbers) mpz_init(number);
+  std::vector<std::size_t> order(count);
+  for (auto step : state) {
+    for (std::size_t i = 0; i < count; ++i) {
+      mpz_set_str(numbers[i], texts[i].c_str(), 10);
+      order[i] = i;
+    }
+    std::sort(order.begin(), order.end(),
+              [&](std::size_t a, std::size_t b) { return mpz_cmp(numbers[a], numbers[b]) < 0; });
+    std::vector<std::string> sorted;
+    sorted.reserve(count);
+    for (const std::size_t i : order) sorted.push_back(texts[i]);
+    benchmark::DoNotOptimize(sorted.data());
+  }
+  for (auto& number : numbers) mpz_clear(number);
+}
+
 // Half as many different numbers as cells.
 void Mode(benchmark::State& state, const char* options) {
   const auto count = static_cast<std::size_t>(state.range(0));
@@ -70,6 +95,7 @@ void Extraction(benchmark::State& state, Method method, const List& entries) {
 constexpr int megabyte = 1'000'000;
 
 BENCHMARK(Sort)->Name("Order/sort")->Arg(10'000)->Arg(100'000);
+BENCHMARK(Gmp_Sort)->Name("Gmp list/sort")->Arg(10'000)->Arg(100'000);
 BENCHMARK_CAPTURE(Mode, value, "format:")->Name("Order/mode")->Arg(5000)->Arg(10'000);
 BENCHMARK_CAPTURE(Mode, table, "format:table")->Name("Order/mode table")->Arg(5000)->Arg(10'000);
 BENCHMARK_CAPTURE(Extraction, exclude, &cls_Quorvex::qvxEXCLUDE, {" item, "})

@@ -189,12 +189,17 @@ def print_lists(times, peer):
 
 def print_order(times, peer):
     """Whole calls over a column of fifty-digit numbers, and over a text of so many bytes."""
-    print("| call | cells | decimal / ours | ours | decimal |")
-    print("|---|---:|---:|---:|---:|")
+    print("| call | cells | best peer / ours | ours | GMP | decimal |")
+    print("|---|---:|---:|---:|---:|---:|")
     for name, call in {"sort": "qvxSORT", "mode": "qvxMODE", "mode table": "qvxMODE, table"}.items():
         for count in sizes(times, f"Order/{name}"):
             ours, dec = times[f"Order/{name}/{count}"], peer[f"order/{name}/{count}"]
-            print(f"| {call} | {int(count):,} | {dec / ours:.1f} | {unit(ours)} | {unit(dec)} |")
+            gmp = times.get(f"Gmp list/{name}/{count}")
+            best = dec if gmp is None else min(gmp, dec)
+            print(
+                f"| {call} | {int(count):,} | {best / ours:.1f} | {unit(ours)} "
+                f"| {'' if gmp is None else unit(gmp)} | {unit(dec)} |"
+            )
     print()
     print("| call | bytes | ours |")
     print("|---|---:|---:|")
@@ -213,6 +218,24 @@ def print_overhead(times):
         print(f"| {int(size):,} | {multiply / bare:.2f} | {divide / bare:.2f} |")
 
 
+MILLION_CALLS = (
+    ("qvxADD", "Quorvex/add", {"GMP": "Gmp/add"}),
+    ("qvxMULTIPLY", "Call/multiply", {"GMP": "Gmp/product", "FLINT": "Flint/product"}),
+    ("qvxDIVIDE", "Call/divide", {"GMP": "Gmp/divide", "MPFR": "Mpfr/divide"}),
+)
+
+
+def print_million(times, peer):
+    """Time and peak memory of whole calls on a million digits."""
+    print("| a million digits | | peer / ours | time | memory |")
+    print("|---|---|---:|---:|---:|")
+    for call, ours, others in MILLION_CALLS:
+        for library, name in {"ours": ours, **others}.items():
+            time, memory = times[f"{name}/1000000"], peer[f"memory/{name}"] / 1e6
+            ratio = "" if name == ours else f"{time / times[f'{ours}/1000000']:.1f}"
+            print(f"| {call} | {library} | {ratio} | {unit(time)} | {memory:.1f} MB |")
+
+
 def sizes(times, name):
     found = (run.rsplit("/", 1) for run in times)
     return sorted((size for call, size in found if call == name), key=int)
@@ -226,7 +249,7 @@ def main():
         with open(path, encoding="utf-8") as file:
             peer.update(json.load(file))
     times = {
-        run["run_name"]: run["real_time"]
+        run["run_name"]: run["cpu_time"]
         for run in native["benchmarks"]
         if run.get("aggregate_name") == "median"
     }
@@ -253,6 +276,8 @@ def main():
     print_order(times, peer)
     print()
     print_overhead(times)
+    print()
+    print_million(times, peer)
 
 
 if __name__ == "__main__":
