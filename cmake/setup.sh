@@ -10,6 +10,7 @@ windows_packages=(g++-mingw-w64-x86-64-posix mingw-w64-tools wine64 fp-utils-3.2
   libmpfr-dev python3)
 arm_packages=(g++-aarch64-linux-gnu qemu-user nlohmann-json3-dev python3)
 coverage_packages=(gcovr)
+abi_packages=(abigail-tools)
 bench_packages=(libbenchmark-dev libgmp-dev libmpfr-dev libflint-dev python3 python3-mpmath bc time)
 
 # Installs the Debian packages that are not there yet.
