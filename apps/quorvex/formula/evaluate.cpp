@@ -210,8 +210,8 @@ class Evaluator {
     const auto size_of = [](const Elements& block) {
       return std::to_string(block.rows()) + " by " + std::to_string(block.columns());
     };
-    state_.reason = "Of blocks of different sizes (" + size_of(larger) + " and " +
-                    size_of(smaller) + ", rows by columns) values without a partner give #N/A.";
+    state_.reason = "The blocks differ in size (" + size_of(larger) + " and " + size_of(smaller) +
+                    ", rows by columns), and a value without a partner gives #N/A.";
   }
 
   void explain_pair(std::string_view op, const HostValue& left, const HostValue& right,

@@ -51,7 +51,7 @@ TEST(Notes, NameTheArgumentAndTheCause) {
       {"NOT(\"x\")", "\"x\" is no condition"},
       {"AND(\"x\",TRUE)", "\"x\" is no condition"},
       {"(-8)^(1/3)", "no power with a fraction"},
-      {"{1,2,3}+{1,2}", "Of blocks of different sizes (1 by 3 and 1 by 2"},
+      {"{1,2,3}+{1,2}", "The blocks differ in size (1 by 3 and 1 by 2"},
       {"{1;#N/A}+{1;2}", ""},
       {"#N/A", ""},
       {"qvxADD(#N/A,1)", ""},
