@@ -5,7 +5,9 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
+#include <new>
 #include <optional>
 #include <sstream>
 #include <string>
