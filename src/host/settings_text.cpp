@@ -6,14 +6,13 @@
 #include <charconv>
 #include <utility>
 
+#include "host/utf8.h"
+
 namespace quorvex {
 
 namespace {
 
 constexpr std::string_view blanks = " \t\r";
-
-/// Some editors put it before the first line.
-constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 
 bool Is_Plain(char c, std::string_view special) {
   return static_cast<unsigned char>(c) >= ' ' && c != '\x7F' && c != '%' &&

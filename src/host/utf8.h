@@ -10,6 +10,9 @@
 
 namespace quorvex {
 
+/// Some editors put it before the first line of a file; it is no part of the text.
+inline constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+
 /// A character, its code point and its length in bytes. For an invalid byte, `valid` is false and
 /// `bytes` is 1; for empty text, `bytes` is 0.
 struct Character {

@@ -8,10 +8,12 @@
 #include <cmath>
 #include <csignal>
 #include <cstdlib>
+#include <ctime>
 #include <fstream>
 #include <string>
 
 #include "host/platform/posix.h"
+#include "support/environment.h"
 #include "support/failures.h"
 #include "support/locales.h"
 #include "support/surroundings.h"
@@ -48,6 +50,25 @@ TEST(SystemMemory, IsMoreThanATestNeedsAndLessThanThereCanBe) {
 #ifdef __linux__
   EXPECT_LT(available, std::size_t{1} << 50U);
 #endif
+}
+
+TEST(SystemClock, TellsTheTimeOfTheUsersZone) {
+  const double day = 86400;
+  const auto time_in = [](const char* zone) {
+    const Variable_Guard variable("TZ", zone);
+    ::tzset();
+    return System_Clock()->time_of_day();
+  };
+  const double greenwich = time_in("UTC0");
+  const double expected = std::fmod(static_cast<double>(std::time(nullptr)), day) / day;
+  const double later = time_in("XYZ-5:30");
+  ::tzset();
+  const auto apart = [](double from, double to) {
+    const double days = to - from;
+    return days - std::floor(days);
+  };
+  EXPECT_LT(apart(greenwich, expected), 60 / day) << greenwich;
+  EXPECT_NEAR(apart(greenwich, later), 5.5 / 24, 60 / day) << greenwich << " " << later;
 }
 
 TEST(SystemMemory, KeepsWithinTheLimitOfTheProcess) {

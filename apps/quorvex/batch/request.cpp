@@ -42,21 +42,35 @@ const Method& Called_Method(const json& root) {
   return *method;
 }
 
+constexpr std::string_view list_form = "{\"list\": [value, ...]}";
+
+bool Is_List(const Parameter& parameter) {
+  return parameter.kind == Parameter_Kind::list;
+}
+
 void Check_List(const Parameter& parameter, const HostValue& value) {
   const auto kind = value.kind();
-  if (parameter.kind != Parameter_Kind::list) return;
+  if (!Is_List(parameter)) return;
   if (kind == HostValue::Kind::list || kind == HostValue::Kind::missing) return;
-  throw Invalid_Request(std::string(parameter.name) + ": this takes {\"list\": [value, ...]}");
+  throw Invalid_Request(std::string(parameter.name) + ": this takes " + std::string(list_form));
+}
+
+// Who gives too many arguments to what takes a list has probably given its elements one by one.
+[[noreturn]] void Refuse_Count(const Method& method, std::size_t given) {
+  const auto& parameters = method.parameters;
+  std::string message = std::string(method.name) + " takes at most " +
+                        Counted(parameters.size(), "argument") + ", and " + std::to_string(given) +
+                        " are given";
+  const auto list = std::ranges::find_if(parameters, Is_List);
+  if (list != parameters.end())
+    message += ": " + std::string(list->name) + " is one, " + std::string(list_form);
+  throw Invalid_Request(message);
 }
 
 void Take_Positional(json& values, Request& request) {
   if (!values.is_array()) throw Invalid_Request("\"args\" has to be an array of values");
   const auto& parameters = request.method->parameters;
-  if (values.size() > parameters.size()) {
-    throw Invalid_Request(std::string(request.method->name) + " takes at most " +
-                          Counted(parameters.size(), "argument") + ", and " +
-                          std::to_string(values.size()) + " are given");
-  }
+  if (values.size() > parameters.size()) Refuse_Count(*request.method, values.size());
   request.arguments.reserve(parameters.size());
   for (json& value : values) {
     const Parameter& parameter = parameters[request.arguments.size()];

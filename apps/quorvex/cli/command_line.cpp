@@ -5,7 +5,9 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
+#include <new>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -99,6 +101,13 @@ Outcome Run_Batch(Session& session, const std::shared_ptr<Call_Guard>& guard,
   return Outcome::success;
 }
 
+std::string Hint_For_Word(std::string_view word) {
+  if (word == "help" || word == "version")
+    return "\"quorvex --" + std::string(word) + "\" tells that.";
+  return "The commands are sheet, functions, batch, settings and about; \"quorvex --help\" tells "
+         "more.";
+}
+
 // A word alone was probably meant as a command.
 Outcome Calculate_Arguments(Session& session, Formulas& formulas,
                             const std::vector<std::string>& arguments) {
@@ -106,9 +115,7 @@ Outcome Calculate_Arguments(Session& session, Formulas& formulas,
   const std::string& first = arguments.front();
   if (outcome == Outcome::wrong_usage && !first.empty() &&
       std::all_of(first.begin(), first.end(), Is_Letter)) {
-    session.hint(
-        "The commands are sheet, functions, batch, settings and about; \"quorvex --help\" tells "
-        "more.");
+    session.hint(Hint_For_Word(first));
   } else if (outcome == Outcome::wrong_usage && first.ends_with(".csv")) {
     session.hint("A worksheet is calculated with: quorvex sheet " + Visible(first));
   }
@@ -251,6 +258,9 @@ int Run_Command_Line(int argc, char** argv) {
     return static_cast<int>(Parse_And_Run(argc, argv));
   } catch (const Output_Closed&) {
     return static_cast<int>(Outcome::success);
+  } catch (const std::bad_alloc&) {
+    std::fputs("error: There is not enough memory.\n", stderr);
+    return static_cast<int>(Outcome::failed_calculation);
   } catch (const std::exception& fault) {
     std::fprintf(stderr, "error: %s\n", Visible(fault.what()).c_str());
     return static_cast<int>(Outcome::failed_calculation);

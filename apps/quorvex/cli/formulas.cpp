@@ -16,6 +16,7 @@
 #include "formula/visible.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "host/utf8.h"
 #include "io/terminal_width.h"
 #include "sheet/result_text.h"
 
@@ -116,7 +117,6 @@ Outcome Formulas::calculate_input() {
   std::size_t number = 0;
   while (auto line = reader.next_line(session_.output())) {
     const std::string place = "line " + std::to_string(++number) + ": ";
-    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
     if (number == 1 && line->starts_with(byte_order_mark))
       line->remove_prefix(byte_order_mark.size());
     if (!reader.problem().empty()) {

@@ -24,6 +24,7 @@
 #include "sheet/grid.h"
 #include "sheet/recalculate.h"
 #include "sheet/workbook.h"
+#include "text/options.h"
 
 namespace quorvex {
 namespace {
@@ -163,13 +164,16 @@ Outcome Open_Sheet::load() {
       [&](const Progress& progress) { Recalculate_All(*book, session_.engine(), progress); });
 }
 
+// Operators calculate at the default limit as well, and hosts are told of functions alone.
 Outcome Open_Sheet::update() {
+  if (Default_MaxSD() != limit_) application_->mark_all_stale();
   if (!application_->is_written()) return Outcome::success;
   return calculate(
       [&](const Progress& progress) { application_->calculate(session_.engine(), progress); });
 }
 
 Outcome Open_Sheet::calculate(const std::function<void(const Progress&)>& work) {
+  limit_ = Default_MaxSD();
   try {
     // What a file holds is no wish of the user to see a dialog.
     const Closed_Forms closed;

@@ -37,8 +37,9 @@ class Open_Sheet {
   /// Throws `File_Error` and `Usage_Error`, and then leaves what was open before.
   Outcome load();
 
-  /// Calculates what the engine has written to cells, and prints or writes the worksheet again;
-  /// nothing where it has written none. Throws `File_Error`.
+  /// Calculates what the engine has written to cells, and everything where the default limit is
+  /// another one than before; then prints or writes the worksheet again. Nothing where neither is
+  /// so. Throws `File_Error`.
   Outcome update();
 
   /// Null before a file was read.
@@ -55,6 +56,7 @@ class Open_Sheet {
   std::shared_ptr<Sheet_Application> application_;
   Csv_Form form_;
   const Worksheet* sheet_ = nullptr;  // of the application
+  double limit_ = 0;                  // at which it was calculated
 };
 
 }  // namespace quorvex

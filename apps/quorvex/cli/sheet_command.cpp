@@ -13,7 +13,6 @@
 #include "host/run_time_failure.h"
 #include "io/paths.h"
 #include "sheet/csv.h"
-#include "shell/recalculate_formulas.h"
 #include "shell/start_up.h"
 #include "text/options.h"
 
@@ -98,7 +97,6 @@ class Watch {
     }
     Load_Default_MaxSD();
     session_.hint("The default limit is " + Number_To_Text(Default_MaxSD()) + " now.");
-    Recalculate_Formulas();
     sheet_.update();
   }
 

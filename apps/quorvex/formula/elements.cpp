@@ -34,12 +34,16 @@ std::size_t Elements::columns() const {
                                                  : value_.range().columns();
 }
 
+bool Elements::reach(std::size_t row, std::size_t column) const {
+  return (rows() == 1 || row < rows()) && (columns() == 1 || column < columns());
+}
+
 HostValue Elements::at(std::size_t row, std::size_t column) const {
   if (!Is_Block(value_)) return Single(value_);
+  if (!reach(row, column)) return Error_Code::not_available;
   const std::size_t width = columns();
   if (rows() == 1) row = 0;
   if (width == 1) column = 0;
-  if (row >= rows() || column >= width) return Error_Code::not_available;
   if (value_.kind() == HostValue::Kind::range) return value_.range().cell(row + 1, column + 1);
   return Single(value_.array().values[row * width + column]);
 }

@@ -24,7 +24,9 @@ class Elements {
 
   std::size_t rows() const;
   std::size_t columns() const;
-  /// Rows and columns count from 0. #N/A where there is none.
+  /// Whether a value stands there. Rows and columns count from 0.
+  bool reach(std::size_t row, std::size_t column) const;
+  /// #N/A where there is none.
   HostValue at(std::size_t row, std::size_t column) const;
 
  private:

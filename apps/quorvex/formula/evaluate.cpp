@@ -199,7 +199,19 @@ class Evaluator {
     const auto place = static_cast<std::size_t>(found - block.values.begin());
     const std::size_t row = place / block.columns;
     const std::size_t column = place % block.columns;
-    explain_pair(op, Elements(left).at(row, column), Elements(right).at(row, column), *found);
+    const Elements lefts(left);
+    const Elements rights(right);
+    explain_pair(op, lefts.at(row, column), rights.at(row, column), *found);
+    if (!lefts.reach(row, column)) explain_gap(rights, lefts);
+    if (!rights.reach(row, column)) explain_gap(lefts, rights);
+  }
+
+  void explain_gap(const Elements& larger, const Elements& smaller) {
+    const auto size_of = [](const Elements& block) {
+      return std::to_string(block.rows()) + " by " + std::to_string(block.columns());
+    };
+    state_.reason = "The blocks differ in size (" + size_of(larger) + " and " + size_of(smaller) +
+                    ", rows by columns), and a value without a partner gives #N/A.";
   }
 
   void explain_pair(std::string_view op, const HostValue& left, const HostValue& right,

@@ -122,6 +122,8 @@ const Method* Find_Function(std::string_view name, Functions functions) {
 std::optional<std::string_view> Nearest_Function(std::string_view typed, Functions functions) {
   if (typed.size() > longest_typed) return std::nullopt;
   std::string wanted = To_Capitals(typed);
+  // Every name has letters.
+  if (wanted.find_first_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ") == std::string::npos) return std::nullopt;
   if (!wanted.starts_with(prefix.substr(0, 2))) wanted.insert(0, prefix);
   // A slip in a third of what tells the functions apart is as far as a guess makes sense.
   const std::size_t telling = wanted.size() > prefix.size() ? wanted.size() - prefix.size() : 0;

@@ -14,6 +14,7 @@
 #include "formula/utf8.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
+#include "host/utf8.h"
 #include "io/temporary_file.h"
 #include "io/whole_text.h"
 #include "sheet/csv_reader.h"
@@ -24,8 +25,6 @@ namespace quorvex {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 
 void Require_Text(std::string_view text, std::string_view source) {
   if (text.find('\0') != std::string_view::npos) {

@@ -116,6 +116,7 @@ void Recalculation::close_group(const Calculation& root, bool needs_itself) {
 void Recalculation::calculate(Calculation& calculation) {
   if (calculation.stale) {
     Calculate(workbook_, engine_, calculation, workbook_.explains());
+    if (calculation.spill.kind() == HostValue::Kind::array) calculation.sheet->refill(calculation);
     calculation.stale = false;
     calculation.updated = true;
   }

@@ -153,6 +153,15 @@ class Sheet_Add_In final : public Host_Add_In {
 
 }  // namespace
 
+void Sheet_Application::mark_all_stale() {
+  for (const auto& workbook : workbooks_) {
+    for (const auto& sheet : workbook->worksheets()) {
+      for (const auto& [address, cell] : sheet->cells()) sheet->mark_stale(address);
+    }
+  }
+  *is_written_ = true;
+}
+
 void Sheet_Application::calculate(cls_Quorvex& engine, const Progress& progress) {
   for (const auto& workbook : workbooks_) Recalculate_Stale(*workbook, engine, progress);
   *is_written_ = false;

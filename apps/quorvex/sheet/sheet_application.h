@@ -31,6 +31,8 @@ class Sheet_Application final : public Host_Application {
 
   void open(std::shared_ptr<Workbook> workbook) { workbooks_.push_back(std::move(workbook)); }
 
+  /// As if every cell were written.
+  void mark_all_stale();
   /// Whether cells were written since `calculate` was last called.
   bool is_written() const { return *is_written_; }
   /// Calculates these cells and all that depends on them. Throws as `Recalculate_Stale` does, and

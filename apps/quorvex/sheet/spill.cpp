@@ -45,6 +45,16 @@ bool Is_Same(const Cell& cell, const Filling& filling) {
 
 }  // namespace
 
+void Worksheet::refill(const Calculation& calculation) {
+  Yield();
+  Fillings fillings = Fillings_Of(calculation.spill.array(), calculation.address);
+  for (auto& [address, filling] : fillings) {
+    const auto cell = cells_.find(address);
+    if (cell != cells_.end() && cell->second.spilled_from == calculation.address)
+      cell->second.constant = std::move(filling.value);
+  }
+}
+
 bool Worksheet::spill() {
   bool changed = false;
   const auto move = [&](Cell_Address from) {

@@ -114,6 +114,10 @@ class Worksheet {
   /// Has the formula of a cell, if there is one, calculated by the workbook's next `update`.
   void mark_stale(Cell_Address address);
 
+  /// Fills the cells that an array has filled before with its new values, so that formulas that are
+  /// calculated after it see them; `spill` does the rest.
+  void refill(const Calculation& calculation);
+
   /// Fills the cells right of and below formulas that gave arrays with their values, and empties
   /// those that none fills any more. An array of which a cell isn't free fills none, and is told
   /// the obstacle; blank and empty values need no room. True if formulas may have to be calculated

@@ -1,6 +1,7 @@
 #include "arith/operation/four_operations.h"
 
 #include <algorithm>
+#include <limits>
 #include <string_view>
 #include <utility>
 
@@ -78,8 +79,18 @@ Decimal Multiply(const type_SignOp& reduced) {
                 -Decimals(*reduced.Operand1) - Decimals(*reduced.Operand2), reduced.Negative);
 }
 
+// The limit of an operation is a digit more than what was asked for.
+std::int32_t Digits_Of_Quotient(double limit) {
+  if (limit > std::numeric_limits<std::int32_t>::max()) {
+    throw Run_Time_Failure(Failure_Number::overflow,
+                           "A quotient can't have " + Number_To_Text(limit - 1) +
+                               " significant digits; the limit has to be lower.");
+  }
+  return To_Int32(limit);
+}
+
 Decimal Divide(const type_SignOp& reduced, double limit) {
-  const std::int32_t digits = To_Int32(limit);
+  const std::int32_t digits = Digits_Of_Quotient(limit);
   if (!Are_Numbers(reduced)) {
     Decimal operand1 = Bare_Text(*reduced.Operand1);
     Decimal operand2 = Bare_Text(*reduced.Operand2);

@@ -44,6 +44,7 @@ TEST(Request, IsRefusedWithTheReason) {
       {R"({"call":"qvxADD","named":[1]})", "\"named\" has to be an object"},
       {R"({"call":"qvxADD","args":1})", "\"args\" has to be an array"},
       {R"({"call":"qvxSIGN","args":[1,2,3]})", "at most 1 argument, and 3 are given"},
+      {R"({"call":"qvxSUM2","args":[1,2,3]})", R"( is one, {"list": [value, ...]})"},
       {R"({"call":"qvxADD","args":[[1]]})", "number1: a bare [...] is no value"},
       {R"({"call":"qvxADD","args":[1,{}]})", "number2: an object is one of"},
       {R"({"call":"qvxADD","args":[{"missing":false}]})", "an object is one of"},

@@ -59,6 +59,7 @@ TEST(CommandLine, CalculatesFormulas) {
       {{"#N/A"}, "", "#N/A\n", "", 1},
       {{"\"#VALUE\""}, "", "#VALUE\n", "", 0},
       {{"qvxSIGN({1,2})", "1"}, "", "1\n", "error: ", 1},
+      {{"-d", "2147483647", "1/3"}, "", "#VALUE!\n", "can't have 2147483647 significant", 1},
       {{"{1,\"a\"}*2", "1"}, "", "2  #VALUE!\n1\n", "\"a\" is no number", 1},
       {{"-"},
        "\xEF\xBB\xBF"
@@ -70,6 +71,8 @@ TEST(CommandLine, CalculatesFormulas) {
       {{"A1"}, "", "", "A1", 2},
       {{"qvxADDD(1,2)"}, "", "", "did you mean qvxADD?\n  qvxADDD(1,2)\n  ^", 2},
       {{"function"}, "", "", "The commands are sheet, functions, batch, settings", 2},
+      {{"help"}, "", "", "\"quorvex --help\" tells", 2},
+      {{"version"}, "", "", "\"quorvex --version\" tells", 2},
       {{"\xFF(1)"}, "", "", "error: ", 2},
   };
   for (const Tool_Case& each : cases) Expect(each);
@@ -155,6 +158,8 @@ TEST(CommandLine, ExplainsFunctions) {
 
   Expect({{"functions", "qvxADDD"}, "", "", "did you mean qvxADD?", 2});
   Expect({{"functions", "zzzzzzzzzz"}, "", "", "there is no function \"zzzzzzzzzz\"\n", 2});
+  Expect({{"functions", "+"}, "", "", "\"+\" is no function but an operator", 2});
+  Expect({{"functions", "sum", "of", "zebras"}, "", "", "all of the words \"sum of zebras\"", 2});
 }
 
 TEST(CommandLine, ReferencePageIsUpToDate) {

@@ -1,15 +1,22 @@
 // `quorvex sheet` as its users meet it.
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <iterator>
 #include <string>
+#include <thread>
+#include <utility>
 #include <vector>
 
 #include "apps/cli/run_tool.h"
@@ -168,6 +175,9 @@ TEST(SheetCommand, LeavesNothingBehindWhereAFileMayNotGrow) {
   if (process == 0) {
     const rlimit limit{4096, 4096};
     ::setrlimit(RLIMIT_FSIZE, &limit);
+    // Where lines are counted, the counts of others must not be cut short.
+    ::setenv("GCOV_PREFIX", "/dev/null", 1);
+    ::dup2(::open("/dev/null", O_WRONLY), STDERR_FILENO);
     ::execl(QUORVEX_TOOL, "quorvex", "sheet", file.c_str(), "-o", out.c_str(), nullptr);
     ::_exit(127);
   }
@@ -175,6 +185,86 @@ TEST(SheetCommand, LeavesNothingBehindWhereAFileMayNotGrow) {
   ::waitpid(process, &status, 0);
   EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 2) << status;
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
+}
+
+TEST(SheetCommand, TellsWhyTheResultCantBeWritten) {
+  const Tool_Run run = Run_Tool({"sheet", "-", "-o", "/dev/full"}, "=1+1\n");
+  EXPECT_EQ(run.exit_code, 2);
+  EXPECT_EQ(run.errors, "error: /dev/full can't be written: No space left on device.\n");
+}
+
+// The tool as it watches a file, with its output and its errors in one stream.
+class Watching {
+ public:
+  explicit Watching(const Temporary_Folder& folder)
+      : folder_(folder),
+        run_(::popen(("XDG_CONFIG_HOME='" + folder.path().string() +
+                      "' LC_ALL=C exec '" QUORVEX_TOOL "' sheet --watch '" + file() + "' 2>&1")
+                         .c_str(),
+                     "r")) {}
+  ~Watching() {
+    if (run_ != nullptr) end();
+  }
+  Watching(const Watching&) = delete;
+  Watching& operator=(const Watching&) = delete;
+
+  std::string file() const { return (folder_.path() / "watched.csv").string(); }
+
+  // Whether these words come within half a minute, behind those of the last call.
+  bool tells(const std::string& words) {
+    for (std::size_t at = shown_.find(words); at == std::string::npos; at = shown_.find(words)) {
+      pollfd waiting{::fileno(run_), POLLIN, 0};
+      std::array<char, 4096> piece{};
+      if (::poll(&waiting, 1, 30'000) <= 0) return false;
+      const ssize_t got = ::read(waiting.fd, piece.data(), piece.size());
+      if (got <= 0) return false;
+      shown_.append(piece.data(), static_cast<std::size_t>(got));
+    }
+    shown_.erase(0, shown_.find(words) + words.size());
+    return true;
+  }
+  const std::string& shown() const { return shown_; }
+
+  // It goes when it finds nobody who reads what it has to show. The exit code.
+  int end() {
+    std::atomic<bool> ended = false;
+    std::thread writer([&] {
+      for (std::size_t rows = 1; !ended; ++rows) {
+        folder_.write("watched.csv", std::string(rows, '\n') + "1\n");
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+      }
+    });
+    const int status = ::pclose(std::exchange(run_, nullptr));
+    ended = true;
+    writer.join();
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  }
+
+ private:
+  const Temporary_Folder& folder_;
+  std::FILE* run_;
+  std::string shown_;
+};
+
+TEST(SheetCommand, WatchesTheFileAndTheDefaultLimit) {
+  const Temporary_Folder folder;
+  const std::string file = folder.write("watched.csv", "=1+1,one\n");
+  Watching run(folder);
+  EXPECT_TRUE(run.tells("2  one\n") && run.tells("Watching ")) << run.shown();
+  folder.write("watched.csv", "=1/3,another\n");
+  EXPECT_TRUE(run.tells(" has changed.\n") && run.tells("333  another\n")) << run.shown();
+  const std::string settings = "XDG_CONFIG_HOME=" + folder.path().string();
+  EXPECT_EQ(Run_Tool({"settings", "max-sd", "5"}, "", {settings}).exit_code, 0);
+  EXPECT_TRUE(run.tells("The default limit is 5 now.\n") && run.tells("0.333333")) << run.shown();
+  std::filesystem::remove_all(folder.path() / "quorvex");
+  EXPECT_TRUE(run.tells("no longer stored. It stays 5 here.\n")) << run.shown();
+  folder.write("watched.csv", "\"never closed\n");
+  EXPECT_TRUE(run.tells("error: ")) << run.shown();
+  std::filesystem::remove(file);
+  EXPECT_TRUE(run.tells(" is gone; waiting")) << run.shown();
+  folder.write("watched.csv", "=1+2,three\n");
+  EXPECT_TRUE(run.tells(" is back.\n") && run.tells("3  three\n")) << run.shown();
+  EXPECT_EQ(run.end(), 0);
 }
 
 TEST(SheetCommand, DefinesNames) {

@@ -1,10 +1,13 @@
 // Lines over descriptors.
 #include "io/line_io.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <array>
+#include <chrono>
+#include <optional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -80,6 +83,25 @@ TEST(LineWriter, SaysWhenNobodyReads) {
   Line_Writer nowhere(-1);
   nowhere.write_line("one");
   EXPECT_THROW(nowhere.flush(), std::system_error);
+}
+
+// A terminal that another program has left so, or a pipe that two programs share.
+TEST(LineIo, WaitsForDescriptorsThatDoNotBlock) {
+  Pipe pipe;
+  for (const int end : {pipe.reader(), pipe.writer()}) ::fcntl(end, F_SETFL, O_NONBLOCK);
+  const std::string line(std::size_t{1} << 20, 'x');  // more than a pipe holds
+  std::thread sender([&] {
+    Line_Writer writer(pipe.writer());
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    writer.write_line(line);
+    writer.flush();
+    pipe.close_writer();
+  });
+  Line_Reader reader(pipe.reader());
+  Line_Writer nowhere(STDOUT_FILENO);
+  EXPECT_EQ(reader.next_line(nowhere), line);
+  sender.join();
+  EXPECT_EQ(reader.next_line(nowhere), std::nullopt);
 }
 
 }  // namespace

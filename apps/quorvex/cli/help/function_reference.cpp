@@ -175,8 +175,13 @@ std::optional<std::string> Function_Help(cls_Quorvex& engine, std::string_view w
 }
 
 std::string No_Such_Function(std::string_view name) {
+  const std::string quoted = "\"" + std::string(name) + "\"";
+  if (name.find(' ') != std::string_view::npos)
+    return "there is no function whose description has all of the words " + quoted;
+  if (name.find_first_not_of("+-*/^&%=<>") == std::string_view::npos)
+    return quoted + " is no function but an operator, as in quorvex '1/7*2^0.5'";
   const bool is_for_programs = Find_Method(name) != nullptr;
-  return "there is no function \"" + std::string(name) + "\"" +
+  return "there is no function " + quoted +
          (is_for_programs ? " for formulas; programs have one (functions --programs " +
                                 std::string(Find_Method(name)->name) + ")"
                           : "") +
