@@ -97,14 +97,14 @@ static inline void Write_Two(char* text, std::uint64_t number) {
   std::memcpy(text, &pairs_of_digits[2 * number], 2);
 }
 
-/// Writes so many digits, an even count from four to eighteen, of a number that has no more.
+/// Writes so many digits, an even count from four to twelve, of a number that has no more.
 ///
 /// The number is taken as one of two digits with a fraction of 64 bits; a hundred times the
 /// fraction is two digits more. The fraction is too large by less than 2^-56, which the steps leave
 /// below a quarter of the last digit; it must not be too small at all, as pairs are rounded down.
 template <std::size_t digits>
 static inline void Write_Pairs(char* out, std::uint64_t number) {
-  static_assert(digits % 2 == 0 && digits >= 4 && digits <= 18);
+  static_assert(digits % 2 == 0 && digits >= 4 && digits <= 12);
   constexpr std::uint64_t divisor = Ten_To_The(digits - 2);
   constexpr auto shift = static_cast<unsigned>(std::bit_width(divisor)) - 1;
   constexpr auto reciprocal = static_cast<std::uint64_t>((Wide{1} << (64U + shift)) / divisor + 1);
