@@ -6,13 +6,13 @@
 
 #include "native/generic/digit_words.h"
 
-#if defined(__SSE2__)
+#if defined(__x86_64__)
 #include <emmintrin.h>
 #endif
 
 namespace quorvex::native {
 
-#if defined(__SSE2__)
+#if defined(__x86_64__)
 
 /// Reads numbers of sixteen digits, and notes whether characters were some.
 class Sixteen_Reader {
