@@ -7,8 +7,8 @@
 
 namespace quorvex {
 
-/// Symbols by their library and name. Products of several threads look here at the same time, so
-/// what was found is never changed and nobody waits. Names must stay where they are, as constants do.
+/// Symbols by their library and name, which must stay where they are, as constants do. Products of
+/// several threads look here at the same time, so what was found is never changed and nobody waits.
 class Found_Symbols {
  public:
   Found_Symbols() = default;
