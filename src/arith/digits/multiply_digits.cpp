@@ -66,7 +66,8 @@ NumberText Product(Factor op1, Factor op2) {
 }
 
 bool Reaches_End(std::string_view digits) {
-  return digits.data()[digits.size()] == '\0';
+  const char* const end = digits.data() + digits.size();
+  return *end == '\0';
 }
 
 bool Is_Nothing(std::string_view op1, std::string_view op2) {
