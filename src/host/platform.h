@@ -148,6 +148,7 @@ class QUORVEX_API Library_Loader {
  public:
   virtual ~Library_Loader();
   /// The address of a symbol in the library of that plain file name; null if there is none such.
+  /// Both names are constants of the program: the loader may keep where they stand.
   virtual void* symbol(const char* library, const char* name) = 0;
   /// The folder that this library was loaded from, absolute, without `.` and `..` and without a
   /// separator behind it; empty where that can't be told.

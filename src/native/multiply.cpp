@@ -28,10 +28,10 @@ std::size_t Write_Zero(std::string_view a, std::string_view b, char* out) {
 // Short products cost a * b, transforms about a + b: they meet where a * b / (a + b) is the same as
 // for equal lengths.
 bool Is_Long(const Operands& operands, const Kernels& kernels) {
-  const double mean =
-      2 / (1 / static_cast<double>(operands.a.size()) + 1 / static_cast<double>(operands.b.size()));
-  return mean >=
-         static_cast<double>(operands.is_square ? kernels.square_from : kernels.transform_from);
+  const auto a = static_cast<double>(operands.a.size());
+  const auto b = static_cast<double>(operands.b.size());
+  const std::size_t from = operands.is_square ? kernels.square_from : kernels.transform_from;
+  return 2 * a * b >= static_cast<double>(from) * (a + b);
 }
 
 std::size_t Multiply_Operands(const Operands& operands, char* out, Instructions kind) {

@@ -1,6 +1,6 @@
 #include "text/digit_runs.h"
 
-#include <cstdint>
+#include <algorithm>
 
 #include "host/platform.h"
 #include "text/digit_words.h"
@@ -14,14 +14,17 @@ bool Is_Digit(char character) {
   return character >= '0' && character <= '9';
 }
 
-// A block of four words is looked at as one, so that a long run costs one branch in 32 digits.
-constexpr std::size_t block = 4 * words::size;
+// A block is looked at as one, so that a long run costs one branch in so many digits: in vectors,
+// which compilers make of this.
+constexpr std::size_t block = 32;
 
-bool Is_Block_Of_Digits(const char* text) {
-  return (words::Non_Digit_Bits(words::Load(text)) |
-          words::Non_Digit_Bits(words::Load(text + words::size)) |
-          words::Non_Digit_Bits(words::Load(text + 2 * words::size)) |
-          words::Non_Digit_Bits(words::Load(text + 3 * words::size))) == 0;
+template <std::size_t length>
+bool Are_Digits(const char* text) {
+  unsigned char most = 0;
+  for (std::size_t place = 0; place < length; ++place) {
+    most = std::max(most, static_cast<unsigned char>(text[place] - '0'));
+  }
+  return most <= 9;
 }
 
 // The run of digits at the start of a text that is short enough to be looked at without a yield.
@@ -29,7 +32,8 @@ std::size_t Count_Digits_In_Piece(std::string_view text) {
   const char* const data = text.data();
   const std::size_t length = text.size();
   std::size_t count = 0;
-  while (count + block <= length && Is_Block_Of_Digits(data + count)) count += block;
+  while (count + 2 * block <= length && Are_Digits<2 * block>(data + count)) count += 2 * block;
+  while (count + block <= length && Are_Digits<block>(data + count)) count += block;
   while (count + words::size <= length && words::Non_Digit_Bits(words::Load(data + count)) == 0) {
     count += words::size;
   }

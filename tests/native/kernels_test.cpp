@@ -10,6 +10,7 @@
 #include <string>
 
 #include "native/generic/columns.h"
+#include "native/generic/limb_text.h"
 #include "native/generic/scratch.h"
 #include "products.h"
 
@@ -55,7 +56,17 @@ TEST(Write_Pairs, Writes_All_Digits) {
   Expect_Pairs<8>();
   Expect_Pairs<10>();
   Expect_Pairs<12>();
-  Expect_Pairs<18>();
+}
+
+TEST(Limb_Text, Is_Read_And_Written_Whole) {
+  for (const std::uint64_t number : Edges(limb_digits)) {
+    std::string text(limb_digits, ' ');
+    Write_Limb(text.data(), number);
+    ASSERT_EQ(text, Padded(number, limb_digits));
+    Limb_Reader reader;
+    EXPECT_EQ(reader.read(text.data()), number);
+    EXPECT_TRUE(reader.has_only_digits());
+  }
 }
 
 // Against division by the compiler. The largest columns leave no room for more than their carries.

@@ -67,7 +67,8 @@ TEST(Multiply_Texts, Agrees_Between_Methods) {
       const std::string a = Hard_Digits(n, static_cast<unsigned>(n), 3);
       EXPECT_TRUE(Product_Of(a, a, kind) == Product(a, a)) << "kind " << static_cast<int>(kind);
     }
-    for (const std::size_t middle : {16U, 18U, 56U, 112U, 18U * 64U, 18U * 128U, 14U * 70U}) {
+    for (const std::size_t middle :
+         {16U, 18U, 56U, 112U, 18U * 32U, 18U * 64U, 18U * 128U, 14U * 70U}) {
       for (const std::size_t n : {middle - 1, middle, middle + 1, from - 1, from, from + 1}) {
         const auto pattern = static_cast<unsigned>(n + middle);
         // As long as the mean of both stays where it is, and as the shorter one at half of it.

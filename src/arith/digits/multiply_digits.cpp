@@ -65,6 +65,11 @@ NumberText Product(Factor op1, Factor op2) {
   return product;
 }
 
+bool Reaches_End(std::string_view digits) {
+  const char* const end = digits.data() + digits.size();
+  return *end == '\0';
+}
+
 bool Is_Nothing(std::string_view op1, std::string_view op2) {
   return op1.empty() || op2.empty() || op1 == "0" || op2 == "0";
 }
@@ -98,6 +103,16 @@ NumberText Multiply_Digits(std::string_view op1, std::string_view op2) {
   };
   return With_Handler(
       [&] { return Product(place(few.data(), op1), place(few.data() + op1.size() + 1, op2)); },
+      Failed_Product);
+}
+
+NumberText Multiply_In_Texts(std::string_view op1, std::string_view op2) {
+  if (Is_Nothing(op1, op2)) return "0";
+  if (!Reaches_End(op1) || !Reaches_End(op2)) return Multiply_Digits(op1, op2);
+  return With_Handler(
+      [&] {
+        return Product({op1.data(), op1.size()}, {op2.data(), op2.size()});
+      },
       Failed_Product);
 }
 

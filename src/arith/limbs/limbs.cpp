@@ -4,40 +4,41 @@
 
 #include "expects.h"
 #include "native/generic/digit_words.h"
+#include "native/generic/limb_text.h"
 
 namespace quorvex::limbs {
 namespace {
 
 constexpr std::size_t word_digits = 8;
 
-Limb Read_Full(const char* text) {
-  const Limb pair = native::Join_Digits(native::Load_Word(text)) * native::ten_to_8 +
-                    native::Join_Digits(native::Load_Word(text + word_digits));
-  return pair * 100 + static_cast<Limb>(text[16] - '0') * 10 + static_cast<Limb>(text[17] - '0');
+// The number that the last `count` of eight digits write, seven at most.
+Limb Read_Last(const char* text, std::size_t count) {
+  const std::size_t others = word_digits - count;
+  return native::Join_Digits(native::Load_Word(text) >> (8 * others) << (8 * others));
 }
 
 }  // namespace
 
 Limb Read(std::string_view text) {
   Expects(text.size() <= digits);
-  if (text.size() == digits) return Read_Full(text.data());
-  Limb limb = 0;
-  if (text.size() >= word_digits) {
-    limb = native::Join_Digits(native::Load_Word(text.data()));
-    text.remove_prefix(word_digits);
+  const char* const begin = text.data();
+  const std::size_t count = text.size();
+  if (count == digits) return native::Limb_Reader().read(begin);
+  if (count < word_digits) {
+    return count == 0 ? 0 : native::Join_Digits(native::Load_Short(begin, count));
   }
-  if (text.size() >= word_digits) {
-    limb = limb * native::ten_to_8 + native::Join_Digits(native::Load_Word(text.data()));
-    text.remove_prefix(word_digits);
+  if (count >= 2 * word_digits) {
+    const Limb limb = native::Sixteen_Reader().read(begin);
+    return count == 2 * word_digits ? limb : limb * 10 + static_cast<Limb>(text.back() - '0');
   }
-  if (text.empty()) return limb;
-  return limb * powers_of_ten[text.size()] +
-         native::Join_Digits(native::Load_Short(text.data(), text.size()));
+  const Limb limb = native::Join_Digits(native::Load_Word(begin));
+  const std::size_t rest = count - word_digits;
+  return rest == 0 ? limb : limb * powers_of_ten[rest] + Read_Last(begin + rest, rest);
 }
 
 void Write(char* out, Limb limb) {
   Expects(limb < base);
-  native::Write_Pairs<digits>(out, limb);
+  native::Write_Limb(out, limb);
 }
 
 void Read_Number(std::string_view text, Limb* out) {

@@ -8,8 +8,7 @@
 #include "arith/digits/multiply_digits.h"
 #include "arith/digits/short_sum.h"
 #include "arith/division/recip_divide.h"
-#include "arith/limbs/limbs.h"
-#include "arith/limbs/short_product.h"
+#include "arith/limbs/small_product.h"
 #include "arith/operation/operation_codes.h"
 #include "text/decimal.h"
 #include "text/format_result.h"
@@ -24,9 +23,12 @@ struct Terms {
   bool intermediate;
 };
 
-// A longer sum is not read twice, where it turns out that it takes the other road.
-bool Is_Short(std::string_view text) {
-  return text.size() <= 2 * most_short_digits;
+// A longer sum is not read twice, where it turns out that it takes the other road. Products and
+// quotients take it for what is no plain number alone; where they are longer than this, what is
+// spared isn't worth the reading.
+std::size_t Longest_Text(std::int16_t Operation) {
+  const bool is_sum = Operation == operation::add || Operation == operation::subtract;
+  return is_sum ? 2 * most_short_digits : 100'000;
 }
 
 // What is written without asking for memory.
@@ -62,37 +64,11 @@ bool Add(const Plain_Number& a, const Plain_Number& b, double limit, NumberText&
   return true;
 }
 
-// Below these lengths limbs cost less than a call of the library of products.
-constexpr std::size_t few_limbs = 2;
-constexpr std::size_t few_digits = few_limbs * limbs::digits;
-
-NumberText Product_Of_Few(std::string_view a, std::string_view b) {
-  std::array<limbs::Limb, few_limbs> a_limbs;
-  std::array<limbs::Limb, few_limbs> b_limbs;
-  std::array<limbs::Limb, 2 * few_limbs> product;
-  limbs::Read_Number(a, a_limbs.data());
-  limbs::Read_Number(b, b_limbs.data());
-  const std::size_t a_count = limbs::Count_For(a.size());
-  const std::size_t b_count = limbs::Count_For(b.size());
-  limbs::Multiply(product.data(), a_limbs.data(), a_count, b_limbs.data(), b_count);
-  std::array<char, 2 * few_digits> digits;
-  char* end = digits.data();
-  for (std::size_t place = a_count + b_count; place-- > 0; end += limbs::digits) {
-    limbs::Write(end, product[place]);
-  }
-  const char* const begin =
-      std::find_if(digits.data(), end, [](char digit) { return digit != '0'; });
-  return {begin, static_cast<const char*>(end)};
-}
-
-bool Is_Zero(std::string_view digits) {
-  return digits == "0";
-}
-
 // Digits as they come from a product or a quotient; the number is theirs times ten to `power`.
 NumberText Written(NumberText digits, std::int64_t power, bool negative, const Terms& terms) {
   if (digits.starts_with(token_mark)) return digits;
   if (power <= 0 && power > -most_zeros && !digits.empty() && Fits(digits.size(), terms.limit)) {
+    if (power == 0 && !negative && digits.front() != '0') return digits;
     return Unformatted(std::move(digits), static_cast<std::size_t>(-power), negative);
   }
   type_Restrictionator options;
@@ -105,14 +81,20 @@ std::int64_t Decimals(const Plain_Number& number) {
 }
 
 NumberText Product(const Plain_Number& a, const Plain_Number& b, const Terms& terms) {
+  const bool negative = a.negative != b.negative;
+  const std::int64_t power = -Decimals(a) - Decimals(b);
+  if (Is_Small(a) && Is_Small(b)) {
+    Small_Product product(a, b);
+    if (product.is_zero()) return Written("0", power, negative, terms);
+    if (Can_Multiply()) {
+      return Fits(product.digits().size(), terms.limit)
+                 ? product.text()
+                 : Written(NumberText(product.digits()), power, negative, terms);
+    }
+  }
   const Whole_Digits a_digits(a.parts);
   const Whole_Digits b_digits(b.parts);
-  const std::string_view a_view = a_digits.digits();
-  const std::string_view b_view = b_digits.digits();
-  const bool are_few = std::max(a_view.size(), b_view.size()) <= few_digits && !Is_Zero(a_view) &&
-                       !Is_Zero(b_view) && Can_Multiply();
-  return Written(are_few ? Product_Of_Few(a_view, b_view) : Multiply_Digits(a_view, b_view),
-                 -Decimals(a) - Decimals(b), a.negative != b.negative, terms);
+  return Written(Multiply_In_Texts(a_digits.digits(), b_digits.digits()), power, negative, terms);
 }
 
 NumberText Quotient(const Plain_Number& a, const Plain_Number& b, const Terms& terms) {
@@ -139,7 +121,8 @@ bool Short_Operation(std::int16_t Operation, const HostValue& number1, const Hos
   Terms terms{0, intermediate};
   Plain_Number a;
   Plain_Number b;
-  const bool are_plain = Is_Short(number1.text()) && Is_Short(number2.text()) &&
+  const std::size_t longest = Longest_Text(Operation);
+  const bool are_plain = number1.text().size() <= longest && number2.text().size() <= longest &&
                          Read_Limit(format.maximum_significant_digits, terms.limit) &&
                          Read_Plain(number1.text(), a) && Read_Plain(number2.text(), b);
   if (!are_plain) return false;

@@ -3,13 +3,12 @@
 
 #include <atomic>
 #include <cstring>
-#include <string>
 #include <utility>
 
 namespace quorvex {
 
-/// Symbols by their library and name. Products of several threads look here at the same time, so
-/// what was found is never changed and nobody waits.
+/// Symbols by their library and name, which must stay where they are, as constants do. Products of
+/// several threads look here at the same time, so what was found is never changed and nobody waits.
 class Found_Symbols {
  public:
   Found_Symbols() = default;
@@ -22,8 +21,7 @@ class Found_Symbols {
   /// Null for one that was not found yet.
   void* find(const char* library, const char* name) const {
     for (const Found* found = last_; found != nullptr; found = found->before) {
-      if (std::strcmp(found->name.c_str(), name) == 0 &&
-          std::strcmp(found->library.c_str(), library) == 0) {
+      if (Are_Alike(found->name, name) && Are_Alike(found->library, library)) {
         return found->symbol;
       }
     }
@@ -38,11 +36,16 @@ class Found_Symbols {
 
  private:
   struct Found {
-    std::string library;
-    std::string name;
+    const char* library;
+    const char* name;
     void* symbol;
     const Found* before;
   };
+
+  // Mostly the same constant asks again, and a product of few digits would notice the comparison.
+  static bool Are_Alike(const char* known, const char* asked) {
+    return known == asked || std::strcmp(known, asked) == 0;
+  }
 
   std::atomic<const Found*> last_ = nullptr;
 };

@@ -70,20 +70,20 @@ static inline void Add_Block(Wide (&sums)[columns_in_block], const Limb* a, cons
   sums[3] = sum3;
 }
 
-/// Makes `count` limbs of columns, which `sum` tells by blocks: beyond the last, zeros.
-template <typename Sum>
-inline void Take_Blocks(Limb* out, std::size_t count, const Sum& sum) {
-  Column_Sum columns;
+/// Hands `count` columns to `put`, each with its place from the lowest, which `sum` tells by
+/// blocks: beyond the last, zeros.
+template <typename Sum, typename Put>
+inline void Put_Blocks(std::size_t count, const Sum& sum, const Put& put) {
   std::size_t k = 0;
   for (; k + columns_in_block <= count; k += columns_in_block) {
     Wide sums[columns_in_block] = {};
     sum(k, sums);
-    for (std::size_t c = 0; c < columns_in_block; ++c) out[k + c] = columns.next(sums[c]);
+    for (std::size_t c = 0; c < columns_in_block; ++c) put(k + c, sums[c]);
   }
   if (k == count) return;
   Wide sums[columns_in_block] = {};
   sum(k, sums);
-  for (std::size_t c = 0; k < count; ++k, ++c) out[k] = columns.next(sums[c]);
+  for (std::size_t c = 0; k < count; ++k, ++c) put(k, sums[c]);
 }
 
 }  // namespace quorvex::native

@@ -52,17 +52,17 @@ static inline std::uint64_t Non_Digits(std::uint64_t word) {
 }
 
 /// The numbers that the first and the last four of eight digits write, the first one in the low
-/// half.
+/// half. What a product has above the number of a pair or a four reaches its neighbour's low part,
+/// which has room for it and is cut off.
 static inline std::uint64_t Join_To_Fours(std::uint64_t word) {
   word &= 0x0F0F0F0F0F0F0F0FU;
-  word = (word * 10 + (word >> 8U)) & 0x00FF00FF00FF00FFU;
-  return (word * 100 + (word >> 16U)) & 0x0000FFFF0000FFFFU;
+  word = (word * (10 * (1U << 8U) + 1) >> 8U) & 0x00FF00FF00FF00FFU;
+  return (word * (100 * (1U << 16U) + 1) >> 16U) & 0x0000FFFF0000FFFFU;
 }
 
 /// The number that eight digits write.
 static inline std::uint64_t Join_Digits(std::uint64_t word) {
-  const std::uint64_t fours = Join_To_Fours(word);
-  return (fours * 10'000 + (fours >> 32U)) & 0xFFFFFFFFU;
+  return Join_To_Fours(word) * (10'000 * (std::uint64_t{1} << 32U) + 1) >> 32U;
 }
 
 /// The eight digits of a number below 10^8. 10,486 / 2^20 and 103 / 2^10 are the reciprocals of
@@ -92,20 +92,25 @@ static constexpr auto pairs_of_digits = [] {
   return pairs;
 }();
 
-/// Writes so many digits, an even count from four to eighteen, of a number that has no more.
+/// Writes two digits of a number that has no more.
+static inline void Write_Two(char* text, std::uint64_t number) {
+  std::memcpy(text, &pairs_of_digits[2 * number], 2);
+}
+
+/// Writes so many digits, an even count from four to twelve, of a number that has no more.
 ///
 /// The number is taken as one of two digits with a fraction of 64 bits; a hundred times the
 /// fraction is two digits more. The fraction is too large by less than 2^-56, which the steps leave
 /// below a quarter of the last digit; it must not be too small at all, as pairs are rounded down.
 template <std::size_t digits>
 static inline void Write_Pairs(char* out, std::uint64_t number) {
-  static_assert(digits % 2 == 0 && digits >= 4 && digits <= 18);
+  static_assert(digits % 2 == 0 && digits >= 4 && digits <= 12);
   constexpr std::uint64_t divisor = Ten_To_The(digits - 2);
   constexpr auto shift = static_cast<unsigned>(std::bit_width(divisor)) - 1;
   constexpr auto reciprocal = static_cast<std::uint64_t>((Wide{1} << (64U + shift)) / divisor + 1);
   Wide pair = (Wide{number} * reciprocal >> shift) + 1;
   for (std::size_t place = 0; place < digits; place += 2) {
-    std::memcpy(out + place, &pairs_of_digits[2 * static_cast<std::size_t>(pair >> 64U)], 2);
+    Write_Two(out + place, static_cast<std::uint64_t>(pair >> 64U));
     pair = Wide{static_cast<std::uint64_t>(pair)} * 100;
   }
 }
@@ -139,6 +144,14 @@ static inline void Store_Short(char* text, std::uint64_t word, std::size_t count
   text[0] = static_cast<char>(word);
   text[count / 2] = static_cast<char>(word >> (8 * (count / 2)));
   text[count - 1] = static_cast<char>(word >> (8 * (count - 1)));
+}
+
+/// The number that two digits write; `bad` as by Non_Digits.
+static inline std::uint64_t Read_Two(const char* text, std::uint64_t& bad) {
+  const auto first = static_cast<std::uint64_t>(static_cast<unsigned char>(text[0])) ^ 0x30U;
+  const auto second = static_cast<std::uint64_t>(static_cast<unsigned char>(text[1])) ^ 0x30U;
+  bad |= static_cast<std::uint64_t>(first > 9) | static_cast<std::uint64_t>(second > 9);
+  return first * 10 + second;
 }
 
 /// Writes a number without leading zeros and returns the count of its digits.

@@ -1,15 +1,78 @@
+// Columns of products are added and taken off before anything is carried. All of that may run over:
+// it is calculated modulo 2^128, and the columns of the whole product are below that.
 #include "native/generic/karatsuba.h"
 
 #include <algorithm>
 
 #include "expects.h"
+#include "native/generic/columns.h"
 #include "native/generic/schoolbook_portable.h"
 
 namespace quorvex::native {
 namespace {
 
-// Measured: below this many limbs the plain kernel is faster.
-constexpr std::size_t threshold = 64;
+// For a square the plain kernel has half the products to form, and is faster for longer.
+constexpr std::size_t square_threshold = 60;
+
+// Each split doubles the limbs of sums, which must stay below 2^64.
+constexpr unsigned most_splits = 3;
+static_assert((limb_base << most_splits) >> most_splits == limb_base);
+static_assert(karatsuba_ceiling <= std::size_t{schoolbook_ceiling} << most_splits);
+
+// What splits of `count` limbs write to on their way: half as many at each, rounded up.
+constexpr std::size_t Room_For(std::size_t count) {
+  std::size_t room = 0;
+  for (unsigned split = 0; split < most_splits; ++split) room += count = (count + 1) / 2;
+  return 2 * room;
+}
+
+struct Room {
+  Wide* columns;
+  Limb* sums;
+};
+
+// The limbs of both halves, the upper of which has one at least and may have one less.
+void Add_Halves(Limb* out, const Limb* a, std::size_t half, std::size_t upper) {
+  std::size_t i = 0;
+  do {
+    out[i] = a[i] + a[half + i];
+  } while (++i < upper);
+  if (upper < half) out[upper] = a[upper];
+}
+
+// A routine for each split: compilers make less of one that calls itself.
+template <unsigned splits>
+void Multiply_Columns(Wide* out, const Limb* a, const Limb* b, std::size_t count, const Room& room);
+
+template <>
+void Multiply_Columns<0>(Wide* out, const Limb* a, const Limb* b, std::size_t count,
+                         const Room& /*room*/) {
+  Multiply_To_Columns(out, a, b, count);
+}
+
+template <unsigned splits>
+void Multiply_Columns(Wide* out, const Limb* a, const Limb* b, std::size_t count,
+                      const Room& room) {
+  if (count < (a == b ? square_threshold : karatsuba_from))
+    return Multiply_To_Columns(out, a, b, count);
+  const std::size_t half = (count + 1) / 2;
+  const std::size_t upper = count - half;
+  Wide* const middle = room.columns;
+  Wide* const top = out + 2 * half;
+  Limb* const a_sums = room.sums;
+  Limb* const b_sums = a == b ? a_sums : a_sums + half;
+  const Room rest = {room.columns + 2 * half, room.sums + 2 * half};
+  Add_Halves(a_sums, a, half, upper);
+  if (a != b) Add_Halves(b_sums, b, half, upper);
+  Multiply_Columns<splits - 1>(middle, a_sums, b_sums, half, rest);
+  Multiply_Columns<splits - 1>(out, a, b, half, rest);
+  Multiply_Columns<splits - 1>(top, a + half, b + half, upper, rest);
+
+  // a0 b1 + a1 b0 = (a0 + a1)(b0 + b1) - a0 b0 - a1 b1.
+  for (std::size_t k = 0; k < 2 * upper; ++k) middle[k] -= out[k] + top[k];
+  for (std::size_t k = 2 * upper; k < 2 * half; ++k) middle[k] -= out[k];
+  for (std::size_t k = 0; k < 2 * half; ++k) out[half + k] += middle[k];
+}
 
 // Adds `b` to the front of `a` and carries on to the end of `a`.
 void Add_To(Limb* a, std::size_t a_count, const Limb* b, std::size_t b_count) {
@@ -22,71 +85,18 @@ void Add_To(Limb* a, std::size_t a_count, const Limb* b, std::size_t b_count) {
   Expects(carry == 0);
 }
 
-// The same with `b` taken off `a`.
-void Subtract_From(Limb* a, std::size_t a_count, const Limb* b, std::size_t b_count) {
-  Limb borrow = 0;
-  for (std::size_t i = 0; i < a_count && (i < b_count || borrow != 0); ++i) {
-    const Limb less = (i < b_count ? b[i] : 0) + borrow;
-    borrow = a[i] < less ? 1 : 0;
-    a[i] = a[i] + borrow * limb_base - less;
-  }
-  Expects(borrow == 0);
-}
-
-bool Is_Less(const Limb* a, const Limb* b, std::size_t count) {
-  while (count > 0 && a[count - 1] == b[count - 1]) --count;
-  return count > 0 && a[count - 1] < b[count - 1];
-}
-
-// out = |low - high|, where high is `missing` (0 or 1) limbs shorter. True if low was the less.
-bool Distance(Limb* out, const Limb* low, const Limb* high, std::size_t count,
-              std::size_t missing) {
-  const std::size_t both = count - missing;
-  const bool negative = (missing == 0 || low[both] == 0) && Is_Less(low, high, both);
-  std::copy(negative ? high : low, (negative ? high : low) + both, out);
-  if (missing != 0) out[both] = negative ? 0 : low[both];
-  Subtract_From(out, count, negative ? low : high, both);
-  return negative;
-}
-
 }  // namespace
 
-void Multiply_Karatsuba(Limb* out, const Limb* a, const Limb* b, std::size_t count, Limb* scratch) {
-  if (count < threshold) {
-    if (a == b) return Square_Schoolbook(out, a, count);
-    return Multiply_Schoolbook(out, a, count, b, count);
-  }
-  const std::size_t half = (count + 1) / 2;
-  const std::size_t missing = 2 * half - count;
-  const std::size_t top = 2 * (half - missing);
-  Limb* const rest = scratch + 2 * half + 1;
-
-  // The differences stand in `out` until their product is formed.
-  const bool a_negative = Distance(out, a, a + half, half, missing);
-  bool b_negative = a_negative;
-  const Limb* other = out;
-  if (a != b) {
-    b_negative = Distance(out + half, b, b + half, half, missing);
-    other = out + half;
-  }
-  Multiply_Karatsuba(scratch, out, other, half, rest);
-  scratch[2 * half] = 0;
-  Multiply_Karatsuba(out, a, b, half, rest);
-  Multiply_Karatsuba(out + 2 * half, a + half, b + half, half - missing, rest);
-
-  // a0 b1 + a1 b0 = a0 b0 + a1 b1 - (a0 - a1)(b0 - b1), formed where the last product stands; if
-  // that is to be taken off, its place and the sum's are exchanged first.
-  Limb* const middle = rest;
-  std::copy(out, out + 2 * half, middle);
-  middle[2 * half] = 0;
-  Add_To(middle, 2 * half + 1, out + 2 * half, top);
-  if (a_negative == b_negative) {
-    Subtract_From(middle, 2 * half + 1, scratch, 2 * half);
-  } else {
-    Add_To(middle, 2 * half + 1, scratch, 2 * half);
-  }
-  const std::size_t room = 2 * count - half;
-  Add_To(out + half, room, middle, std::min(room, 2 * half + 1));
+void Multiply_Karatsuba(Limb* out, const Limb* a, const Limb* b, std::size_t count) {
+  if (a == b && count < square_threshold) return Square_Schoolbook(out, a, count);
+  if (count < karatsuba_from) return Multiply_Schoolbook(out, a, count, b, count);
+  Expects(count <= karatsuba_ceiling);
+  Wide columns[2 * karatsuba_ceiling];
+  Wide middles[Room_For(karatsuba_ceiling)];
+  Limb sums[Room_For(karatsuba_ceiling)];
+  Multiply_Columns<most_splits>(columns, a, b, count, {middles, sums});
+  Column_Sum sum;
+  for (std::size_t k = 0; k < 2 * count; ++k) out[k] = sum.next(columns[k]);
 }
 
 void Multiply_In_Pieces(Limb* out, const Limb* a, std::size_t a_count, const Limb* b,
@@ -98,8 +108,8 @@ void Multiply_In_Pieces(Limb* out, const Limb* a, std::size_t a_count, const Lim
   for (std::size_t at = 0; at < a_count; at += b_count) {
     const std::size_t piece = std::min(b_count, a_count - at);
     if (piece == b_count) {
-      Multiply_Karatsuba(product, a + at, b, b_count, rest);
-    } else if (piece < threshold) {
+      Multiply_Karatsuba(product, a + at, b, b_count);
+    } else if (piece < karatsuba_from) {
       Multiply_Schoolbook(product, a + at, piece, b, b_count);
     } else {
       Multiply_In_Pieces(product, b, b_count, a + at, piece, rest);

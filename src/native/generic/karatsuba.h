@@ -5,19 +5,21 @@
 
 namespace quorvex::native {
 
-/// The limbs of scratch that the two routines below need for operands of `count` limbs.
-constexpr std::size_t Karatsuba_Scratch(std::size_t count) {
-  return 4 * count + 512;
-}
+/// From this many limbs on it is faster than the plain kernel, as measured.
+inline constexpr std::size_t karatsuba_from = 32;
 
-/// What the remainders of cutting need on the way down, which sum to at most three times the
-/// length, and the last product of all.
+/// The most limbs that the shorter operand may have.
+inline constexpr std::size_t karatsuba_ceiling = 272;
+
+/// Writes the 2 * count limbs of a * b, or of a square if they are the same. `out` overlaps neither
+/// operand.
+void Multiply_Karatsuba(Limb* out, const Limb* a, const Limb* b, std::size_t count);
+
+/// The limbs of scratch for a shorter operand of so many: what the remainders of cutting need on
+/// the way down, which sum to at most three times the length.
 constexpr std::size_t Pieces_Scratch(std::size_t count) {
-  return 6 * count + Karatsuba_Scratch(count);
+  return 6 * count;
 }
-
-/// Writes the 2 * count limbs of a * b. Nothing overlaps.
-void Multiply_Karatsuba(Limb* out, const Limb* a, const Limb* b, std::size_t count, Limb* scratch);
 
 /// Writes the a_count + b_count limbs of a * b; `a`, the longer operand, is cut into pieces of b's
 /// length. `scratch` holds Pieces_Scratch(b_count) limbs.

@@ -1,4 +1,7 @@
 // Long products in portable instructions.
+#include <algorithm>
+
+#include "native/generic/karatsuba.h"
 #include "native/generic/kernels.h"
 #include "native/generic/points.h"
 #include "native/generic/vector_portable.h"
@@ -16,8 +19,8 @@ const Kernels& Portable_Kernels() {
       .multiply_short = nullptr,
       .short_scratch = nullptr,
       .short_from = 0,
-      .transform_from = 2100,
-      .square_from = 2300,
+      .transform_from = 2600,
+      .square_from = 4200,
       .lanes = Lanes::count,
       .read_points = Read_Points,
       .forward = Forward,
@@ -31,6 +34,9 @@ const Kernels& Portable_Kernels() {
       .multiply_waves = Multiply_Waves,
       .carry_wave = Carry_Wave,
   };
+  // The shorter operand is below their mean, and is filled up to one an eighth longer at most.
+  static_assert(Limbs_For(std::max(kernels.transform_from, kernels.square_from)) * 8 / 7 <=
+                karatsuba_ceiling);
   return kernels;
 }
 

@@ -2,20 +2,10 @@
 
 #include "expects.h"
 #include "native/generic/digit_words.h"
+#include "native/generic/limb_text.h"
 
 namespace quorvex::native {
 namespace {
-
-// One limb of eighteen characters; what is found amiss is added to `bad`.
-Limb Read_Whole(const char* text, std::uint64_t& bad) {
-  const std::uint64_t head = Load_Word(text);
-  const std::uint64_t middle = Load_Word(text + 8);
-  const std::uint64_t tail = Load_Word(text + 10);
-  bad |= Non_Digits(head) | Non_Digits(middle) | Non_Digits(tail);
-  const std::uint64_t last = tail >> 48U;
-  return (Join_Digits(head) * ten_to_8 + Join_Digits(middle)) * 100 + (last & 0x0FU) * 10 +
-         ((last >> 8U) & 0x0FU);
-}
 
 // The first characters of a text, too few for a whole limb: seventeen at most.
 Limb Read_Partial(const char* text, std::size_t count, std::uint64_t& bad) {
@@ -33,13 +23,14 @@ Limb Read_Partial(const char* text, std::size_t count, std::uint64_t& bad) {
 }  // namespace
 
 bool Read_Limbs(const char* text, std::size_t count, Limb* limbs) {
-  std::uint64_t bad = 0;
-  while (count >= limb_digits) {
+  Limb_Reader reader;
+  for (; count >= limb_digits; ++limbs) {
     count -= limb_digits;
-    *limbs++ = Read_Whole(text + count, bad);
+    *limbs = reader.read(text + count);
   }
+  std::uint64_t bad = 0;
   if (count > 0) *limbs = Read_Partial(text, count, bad);
-  return bad == 0;
+  return bad == 0 && reader.has_only_digits();
 }
 
 std::size_t Write_Limbs(const Limb* limbs, std::size_t count, char* out) {
@@ -47,7 +38,7 @@ std::size_t Write_Limbs(const Limb* limbs, std::size_t count, char* out) {
   Expects(count > 0);
   std::size_t written = Write_Number(out, limbs[count - 1]);
   for (std::size_t i = count - 1; i-- > 0; written += limb_digits)
-    Write_Pairs<limb_digits>(out + written, limbs[i]);
+    Write_Limb(out + written, limbs[i]);
   return written;
 }
 
