@@ -4,9 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string_view>
 
-#include "arith/limbs/limb_division.h"
 #include "host/host_value.h"
 
 namespace quorvex {
@@ -18,14 +16,6 @@ namespace quorvex {
 /// Let N be the length of k. The digits are floor((10^(p+N-1) - 1) / k): those of 1/k, and where
 /// 1/k ends, those of a number just below it. The proof and its conditions stand with the code.
 std::optional<NumberText> Quick_Reciprocal(const NumberText& k, std::int32_t p);
-
-/// Divisors of up to one limb are divided by directly.
-inline constexpr std::size_t short_divisor_digits = limbs::digits;
-
-/// For such a divisor of `length` digits: 10^s less k times those digits, s = p + length - 1, a
-/// number from 1 to k; nothing where the digits can't be told.
-std::optional<limbs::Limb> Missing_From_Power(const limbs::Divisor& k, std::size_t length,
-                                              std::size_t p);
 
 /// From this count of digits on the proof holds.
 inline constexpr std::int32_t least_quick_precision = 8;

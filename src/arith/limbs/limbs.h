@@ -85,7 +85,7 @@ class Scratch {
   Limb* data() { return many_.empty() ? few_.data() : many_.data(); }
 
  private:
-  std::array<Limb, 128> few_;
+  std::array<Limb, 192> few_;  // three rows of a thousand digits
   std::vector<Limb> many_;
 };
 
