@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstring>
 
 #include "arith/division/quick_reciprocal.h"
@@ -47,16 +46,16 @@ constexpr auto tenths = [] {
   return powers;
 }();
 
-bool Leads(std::string_view X, std::string_view k) {
-  const int order = std::memcmp(X.data(), k.data(), std::min(X.size(), k.size()));
-  return order > 0 || (order == 0 && X.size() >= k.size());
+// A number below 2^63, which converts sooner as one with a sign.
+double To_Double(Limb limb) {
+  return static_cast<double>(static_cast<std::int64_t>(limb));
 }
 
 // True if the reciprocal's digits are right from the first on: behind it stand not only zeros.
-bool Begins_Beyond_Doubt(const limbs::Fraction& k, std::size_t p) {
+bool Begins_Beyond_Doubt(limbs::Fraction k, std::size_t p) {
   const Limb leading = k[0];
-  const double inverse = static_cast<double>(limbs::base) / static_cast<double>(leading);
-  const double behind = inverse - std::floor(inverse);
+  const double inverse = To_Double(limbs::base) / To_Double(leading);
+  const double behind = inverse - To_Double(static_cast<Limb>(inverse));
   constexpr std::size_t enough = 9;
   constexpr double unsafe = 1e-12;
   const double least = tenths[std::min(Digits_Behind_First(p), enough)];
@@ -68,19 +67,20 @@ bool Begins_Beyond_Doubt(const limbs::Fraction& k, std::size_t p) {
 // The limbs of a quotient, highest first.
 class Quotient {
  public:
-  Quotient(const limbs::Fraction& x, const limbs::Fraction& k, std::size_t digits)
-      : count_(limbs::Count_For(digits)), limbs_(count_) {
+  explicit Quotient(std::size_t digits) : count_(limbs::Count_For(digits)), limbs_(count_) {}
+
+  void divide(limbs::Fraction x, limbs::Fraction k) {
     limbs::Divide_Fractions(x, k, count_, limbs_.data());
   }
+  void set(Limb limb) { *limbs_.data() = limb; }
 
   // What stands behind so many digits, as a fraction of their last one.
   double behind(std::size_t digits_before) {
     const std::size_t place = digits_before / limbs::digits;
     const std::size_t length = limbs::digits - digits_before % limbs::digits;
     const Limb* const limb = limbs_.data() + place;
-    const double next =
-        place + 1 < count_ ? static_cast<double>(limb[1]) * tenths[limbs::digits] : 0;
-    return (static_cast<double>(*limb % limbs::Ten_To(length)) + next) * tenths[length];
+    const double next = place + 1 < count_ ? To_Double(limb[1]) * tenths[limbs::digits] : 0;
+    return (To_Double(*limb % limbs::Ten_To(length)) + next) * tenths[length];
   }
 
   // What that may be too low by.
@@ -104,8 +104,10 @@ class Quotient {
   }
 
   // The first digits.
-  NumberText text(std::size_t digits) {
-    NumberText text(digits, '0');
+  void write(std::size_t digits, NumberText& text) {
+    constexpr std::size_t more = 3;  // room for a sign, a zero and a separator
+    text.reserve(digits + more);
+    text.resize(digits);
     const std::size_t whole = digits / limbs::digits;
     const Limb* limb = limbs_.data();
     for (std::size_t place = 0; place < whole; ++place) {
@@ -113,11 +115,9 @@ class Quotient {
       if (place % limbs::between_yields == limbs::between_yields - 1) Yield();
     }
     if (const std::size_t left = digits % limbs::digits; left > 0) {
-      std::array<char, limbs::digits> last;
-      limbs::Write(last.data(), *limb);
-      std::copy_n(last.data(), left, text.data() + whole * limbs::digits);
+      limbs::Write_Few(text.data() + whole * limbs::digits,
+                       *limb / limbs::Ten_To(limbs::digits - left), left);
     }
-    return text;
   }
 
  private:
@@ -132,10 +132,11 @@ struct Bounds {
 
 // g/k, by the digits of 1/k behind the first p. Where it might be 0 as well as 1, or the reciprocal
 // one less, it isn't told.
-std::optional<Bounds> Missing_Part(const limbs::Fraction& k, std::size_t p, bool may_be_less) {
+std::optional<Bounds> Missing_Part(limbs::Fraction k, std::size_t p, bool may_be_less) {
   constexpr Limb tenth = limbs::base / 10;
   if (k.count == 1 && k[0] == tenth) return Bounds{1, 1};
-  Quotient inverse({&tenth, 1}, k, p + more_of_reciprocal);
+  Quotient inverse(p + more_of_reciprocal);
+  inverse.divide({&tenth, 1}, k);
   const double part = inverse.behind(p);
   const double error = inverse.error_behind(p) + slip;
   const double least = may_be_less ? 0.011 : error;
@@ -143,9 +144,9 @@ std::optional<Bounds> Missing_Part(const limbs::Fraction& k, std::size_t p, bool
   return Bounds{part - slip, part + error};
 }
 
-Told_Rounding Round(Bounds guard, const limbs::Fraction& x, const limbs::Fraction& k, std::size_t p,
+Told_Rounding Round(Bounds guard, limbs::Fraction x, limbs::Fraction k, std::size_t p,
                     bool may_be_less) {
-  const double most_missing = static_cast<double>(x[0]) * tenths[limbs::digits - 1] + slip;
+  const double most_missing = To_Double(x[0]) * tenths[limbs::digits - 1] + slip;
   const Told_Rounding rounding =
       Round_Between(guard.low - (may_be_less ? 2 : 1) * most_missing, guard.high);
   if (rounding != Told_Rounding::in_doubt) return rounding;
@@ -155,36 +156,95 @@ Told_Rounding Round(Bounds guard, const limbs::Fraction& x, const limbs::Fractio
                        guard.high - (most_missing - 2 * slip) * part->low);
 }
 
+// Both operands as fractions, the dividend behind a zero where its leading digits aren't below
+// those of the divisor.
+class Operands {
+ public:
+  Operands(std::string_view X, std::string_view k, std::size_t most_limbs)
+      : scratch_(std::min(limbs::Count_For(k.size()), most_limbs) +
+                 std::min(limbs::Count_For(X.size() + 1), most_limbs)) {
+    const int order = std::memcmp(X.data(), k.data(), std::min(X.size(), k.size()));
+    leads_ = order > 0 || (order == 0 && X.size() >= k.size());
+    k_ = limbs::Read_Down(k, 0, most_limbs, scratch_.data());
+    x_ = limbs::Read_Down(X, leads_ ? 1 : 0, most_limbs, scratch_.data() + k_.count);
+  }
+  Operands(const Operands&) = delete;
+  Operands& operator=(const Operands&) = delete;
+
+  bool leads() const { return leads_; }
+  const limbs::Fraction& k() const { return k_; }
+  const limbs::Fraction& x() const { return x_; }
+
+ private:
+  limbs::Scratch scratch_;
+  limbs::Fraction k_;
+  limbs::Fraction x_;
+  bool leads_ = false;
+};
+
+// How many digits are asked for, and what for.
+struct Limit {
+  std::size_t kept;
+  std::size_t p;
+  bool may_be_less;
+};
+
+bool Write_Rounded(Quotient& quotient, limbs::Fraction x, limbs::Fraction k, const Limit& limit,
+                   Decimal& result) {
+  const double guard = 1000 * quotient.behind(limit.kept);
+  const double error = 1000 * quotient.error_behind(limit.kept);
+  const Told_Rounding rounding =
+      Round({guard - slip, guard + error + slip}, x, k, limit.p, limit.may_be_less);
+  if (rounding == Told_Rounding::in_doubt) return false;
+  const bool runs_over = rounding == Told_Rounding::is_raised && quotient.raise(limit.kept);
+  quotient.write(limit.kept, result.digits);
+  result.power_of_ten =
+      static_cast<std::int64_t>(runs_over) - static_cast<std::int64_t>(limit.kept);
+  return true;
+}
+
+// Operands and quotient of one limb each.
+bool Divide_In_Words(std::string_view X, std::string_view k, const Limit& limit, Decimal& result) {
+  const Limb divisor = limbs::Read(k) * limbs::Ten_To(limbs::digits - k.size());
+  if (!Begins_Beyond_Doubt({&divisor, 1}, limit.p)) return false;
+  Limb dividend = limbs::Read(X) * limbs::Ten_To(limbs::digits - X.size());
+  const bool leads = dividend >= divisor;
+  Quotient quotient(limbs::digits);
+  const Limb power = leads ? limbs::base / 10 : limbs::base;
+  quotient.set(static_cast<Limb>(limbs::Wide{dividend} * power / divisor));
+  if (leads) dividend /= 10;
+  if (!Write_Rounded(quotient, {&dividend, 1}, {&divisor, 1}, limit, result)) return false;
+  if (leads) ++result.power_of_ten;
+  return true;
+}
+
+bool Divide_By_Limbs(std::string_view X, std::string_view k, const Limit& limit, Decimal& result) {
+  const std::size_t room = limbs::Count_For(limit.p + more_of_reciprocal) + 1;
+  if (std::min(limbs::Count_For(k.size()), room) > limbs::most_quotient_limbs) return false;
+  const Operands operands(X, k, room);
+  if (!Begins_Beyond_Doubt(operands.k(), limit.p)) return false;
+  Quotient quotient(limit.p + more_digits);
+  quotient.divide(operands.x(), operands.k());
+  if (!Write_Rounded(quotient, operands.x(), operands.k(), limit, result)) return false;
+  if (operands.leads()) ++result.power_of_ten;
+  return true;
+}
+
 }  // namespace
 
-std::optional<Decimal> Quick_Quotient(std::string_view X, std::string_view k, std::int32_t sd) {
+bool Quick_Quotient(std::string_view X, std::string_view k, std::int32_t sd, Decimal& quotient) {
   Expects(Are_Significant(X) && Are_Significant(k));
-  if (sd + static_cast<std::int32_t>(guard_digits) < least_quick_precision) return std::nullopt;
-  const auto kept = static_cast<std::size_t>(sd);
-  const std::size_t p = kept + guard_digits;
-  auto whole_digits = static_cast<std::int64_t>(X.size()) - static_cast<std::int64_t>(k.size());
-  k.remove_suffix(Count_Trailing_Zeros(k));
-  const std::size_t room = limbs::Count_For(p + more_of_reciprocal) + 1;
-  const std::size_t k_count = std::min(limbs::Count_For(k.size()), room);
-  if (k_count > limbs::most_quotient_limbs) return std::nullopt;
-
-  const std::size_t X_count = std::min(limbs::Count_For(X.size() + 1), room);
-  limbs::Scratch scratch(k_count + X_count);
-  const limbs::Fraction divisor = limbs::Read_Down(k, 0, k_count, scratch.data());
-  if (!Begins_Beyond_Doubt(divisor, p)) return std::nullopt;
-  const bool leads = Leads(X, k);
-  const limbs::Fraction dividend =
-      limbs::Read_Down(X, leads ? 1 : 0, X_count, scratch.data() + k_count);
-  Quotient quotient(dividend, divisor, p + more_digits);
-  const double guard = 1000 * quotient.behind(kept);
-  const bool may_be_less = !Ends_Beyond_Doubt(k.size(), p);
-  const Told_Rounding rounding =
-      Round({guard - slip, guard + 1000 * quotient.error_behind(kept) + slip}, dividend, divisor, p,
-            may_be_less);
-  if (rounding == Told_Rounding::in_doubt) return std::nullopt;
-  if (leads) ++whole_digits;
-  if (rounding == Told_Rounding::is_raised && quotient.raise(kept)) ++whole_digits;
-  return Decimal{quotient.text(kept), whole_digits - sd};
+  if (sd + static_cast<std::int32_t>(guard_digits) < least_quick_precision) return false;
+  Limit limit{static_cast<std::size_t>(sd), 0, false};
+  limit.p = limit.kept + guard_digits;
+  const auto length = static_cast<std::int64_t>(X.size()) - static_cast<std::int64_t>(k.size());
+  const bool are_words = std::max({X.size(), k.size(), limit.p + more_digits}) <= limbs::digits;
+  if (!are_words) k.remove_suffix(Count_Trailing_Zeros(k));
+  limit.may_be_less = !Ends_Beyond_Doubt(k.size(), limit.p);
+  const auto divide = are_words ? Divide_In_Words : Divide_By_Limbs;
+  if (!divide(X, k, limit, quotient)) return false;
+  quotient.power_of_ten += length;
+  return true;
 }
 
 }  // namespace quorvex

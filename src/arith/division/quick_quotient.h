@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string_view>
 
 #include "text/decimal.h"
@@ -10,8 +9,8 @@
 namespace quorvex {
 
 /// X / k as division rounds it to `sd` digits, by its definition the first ones of X times the
-/// sd + 3 digits of `Iterated_Reciprocal` of k. Nothing where this isn't the way to them. X and k
-/// are digits without leading zeros.
-std::optional<Decimal> Quick_Quotient(std::string_view X, std::string_view k, std::int32_t sd);
+/// sd + 3 digits of `Iterated_Reciprocal` of k. False, and no quotient, where this isn't the way to
+/// them. X and k are digits without leading zeros.
+bool Quick_Quotient(std::string_view X, std::string_view k, std::int32_t sd, Decimal& quotient);
 
 }  // namespace quorvex

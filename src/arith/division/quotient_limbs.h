@@ -10,8 +10,8 @@ namespace quorvex::limbs {
 
 /// Limbs behind a point, the highest first. All further ones are 0.
 struct Fraction {
-  const Limb* limbs;
-  std::size_t count;
+  const Limb* limbs = nullptr;
+  std::size_t count = 0;
 
   Limb operator[](std::size_t place) const { return place < count ? limbs[place] : 0; }
 };

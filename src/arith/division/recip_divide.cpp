@@ -4,7 +4,6 @@
 #include <cmath>
 #include <compare>
 #include <limits>
-#include <optional>
 #include <string>
 #include <utility>
 
@@ -66,12 +65,8 @@ Decimal Multiply_By_Reciprocal(std::string_view X, std::string_view Y, std::int3
 void Divide(std::string_view X, std::string_view Y, Operands operands, std::int32_t sd,
             Decimal& quotient) {
   const std::int32_t p = In_32_Bits(std::int64_t{sd} + guard_digits);
-  if (operands == Operands::digits && Can_Multiply()) {
-    if (auto quick = Quick_Quotient(X, Y, sd)) {
-      quotient = std::move(*quick);
-      return;
-    }
-  }
+  const bool may_be_quick = operands == Operands::digits && Can_Multiply();
+  if (may_be_quick && Quick_Quotient(X, Y, sd, quotient)) return;
   Decimal product = Multiply_By_Reciprocal(X, Y, p);
   quotient.digits = std::move(product.digits);
   const std::size_t before = quotient.digits.size();
