@@ -118,6 +118,13 @@ bool Add_Carry(char* out, const char* a, std::size_t length, bool carry) {
   return Propagate<Sum>(out, a, length, carry);
 }
 
+void Add_To_End(char* number, std::size_t length, const char* digits, std::size_t count) {
+  Expects(count <= length);
+  char* const place = number + (length - count);
+  const bool carry = Add(place, place, digits, count, false);
+  if (carry) Add_Carry(number, number, length - count, carry);
+}
+
 bool Subtract(char* out, const char* a, const char* b, std::size_t length, bool borrow) {
   Expects(Can_Be_Output(out, a, length) && Can_Be_Output(out, b, length));
   return Run<Difference>(out, Text{a}, Text{b}, length, borrow);

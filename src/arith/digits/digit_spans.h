@@ -22,6 +22,9 @@ bool Add(char* out, const char* a, const char* b, std::size_t length, bool carry
 /// out = a + carry. Returns the carry that runs over.
 bool Add_Carry(char* out, const char* a, std::size_t length, bool carry);
 
+/// Adds so many digits to the last ones of a longer number, which has room for what they carry.
+void Add_To_End(char* number, std::size_t length, const char* digits, std::size_t count);
+
 /// out = a - b - borrow. Returns the borrow that is owed.
 bool Subtract(char* out, const char* a, const char* b, std::size_t length, bool borrow);
 

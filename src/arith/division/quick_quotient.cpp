@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstring>
+#include <optional>
 
+#include "arith/digits/digit_spans.h"
 #include "arith/division/quick_reciprocal.h"
 #include "arith/division/quotient_limbs.h"
 #include "arith/division/told_rounding.h"
@@ -16,18 +19,6 @@ namespace quorvex {
 namespace {
 
 using limbs::Limb;
-
-// Which digits the definition gives.
-//
-// Let p = sd + 3, and N the length of k, without the zeros at its end. The p digits of the
-// reciprocal are (10^s - g) / k, s = p + N - 1, where g is what 10^s leaves of k, or k itself if
-// that is nothing (quick_reciprocal.cpp); or they are one less, so that k comes to g, but only for
-// N > p - 2 where what follows them begins with two zeros. So X / k loses X g / (k 10^s), which is
-// g/k times what the leading digits of X, with the point behind the first one, come to as units of
-// digit p of the quotient. (A tenth of that where the leading digits of X are not below those of k:
-// the quotient's first digit then stands one place higher.) So digits p - 2 to p of X / k, with
-// what follows, tell the rounding mostly for any g/k; and where they don't, g/k comes from digits
-// p + 1, p + 2 ... of 1/k.
 
 constexpr std::size_t guard_digits = 3;
 // Digits that long division goes on behind those that are looked at, at least.
@@ -105,8 +96,7 @@ class Quotient {
 
   // The first digits.
   void write(std::size_t digits, NumberText& text) {
-    constexpr std::size_t more = 3;  // room for a sign, a zero and a separator
-    text.reserve(digits + more);
+    text.reserve(digits + room_for_marks);
     text.resize(digits);
     const std::size_t whole = digits / limbs::digits;
     const Limb* limb = limbs_.data();
@@ -125,35 +115,13 @@ class Quotient {
   limbs::Scratch limbs_;
 };
 
-struct Bounds {
-  double low;
-  double high;
-};
-
-// g/k, by the digits of 1/k behind the first p. Where it might be 0 as well as 1, or the reciprocal
-// one less, it isn't told.
-std::optional<Bounds> Missing_Part(limbs::Fraction k, std::size_t p, bool may_be_less) {
+// g/k, by the digits of 1/k behind the first p.
+std::optional<Bounds> Part_Lost(limbs::Fraction k, std::size_t p, const Loss& loss) {
   constexpr Limb tenth = limbs::base / 10;
   if (k.count == 1 && k[0] == tenth) return Bounds{1, 1};
   Quotient inverse(p + more_of_reciprocal);
   inverse.divide({&tenth, 1}, k);
-  const double part = inverse.behind(p);
-  const double error = inverse.error_behind(p) + slip;
-  const double least = may_be_less ? 0.011 : error;
-  if (part < least || part + error >= 1) return std::nullopt;
-  return Bounds{part - slip, part + error};
-}
-
-Told_Rounding Round(Bounds guard, limbs::Fraction x, limbs::Fraction k, std::size_t p,
-                    bool may_be_less) {
-  const double most_missing = To_Double(x[0]) * tenths[limbs::digits - 1] + slip;
-  const Told_Rounding rounding =
-      Round_Between(guard.low - (may_be_less ? 2 : 1) * most_missing, guard.high);
-  if (rounding != Told_Rounding::in_doubt) return rounding;
-  const std::optional<Bounds> part = Missing_Part(k, p, may_be_less);
-  if (!part) return rounding;
-  return Round_Between(guard.low - most_missing * part->high,
-                       guard.high - (most_missing - 2 * slip) * part->low);
+  return Lost_Part(inverse.behind(p), inverse.error_behind(p), loss);
 }
 
 // Both operands as fractions, the dividend behind a zero where its leading digits aren't below
@@ -193,8 +161,9 @@ bool Write_Rounded(Quotient& quotient, limbs::Fraction x, limbs::Fraction k, con
                    Decimal& result) {
   const double guard = 1000 * quotient.behind(limit.kept);
   const double error = 1000 * quotient.error_behind(limit.kept);
-  const Told_Rounding rounding =
-      Round({guard - slip, guard + error + slip}, x, k, limit.p, limit.may_be_less);
+  const Loss loss{To_Double(x[0]) * tenths[limbs::digits - 1], limit.may_be_less};
+  const Told_Rounding rounding = Round_Less({guard - slip, guard + error + slip}, loss,
+                                            [&] { return Part_Lost(k, limit.p, loss); });
   if (rounding == Told_Rounding::in_doubt) return false;
   const bool runs_over = rounding == Told_Rounding::is_raised && quotient.raise(limit.kept);
   quotient.write(limit.kept, result.digits);

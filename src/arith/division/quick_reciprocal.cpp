@@ -46,7 +46,7 @@ using limbs::Limb;
 constexpr std::size_t guard_digits = 10;  // that are looked at behind p
 
 // A reciprocal of so many digits at most begins with long division, and a longer one from there.
-constexpr std::size_t long_division_digits = 2000;
+constexpr std::size_t long_division_digits = 1300;
 
 bool All(std::string_view digits, char digit) {
   return digits.find_first_not_of(digit) == std::string_view::npos;
@@ -121,15 +121,17 @@ NumberText Divide_Into_One(std::string_view k, std::size_t count) {
   return digits;
 }
 
-// One step of Newton's iteration, from m to `next` digits, 2 m - 4 at most. The numbers are read
-// with their point behind the first digit of x, and before that of k.
+}  // namespace
+
+// Newton's iteration from m to `next` digits, 2 m - 4 at most. The numbers are read with their
+// point behind the first digit of x, and before that of k.
 //
 // k is cut to four digits more than are kept, and e = 1 - k x to three more, by its nines
 // complement. With x at most three units too low, e is below 3.1 * 10^(1-m), so that its first
 // m - 2 digits are zeros and x e^2 is below a tenth of a unit. Cutting k adds a thousandth of a
 // unit, cutting e takes off a hundredth, cutting the product one; one more is taken off so that x
 // stays below 1/k.
-NumberText Step(std::string_view k, NumberText x, std::size_t next) {
+NumberText Refine_Reciprocal(std::string_view k, NumberText x, std::size_t next) {
   const std::size_t m = x.size();
   const NumberText leading(k.substr(0, next + 4));
   NumberText e = Multiply_Digits(leading, x);
@@ -137,27 +139,25 @@ NumberText Step(std::string_view k, NumberText x, std::size_t next) {
   e.erase(0, m - 2);
   e.resize(next + 4 - m, '0');
   for (char& digit : e) digit = static_cast<char>('0' + '9' - digit);
+  e.erase(0, Count_Leading_Zeros(e));  // where a factor has some, the product's end is searched for
   const NumberText product = Multiply_Digits(x, e);
   if (Has_Token_Mark(product)) return {};
   x.append(next - m, '0');
   if (product.size() > m + 2) {
-    const std::size_t length = product.size() - (m + 2);
-    char* const place = x.data() + next - length;
-    const bool carry = digit_spans::Add(place, place, product.data(), length, false);
-    if (carry) digit_spans::Add_Carry(x.data(), x.data(), next - length, carry);
+    digit_spans::Add_To_End(x.data(), next, product.data(), product.size() - (m + 2));
   }
   Decrement(x);
   return x;
 }
 
-// `count` digits of 1/k, at most three units of the last one too low and not too high; empty where
-// a product can't be formed.
-NumberText Approach(std::string_view k, std::size_t count) {
+NumberText Leading_Reciprocal(std::string_view k, std::size_t count) {
   if (count <= long_division_digits) return Divide_Into_One(k, count);
-  NumberText x = Approach(k, (count + 5) / 2);
+  NumberText x = Leading_Reciprocal(k, (count + 5) / 2);
   Yield();
-  return x.empty() ? x : Step(k, std::move(x), count);
+  return x.empty() ? x : Refine_Reciprocal(k, std::move(x), count);
 }
+
+namespace {
 
 // Raises digits of 1/k, which are followed by nines, if they are one too low; true if they were.
 // Those that are all nines are not: k would be a power of ten.
@@ -173,7 +173,7 @@ bool Raise_If_Too_Low(const NumberText& k, NumberText& digits) {
 }
 
 std::optional<NumberText> Long_Reciprocal(const NumberText& k, std::size_t p) {
-  NumberText digits = Approach(k, p + guard_digits);
+  NumberText digits = Leading_Reciprocal(k, p + guard_digits);
   if (digits.empty()) return std::nullopt;
   const NumberText guards = digits.substr(p);
   digits.resize(p);

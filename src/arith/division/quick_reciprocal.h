@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string_view>
 
 #include "host/host_value.h"
 
@@ -16,6 +17,14 @@ namespace quorvex {
 /// Let N be the length of k. The digits are floor((10^(p+N-1) - 1) / k): those of 1/k, and where
 /// 1/k ends, those of a number just below it. The proof and its conditions stand with the code.
 std::optional<NumberText> Quick_Reciprocal(const NumberText& k, std::int32_t p);
+
+/// The first `count` digits of 1/k, at most three units of the last one too low and not too high,
+/// of a k without zeros at either end. That of a row of nines may begin with a 0. Empty where a
+/// product can't be formed.
+NumberText Leading_Reciprocal(std::string_view k, std::size_t count);
+
+/// The same from such digits that are known, of at least half so many and two more.
+NumberText Refine_Reciprocal(std::string_view k, NumberText known, std::size_t count);
 
 /// From this count of digits on the proof holds.
 inline constexpr std::int32_t least_quick_precision = 8;

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "arith/digits/multiply_digits.h"
+#include "arith/division/long_quotient.h"
 #include "arith/division/quick_quotient.h"
 #include "expects.h"
 #include "host/conversions.h"
@@ -66,7 +67,9 @@ void Divide(std::string_view X, std::string_view Y, Operands operands, std::int3
             Decimal& quotient) {
   const std::int32_t p = In_32_Bits(std::int64_t{sd} + guard_digits);
   const bool may_be_quick = operands == Operands::digits && Can_Multiply();
-  if (may_be_quick && Quick_Quotient(X, Y, sd, quotient)) return;
+  if (may_be_quick && (Quick_Quotient(X, Y, sd, quotient) || Long_Quotient(X, Y, sd, quotient))) {
+    return;
+  }
   Decimal product = Multiply_By_Reciprocal(X, Y, p);
   quotient.digits = std::move(product.digits);
   const std::size_t before = quotient.digits.size();

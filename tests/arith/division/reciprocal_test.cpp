@@ -7,11 +7,13 @@
 #include <cmath>
 #include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "arith/digits/add_digits.h"
 #include "arith/digits/multiply_digits.h"
 #include "arith/digits/subtract_digits.h"
+#include "arith/division/long_quotient.h"
 #include "arith/division/quick_quotient.h"
 #include "arith/division/quick_reciprocal.h"
 #include "arith/division/recip_divide.h"
@@ -152,10 +154,12 @@ Decimal Defined_Quotient(const NumberText& X, const NumberText& k, std::int32_t 
   return {product, power};
 }
 
-// Where quotients are found without reciprocals, they are the defined ones.
-class Quick_Quotients {
+// Where quotients are found without all of the reciprocal, they are the defined ones.
+class Told_Quotients {
  public:
-  explicit Quick_Quotients(unsigned seed) : random_(seed) {}
+  using Routine = bool (*)(std::string_view, std::string_view, std::int32_t, Decimal&);
+
+  Told_Quotients(Routine routine, unsigned seed) : routine_(routine), random_(seed) {}
 
   std::mt19937& random() { return random_; }
   std::size_t any(std::size_t most) { return 1 + random_() % most; }
@@ -163,26 +167,27 @@ class Quick_Quotients {
   void check(const NumberText& X, const NumberText& k, std::size_t digits) {
     if (k == "1") return;
     const auto sd = static_cast<std::int32_t>(digits);
-    Decimal quick;
+    Decimal told;
     ++asked_;
-    if (!Quick_Quotient(X, k, sd, quick)) return;
+    if (!routine_(X, k, sd, told)) return;
     ++found_;
     const Decimal defined = Defined_Quotient(X, k, sd);
-    ASSERT_EQ(quick.digits, defined.digits) << X << " by " << k << " to " << sd;
-    ASSERT_EQ(quick.power_of_ten, defined.power_of_ten) << X << " by " << k << " to " << sd;
+    ASSERT_EQ(told.digits, defined.digits) << X << " by " << k << " to " << sd;
+    ASSERT_EQ(told.power_of_ten, defined.power_of_ten) << X << " by " << k << " to " << sd;
   }
   void expect_most_found() const {
     EXPECT_GT(found_ * 10, asked_ * 8) << found_ << " of " << asked_;
   }
 
  private:
+  Routine routine_;
   std::mt19937 random_;
   int asked_ = 0;
   int found_ = 0;
 };
 
 TEST(Reciprocal, QuickQuotientsAreProductsWithTheIteration) {
-  Quick_Quotients quotients(21);
+  Told_Quotients quotients(Quick_Quotient, 21);
   std::mt19937& random = quotients.random();
   const auto digits = [&](std::size_t longest) {
     return Odd_Digits(random, quotients.any(longest));
@@ -201,23 +206,41 @@ TEST(Reciprocal, QuickQuotientsAreProductsWithTheIteration) {
 }
 
 // Quotients whose digits behind the limit are those where rounding changes, or a trifle from there.
-TEST(Reciprocal, QuickQuotientsRoundAsTheirDefinition) {
-  Quick_Quotients quotients(22);
-  std::mt19937& random = quotients.random();
+void Check_Borders(Told_Quotients& quotients, std::size_t least, std::size_t most, int rounds) {
   const std::vector<NumberText> ends = {"",    "0",   "001", "01",  "1",   "4999", "5",   "50",
                                         "500", "501", "509", "51",  "699", "7",    "701", "949",
                                         "95",  "951", "959", "960", "961", "99",   "999"};
-  for (int round = 0; round < 12000; ++round) {
-    const std::size_t sd = 5 + random() % 60;
+  std::mt19937& random = quotients.random();
+  for (int round = 0; round < rounds; ++round) {
+    const std::size_t sd = least + random() % (most - least);
     NumberText quotient = Odd_Digits(random, sd) + ends[random() % ends.size()];
     if (round % 2 == 0) quotient.append(random() % 20, '0');
-    const NumberText k = Odd_Digits(random, quotients.any(60));
+    const NumberText k = Odd_Digits(random, quotients.any(most));
     NumberText X = Multiply_Digits(quotient, k);
     if (round % 3 == 0) X = Add_Decimals({X, {}}, {"1", {}});
     if (round % 3 == 1) X = Subtract_Decimals({X, {}}, {"1", {}}).Difference;
     if (X == "0") continue;
     quotients.check(X, k, sd);
   }
+}
+
+TEST(Reciprocal, QuickQuotientsRoundAsTheirDefinition) {
+  Told_Quotients quotients(Quick_Quotient, 22);
+  Check_Borders(quotients, 5, 65, 12000);
+  quotients.expect_most_found();
+}
+
+TEST(Reciprocal, LongQuotientsAreProductsWithTheIteration) {
+  Told_Quotients quotients(Long_Quotient, 24);
+  std::mt19937& random = quotients.random();
+  for (int round = 0; round < 1200; ++round) {
+    const std::size_t longest = round % 100 == 0 ? 3000 : 300;
+    const auto digits = [&] { return Odd_Digits(random, quotients.any(longest)); };
+    NumberText k = digits();
+    if (round % 5 == 0) k.append(random() % 4, '0');
+    quotients.check(digits(), k, 100 + random() % longest);
+  }
+  Check_Borders(quotients, 100, 200, 1200);
   quotients.expect_most_found();
 }
 
