@@ -118,11 +118,16 @@ bool Add_Carry(char* out, const char* a, std::size_t length, bool carry) {
   return Propagate<Sum>(out, a, length, carry);
 }
 
-void Add_To_End(char* number, std::size_t length, const char* digits, std::size_t count) {
-  Expects(count <= length);
-  char* const place = number + (length - count);
-  const bool carry = Add(place, place, digits, count, false);
-  if (carry) Add_Carry(number, number, length - count, carry);
+void Extend(std::string& number, std::size_t places, std::string_view digits) {
+  const std::size_t length = number.size();
+  const std::size_t behind = std::min(digits.size(), places);
+  const std::size_t over = digits.size() - behind;
+  Expects(over <= length);
+  number.reserve(length + places);
+  number.append(places - behind, '0').append(digits.substr(over));
+  char* const last = number.data() + (length - over);
+  const bool carry = Add(last, last, digits.data(), over, false);
+  if (carry) Add_Carry(number.data(), number.data(), length - over, carry);
 }
 
 bool Subtract(char* out, const char* a, const char* b, std::size_t length, bool borrow) {

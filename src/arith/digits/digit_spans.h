@@ -5,6 +5,8 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
+#include <string_view>
 
 namespace quorvex {
 
@@ -22,8 +24,9 @@ bool Add(char* out, const char* a, const char* b, std::size_t length, bool carry
 /// out = a + carry. Returns the carry that runs over.
 bool Add_Carry(char* out, const char* a, std::size_t length, bool carry);
 
-/// Adds so many digits to the last ones of a longer number, which has room for what they carry.
-void Add_To_End(char* number, std::size_t length, const char* digits, std::size_t count);
+/// Gives a number so many digits more, and adds others to it at its end. They may reach into what
+/// it had, which has room for what they carry.
+void Extend(std::string& number, std::size_t places, std::string_view digits);
 
 /// out = a - b - borrow. Returns the borrow that is owed.
 bool Subtract(char* out, const char* a, const char* b, std::size_t length, bool borrow);

@@ -1,5 +1,6 @@
 #include "arith/division/long_quotient.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <optional>
@@ -45,12 +46,13 @@ struct Decimals {
 
 // `count` digits from a place behind the point on.
 NumberText Cut_Out(Decimals number, std::size_t from, std::size_t count) {
-  NumberText cut(count, '0');
+  const std::size_t zeros = std::min(number.zeros > from ? number.zeros - from : 0, count);
   const std::size_t skipped = from > number.zeros ? from - number.zeros : 0;
-  const std::size_t zeros = number.zeros > from ? number.zeros - from : 0;
-  if (zeros < count && skipped < number.digits.size()) {
-    number.digits.substr(skipped, count - zeros).copy(cut.data() + zeros, count);
-  }
+  NumberText cut;
+  cut.reserve(count);
+  cut.append(zeros, '0');
+  if (skipped < number.digits.size()) cut.append(number.digits.substr(skipped, count - zeros));
+  cut.append(count - cut.size(), '0');
   return cut;
 }
 
@@ -87,11 +89,8 @@ NumberText Divide(const Decimals& x, std::string_view d, const NumberText& r, st
 
   const NumberText missing = Multiply_Digits(rest, r);
   if (Has_Token_Mark(missing)) return {};
-  const std::size_t dropped = h + more_of_rest - 1;
-  y.resize(n, '0');
-  if (missing.size() > dropped) {
-    digit_spans::Add_To_End(y.data(), n, missing.data(), missing.size() - dropped);
-  }
+  const std::size_t dropped = std::min(missing.size(), h + more_of_rest - 1);
+  digit_spans::Extend(y, n - h, std::string_view(missing).substr(0, missing.size() - dropped));
   return y;
 }
 

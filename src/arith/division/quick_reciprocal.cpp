@@ -142,10 +142,8 @@ NumberText Refine_Reciprocal(std::string_view k, NumberText x, std::size_t next)
   e.erase(0, Count_Leading_Zeros(e));  // where a factor has some, the product's end is searched for
   const NumberText product = Multiply_Digits(x, e);
   if (Has_Token_Mark(product)) return {};
-  x.append(next - m, '0');
-  if (product.size() > m + 2) {
-    digit_spans::Add_To_End(x.data(), next, product.data(), product.size() - (m + 2));
-  }
+  const std::size_t dropped = std::min(product.size(), m + 2);
+  digit_spans::Extend(x, next - m, std::string_view(product).substr(0, product.size() - dropped));
   Decrement(x);
   return x;
 }
