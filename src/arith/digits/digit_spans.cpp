@@ -118,6 +118,18 @@ bool Add_Carry(char* out, const char* a, std::size_t length, bool carry) {
   return Propagate<Sum>(out, a, length, carry);
 }
 
+void Extend(std::string& number, std::size_t places, std::string_view digits) {
+  const std::size_t length = number.size();
+  const std::size_t behind = std::min(digits.size(), places);
+  const std::size_t over = digits.size() - behind;
+  Expects(over <= length);
+  number.reserve(length + places);
+  number.append(places - behind, '0').append(digits.substr(over));
+  char* const last = number.data() + (length - over);
+  const bool carry = Add(last, last, digits.data(), over, false);
+  if (carry) Add_Carry(number.data(), number.data(), length - over, carry);
+}
+
 bool Subtract(char* out, const char* a, const char* b, std::size_t length, bool borrow) {
   Expects(Can_Be_Output(out, a, length) && Can_Be_Output(out, b, length));
   return Run<Difference>(out, Text{a}, Text{b}, length, borrow);

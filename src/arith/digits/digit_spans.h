@@ -5,6 +5,8 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
+#include <string_view>
 
 namespace quorvex {
 
@@ -21,6 +23,10 @@ bool Add(char* out, const char* a, const char* b, std::size_t length, bool carry
 
 /// out = a + carry. Returns the carry that runs over.
 bool Add_Carry(char* out, const char* a, std::size_t length, bool carry);
+
+/// Gives a number so many digits more, and adds others to it at its end. They may reach into what
+/// it had, which has room for what they carry.
+void Extend(std::string& number, std::size_t places, std::string_view digits);
 
 /// out = a - b - borrow. Returns the borrow that is owed.
 bool Subtract(char* out, const char* a, const char* b, std::size_t length, bool borrow);

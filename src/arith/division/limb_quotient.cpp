@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 #include "arith/division/quick_reciprocal.h"
+#include "arith/division/told_rounding.h"
 #include "arith/limbs/limb_division.h"
 #include "arith/limbs/limb_number.h"
 #include "expects.h"
@@ -13,6 +13,7 @@ namespace quorvex::limbs {
 namespace {
 
 constexpr std::size_t guard_digits = 3;  // of the division behind the digits it rounds to
+constexpr double most_missing = 10;      // units of the last of them that a quotient may lose
 
 // A whole number without zeros behind, and how many it had.
 struct Significant {
@@ -152,19 +153,6 @@ Guard Guard_Of(Limb rest, std::size_t length, const Limb* next) {
   return {before + guard, (static_cast<double>(left) + Part_Of_Base(*next)) * Tenth_To(behind)};
 }
 
-// How division rounds by its three guard digits: half up by the first of them; but zeros at the end
-// bring the rounding as many digits down, and what is then raised is cut off, unless it carries.
-bool Rounds_Up(unsigned guard) {
-  if (guard % 10 != 0) return guard >= 500;
-  return guard >= 950;
-}
-
-// Where up to ten units less make no difference: not from the first on, always from the second on,
-// and from the third on nothing is owed.
-constexpr Limb perhaps_up = 500;
-constexpr Limb always_up = 961;
-constexpr Limb least_safe = 11;
-
 // Adds `unit`, which is below the base, to a limb, and what runs over to those before it.
 void Raise_Up(Limb* limb, Limb unit) {
   *limb += unit;
@@ -199,20 +187,20 @@ bool Divide(const Number& a, const Number& b, std::size_t digits_kept, Number& r
   const Limb rest = highest[last] % Ten_To(cut);
   const Guard guard = Guard_Of(rest, cut, highest + last + 1);
 
-  bool up = guard.digits >= always_up;
-  if (!up && (guard.digits < least_safe || guard.digits >= perhaps_up)) {
+  const double exact = static_cast<double>(guard.digits) + guard.behind;
+  constexpr double safe = 1e-6;  // more than what the floats may be wrong by
+  Told_Rounding rounding = Round_Between(exact - most_missing - safe, exact + safe);
+  if (rounding == Told_Rounding::in_doubt) {
     const Limb g = Rest_Of_Power(k.zeros == 0 ? divisor : Divisor(k.digits), p + length - 1);
     const double leading =
         (static_cast<double>(highest[0]) + Part_Of_Base(highest[1])) * Tenth_To(in_highest);
-    const double lowered = static_cast<double>(guard.digits) + guard.behind -
-                           leading * static_cast<double>(g) * Tenth_To(length - 1);
-    constexpr double safe = 1e-6;  // more than what the floats may be wrong by
-    if (lowered < safe || std::fabs(lowered - std::floor(lowered + 0.5)) < safe) return false;
-    up = Rounds_Up(static_cast<unsigned>(lowered));
+    const double lowered = exact - leading * static_cast<double>(g) * Tenth_To(length - 1);
+    rounding = Round_Between(lowered - safe, lowered + safe);
+    if (rounding == Told_Rounding::in_doubt) return false;
   }
 
   highest[last] -= rest;
-  Raise_Up(highest + last, up ? Ten_To(cut) : 0);
+  Raise_Up(highest + last, rounding == Told_Rounding::is_raised ? Ten_To(cut) : 0);
   Limb* const limbs = scratch.data() + count + 1;
   for (std::size_t place = 0; place < last + 2; ++place)
     Copy(highest + last - place, 1, limbs + place);

@@ -2,12 +2,15 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
+#include <optional>
 
-#include "arith/division/limb_reciprocal.h"
+#include "arith/digits/digit_spans.h"
 #include "arith/division/quick_reciprocal.h"
-#include "arith/limbs/limb_division.h"
+#include "arith/division/quotient_limbs.h"
+#include "arith/division/told_rounding.h"
 #include "arith/limbs/limbs.h"
-#include "arith/limbs/short_product.h"
 #include "expects.h"
 #include "host/platform.h"
 #include "text/digit_runs.h"
@@ -16,191 +19,201 @@ namespace quorvex {
 namespace {
 
 using limbs::Limb;
-using limbs::Wide;
 
-// Digits of limbs that come highest first.
-class Digit_Writer {
+constexpr std::size_t guard_digits = 3;
+// Digits that long division goes on behind those that are looked at, at least.
+constexpr std::size_t more_digits = 2;
+constexpr std::size_t more_of_reciprocal = 6;
+
+constexpr double units_below = 2.2;  // of the last limb, what long division leaves
+constexpr double slip = 1e-9;        // more than floats here are wrong by
+
+constexpr auto tenths = [] {
+  std::array<double, 2 * limbs::digits> powers{};
+  for (std::size_t place = 0; place < powers.size(); ++place) {
+    powers[place] = place <= limbs::digits ? 1.0 / static_cast<double>(limbs::Ten_To(place))
+                                           : powers[place - limbs::digits] * powers[limbs::digits];
+  }
+  return powers;
+}();
+
+// A number below 2^63, which converts sooner as one with a sign.
+double To_Double(Limb limb) {
+  return static_cast<double>(static_cast<std::int64_t>(limb));
+}
+
+// True if the reciprocal's digits are right from the first on: behind it stand not only zeros.
+bool Begins_Beyond_Doubt(limbs::Fraction k, std::size_t p) {
+  const Limb leading = k[0];
+  const double inverse = To_Double(limbs::base) / To_Double(leading);
+  const double behind = inverse - To_Double(static_cast<Limb>(inverse));
+  constexpr std::size_t enough = 9;
+  constexpr double unsafe = 1e-12;
+  const double least = tenths[std::min(Digits_Behind_First(p), enough)];
+  if (behind > least + unsafe && behind < 1 - unsafe) return true;
+  // One that ends there goes on in nines.
+  return k.count == 1 && static_cast<Limb>(inverse + 0.5) * leading == limbs::base;
+}
+
+// The limbs of a quotient, highest first.
+class Quotient {
  public:
-  explicit Digit_Writer(std::size_t wanted)
-      : digits_(wanted + 2 * limbs::digits, '0'), wanted_(wanted) {}
+  explicit Quotient(std::size_t digits) : count_(limbs::Count_For(digits)), limbs_(count_) {}
 
-  bool has_all() const { return count_ >= wanted_; }
-  bool has_none() const { return count_ == 0; }
+  void divide(limbs::Fraction x, limbs::Fraction k) {
+    limbs::Divide_Fractions(x, k, count_, limbs_.data());
+  }
+  void set(Limb limb) { *limbs_.data() = limb; }
 
-  void write(Limb limb) {
-    char* const place = digits_.data() + count_;
-    limbs::Write(place, limb);
-    count_ += limbs::digits;
-    if (count_ > limbs::digits) return;
-    // The first one, without the zeros in front.
-    count_ = limbs::Count_Digits(limb);
-    std::copy_n(place + limbs::digits - count_, count_, place);
+  // What stands behind so many digits, as a fraction of their last one.
+  double behind(std::size_t digits_before) {
+    const std::size_t place = digits_before / limbs::digits;
+    const std::size_t length = limbs::digits - digits_before % limbs::digits;
+    const Limb* const limb = limbs_.data() + place;
+    const double next = place + 1 < count_ ? To_Double(limb[1]) * tenths[limbs::digits] : 0;
+    return (To_Double(*limb % limbs::Ten_To(length)) + next) * tenths[length];
   }
 
-  // `length` is that of the number, `count_` what there is of it and perhaps of zeros behind.
-  Decimal take(std::size_t length) && {
-    digits_.resize(std::min({count_, wanted_, length}));
-    const std::size_t left = length - digits_.size();
-    return {std::move(digits_), static_cast<std::int64_t>(left)};
+  // What that may be too low by.
+  double error_behind(std::size_t digits_before) const {
+    return units_below * tenths[count_ * limbs::digits - digits_before];
+  }
+
+  // Adds one to the last of so many digits. True if it runs over, and these are a 1 and zeros.
+  bool raise(std::size_t digits) {
+    std::size_t place = (digits - 1) / limbs::digits;
+    Limb unit = limbs::Ten_To((place + 1) * limbs::digits - digits);
+    for (;; --place, unit = 1) {
+      Limb& limb = limbs_.data()[place];
+      limb += unit;
+      if (limb < limbs::base) return false;
+      limb -= limbs::base;
+      if (place > 0) continue;
+      limb = limbs::base / 10;
+      return true;
+    }
+  }
+
+  // The first digits.
+  void write(std::size_t digits, NumberText& text) {
+    text.reserve(digits + room_for_marks);
+    text.resize(digits);
+    const std::size_t whole = digits / limbs::digits;
+    const Limb* limb = limbs_.data();
+    for (std::size_t place = 0; place < whole; ++place) {
+      limbs::Write(text.data() + place * limbs::digits, *limb++);
+      if (place % limbs::between_yields == limbs::between_yields - 1) Yield();
+    }
+    if (const std::size_t left = digits % limbs::digits; left > 0) {
+      limbs::Write_Few(text.data() + whole * limbs::digits,
+                       *limb / limbs::Ten_To(limbs::digits - left), left);
+    }
   }
 
  private:
-  NumberText digits_;
-  std::size_t wanted_;
-  std::size_t count_ = 0;
+  std::size_t count_;
+  limbs::Scratch limbs_;
 };
 
-// x base^a - x g as limbs from the lowest, for a g of two limbs.
-class Minuend {
- public:
-  Minuend(const Limb* x, std::size_t x_count, std::size_t a, Wide g)
-      : x_(x), x_count_(x_count), a_(a), low_(limbs::Take_Limb(g)), high_(static_cast<Limb>(g)) {}
+// g/k, by the digits of 1/k behind the first p.
+std::optional<Bounds> Part_Lost(limbs::Fraction k, std::size_t p, const Loss& loss) {
+  constexpr Limb tenth = limbs::base / 10;
+  if (k.count == 1 && k[0] == tenth) return Bounds{1, 1};
+  Quotient inverse(p + more_of_reciprocal);
+  inverse.divide({&tenth, 1}, k);
+  return Lost_Part(inverse.behind(p), inverse.error_behind(p), loss);
+}
 
-  Limb next() {
-    column_ += Wide{low_} * at(place_);
-    if (place_ > 0) column_ += Wide{high_} * at(place_ - 1);
-    const Limb less = limbs::Take_Limb(column_) + borrow_;
-    const Limb minuend = place_ < a_ ? 0 : at(place_ - a_);
-    borrow_ = minuend < less ? 1 : 0;
-    ++place_;
-    return minuend - less + borrow_ * limbs::base;
+// Both operands as fractions, the dividend behind a zero where its leading digits aren't below
+// those of the divisor.
+class Operands {
+ public:
+  Operands(std::string_view X, std::string_view k, std::size_t most_limbs)
+      : scratch_(std::min(limbs::Count_For(k.size()), most_limbs) +
+                 std::min(limbs::Count_For(X.size() + 1), most_limbs)) {
+    const int order = std::memcmp(X.data(), k.data(), std::min(X.size(), k.size()));
+    leads_ = order > 0 || (order == 0 && X.size() >= k.size());
+    k_ = limbs::Read_Down(k, 0, most_limbs, scratch_.data());
+    x_ = limbs::Read_Down(X, leads_ ? 1 : 0, most_limbs, scratch_.data() + k_.count);
   }
+  Operands(const Operands&) = delete;
+  Operands& operator=(const Operands&) = delete;
+
+  bool leads() const { return leads_; }
+  const limbs::Fraction& k() const { return k_; }
+  const limbs::Fraction& x() const { return x_; }
 
  private:
-  Limb at(std::size_t place) const { return place < x_count_ ? x_[place] : 0; }
-
-  const Limb* x_;
-  std::size_t x_count_;
-  std::size_t a_;
-  Limb low_;
-  Limb high_;
-  Wide column_ = 0;
-  Limb borrow_ = 0;
-  std::size_t place_ = 0;
+  limbs::Scratch scratch_;
+  limbs::Fraction k_;
+  limbs::Fraction x_;
+  bool leads_ = false;
 };
 
-// The same in two words, where divisor, dividend and reciprocal have no more digits than a limb.
-std::optional<Decimal> Divide_In_Words(std::string_view X, const limbs::Divisor& k,
-                                       std::size_t length, std::size_t p) {
-  const std::optional<Limb> g = Missing_From_Power(k, length, p);
-  if (!g) return std::nullopt;
-  const Wide power = Wide{limbs::Ten_To(p)} * limbs::Ten_To(length - 1);
-  const Wide product = (power - *g) / k.number() * limbs::Read(X);
-  // It has the digits of both factors, or one less.
-  std::size_t left = X.size();
-  if (product < Wide{limbs::Ten_To(p)} * limbs::Ten_To(X.size() - 1)) --left;
-  std::array<char, limbs::digits> digits;
-  limbs::Write(digits.data(), static_cast<Limb>(product / limbs::Ten_To(left)));
-  return Decimal{NumberText(digits.end() - p, digits.end()), static_cast<std::int64_t>(left)};
-}
-
-// Let the reciprocal's digits be (10^s - g) / k. Then the product is (X 10^s - X g) / k without a
-// rest, and its first digits are those of a division from the left, in one pass.
-std::optional<Decimal> Divide_By_Limb(std::string_view X, std::string_view k_digits,
-                                      std::size_t p) {
-  const limbs::Divisor k(limbs::Read(k_digits));
-  if (X.size() <= limbs::digits && p <= limbs::digits) {
-    return Divide_In_Words(X, k, k_digits.size(), p);
-  }
-  Require_Memory(2.0 * static_cast<double>(X.size() + p));
-  const std::optional<Limb> g = Missing_From_Power(k, k_digits.size(), p);
-  if (!g) return std::nullopt;
-  const std::size_t s = p + k_digits.size() - 1;
-  const std::size_t a = limbs::Count_For(s);
-  const std::size_t padding = a * limbs::digits - s;
-
-  const std::size_t x_count = limbs::Count_For(X.size());
-  const std::size_t count = x_count + a + 1;
-  limbs::Scratch scratch(x_count + count);
-  Limb* const x = scratch.data();
-  Limb* const minuend = x + x_count;
-  limbs::Read_Number(X, x);
-  Minuend difference(x, x_count, a, Wide{*g} * limbs::Ten_To(padding));
-  for (std::size_t place = 0; place < count; ++place) {
-    minuend[place] = difference.next();
-    if (place % limbs::between_yields == limbs::between_yields - 1) Yield();
-  }
-
-  Digit_Writer writer(p);
-  std::size_t length = 0;
-  Limb rest = 0;
-  for (std::size_t place = count; place-- > 0 && !writer.has_all();) {
-    const Limb quotient = k.divide(rest, minuend[place]);
-    if (quotient == 0 && writer.has_none()) continue;
-    if (writer.has_none()) length = limbs::Count_Digits(quotient) + place * limbs::digits - padding;
-    writer.write(quotient);
-    if (place % limbs::between_yields == 0) Yield();
-  }
-  return std::move(writer).take(length);
-}
-
-// Below these lengths, the products of limbs cost less than calls of the library of products.
-constexpr std::size_t few_digits = 126;
-constexpr std::size_t few = limbs::Count_For(few_digits);
-
-// The digits of the reciprocal as limbs, the lowest first, scaled by ten to `padding`. False where
-// they can't be told.
-struct Short_Inverse {
-  std::array<Limb, few + 1> limbs;
-  std::size_t count;
-  std::size_t padding;
+// How many digits are asked for, and what for.
+struct Limit {
+  std::size_t kept;
+  std::size_t p;
+  bool may_be_less;
 };
 
-bool Find_Inverse(std::string_view k, std::size_t p, Short_Inverse& inverse) {
-  const std::size_t n = limbs::Count_For(k.size());
-  std::array<Limb, few> divisor;
-  std::array<std::int64_t, few> rest;
-  limbs::Read_Fraction(k, n, divisor.data());
-  const std::size_t behind = limbs::Count_For(p - 1);
-  inverse.count = behind + 1;
-  inverse.padding = behind * limbs::digits - (p - 1);
-  Limb* const quotient = inverse.limbs.data();
-  const bool ends = limbs::Divide_Into_One(divisor.data(), n, quotient, inverse.count, rest.data());
-  if (ends) {
-    // Just below the end.
-    std::size_t place = behind;
-    for (; quotient[place] == 0; --place) quotient[place] = limbs::base - 1;
-    --quotient[place];
-  }
-  const std::size_t looked_at = std::min(Digits_Behind_First(p), limbs::digits);
-  if (quotient[1] < limbs::Ten_To(limbs::digits - looked_at)) return false;
-  quotient[behind] -= quotient[behind] % limbs::Ten_To(inverse.padding);
-  std::reverse(quotient, quotient + inverse.count);
+bool Write_Rounded(Quotient& quotient, limbs::Fraction x, limbs::Fraction k, const Limit& limit,
+                   Decimal& result) {
+  const double guard = 1000 * quotient.behind(limit.kept);
+  const double error = 1000 * quotient.error_behind(limit.kept);
+  const Loss loss{To_Double(x[0]) * tenths[limbs::digits - 1], limit.may_be_less};
+  const Told_Rounding rounding = Round_Less({guard - slip, guard + error + slip}, loss,
+                                            [&] { return Part_Lost(k, limit.p, loss); });
+  if (rounding == Told_Rounding::in_doubt) return false;
+  const bool runs_over = rounding == Told_Rounding::is_raised && quotient.raise(limit.kept);
+  quotient.write(limit.kept, result.digits);
+  result.power_of_ten =
+      static_cast<std::int64_t>(runs_over) - static_cast<std::int64_t>(limit.kept);
   return true;
 }
 
-std::optional<Decimal> Divide_By_Few(std::string_view X, std::string_view k, std::size_t p) {
-  Short_Inverse inverse;
-  if (!Find_Inverse(k, p, inverse)) return std::nullopt;
-  const std::size_t x_count = limbs::Count_For(X.size());
-  std::array<Limb, few> x;
-  std::array<Limb, 2 * few + 1> product;
-  limbs::Read_Number(X, x.data());
-  limbs::Multiply(product.data(), x.data(), x_count, inverse.limbs.data(), inverse.count);
+// Operands and quotient of one limb each.
+bool Divide_In_Words(std::string_view X, std::string_view k, const Limit& limit, Decimal& result) {
+  const Limb divisor = limbs::Read(k) * limbs::Ten_To(limbs::digits - k.size());
+  if (!Begins_Beyond_Doubt({&divisor, 1}, limit.p)) return false;
+  Limb dividend = limbs::Read(X) * limbs::Ten_To(limbs::digits - X.size());
+  const bool leads = dividend >= divisor;
+  Quotient quotient(limbs::digits);
+  const Limb power = leads ? limbs::base / 10 : limbs::base;
+  quotient.set(static_cast<Limb>(limbs::Wide{dividend} * power / divisor));
+  if (leads) dividend /= 10;
+  if (!Write_Rounded(quotient, {&dividend, 1}, {&divisor, 1}, limit, result)) return false;
+  if (leads) ++result.power_of_ten;
+  return true;
+}
 
-  std::size_t place = x_count + inverse.count;
-  while (product[place - 1] == 0) --place;
-  const std::size_t length =
-      limbs::Count_Digits(product[place - 1]) + (place - 1) * limbs::digits - inverse.padding;
-  Digit_Writer writer(p);
-  while (place > 0 && !writer.has_all()) writer.write(product[--place]);
-  return std::move(writer).take(length);
+bool Divide_By_Limbs(std::string_view X, std::string_view k, const Limit& limit, Decimal& result) {
+  const std::size_t room = limbs::Count_For(limit.p + more_of_reciprocal) + 1;
+  if (std::min(limbs::Count_For(k.size()), room) > limbs::most_quotient_limbs) return false;
+  const Operands operands(X, k, room);
+  if (!Begins_Beyond_Doubt(operands.k(), limit.p)) return false;
+  Quotient quotient(limit.p + more_digits);
+  quotient.divide(operands.x(), operands.k());
+  if (!Write_Rounded(quotient, operands.x(), operands.k(), limit, result)) return false;
+  if (operands.leads()) ++result.power_of_ten;
+  return true;
 }
 
 }  // namespace
 
-std::optional<Decimal> Quick_Quotient(std::string_view X, std::string_view k, std::int32_t p) {
+bool Quick_Quotient(std::string_view X, std::string_view k, std::int32_t sd, Decimal& quotient) {
   Expects(Are_Significant(X) && Are_Significant(k));
-  if (p < least_quick_precision) return std::nullopt;
-  const auto precision = static_cast<std::size_t>(p);
-  const auto significant = k.substr(0, k.size() - Count_Trailing_Zeros(k));
-  if (significant.size() <= short_divisor_digits) {
-    return Divide_By_Limb(X, significant, precision);
-  }
-  const bool is_short = X.size() <= few_digits && significant.size() <= few_digits &&
-                        precision <= few_digits && Ends_Beyond_Doubt(significant.size(), precision);
-  if (!is_short) return std::nullopt;
-  return Divide_By_Few(X, significant, precision);
+  if (sd + static_cast<std::int32_t>(guard_digits) < least_quick_precision) return false;
+  Limit limit{static_cast<std::size_t>(sd), 0, false};
+  limit.p = limit.kept + guard_digits;
+  const auto length = static_cast<std::int64_t>(X.size()) - static_cast<std::int64_t>(k.size());
+  const bool are_words = std::max({X.size(), k.size(), limit.p + more_digits}) <= limbs::digits;
+  if (!are_words) k.remove_suffix(Count_Trailing_Zeros(k));
+  limit.may_be_less = !Ends_Beyond_Doubt(k.size(), limit.p);
+  const auto divide = are_words ? Divide_In_Words : Divide_By_Limbs;
+  if (!divide(X, k, limit, quotient)) return false;
+  quotient.power_of_ten += length;
+  return true;
 }
 
 }  // namespace quorvex

@@ -1,12 +1,12 @@
 #include "arith/division/quick_reciprocal.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include "arith/digits/digit_spans.h"
 #include "arith/digits/multiply_digits.h"
-#include "arith/division/limb_reciprocal.h"
+#include "arith/division/quotient_limbs.h"
+#include "arith/limbs/limb_division.h"
 #include "expects.h"
 #include "host/platform.h"
 #include "text/digit_runs.h"
@@ -14,6 +14,8 @@
 
 namespace quorvex {
 namespace {
+
+using limbs::Limb;
 
 // Why the iteration ends with floor((10^s - 1) / k), s = p + N - 1.
 //
@@ -44,7 +46,7 @@ namespace {
 constexpr std::size_t guard_digits = 10;  // that are looked at behind p
 
 // A reciprocal of so many digits at most begins with long division, and a longer one from there.
-constexpr std::size_t long_division_digits = 270;
+constexpr std::size_t long_division_digits = 1300;
 
 bool All(std::string_view digits, char digit) {
   return digits.find_first_not_of(digit) == std::string_view::npos;
@@ -60,19 +62,19 @@ class Nines_Division {
   Nines_Division(const limbs::Divisor& k, std::size_t nines)
       : k_(k), next_(limbs::Ten_To((nines - 1) % limbs::digits + 1) - 1) {}
 
-  limbs::Limb next() {
-    const limbs::Limb quotient = k_.divide(rest_, next_);
+  Limb next() {
+    const Limb quotient = k_.divide(rest_, next_);
     next_ = limbs::base - 1;
     if (++done_ % limbs::between_yields == 0) Yield();
     return quotient;
   }
 
-  limbs::Limb rest() const { return rest_; }
+  Limb rest() const { return rest_; }
 
  private:
   const limbs::Divisor& k_;
-  limbs::Limb next_;
-  limbs::Limb rest_ = 0;
+  Limb next_;
+  Limb rest_ = 0;
   std::size_t done_ = 0;
 };
 
@@ -98,36 +100,38 @@ void Decrement(NumberText& digits) {
 // The first digits of a reciprocal, at most three units of the last one too low and not too high,
 // from as many leading digits of k. That of a row of nines begins with a 0.
 NumberText Divide_Into_One(std::string_view k, std::size_t count) {
-  // Three digits more keep what is cut off k below a hundredth of a unit.
+  // Three digits more keep what is cut off k below a hundredth of a unit, one more of the quotient
+  // what is cut off there below a quarter.
   constexpr std::size_t more = 3;
-  constexpr std::size_t most = limbs::Count_For(long_division_digits + more);
-  const std::size_t n = std::max<std::size_t>(limbs::Count_For(count + more), 2);
-  std::array<limbs::Limb, most> divisor;
-  std::array<std::int64_t, most> rest;
-  std::array<limbs::Limb, most + 1> quotient;
-  const bool is_near_power = k.front() == '1' && All(k.substr(1, n * limbs::digits - 1), '0');
-  if (is_near_power) return NumberText().assign(count, '9');
-  limbs::Read_Fraction(k.substr(0, n * limbs::digits), n, divisor.data());
-  const std::size_t behind = limbs::Count_For(count - 1);
-  limbs::Divide_Into_One(divisor.data(), n, quotient.data(), behind + 1, rest.data());
-  NumberText digits(1 + behind * limbs::digits, static_cast<char>('0' + quotient[0]));
-  for (std::size_t place = 0; place < behind; ++place) {
-    limbs::Write(digits.data() + 1 + place * limbs::digits, quotient[place + 1]);
+  const std::size_t n = limbs::Count_For(count + more);
+  k = k.substr(0, n * limbs::digits);
+  const bool is_power = k.front() == '1' && All(k.substr(1), '0');
+  if (is_power) return NumberText().assign(count, '9');
+  limbs::Scratch scratch(2 * n);
+  Limb* const divisor = scratch.data();
+  Limb* const quotient = divisor + n;
+  constexpr Limb tenth = limbs::base / 10;
+  limbs::Divide_Fractions({&tenth, 1}, limbs::Read_Down(k, 0, n, divisor), n, quotient);
+  NumberText digits(n * limbs::digits, '0');
+  for (std::size_t place = 0; place < n; ++place) {
+    limbs::Write(digits.data() + place * limbs::digits, quotient[place]);
   }
   digits.resize(count);
   Decrement(digits);
   return digits;
 }
 
-// One step of Newton's iteration, from m to `next` digits, 2 m - 4 at most. The numbers are read
-// with their point behind the first digit of x, and before that of k.
+}  // namespace
+
+// Newton's iteration from m to `next` digits, 2 m - 4 at most. The numbers are read with their
+// point behind the first digit of x, and before that of k.
 //
 // k is cut to four digits more than are kept, and e = 1 - k x to three more, by its nines
 // complement. With x at most three units too low, e is below 3.1 * 10^(1-m), so that its first
 // m - 2 digits are zeros and x e^2 is below a tenth of a unit. Cutting k adds a thousandth of a
 // unit, cutting e takes off a hundredth, cutting the product one; one more is taken off so that x
 // stays below 1/k.
-NumberText Step(std::string_view k, NumberText x, std::size_t next) {
+NumberText Refine_Reciprocal(std::string_view k, NumberText x, std::size_t next) {
   const std::size_t m = x.size();
   const NumberText leading(k.substr(0, next + 4));
   NumberText e = Multiply_Digits(leading, x);
@@ -135,27 +139,23 @@ NumberText Step(std::string_view k, NumberText x, std::size_t next) {
   e.erase(0, m - 2);
   e.resize(next + 4 - m, '0');
   for (char& digit : e) digit = static_cast<char>('0' + '9' - digit);
+  e.erase(0, Count_Leading_Zeros(e));  // where a factor has some, the product's end is searched for
   const NumberText product = Multiply_Digits(x, e);
   if (Has_Token_Mark(product)) return {};
-  x.append(next - m, '0');
-  if (product.size() > m + 2) {
-    const std::size_t length = product.size() - (m + 2);
-    char* const place = x.data() + next - length;
-    const bool carry = digit_spans::Add(place, place, product.data(), length, false);
-    if (carry) digit_spans::Add_Carry(x.data(), x.data(), next - length, carry);
-  }
+  const std::size_t dropped = std::min(product.size(), m + 2);
+  digit_spans::Extend(x, next - m, std::string_view(product).substr(0, product.size() - dropped));
   Decrement(x);
   return x;
 }
 
-// `count` digits of 1/k, at most three units of the last one too low and not too high; empty where
-// a product can't be formed.
-NumberText Approach(std::string_view k, std::size_t count) {
+NumberText Leading_Reciprocal(std::string_view k, std::size_t count) {
   if (count <= long_division_digits) return Divide_Into_One(k, count);
-  NumberText x = Approach(k, (count + 5) / 2);
+  NumberText x = Leading_Reciprocal(k, (count + 5) / 2);
   Yield();
-  return x.empty() ? x : Step(k, std::move(x), count);
+  return x.empty() ? x : Refine_Reciprocal(k, std::move(x), count);
 }
+
+namespace {
 
 // Raises digits of 1/k, which are followed by nines, if they are one too low; true if they were.
 // Those that are all nines are not: k would be a power of ten.
@@ -171,7 +171,7 @@ bool Raise_If_Too_Low(const NumberText& k, NumberText& digits) {
 }
 
 std::optional<NumberText> Long_Reciprocal(const NumberText& k, std::size_t p) {
-  NumberText digits = Approach(k, p + guard_digits);
+  NumberText digits = Leading_Reciprocal(k, p + guard_digits);
   if (digits.empty()) return std::nullopt;
   const NumberText guards = digits.substr(p);
   digits.resize(p);
@@ -186,39 +186,35 @@ std::optional<NumberText> Long_Reciprocal(const NumberText& k, std::size_t p) {
 }
 
 bool First_Digit_May_Waver(const limbs::Divisor& k, std::size_t length, std::size_t p) {
-  const limbs::Limb behind_first = (limbs::Ten_To(length) - 1) % k.number() + 1;
+  const Limb behind_first = (limbs::Ten_To(length) - 1) % k.number() + 1;
   const std::size_t behind = std::min(Digits_Behind_First(p), limbs::digits);
   return limbs::Wide{behind_first} * limbs::Ten_To(behind) <= k.number();
 }
 
-std::optional<NumberText> Short_Reciprocal(std::string_view significant, std::size_t p) {
-  const limbs::Divisor k(limbs::Read(significant));
-  const std::size_t length = significant.size();
-  const bool is_told = Ends_Beyond_Doubt(length, p) && k.number() > 1
-                           ? !First_Digit_May_Waver(k, length, p)
-                           : Missing_From_Power(k, length, p).has_value();
-  if (!is_told) return std::nullopt;
-  return Divide_Nines(k, length, p);
-}
-
-}  // namespace
-
-std::optional<limbs::Limb> Missing_From_Power(const limbs::Divisor& k, std::size_t length,
-                                              std::size_t p) {
-  Expects(limbs::Count_Digits(k.number()) == length);
-  if (k.number() == 1) return 1;  // nines all along
-  if (First_Digit_May_Waver(k, length, p)) return std::nullopt;
+// 10^s less k times the digits, s = p + N - 1: a number from 1 to k.
+Limb Missing_From_Power(const limbs::Divisor& k, std::size_t length, std::size_t p) {
   const std::size_t nines = p + length - 1;
   Nines_Division division(k, nines);
   for (std::size_t place = 0; place < limbs::Count_For(nines); ++place) division.next();
-  const limbs::Limb missing = division.rest() + 1;
-  if (!Ends_Beyond_Doubt(length, p)) {
-    const double dropped =
-        10 + 2 * static_cast<double>(k.number()) * std::pow(10, 3 - static_cast<double>(p));
-    if (100 * static_cast<double>(missing) < dropped) return std::nullopt;
-  }
-  return missing;
+  return division.rest() + 1;
 }
+
+bool Is_Told(const limbs::Divisor& k, std::size_t length, std::size_t p) {
+  if (k.number() == 1) return true;  // nines all along
+  if (First_Digit_May_Waver(k, length, p)) return false;
+  if (Ends_Beyond_Doubt(length, p)) return true;
+  const double dropped =
+      10 + 2 * static_cast<double>(k.number()) * std::pow(10, 3 - static_cast<double>(p));
+  return 100 * static_cast<double>(Missing_From_Power(k, length, p)) >= dropped;
+}
+
+std::optional<NumberText> Short_Reciprocal(std::string_view significant, std::size_t p) {
+  const limbs::Divisor k(limbs::Read(significant));
+  if (!Is_Told(k, significant.size(), p)) return std::nullopt;
+  return Divide_Nines(k, significant.size(), p);
+}
+
+}  // namespace
 
 std::optional<NumberText> Quick_Reciprocal(const NumberText& k, std::int32_t p) {
   Expects(Are_Significant(k) && k != "1");
@@ -226,7 +222,8 @@ std::optional<NumberText> Quick_Reciprocal(const NumberText& k, std::int32_t p) 
   const auto length = static_cast<std::size_t>(p);
   Require_Memory(4.0 * (static_cast<double>(p) + static_cast<double>(k.size())));
   const auto significant = std::string_view(k).substr(0, k.size() - Count_Trailing_Zeros(k));
-  if (significant.size() <= short_divisor_digits) return Short_Reciprocal(significant, length);
+  // Divisors of up to one limb are divided by directly.
+  if (significant.size() <= limbs::digits) return Short_Reciprocal(significant, length);
   return Long_Reciprocal(NumberText(significant), length);
 }
 

@@ -6,7 +6,6 @@
 #include <optional>
 #include <string_view>
 
-#include "arith/limbs/limb_division.h"
 #include "host/host_value.h"
 
 namespace quorvex {
@@ -19,13 +18,13 @@ namespace quorvex {
 /// 1/k ends, those of a number just below it. The proof and its conditions stand with the code.
 std::optional<NumberText> Quick_Reciprocal(const NumberText& k, std::int32_t p);
 
-/// Divisors of up to one limb are divided by directly.
-inline constexpr std::size_t short_divisor_digits = limbs::digits;
+/// The first `count` digits of 1/k, at most three units of the last one too low and not too high,
+/// of a k without zeros at either end. That of a row of nines may begin with a 0. Empty where a
+/// product can't be formed.
+NumberText Leading_Reciprocal(std::string_view k, std::size_t count);
 
-/// For such a divisor of `length` digits: 10^s less k times those digits, s = p + length - 1, a
-/// number from 1 to k; nothing where the digits can't be told.
-std::optional<limbs::Limb> Missing_From_Power(const limbs::Divisor& k, std::size_t length,
-                                              std::size_t p);
+/// The same from such digits that are known, of at least half so many and two more.
+NumberText Refine_Reciprocal(std::string_view k, NumberText known, std::size_t count);
 
 /// From this count of digits on the proof holds.
 inline constexpr std::int32_t least_quick_precision = 8;

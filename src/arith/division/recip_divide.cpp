@@ -4,11 +4,11 @@
 #include <cmath>
 #include <compare>
 #include <limits>
-#include <optional>
 #include <string>
 #include <utility>
 
 #include "arith/digits/multiply_digits.h"
+#include "arith/division/long_quotient.h"
 #include "arith/division/quick_quotient.h"
 #include "expects.h"
 #include "host/conversions.h"
@@ -53,15 +53,7 @@ bool Is_Answered_At_Once(std::string_view X, std::string_view Y, Decimal& quotie
 enum class Operands { digits, texts };
 
 // The first `p` digits of the dividend times `p` digits of the divisor's reciprocal.
-Decimal Multiply_By_Reciprocal(std::string_view X, std::string_view Y, Operands operands,
-                               std::int32_t p) {
-  if (operands == Operands::digits && Can_Multiply()) {
-    auto quick = Quick_Quotient(X, Y, p);
-    if (quick) {
-      quick->power_of_ten += Power_Of_Reciprocal(Y.size(), p);
-      return std::move(*quick);
-    }
-  }
+Decimal Multiply_By_Reciprocal(std::string_view X, std::string_view Y, std::int32_t p) {
   const type_Division_Recip inverse = myInverse5(NumberText(Y), p);
   NumberText product = Multiply_Digits(NumberText(X), inverse.digits);
   const std::size_t kept = std::min(product.size(), static_cast<std::size_t>(std::max(p, 0)));
@@ -74,7 +66,11 @@ Decimal Multiply_By_Reciprocal(std::string_view X, std::string_view Y, Operands 
 void Divide(std::string_view X, std::string_view Y, Operands operands, std::int32_t sd,
             Decimal& quotient) {
   const std::int32_t p = In_32_Bits(std::int64_t{sd} + guard_digits);
-  Decimal product = Multiply_By_Reciprocal(X, Y, operands, p);
+  const bool may_be_quick = operands == Operands::digits && Can_Multiply();
+  if (may_be_quick && (Quick_Quotient(X, Y, sd, quotient) || Long_Quotient(X, Y, sd, quotient))) {
+    return;
+  }
+  Decimal product = Multiply_By_Reciprocal(X, Y, p);
   quotient.digits = std::move(product.digits);
   const std::size_t before = quotient.digits.size();
   const auto rounded_away = static_cast<std::int64_t>(before) - sd;

@@ -58,6 +58,9 @@ inline std::size_t Count_Digits(Limb limb) {
   return guess + static_cast<std::size_t>(limb >= powers_of_ten[guess]);
 }
 
+/// Writes so many digits, from one to eighteen, of a number that has no more.
+void Write_Few(char* out, Limb limb, std::size_t count);
+
 /// A whole number into `Count_For` its digits limbs.
 void Read_Number(std::string_view text, Limb* out);
 
@@ -85,7 +88,7 @@ class Scratch {
   Limb* data() { return many_.empty() ? few_.data() : many_.data(); }
 
  private:
-  std::array<Limb, 128> few_;
+  std::array<Limb, 192> few_;  // three rows of a thousand digits
   std::vector<Limb> many_;
 };
 

@@ -4,18 +4,25 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "arith/digits/add_digits.h"
 #include "arith/digits/multiply_digits.h"
+#include "arith/digits/subtract_digits.h"
+#include "arith/division/long_quotient.h"
 #include "arith/division/quick_quotient.h"
 #include "arith/division/quick_reciprocal.h"
 #include "arith/division/recip_divide.h"
+#include "arith/division/told_rounding.h"
 #include "support/failures.h"
 #include "support/locales.h"
 #include "support/surroundings.h"
 #include "support/without_libraries.h"
+#include "text/round_to_sd.h"
 
 namespace quorvex {
 namespace {
@@ -134,43 +141,130 @@ TEST(Reciprocal, EndsInNinesWhereTheFractionEnds) {
   reciprocals.expect_most_found();
 }
 
-// Where the first digits of a dividend times a reciprocal are found without the product, they are
-// its first digits.
+// The quotient as it is defined, by the iteration.
+Decimal Defined_Quotient(const NumberText& X, const NumberText& k, std::int32_t sd) {
+  const std::int32_t p = sd + 3;
+  const type_Division_Recip inverse = Iterated_Reciprocal(k, p);
+  NumberText product = Multiply_Digits(X, inverse.digits);
+  std::int64_t power = inverse.powerOfTen + static_cast<std::int64_t>(product.size()) - sd;
+  product.resize(static_cast<std::size_t>(p));
+  Round_Digits(product, sd);
+  if (product.size() > static_cast<std::size_t>(p)) ++power;
+  product.resize(static_cast<std::size_t>(sd));
+  return {product, power};
+}
+
+// Where quotients are found without all of the reciprocal, they are the defined ones.
+class Told_Quotients {
+ public:
+  using Routine = bool (*)(std::string_view, std::string_view, std::int32_t, Decimal&);
+
+  Told_Quotients(Routine routine, unsigned seed) : routine_(routine), random_(seed) {}
+
+  std::mt19937& random() { return random_; }
+  std::size_t any(std::size_t most) { return 1 + random_() % most; }
+
+  void check(const NumberText& X, const NumberText& k, std::size_t digits) {
+    if (k == "1") return;
+    const auto sd = static_cast<std::int32_t>(digits);
+    Decimal told;
+    ++asked_;
+    if (!routine_(X, k, sd, told)) return;
+    ++found_;
+    const Decimal defined = Defined_Quotient(X, k, sd);
+    ASSERT_EQ(told.digits, defined.digits) << X << " by " << k << " to " << sd;
+    ASSERT_EQ(told.power_of_ten, defined.power_of_ten) << X << " by " << k << " to " << sd;
+  }
+  void expect_most_found() const {
+    EXPECT_GT(found_ * 10, asked_ * 8) << found_ << " of " << asked_;
+  }
+
+ private:
+  Routine routine_;
+  std::mt19937 random_;
+  int asked_ = 0;
+  int found_ = 0;
+};
+
 TEST(Reciprocal, QuickQuotientsAreProductsWithTheIteration) {
-  std::mt19937 random(21);
-  int found = 0;
-  const auto check = [&](const NumberText& X, const NumberText& k, std::int32_t p) {
-    const auto quick = Quick_Quotient(X, k, p);
-    if (!quick) return;
-    ++found;
-    NumberText product = Multiply_Digits(X, Iterated_Reciprocal(k, p).digits);
-    ASSERT_EQ(quick->digits.size() + static_cast<std::size_t>(quick->power_of_ten), product.size())
-        << X << " by " << k << " to " << p;
-    product.resize(std::min(product.size(), static_cast<std::size_t>(p)));
-    ASSERT_EQ(quick->digits, product) << X << " by " << k << " to " << p;
+  Told_Quotients quotients(Quick_Quotient, 21);
+  std::mt19937& random = quotients.random();
+  const auto digits = [&](std::size_t longest) {
+    return Odd_Digits(random, quotients.any(longest));
   };
-  for (int round = 0; round < 8000; ++round) {
-    const std::size_t longest_divisor = round % 2 == 0 ? 18 : 130;
-    NumberText k = Odd_Digits(random, 1 + random() % longest_divisor);
+  for (int round = 0; round < 12000; ++round) {
+    const std::size_t longest = round % 3 == 0 ? 18 : 130;
+    NumberText k = digits(longest);
     if (round % 5 == 0) k.append(random() % 4, '0');
-    if (k == "1") continue;
-    check(Odd_Digits(random, 1 + random() % 130), k, static_cast<std::int32_t>(8 + random() % 122));
+    quotients.check(digits(longest), k, 5 + random() % longest);
   }
-  for (int round = 0; round < 4000; ++round) {
-    const NumberText k = Odd_Digits(random, 1 + random() % 18);
-    if (k == "1") continue;
-    check(Odd_Digits(random, 1 + random() % 19), k, static_cast<std::int32_t>(8 + random() % 12));
+  for (int round = 0; round < 60; ++round) {
+    quotients.check(digits(2000), digits(2000), 5 + random() % 1000);
+    quotients.check(digits(2000), digits(17), 5 + random() % 4000);
   }
-  for (int round = 0; round < 40;
-       ++round) {  // reciprocals that end: two to the 64th, five to the 27th
-    const NumberText k = round % 2 == 0 ? "18446744073709551616" : "7450580596923828125";
-    check(Odd_Digits(random, 1 + random() % 120), k, static_cast<std::int32_t>(50 + random() % 70));
+  quotients.expect_most_found();
+}
+
+// Quotients whose digits behind the limit are those where rounding changes, or a trifle from there.
+void Check_Borders(Told_Quotients& quotients, std::size_t least, std::size_t most, int rounds) {
+  const std::vector<NumberText> ends = {"",    "0",   "001", "01",  "1",   "4999", "5",   "50",
+                                        "500", "501", "509", "51",  "699", "7",    "701", "949",
+                                        "95",  "951", "959", "960", "961", "99",   "999"};
+  std::mt19937& random = quotients.random();
+  for (int round = 0; round < rounds; ++round) {
+    const std::size_t sd = least + random() % (most - least);
+    NumberText quotient = Odd_Digits(random, sd) + ends[random() % ends.size()];
+    if (round % 2 == 0) quotient.append(random() % 20, '0');
+    const NumberText k = Odd_Digits(random, quotients.any(most));
+    NumberText X = Multiply_Digits(quotient, k);
+    if (round % 3 == 0) X = Add_Decimals({X, {}}, {"1", {}});
+    if (round % 3 == 1) X = Subtract_Decimals({X, {}}, {"1", {}}).Difference;
+    if (X == "0") continue;
+    quotients.check(X, k, sd);
   }
-  for (int round = 0; round < 40; ++round) {
-    check(Odd_Digits(random, 1 + random() % 2000), Odd_Digits(random, 2 + random() % 17),
-          static_cast<std::int32_t>(8 + random() % 1000));
+}
+
+TEST(Reciprocal, QuickQuotientsRoundAsTheirDefinition) {
+  Told_Quotients quotients(Quick_Quotient, 22);
+  Check_Borders(quotients, 5, 65, 12000);
+  quotients.expect_most_found();
+}
+
+TEST(Reciprocal, LongQuotientsAreProductsWithTheIteration) {
+  Told_Quotients quotients(Long_Quotient, 24);
+  std::mt19937& random = quotients.random();
+  for (int round = 0; round < 1200; ++round) {
+    const std::size_t longest = round % 100 == 0 ? 3000 : 300;
+    const auto digits = [&] { return Odd_Digits(random, quotients.any(longest)); };
+    NumberText k = digits();
+    if (round % 5 == 0) k.append(random() % 4, '0');
+    quotients.check(digits(), k, 100 + random() % longest);
   }
-  EXPECT_GT(found, 5000);
+  Check_Borders(quotients, 100, 200, 1200);
+  quotients.expect_most_found();
+}
+
+// What is told of a range of digits behind the limit holds for all of them.
+TEST(ToldRounding, IsThatOfAllNumbersBetween) {
+  std::mt19937 random(23);
+  const auto is_raised = [](int guard) {
+    NumberText digits = std::to_string(700'000 + guard);  // borrowed from where below 0
+    Round_Digits(digits, 3);
+    return digits.substr(0, 3) == "701";
+  };
+  int told = 0;
+  for (int round = 0; round < 20000; ++round) {
+    const double low = static_cast<double>(random() % 104'000) / 100 - 40;
+    const double high = std::min(low + static_cast<double>(random() % 1000) / 100, 999.99);
+    if (high < low) continue;
+    const Told_Rounding rounding = Round_Between(low, high);
+    if (rounding == Told_Rounding::in_doubt) continue;
+    ++told;
+    for (double guard = std::floor(low); guard <= high; ++guard) {
+      ASSERT_EQ(is_raised(static_cast<int>(guard)), rounding == Told_Rounding::is_raised) << guard;
+    }
+  }
+  EXPECT_GT(told, 10000);
 }
 
 TEST(RecipDivide, AnswersAsToldByItsCases) {

@@ -4,11 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
+#include "arith/digits/add_digits.h"
 #include "arith/digits/multiply_digits.h"
-#include "arith/division/limb_reciprocal.h"
+#include "arith/division/quotient_limbs.h"
 #include "arith/limbs/limb_division.h"
 #include "text/primitives.h"
 
@@ -75,33 +77,47 @@ TEST(Limbs, MultipliesFullLimbs) {
   }
 }
 
-// The quotient is the one for which q k <= base^n base^(count-1) < (q + 1) k.
-TEST(Limbs, DividesByManyIntoOne) {
-  const auto check = [](const std::vector<Limb>& k) {
-    const std::size_t n = k.size();
-    const std::size_t count = n + 2;
-    std::vector<Limb> quotient(count);
-    std::vector<std::int64_t> rest(n);
-    limbs::Divide_Into_One(k.data(), n, quotient.data(), count, rest.data());
-    const NumberText divisor = Text_Of(k);
-    std::vector<Limb> q(quotient.rbegin(), quotient.rend());
-    const std::size_t power = (n + count - 1) * limbs::digits;  // a 1 and so many zeros
-    const NumberText product = Multiply_Digits(Text_Of(q), divisor);
-    EXPECT_TRUE(product.size() <= power || product == "1" + NumberText(power, '0')) << divisor;
-    for (Limb& limb : q) {
-      if (++limb < limbs::base) break;
-      limb = 0;
-    }
-    EXPECT_GT(Multiply_Digits(Text_Of(q), divisor).size(), power) << divisor;
+// q / base^count is below x / d, and (q + 2.2) / base^count above.
+TEST(Limbs, DividesFractions) {
+  const auto check = [](const std::vector<Limb>& x, const std::vector<Limb>& d, std::size_t count) {
+    std::vector<Limb> q(count);
+    limbs::Divide_Fractions({x.data(), x.size()}, {d.data(), d.size()}, count, q.data());
+    const auto text = [](std::vector<Limb> highest_first) {
+      std::reverse(highest_first.begin(), highest_first.end());
+      return Text_Of(highest_first);
+    };
+    const auto padded = [](const NumberText& digits, std::size_t length) {
+      return NumberText(length - digits.size(), '0') + digits;
+    };
+    // All three as multiples of base^-(count + size) / 10.
+    const std::size_t size = std::max(x.size(), d.size());
+    const std::size_t length = (count + size + 1) * limbs::digits;
+    const NumberText divisor = text(d) + NumberText((size - d.size()) * limbs::digits + 1, '0');
+    const NumberText dividend =
+        text(x) + NumberText((count + size - x.size()) * limbs::digits + 1, '0');
+    const NumberText low = Multiply_Digits(text(q), divisor);
+    const NumberText owed =
+        Multiply_Digits(divisor.substr(0, divisor.size() - 1), NumberText("22"));
+    EXPECT_LE(padded(low, length), padded(dividend, length)) << divisor;
+    EXPECT_GT(padded(Add_Decimals({low, {}}, {owed, {}}), length), padded(dividend, length))
+        << divisor;
   };
   const Limb least = limbs::base / 10;
-  for (std::size_t n = 2; n <= 15; ++n) {
-    for (const Limb top : {least, least + 1, 2 * least, 5 * least, limbs::base - 1}) {
-      for (const Limb below : edges) {
-        std::vector<Limb> k(n, below);
-        k.back() = top;
-        k.front() = k.front() == 0 ? 1 : k.front();  // no power of ten
-        check(k);
+  for (const std::size_t n : {1U, 2U, 3U, 4U, 5U, 9U, 40U, 150U}) {
+    for (const std::size_t count : {1U, 2U, 3U, 5U, 8U, 41U, 150U, 300U}) {
+      if (n > count + 1) continue;  // the rest of it would not be looked at
+      for (const Limb top : {least, least + 1, 2 * least, 5 * least, limbs::base - 1}) {
+        for (const Limb below : edges) {
+          std::vector<Limb> d = {top};
+          d.resize(n, below);
+          std::vector<Limb> x = {least - 1, below};
+          check(x, d, count);
+          x = d;  // a quotient of nines
+          for (std::size_t place = n; --x[place - 1] >= limbs::base;) {
+            x[--place] = limbs::base - 1;
+          }
+          check(x, d, count);
+        }
       }
     }
   }
