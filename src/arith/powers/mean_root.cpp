@@ -41,6 +41,12 @@ class Stalls {
     return stalls ? ++count_ : 0;
   }
 
+  /// After so many more rounds, each of which had a smaller difference than the one before.
+  void pass(int rounds, const Step_Number& last_difference) {
+    seen_ += rounds;
+    last_ = last_difference;
+  }
+
  private:
   int seen_ = 0;
   int count_ = 0;
@@ -109,6 +115,8 @@ class Mean_Iteration {
 
   Decimal iterate(const Step_Number& start, Stalls stalls) const;
   bool take_round(Round_Values& values) const;
+  bool is_far_above_root(const Step_Number& mean) const;
+  void halve_while_far(Step_Number& mean, Stalls& stalls) const;
 
   const Step_Number& radicand_;
   double maxSD_;
@@ -133,6 +141,31 @@ bool Mean_Iteration::take_round(Round_Values& values) const {
   return !values.mean.is_token();
 }
 
+// Whether the quotient is less than a thousandth of the last digit that a sum with the value keeps.
+bool Mean_Iteration::is_far_above_root(const Step_Number& mean) const {
+  constexpr double beside_digits = 6;
+  return static_cast<double>(radicand_.leading_power()) + steps_.limit() + beside_digits <=
+         2 * static_cast<double>(mean.leading_power());
+}
+
+// Next to such a value, which is a mean itself and so not longer than a sum, the quotient is
+// nothing: the next mean is the half, and the difference of quotient and mean is the mean. Neither
+// do the two agree, since what the mean begins with are zeros of the quotient, nor does a round
+// stall.
+void Mean_Iteration::halve_while_far(Step_Number& mean, Stalls& stalls) const {
+  constexpr int rounds_between_yields = 16;
+  if (!radicand_.is_in_limbs() || !mean.is_in_limbs() || mean.is_negative()) return;
+  const Step_Number two(2);
+  while (is_far_above_root(mean)) {
+    Yield();
+    int rounds = 0;
+    for (; rounds < rounds_between_yields && is_far_above_root(mean); ++rounds) {
+      steps_.divide(mean, two);
+    }
+    stalls.pass(rounds, mean);
+  }
+}
+
 Decimal Mean_Iteration::iterate(const Step_Number& start, Stalls stalls) const {
   Round_Values values{Step_Number(0), start};
   for (;;) {
@@ -149,6 +182,7 @@ Decimal Mean_Iteration::iterate(const Step_Number& start, Stalls stalls) const {
     const Step_Number difference = Distance(values.quotient, values.mean, steps_);
     if (difference.is_token()) return Decimal_Token(difference.text());
     const int count = stalls.see(difference);
+    if (count == 0) halve_while_far(values.mean, stalls);
     if (count < stalls_before_end) continue;
     // Neighbours that never meet have the root between them.
     if (Is_Below_Digits(difference, values.quotient, maxSD_ - 1)) {

@@ -132,10 +132,13 @@ Decimal Any_Power(const Decimal& base, const Exponent& exponent, double maxSD,
   return Positive_Power(Reciprocal(base, limit), Opposite(exponent), maxSD, limit, depth);
 }
 
-// The power as `Do_Operation` gives it at the limit.
+// The power as `Do_Operation` gives it at the limit. Its guard digits are as many as the base is
+// long, so that the square of a number that is rounded itself is rounded but once.
 template <typename Exponent>
 Decimal Power_At(const Decimal& base, const Exponent& exponent, double limit, int depth) {
   if (base.is_token()) return base;
+  const bool is_rounded = static_cast<double>(base.digits.size()) <= Digits_Of_Result(limit);
+  if (is_rounded && Is(exponent, '2')) return Product(base, base, limit);
   const double working_digits = static_cast<double>(Plain_Length(base)) + Length(exponent);
   return Rounded(Any_Power(base, exponent, With_Guard_Digit(limit), working_digits, depth + 1),
                  limit);
@@ -164,7 +167,7 @@ Decimal Integer_Power(const Decimal& base, const Exponent& n, double maxSD, int 
 // Products of short numbers cost less as limbs, where no power of ten runs over: there is room for
 // any number between the steps then.
 bool Takes_Limbs(const Decimal& base, Word exponent, double maxSD) {
-  constexpr double most_digits = 330;
+  constexpr double most_digits = 200;
   constexpr double farthest_power = 1e12;
   if (base.is_token() || !Is_Split(exponent) || !(maxSD >= 1 && maxSD <= most_digits)) return false;
   const auto length = static_cast<double>(base.digits.size());

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "arith/digits/multiply_digits.h"
+#include "arith/powers/inverse_root.h"
 #include "arith/powers/leading_digits.h"
 #include "expects.h"
 #include "text/guard_digits.h"
@@ -151,17 +152,23 @@ std::optional<Root_Neighbourhood> Root_Neighbourhood::Of(const Step_Number& radi
 
 Root_Neighbourhood::Root_Neighbourhood(const Number& radicand, std::size_t limit)
     : digits_(Digits_Of_Quotient(limit)),
-      found_(Find_Root(radicand, 2, digits_ + beyond_quotient)) {
-  const Leading_Digits root = Leading_Digits_Of(found_.root);
+      radicand_(radicand),
+      root_(Find_Square_Root(radicand, digits_ + beyond_quotient)) {
+  const Leading_Digits root = Leading_Digits_Of(root_);
   last_ = root.power + 1 - static_cast<std::int64_t>(digits_);
   most_lost_ = root.mantissa * root.mantissa / 10;
 }
 
 bool Root_Neighbourhood::is_told() const {
-  const double root = Leading_Digits_Of(found_.root).mantissa;
-  const double inverse = Leading_Digits_Of(found_.inverse).mantissa;
+  const double root = Leading_Digits_Of(root_).mantissa;
+  const double inverse = 10 / root;
   return root > 1 + near_power_of_ten && root < 10 - near_power_of_ten &&
          inverse - std::floor(inverse) > least_behind_first;
+}
+
+const Number& Root_Neighbourhood::inverse() const {
+  if (!inverse_) inverse_ = Find_Inverse_Square_Root(radicand_, digits_ + beyond_quotient);
+  return *inverse_;
 }
 
 // How far a value is from the root, as the quotient and the reciprocal need it.
@@ -175,16 +182,15 @@ struct Root_Neighbourhood::Offset {
 std::optional<Root_Neighbourhood::Offset> Root_Neighbourhood::offset_of(const Number& value) const {
   const std::size_t p = digits_ + guard_digits;
   Offset offset;
-  offset.e = Sum(value, found_.root, true, p + beyond_quotient);
+  offset.e = Sum(value, root_, true, p + beyond_quotient);
   if (offset.e.is_zero()) return offset;
-  const std::int64_t distance =
-      limbs::Leading_Power(found_.root) - limbs::Leading_Power(offset.e) - 1;
+  const std::int64_t distance = limbs::Leading_Power(root_) - limbs::Leading_Power(offset.e) - 1;
   const auto reach = static_cast<std::int64_t>(p + 9);
   if (4 * distance < reach) return std::nullopt;
   const auto all = static_cast<std::int64_t>(p + beyond_quotient);
   offset.digits = static_cast<std::size_t>(std::max<std::int64_t>(all - distance, 1));
   if (2 * distance >= reach) return offset;
-  offset.w = Product(offset.e, found_.inverse, offset.digits);
+  offset.w = Product(offset.e, inverse(), offset.digits);
   const Number one = Short_Number(1, 0);
   const Number rest =
       Product(offset.w, Sum(one, offset.w, !offset.w.negative, offset.digits), offset.digits);
@@ -196,12 +202,12 @@ std::optional<Root_Neighbourhood::Offset> Root_Neighbourhood::offset_of(const Nu
 double Root_Neighbourhood::lost_by_inverse(const Offset& offset) const {
   constexpr double least = 1e-6;
   const std::size_t p = digits_ + guard_digits;
-  const std::int64_t last = limbs::Leading_Power(found_.inverse) + 1 - static_cast<std::int64_t>(p);
-  const Number w = offset.g ? offset.w : Product(offset.e, found_.inverse, offset.digits);
-  Number correction = Product(w, found_.inverse, offset.digits);
+  const std::int64_t last = limbs::Leading_Power(inverse()) + 1 - static_cast<std::int64_t>(p);
+  const Number w = offset.g ? offset.w : Product(offset.e, inverse(), offset.digits);
+  Number correction = Product(w, inverse(), offset.digits);
   if (offset.g) limbs::Multiply(correction, *offset.g, offset.digits, correction);
   const double part =
-      Part_Behind(Sum(found_.inverse, correction, !correction.negative, p + beyond_quotient), last);
+      Part_Behind(Sum(inverse(), correction, !correction.negative, p + beyond_quotient), last);
   return part > least && part < 1 - least ? part : -1;
 }
 
@@ -210,8 +216,7 @@ std::optional<Step_Number> Root_Neighbourhood::quotient(const Step_Number& value
   const std::optional<Offset> offset = offset_of(value.in_limbs());
   if (!offset) return std::nullopt;
   const Number less = offset->g ? Product(offset->e, *offset->g, offset->digits) : offset->e;
-  Number quotient =
-      Sum(found_.root, less, !less.negative, digits_ + guard_digits + beyond_quotient);
+  Number quotient = Sum(root_, less, !less.negative, digits_ + guard_digits + beyond_quotient);
   const double guards = Part_Behind(quotient, last_) * guard_units;
   Raise raise = Raise_Between(guards - most_lost_ - safe, guards + safe);
   if (raise == Raise::in_doubt) {
@@ -243,16 +248,16 @@ std::optional<Step_Number> Root_Neighbourhood::quotient(const Step_Number& value
 //    closer together than the one before.
 std::optional<Later_Values> Root_Neighbourhood::later_values(const Step_Number& value) const {
   if (!value.is_in_limbs() || value.is_zero() || value.is_negative()) return std::nullopt;
-  const std::optional<Far_Value> reached = Way_To_Root(value.in_limbs(), found_.root, digits_);
+  const std::optional<Far_Value> reached = Way_To_Root(value.in_limbs(), root_, digits_);
   if (!reached) return std::nullopt;
-  const double root = Leading_Digits_Of(found_.root).mantissa;
+  const double root = Leading_Digits_Of(root_).mantissa;
   const Leading_Digits square =
       Scaled(reached->e.mantissa * reached->e.mantissa * root, 2 * reached->e.power);
   const auto p = static_cast<std::int64_t>(digits_ + guard_digits);
   const double added = Leading_Digits{square.mantissa, square.power + p - 1}.number();
   const double slack = 1e-3 + 2 * added * reached->error;
 
-  const Number twice = Sum(found_.root, found_.root, false, digits_ + beyond_quotient);
+  const Number twice = Sum(root_, root_, false, digits_ + beyond_quotient);
   const double guards = Part_Behind(twice, last_) * guard_units;
   const double units = std::floor((guards + added) / guard_units);
   const double left = guards + added - units * guard_units;

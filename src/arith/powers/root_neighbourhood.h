@@ -8,7 +8,6 @@
 
 #include "arith/limbs/limb_number.h"
 #include "arith/operation/steps.h"
-#include "arith/powers/inverse_root.h"
 
 namespace quorvex {
 
@@ -45,13 +44,16 @@ class Root_Neighbourhood {
   struct Offset;
 
   bool is_told() const;
+  const limbs::Number& inverse() const;
   std::optional<Offset> offset_of(const limbs::Number& value) const;
   double lost_by_inverse(const Offset& offset) const;
   Step_Number half_of(const limbs::Number& twice, double to_sum) const;
 
   std::size_t digits_;  // that a quotient keeps
   std::int64_t last_;   // the power of ten of the last of them
-  Root_And_Inverse found_;
+  limbs::Number radicand_;
+  limbs::Number root_;
+  mutable std::optional<limbs::Number> inverse_;  // found where it is asked for
   double most_lost_ = 0;  // of a product by a reciprocal that is cut, in thousandths of a unit
 };
 
