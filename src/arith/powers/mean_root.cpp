@@ -94,6 +94,7 @@ class Mean_Iteration {
 
   Decimal root(const Step_Number& start) const {
     if (near_) {
+      if (auto end = near_->end(start, maxSD_)) return *std::move(end);
       if (const auto later = near_->later_values(start)) {
         if (auto root = common_root(*later)) return *std::move(root);
       }

@@ -8,6 +8,7 @@
 
 #include "arith/limbs/limb_number.h"
 #include "arith/operation/steps.h"
+#include "text/decimal.h"
 
 namespace quorvex {
 
@@ -27,6 +28,9 @@ class Root_Neighbourhood {
 
   /// Nothing for radicands and limits that this is not for.
   static std::optional<Root_Neighbourhood> Of(const Step_Number& radicand, double limit);
+
+  /// What the iteration from `start` ends with at a limit of `maxSD`, told by `Mean_End`.
+  std::optional<Decimal> end(const Step_Number& start, double maxSD) const;
 
   /// The quotient of the radicand by a value near its root.
   std::optional<Step_Number> quotient(const Step_Number& value) const;
