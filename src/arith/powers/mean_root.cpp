@@ -1,5 +1,8 @@
 #include "arith/powers/mean_root.h"
 
+#include <cmath>
+#include <compare>
+#include <cstddef>
 #include <optional>
 #include <utility>
 
@@ -73,10 +76,15 @@ Decimal Token_Of_Round(const Round_Values& values) {
   return Decimal_Token((values.quotient.is_token() ? values.quotient : values.mean).text());
 }
 
-// Whether the square is the radicand: nothing is left to be found then.
-bool Is_Square_Of(const Step_Number& radicand, const Step_Number& root, const Steps& steps) {
-  if (!radicand.is_in_limbs() || !root.is_in_limbs()) return false;
-  return Is_Equal(steps.product(root, root), radicand);
+// Whether the square is the radicand: nothing is left to be found then. Estimates are short.
+bool Is_Square_Of(const Step_Number& radicand, const Step_Number& estimate) {
+  constexpr std::size_t most_limbs = 4;
+  if (!radicand.is_in_limbs() || !estimate.is_in_limbs()) return false;
+  const limbs::Number& root = estimate.in_limbs();
+  if (radicand.in_limbs().count() > most_limbs || root.count() > most_limbs / 2) return false;
+  limbs::Number square;
+  limbs::Multiply(root, root, most_limbs * limbs::digits, square);
+  return std::is_eq(limbs::Compare_Magnitudes(square, radicand.in_limbs()));
 }
 
 bool Is_Same(const Decimal& a, const Decimal& b) {
@@ -87,7 +95,7 @@ class Mean_Iteration {
  public:
   Mean_Iteration(const Step_Number& radicand, const Step_Number& start, double maxSD)
       : radicand_(radicand), maxSD_(maxSD), steps_(With_Guard_Digit(maxSD)) {
-    if (Root_Neighbourhood::Is_For(steps_.limit()) && !Is_Square_Of(radicand, start, steps_)) {
+    if (Root_Neighbourhood::Is_For(steps_.limit()) && !Is_Square_Of(radicand, start)) {
       near_ = Root_Neighbourhood::Of(radicand, steps_.limit());
     }
   }
@@ -155,7 +163,9 @@ bool Mean_Iteration::is_far_above_root(const Step_Number& mean) const {
 // stall.
 void Mean_Iteration::halve_while_far(Step_Number& mean, Stalls& stalls) const {
   constexpr int rounds_between_yields = 16;
-  if (!radicand_.is_in_limbs() || !mean.is_in_limbs() || mean.is_negative()) return;
+  const bool is_in_limbs = radicand_.is_in_limbs() && mean.is_in_limbs();
+  const bool is_whole_limit = steps_.limit() >= 1 && std::trunc(steps_.limit()) == steps_.limit();
+  if (!is_in_limbs || !is_whole_limit || mean.is_negative()) return;
   const Step_Number two(2);
   while (is_far_above_root(mean)) {
     Yield();
