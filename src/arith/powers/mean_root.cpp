@@ -3,6 +3,7 @@
 #include <cmath>
 #include <compare>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <utility>
 
@@ -85,6 +86,19 @@ bool Is_Square_Of(const Step_Number& radicand, const Step_Number& estimate) {
   limbs::Number square;
   limbs::Multiply(root, root, most_limbs * limbs::digits, square);
   return std::is_eq(limbs::Compare_Magnitudes(square, radicand.in_limbs()));
+}
+
+// The root of an even power of ten, which the iteration always comes to: a value next to it, s + N
+// u with the unit u of its last digit, has the quotient s - N u, of one whole digit less or of
+// nines, and so doesn't agree with it; their mean is s, and so is the quotient of that.
+std::optional<Decimal> Root_Of_Power_Of_Ten(const Step_Number& radicand) {
+  if (!radicand.is_in_limbs() || radicand.is_zero() || radicand.is_negative()) return std::nullopt;
+  const limbs::Number& number = radicand.in_limbs();
+  const std::int64_t power = radicand.leading_power();
+  if (number.count() > 1 || power % 2 != 0) return std::nullopt;
+  const limbs::Limb first = number.data()[0];
+  if (first != limbs::Ten_To(limbs::Count_Digits(first) - 1)) return std::nullopt;
+  return Decimal{"1", power / 2};
 }
 
 bool Is_Same(const Decimal& a, const Decimal& b) {
@@ -208,6 +222,9 @@ Decimal Mean_Iteration::iterate(const Step_Number& start, Stalls stalls) const {
 }  // namespace
 
 Decimal Mean_Root(const Step_Number& radicand, const Step_Number& start, double maxSD) {
+  if (Root_Neighbourhood::Is_For(With_Guard_Digit(maxSD))) {
+    if (auto root = Root_Of_Power_Of_Ten(radicand)) return *std::move(root);
+  }
   return Mean_Iteration(radicand, start, maxSD).root(start);
 }
 
