@@ -114,6 +114,7 @@ class Root_Digits {
     rest_[count_ + 1] = static_cast<Signed_Limb>(radicand_.next());
     rest_[count_ + 2] = static_cast<Signed_Limb>(radicand_.next());
     const Limb q = guess();
+    const Limb twice = 2 * q;
     root_[count_] = q;
     ++count_;
     Wide column = Wide{q} * q;
@@ -123,7 +124,7 @@ class Root_Digits {
       const Signed_Limb borrow = less < 0 ? 1 : 0;
       rest_[place] = less + borrow * signed_base;
       column += static_cast<Limb>(borrow);
-      if (place > 2) column += Wide{2 * q} * root_[place - 3];
+      if (place > 2) column += Wide{twice} * root_[place - 3];
     }
     const Signed_Limb high =
         rest_[0] * signed_base + rest_[1] - static_cast<Signed_Limb>(static_cast<Limb>(column));

@@ -106,7 +106,7 @@ Short_Split Split(Word n, double /*maxSD*/) {
 // The product of one to three factors. The first one is multiplied by 1, which rounds it.
 Decimal Multiply_Out(const Decimal& base, int factors, double limit) {
   Expects(factors >= 1 && factors <= 3);
-  const Decimal first = Rounded(base, limit);
+  Decimal first = Rounded(base, limit);
   if (factors == 1) return first;
   Decimal product = Product(first, base, limit);
   return factors == 2 ? product : Product(product, base, limit);
