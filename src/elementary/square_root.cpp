@@ -39,7 +39,7 @@ NumberText Sqrt_Function(const HostValue& num, Radicand radicand, const Format_A
   if (radicand == Radicand::multiple_of_pi) {
     steps.multiply(number, Step_Number(To_Text(Pi_Digits(limit))));
   }
-  return Format_Result(Read_Decimal(Root(number, Step_Number(2), steps)), options, false);
+  return Format_Result(Root_Digits(number, Step_Number(2), steps), options, false);
 }
 
 }  // namespace quorvex

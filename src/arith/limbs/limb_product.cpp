@@ -106,14 +106,92 @@ void Multiply_Few(Limb* out, const Number& a, const Number& b, std::size_t first
   out[count - 1] = sum.next({});
 }
 
+// Columns of numbers of equal length, which is known: each has its own products alone.
+template <std::size_t place, std::size_t... i>
+Wide Column_Of(const Limb* x, const Limb* y, std::index_sequence<i...> /*products*/) {
+  return (... + (Wide{x[place - i]} * y[i]));
+}
+
+template <std::size_t count, std::size_t place>
+Wide Equal_Column(const Limb* x, const Limb* y) {
+  if constexpr (place < count) {
+    return Column_Of<place>(x, y, std::make_index_sequence<place + 1>());
+  } else {
+    constexpr std::size_t first = place - count + 1;
+    return Column_Of<count - 1>(x, y + first, std::make_index_sequence<count - first>());
+  }
+}
+
+// Of a square, products of two different limbs stand in their column twice.
+template <std::size_t count, std::size_t place>
+Wide Square_Column(const Limb* x) {
+  constexpr std::size_t first = place < count ? 0 : place - count + 1;
+  constexpr std::size_t pairs = (place - 2 * first + 1) / 2;
+  Wide column = 0;
+  if constexpr (pairs > 0) {
+    column =
+        2 * Column_Of<place - 2 * first>(x + first, x + first, std::make_index_sequence<pairs>());
+  }
+  if constexpr (place % 2 == 0) column += Wide{x[place / 2]} * x[place / 2];
+  return column;
+}
+
+template <std::size_t count, std::size_t... place>
+void Square_Few(Limb* out, const Limb* x, std::index_sequence<place...> /*columns*/) {
+  Column_Sum sum;
+  ((out[place] = sum.next(Part_Few(Square_Column<count, place>(x)))), ...);
+  out[2 * count - 1] = sum.next({});
+}
+
+template <std::size_t count, std::size_t... place>
+void Multiply_Equal(Limb* out, const Limb* x, const Limb* y,
+                    std::index_sequence<place...> /*columns*/) {
+  Column_Sum sum;
+  ((out[place] = sum.next(Part_Few(Equal_Column<count, place>(x, y)))), ...);
+  out[2 * count - 1] = sum.next({});
+}
+
+template <std::size_t count>
+void Multiply_Few_Equal(Limb* out, const Limb* x, const Limb* y) {
+  constexpr auto columns = std::make_index_sequence<2 * count - 1>();
+  return x == y ? Square_Few<count>(out, x, columns) : Multiply_Equal<count>(out, x, y, columns);
+}
+
+// All columns of a square: the products of two different limbs stand there twice.
+void Square_From(Limb* out, const Number& number, std::size_t first) {
+  const std::size_t count = number.count();
+  const Limb* const x = number.data();
+  Column_Sum sum;
+  for (std::size_t place = first; place + 1 < 2 * count; ++place) {
+    std::size_t low = place < count ? 0 : place - count + 1;
+    std::size_t high = place - low;
+    Wide column = 0;
+    for (; low < high; ++low, --high) column += Wide{x[low]} * x[high];
+    column *= 2;
+    if (low == high) column += Wide{x[low]} * x[low];
+    out[place] = sum.next(Part(column));
+  }
+  out[2 * count - 1] = sum.next({});
+}
+
 template <std::size_t... i>
 constexpr auto Routines_For_Few(std::index_sequence<i...> /*counts*/) {
   return std::array{&Multiply_Few<i + 1>...};
 }
 
+template <std::size_t... i>
+constexpr auto Routines_For_Few_Equal(std::index_sequence<i...> /*counts*/) {
+  return std::array{&Multiply_Few_Equal<i + 1>...};
+}
+
 void Multiply_Columns(Limb* out, const Number& a, const Number& b, std::size_t first) {
-  constexpr auto for_few = Routines_For_Few(std::make_index_sequence<few_limbs>());
-  if (a.count() > few_limbs || b.count() > few_limbs) return Multiply_From(out, a, b, first);
+  constexpr auto counts = std::make_index_sequence<few_limbs>();
+  constexpr auto for_few = Routines_For_Few(counts);
+  constexpr auto for_few_equal = Routines_For_Few_Equal(counts);
+  if (a.count() > few_limbs || b.count() > few_limbs) {
+    return &a == &b ? Square_From(out, a, first) : Multiply_From(out, a, b, first);
+  }
+  if (a.count() == b.count()) return for_few_equal[a.count() - 1](out, a.data(), b.data());
   for_few[a.count() - 1](out, a, b, first);
 }
 

@@ -1,5 +1,6 @@
 #include "arith/powers/exponent_split.h"
 
+#include <bit>
 #include <charconv>
 #include <cstdint>
 #include <limits>
@@ -24,16 +25,14 @@ Step_Number Whole_Quotient(const Step_Number& a, const Step_Number& b, const Ste
   return Step_Number(limbs::Floor(quotient.in_limbs()));
 }
 
-}  // namespace
-
-Exponent_Split Split_Exponent_By_Steps(const NumberText& text, double maxSD) {
+// The search for a split, from the halves of `m` on.
+Exponent_Split Search(const NumberText& text, Step_Number m, double maxSD) {
   const Steps steps(maxSD);
   const Step_Number zero(0);
   const Step_Number one(1);
   const Step_Number n(text);
   Exponent_Split split;
   Step_Number best = n;
-  Step_Number m = n;
   for (;;) {
     Yield();
     Step_Number a = Whole_Quotient(m, Step_Number(2), steps);
@@ -49,12 +48,42 @@ Exponent_Split Split_Exponent_By_Steps(const NumberText& text, double maxSD) {
   }
 }
 
-// The exponent's own digits, a half of it, and what divisions need so that they never round up to
-// a whole number: the fraction of n / a is at most 1 - 1/a.
+// What divisions need so that they never round up to a whole number, beside the exponent's own
+// digits and a half of it: the fraction of n / a is at most 1 - 1/a.
+bool Is_Exact(const NumberText& n, double maxSD) {
+  return !n.empty() && !Has_Non_Digit(n) && maxSD >= static_cast<double>(n.size()) + 2;
+}
+
+// A number on the way of the search from which on the halves are tried. With a = floor(n / 2^k) and
+// r = n mod 2^k, b is 2^k as long as a is greater, c is r, and the split costs a + 2^k + r - 2. The
+// next one has half of a, twice 2^k, and r or r + 2^k: as long as a is above 4 * 2^k it costs less.
+// So no split before is the end.
+Step_Number Far_Half(const NumberText& n, double maxSD) {
+  constexpr double bits_a_digit = 3.3219280948873623;
+  constexpr std::int64_t spare_bits = 6;
+  const Steps steps(maxSD);
+  const double bits = static_cast<double>(n.size() - 1) * bits_a_digit;
+  const std::int64_t halvings = static_cast<std::int64_t>(bits / 2) - spare_bits;
+  Step_Number number(n);
+  if (halvings < 1) return number;
+  Step_Number power(1);
+  for (auto bit = std::bit_floor(static_cast<std::uint64_t>(halvings)); bit > 0; bit /= 2) {
+    Yield();
+    steps.multiply(power, Step_Number(power));
+    if ((static_cast<std::uint64_t>(halvings) & bit) != 0) steps.multiply(power, Step_Number(2));
+  }
+  return Whole_Quotient(number, power, steps);
+}
+
+}  // namespace
+
+Exponent_Split Split_Exponent_By_Steps(const NumberText& text, double maxSD) {
+  return Search(text, Step_Number(text), maxSD);
+}
+
 std::optional<std::uint64_t> Exactly_Split(const NumberText& n, double maxSD) {
   constexpr std::size_t most_digits = std::numeric_limits<std::uint64_t>::digits10 - 1;
-  const bool is_plain = !n.empty() && n.size() <= most_digits && !Has_Non_Digit(n);
-  if (!is_plain || maxSD < static_cast<double>(n.size()) + 2) return std::nullopt;
+  if (n.size() > most_digits || !Is_Exact(n, maxSD)) return std::nullopt;
   std::uint64_t number = 0;
   std::from_chars(n.data(), n.data() + n.size(), number);
   return number;
@@ -76,7 +105,10 @@ Short_Split Split_Exponent(std::uint64_t n) {
 
 Exponent_Split Split_Exponent(const NumberText& n, double maxSD) {
   const std::optional<std::uint64_t> exact = Exactly_Split(n, maxSD);
-  if (!exact) return Split_Exponent_By_Steps(n, maxSD);
+  if (!exact) {
+    if (Is_Exact(n, maxSD)) return Search(n, Far_Half(n, maxSD), maxSD);
+    return Split_Exponent_By_Steps(n, maxSD);
+  }
   const Short_Split split = Split_Exponent(*exact);
   return {std::to_string(split.A), std::to_string(split.B), std::to_string(split.C)};
 }

@@ -7,6 +7,7 @@
 #include "arith/limbs/limb_division.h"
 #include "arith/limbs/limbs.h"
 #include "arith/powers/leading_digits.h"
+#include "arith/powers/limb_root.h"
 #include "expects.h"
 #include "host/platform.h"
 
@@ -122,6 +123,32 @@ Root_And_Inverse Find_Root(const Number& radicand, Limb degree, std::size_t digi
   found.root = Product(Shortened(radicand, working),
                        Power_Of(found.inverse, degree - 1, working + 2), working + 2);
   return found;
+}
+
+// Let x be the reciprocal of the root s, and t = a x, both wrong by less than 2 * 10^-have. Then s
+// is t + x (a - t^2) / 2 but for less than 4 * 10^-2have of itself: A. H. Karp, P. Markstein,
+// High-Precision Division and Square Root, ACM Trans. Math. Software 23 (1997).
+Number Find_Square_Root(const Number& radicand, std::size_t digits) {
+  Expects(!radicand.is_zero() && !radicand.negative);
+  const std::size_t count = limbs::Count_For(digits + 2);
+  if (count <= most_limbs_in_turn) return Root_In_Turn(radicand, count);
+  const std::size_t have = digits / 2 + 3;
+  const std::size_t of_correction = digits - have + 4;
+  const Number x = Inverse_Root(radicand, 2, have);
+  const Number near = Product(Shortened(radicand, have), x, have + 1);
+  Number lack;
+  limbs::Add(Shortened(radicand, digits + 3), Product(near, near, 2 * have + 2), true, digits + 3,
+             lack);
+  const Number correction = Short_Quotient(
+      Product(Shortened(lack, of_correction), Shortened(x, of_correction), of_correction), 2);
+  Number root;
+  limbs::Add(near, correction, correction.negative, digits + 2, root);
+  return root;
+}
+
+Number Find_Inverse_Square_Root(const Number& radicand, std::size_t digits) {
+  Expects(!radicand.is_zero() && !radicand.negative);
+  return Inverse_Root(radicand, 2, digits + 1);
 }
 
 }  // namespace quorvex

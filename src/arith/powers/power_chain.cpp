@@ -10,6 +10,7 @@
 #include "arith/operation/decimal_product.h"
 #include "arith/operation/steps.h"
 #include "arith/powers/exponent_split.h"
+#include "arith/powers/limb_power.h"
 #include "expects.h"
 #include "host/platform.h"
 #include "host/run_time_failure.h"
@@ -22,73 +23,21 @@ namespace {
 
 constexpr int deepest_split = 1000;
 
-// Long numbers of a chain stay digits with a count of zeros: huge exponents write none, and the
-// library of products takes digits. Short ones are limbs, of which each product costs less than a
-// text does. Both kinds answer to the same names.
-using limbs::Number;
-
-Decimal One(const Decimal& /*kind*/) {
-  return {"1"};
-}
-
-Number One(const Number& /*kind*/) {
-  Number one;
-  limbs::Limb limb = 1;
-  limbs::Trim({&limb, 1, 0, false}, one);
-  return one;
-}
-
-bool Is_One(const Decimal& number) {
-  return number.digits == "1" && number.power_of_ten == 0 && !number.negative;
-}
-
-bool Is_One(const Number& number) {
-  return number.count() == 1 && number.low == 0 && number.data()[0] == 1 && !number.negative;
-}
-
-bool Is_Token(const Decimal& number) {
-  return number.is_token();
-}
-
-bool Is_Token(const Number& /*number*/) {
-  return false;
-}
-
-Number Product(const Number& a, const Number& b, double limit) {
-  Yield();
-  Number product;
-  limbs::Multiply(a, b, Digits_Of_Result(static_cast<std::size_t>(limit)), product);
-  return product;
-}
-
-bool Has_More_Digits(const Decimal& number, double limit) {
-  return static_cast<double>(number.digits.size()) > Digits_Of_Result(limit);
-}
-
-bool Has_More_Digits(const Number& number, double limit) {
-  return static_cast<double>(number.count() * limbs::digits) > Digits_Of_Result(limit);
-}
+// Numbers of these chains are digits with a count of zeros: huge exponents write none, and the
+// library of products takes digits.
 
 Decimal Rounded(Decimal number, double limit) {
   Round(number, Digits_Of_Result(limit));
   return number;
 }
 
-Number Rounded(const Number& number, double limit) {
-  if (!Has_More_Digits(number, limit)) return number;
-  Number rounded;
-  limbs::Add(number, Number(), number.negative, Digits_Of_Result(static_cast<std::size_t>(limit)),
-             rounded);
-  return rounded;
+bool Is_One(const Decimal& number) {
+  return number.digits == "1" && number.power_of_ten == 0 && !number.negative;
 }
 
 Decimal Reciprocal(const Decimal& base, double limit) {
   if (base.is_token()) return base;
   return Steps(limit).quotient(Step_Number(1), Step_Number(base)).decimal();
-}
-
-Number Reciprocal(const Number& base, double limit) {
-  return Steps(limit).quotient(Step_Number(1), Step_Number(base)).in_limbs();
 }
 
 // Exponents are words, where they have room and split exactly, and texts otherwise.
@@ -155,74 +104,79 @@ Short_Split Split(Word n, double /*maxSD*/) {
 }
 
 // The product of one to three factors. The first one is multiplied by 1, which rounds it.
-template <typename Factor>
-Factor Multiply_Out(const Factor& base, int factors, double limit) {
+Decimal Multiply_Out(const Decimal& base, int factors, double limit) {
   Expects(factors >= 1 && factors <= 3);
-  if (factors == 1) return Rounded(base, limit);
-  Factor product = Has_More_Digits(base, limit) ? Product(Rounded(base, limit), base, limit)
-                                                : Product(base, base, limit);
+  Decimal first = Rounded(base, limit);
+  if (factors == 1) return first;
+  Decimal product = Product(first, base, limit);
   return factors == 2 ? product : Product(product, base, limit);
 }
 
-template <typename Factor, typename Exponent>
-Factor Integer_Power(const Factor& base, const Exponent& n, double maxSD, int depth);
+template <typename Exponent>
+Decimal Integer_Power(const Decimal& base, const Exponent& n, double maxSD, int depth);
 
-template <typename Factor, typename Exponent>
-Factor Positive_Power(const Factor& base, const Exponent& exponent, double maxSD, double limit,
-                      int depth) {
+template <typename Exponent>
+Decimal Positive_Power(const Decimal& base, const Exponent& exponent, double maxSD, double limit,
+                       int depth) {
   if (Is_Split(exponent)) return Integer_Power(base, exponent, maxSD, depth);
   return Multiply_Out(base, Factors(exponent), limit);
 }
 
-template <typename Factor, typename Exponent>
-Factor Any_Power(const Factor& base, const Exponent& exponent, double maxSD, double working_digits,
-                 int depth) {
-  if (Is(exponent, '0') || Is_One(base)) return One(base);
+template <typename Exponent>
+Decimal Any_Power(const Decimal& base, const Exponent& exponent, double maxSD,
+                  double working_digits, int depth) {
+  if (Is(exponent, '0') || Is_One(base)) return {"1"};
   if (Is(exponent, '1')) return base;
   const double limit = working_digits + maxSD;
   if (!Is_Negative(exponent)) return Positive_Power(base, exponent, maxSD, limit, depth);
   return Positive_Power(Reciprocal(base, limit), Opposite(exponent), maxSD, limit, depth);
 }
 
-// The power as `Do_Operation` gives it at the limit.
-template <typename Factor, typename Exponent>
-Factor Power_At(const Factor& base, const Exponent& exponent, double limit, int depth) {
-  if (Is_Token(base)) return base;
+// The power as `Do_Operation` gives it at the limit. Its guard digits are as many as the base is
+// long, so that the square of a number that is rounded itself is rounded but once.
+template <typename Exponent>
+Decimal Power_At(const Decimal& base, const Exponent& exponent, double limit, int depth) {
+  if (base.is_token()) return base;
+  const bool is_rounded = static_cast<double>(base.digits.size()) <= Digits_Of_Result(limit);
+  if (is_rounded && Is(exponent, '2')) return Product(base, base, limit);
   const double working_digits = static_cast<double>(Plain_Length(base)) + Length(exponent);
   return Rounded(Any_Power(base, exponent, With_Guard_Digit(limit), working_digits, depth + 1),
                  limit);
 }
 
-template <typename Factor, typename Exponent>
-Factor Partial_Power(const Factor& base, const Exponent& n, double maxSD, int depth) {
+template <typename Exponent>
+Decimal Partial_Power(const Decimal& base, const Exponent& n, double maxSD, int depth) {
   return Is_Split(n) ? Integer_Power(base, n, maxSD, depth + 1) : Power_At(base, n, maxSD, depth);
 }
 
 // base to the n = A * B + C, every product rounded at the limit.
-template <typename Factor, typename Exponent>
-Factor Integer_Power(const Factor& base, const Exponent& n, double maxSD, int depth) {
+template <typename Exponent>
+Decimal Integer_Power(const Decimal& base, const Exponent& n, double maxSD, int depth) {
   if (depth > deepest_split) {
     throw Run_Time_Failure(Failure_Number::too_complex,
                            "An exponent is too long for the limit of digits.");
   }
   const auto split = Split(n, maxSD);
-  Factor power = Partial_Power(base, split.A, maxSD, depth);
-  if (!Is_Token(power)) power = Partial_Power(power, split.B, maxSD, depth);
-  if (Is_Token(power) || Is(split.C, '0')) return power;
-  const Factor rest = Partial_Power(base, split.C, maxSD, depth);
+  Decimal power = Partial_Power(base, split.A, maxSD, depth);
+  if (!power.is_token()) power = Partial_Power(power, split.B, maxSD, depth);
+  if (power.is_token() || Is(split.C, '0')) return power;
+  const Decimal rest = Partial_Power(base, split.C, maxSD, depth);
   return Is_One(rest) ? power : Product(power, rest, maxSD);
 }
 
-// A base of few digits costs less as limbs, where no power of ten runs over. Any number has room
-// between the steps then.
-bool Takes_Limbs(const Decimal& base, Word exponent, double limit) {
-  constexpr double most_digits = 130;
+// Products of short numbers cost less as limbs, where no power of ten runs over: there is room for
+// any number between the steps then.
+bool Takes_Limbs(const Decimal& base, Word exponent, double maxSD) {
+  constexpr double most_digits = 200;
   constexpr double farthest_power = 1e12;
-  if (base.is_token() || !(limit >= 1 && limit <= most_digits)) return false;
-  if (std::trunc(limit) != limit || !Can_Multiply()) return false;
-  const double power =
-      std::fabs(static_cast<double>(base.power_of_ten)) + static_cast<double>(base.digits.size());
-  return power * static_cast<double>(exponent) <= farthest_power;
+  if (base.is_token() || !Is_Split(exponent) || !(maxSD >= 1 && maxSD <= most_digits)) return false;
+  const auto length = static_cast<double>(base.digits.size());
+  if (length > Digits_Of_Result(maxSD) || std::trunc(maxSD) != maxSD || !Can_Multiply()) {
+    return false;
+  }
+  return (std::fabs(static_cast<double>(base.power_of_ten)) + length) *
+             static_cast<double>(exponent) <=
+         farthest_power;
 }
 
 }  // namespace
@@ -232,10 +186,9 @@ Decimal Whole_Power(const Decimal& base, const NumberText& exponent, double maxS
   Expects(base.digits != "0" && Is_Stripped(base));
   const std::optional<Word> word = Exactly_Split(exponent, maxSD);
   if (!word) return Any_Power(base, exponent, maxSD, working_digits, 0);
-  if (!Takes_Limbs(base, *word, working_digits + maxSD)) {
-    return Any_Power(base, *word, maxSD, working_digits, 0);
-  }
-  return limbs::Decimal_Of(Any_Power(limbs::Number_Of(base), *word, maxSD, working_digits, 0));
+  if (!Takes_Limbs(base, *word, maxSD)) return Any_Power(base, *word, maxSD, working_digits, 0);
+  return limbs::Decimal_Of(
+      Limb_Power(limbs::Number_Of(base), *word, static_cast<std::size_t>(maxSD)));
 }
 
 }  // namespace quorvex

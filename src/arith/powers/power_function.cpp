@@ -65,32 +65,45 @@ Decimal Raise(Decimal base, const NumberText& exponent, double maxSD, double wor
   return Is_Too_Long(power) ? Decimal_Token(num_token) : power;
 }
 
+// What a step gives: a number for the next one, or digits that are formatted next.
+struct As_Step_Number {
+  static Step_Number of(const Decimal& number) { return Step_Number(number); }
+  static Step_Number of_text(std::string_view text) { return Step_Number(text); }
+};
+
+struct As_Decimal {
+  static Decimal of(Decimal& number) { return std::move(number); }
+  static Decimal of_text(std::string_view text) { return Read_Decimal(Step_Number(text)); }
+};
+
 // An operation between two steps: what `Intermediate` is to texts. Digits are rounded as formatting
 // rounds them, and no text is formed.
-template <typename Operation>
-Step_Number Take_Step(const Step_Number& a, const Step_Number& b, double limit,
-                      const Operation& operation) {
+template <typename Result, typename Operation>
+auto Take_Step(const Step_Number& a, const Step_Number& b, double limit,
+               const Operation& operation) {
   return With_Handler(
       [&] {
         if (a.is_token() || b.is_token()) {
-          if (const auto token = Token_Of_Operands(a.text(), b.text())) return Step_Number(*token);
+          if (const auto token = Token_Of_Operands(a.text(), b.text())) {
+            return Result::of_text(*token);
+          }
         }
         const type_Restrictionator options = Intermediate_Format(limit);
         Decimal result = operation(options.maxSD);
-        if (Has_Token_Mark(result.digits)) return Step_Number(std::string_view(result.digits));
+        if (Has_Token_Mark(result.digits)) return Result::of_text(result.digits);
         if (result.digits.empty() || Has_Non_Digit(result.digits)) {
-          return Step_Number(Format_Result(std::move(result), options, true));
+          return Result::of_text(Format_Result(std::move(result), options, true));
         }
         Strip_Zeros(result);
         Round(result, Digits_Formatted(options.maxSD));
-        return Step_Number(result);
+        return Result::of(result);
       },
-      [](const Run_Time_Failure&) { return Step_Number(value_token); });
+      [](const Run_Time_Failure&) { return Result::of_text(value_token); });
 }
 
 Step_Number Power_Of_Numbers(const Step_Number& base, const Step_Number& exponent,
                              const Steps& steps, bool restricted) {
-  return Take_Step(base, exponent, steps.limit(), [&](double maxSD) {
+  return Take_Step<As_Step_Number>(base, exponent, steps.limit(), [&](double maxSD) {
     const Step_Options options{maxSD, restricted};
     if (!base.is_in_limbs() || !exponent.is_in_limbs()) {
       return Power_Function(Operand(base.text()), Operand(exponent.text()), options);
@@ -105,6 +118,13 @@ Step_Number Power_Of_Numbers(const Step_Number& base, const Step_Number& exponen
 // Of a number in limbs itself.
 Step_Number Cleaned(const Step_Number& number) {
   return number.is_in_limbs() ? number : Clean_Number(Operand(number.text()));
+}
+
+template <typename Result>
+auto Take_Root(const Step_Number& radicand, const Step_Number& degree, const Steps& steps) {
+  return Take_Step<Result>(radicand, degree, steps.limit(), [&](double maxSD) {
+    return Root_Of_Number(Cleaned(radicand), Cleaned(degree), {maxSD}, Power);
+  });
 }
 
 // Squares and cubes of numbers of common sizes, which the rounds of low roots take, and for which
@@ -156,9 +176,11 @@ Step_Number Restricted_Power(const Step_Number& base, const Step_Number& exponen
 }
 
 Step_Number Root(const Step_Number& radicand, const Step_Number& degree, const Steps& steps) {
-  return Take_Step(radicand, degree, steps.limit(), [&](double maxSD) {
-    return Root_Of_Number(Cleaned(radicand), Cleaned(degree), {maxSD}, Power);
-  });
+  return Take_Root<As_Step_Number>(radicand, degree, steps);
+}
+
+Decimal Root_Digits(const Step_Number& radicand, const Step_Number& degree, const Steps& steps) {
+  return Take_Root<As_Decimal>(radicand, degree, steps);
 }
 
 }  // namespace quorvex

@@ -27,6 +27,9 @@ Decimal Power_Function(const Operand& base, const Operand& exponent, const Step_
 Step_Number Power(const Step_Number& base, const Step_Number& exponent, const Steps& steps);
 Step_Number Root(const Step_Number& radicand, const Step_Number& degree, const Steps& steps);
 
+/// The root as a result before it is formatted.
+Decimal Root_Digits(const Step_Number& radicand, const Step_Number& degree, const Steps& steps);
+
 /// The power, and "#NUM!" for operands that have more than half the ceiling of digits together.
 Step_Number Restricted_Power(const Step_Number& base, const Step_Number& exponent,
                              const Steps& steps);

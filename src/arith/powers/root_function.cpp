@@ -1,6 +1,5 @@
 #include "arith/powers/root_function.h"
 
-#include <cstdint>
 #include <string_view>
 #include <utility>
 
@@ -22,8 +21,11 @@ bool Is_Odd_Whole(const Step_Number& degree) {
   return degree.in_limbs().data()[0] % 2 == 1;
 }
 
-bool Is(const Step_Number& number, std::int64_t small) {
-  return number.is_in_limbs() && Is_Equal(number, Step_Number(static_cast<double>(small)));
+bool Is(const Step_Number& number, limbs::Limb small) {
+  if (!number.is_in_limbs()) return false;
+  const limbs::Number& limbs = number.in_limbs();
+  if (small == 0) return limbs.is_zero();
+  return limbs.count() == 1 && limbs.low == 0 && limbs.data()[0] == small && !limbs.negative;
 }
 
 // The root of a positive degree.

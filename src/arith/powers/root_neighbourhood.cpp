@@ -4,7 +4,10 @@
 #include <cmath>
 
 #include "arith/digits/multiply_digits.h"
+#include "arith/powers/inverse_root.h"
 #include "arith/powers/leading_digits.h"
+#include "arith/powers/mean_end.h"
+#include "arith/powers/mean_rounds.h"
 #include "expects.h"
 #include "text/guard_digits.h"
 
@@ -31,31 +34,8 @@ using limbs::Number;
 // zeros. It has to be 10^-9 away from a number of p digits, too, since of one that ends there
 // division knows a number just below. All values in question are to have as many whole digits as
 // the root.
-constexpr std::size_t guard_digits = 3;
-constexpr double guard_units = 1000;
 constexpr double least_behind_first = 2e-5;  // p / 4 - 1 is 5 and more
 constexpr double near_power_of_ten = 1e-6;
-constexpr std::size_t beyond_quotient = 13;  // digits of the root that are more than a quotient's
-
-// What division makes of guard digits: half up by the first of three; but zeros at their end bring
-// the rounding as many digits down, where it reaches the kept digits by a carry alone. Guards just
-// below 0 belong to the unit before, and raise it: nothing is raised here.
-enum class Raise { no, yes, in_doubt };
-
-// For guard digits with what follows them, anywhere from `low` to `high`.
-Raise Raise_Between(double low, double high) {
-  constexpr double half = 500;
-  constexpr double with_carry = 950;
-  if (high < half) return Raise::no;
-  if (low >= with_carry) return Raise::yes;
-  const double tens = std::floor(low / 10);
-  if (low < half || high >= with_carry || tens != std::floor(high / 10)) return Raise::in_doubt;
-  if (low - 10 * tens >= 1) return Raise::yes;
-  return high - 10 * tens < 1 ? Raise::no : Raise::in_doubt;
-}
-
-// What the floats here may be wrong by, in thousandths of a unit, the digits of the root among it.
-constexpr double safe = 1e-5;
 
 Number Sum(const Number& a, const Number& b, bool b_is_negative, std::size_t digits) {
   Number sum;
@@ -93,47 +73,10 @@ Number Half_Down(const Number& number, std::int64_t last) {
   return result;
 }
 
-// e^2 / (2 (1 + e)).
-Leading_Digits Next_Distance(const Leading_Digits& e) {
-  constexpr std::int64_t beyond_floats = 20;
-  if (e.power > beyond_floats) return Scaled(e.mantissa / 2, e.power);
-  const double near = e.power < -beyond_floats ? 1 : 1 + e.number();
-  return Scaled(e.mantissa * e.mantissa / (2 * near), 2 * e.power);
-}
-
-// A value on the way to the root, root (1 + e), and the rounds to it. e is known to `error` of
-// itself.
-struct Far_Value {
-  Leading_Digits e;
-  double error = 0;
-  int rounds = 0;
-};
-
-// The first value whose square of e is below 10^(8 - D), if that is not the first of all.
-std::optional<Far_Value> Way_To_Root(const Number& value, const Number& root, std::size_t digits) {
-  constexpr std::int64_t far = 8;
-  const auto is_near = [&](const Leading_Digits& e) {
-    return e.mantissa == 0 || 2 * e.power + 2 <= far - static_cast<std::int64_t>(digits);
-  };
-  const Leading_Digits distance =
-      Leading_Digits_Of(Sum(value, root, true, digits + guard_digits + beyond_quotient));
-  const Leading_Digits of = Leading_Digits_Of(distance.mantissa < 0 ? value : root);
-  constexpr double rounding = 1e-15;
-  Far_Value reached{Scaled(std::fabs(distance.mantissa) / of.mantissa, distance.power - of.power),
-                    rounding, 0};
-  if (is_near(reached.e)) return std::nullopt;
-  for (; !is_near(reached.e); ++reached.rounds) {
-    const double growth = reached.e.power > 0 ? 1 + std::pow(10.0, -reached.e.power) : 2;
-    reached.e = Next_Distance(reached.e);
-    reached.error = growth * reached.error + rounding;
-  }
-  return reached;
-}
-
 }  // namespace
 
 bool Root_Neighbourhood::Is_For(double limit) {
-  constexpr double least_limit = 36;
+  constexpr double least_limit = 24;  // for a reciprocal of 28 digits
   constexpr double highest_limit = 1'000'000;
   return limit >= least_limit && limit <= highest_limit && std::trunc(limit) == limit;
 }
@@ -151,17 +94,23 @@ std::optional<Root_Neighbourhood> Root_Neighbourhood::Of(const Step_Number& radi
 
 Root_Neighbourhood::Root_Neighbourhood(const Number& radicand, std::size_t limit)
     : digits_(Digits_Of_Quotient(limit)),
-      found_(Find_Root(radicand, 2, digits_ + beyond_quotient)) {
-  const Leading_Digits root = Leading_Digits_Of(found_.root);
+      radicand_(radicand),
+      root_(Find_Square_Root(radicand, digits_ + beyond_quotient)) {
+  const Leading_Digits root = Leading_Digits_Of(root_);
   last_ = root.power + 1 - static_cast<std::int64_t>(digits_);
-  most_lost_ = root.mantissa * root.mantissa / 10;
+  most_lost_ = Most_Lost(root.mantissa);
 }
 
 bool Root_Neighbourhood::is_told() const {
-  const double root = Leading_Digits_Of(found_.root).mantissa;
-  const double inverse = Leading_Digits_Of(found_.inverse).mantissa;
+  const double root = Leading_Digits_Of(root_).mantissa;
+  const double inverse = 10 / root;
   return root > 1 + near_power_of_ten && root < 10 - near_power_of_ten &&
          inverse - std::floor(inverse) > least_behind_first;
+}
+
+const Number& Root_Neighbourhood::inverse() const {
+  if (!inverse_) inverse_ = Find_Inverse_Square_Root(radicand_, digits_ + beyond_quotient);
+  return *inverse_;
 }
 
 // How far a value is from the root, as the quotient and the reciprocal need it.
@@ -175,16 +124,15 @@ struct Root_Neighbourhood::Offset {
 std::optional<Root_Neighbourhood::Offset> Root_Neighbourhood::offset_of(const Number& value) const {
   const std::size_t p = digits_ + guard_digits;
   Offset offset;
-  offset.e = Sum(value, found_.root, true, p + beyond_quotient);
+  offset.e = Sum(value, root_, true, p + beyond_quotient);
   if (offset.e.is_zero()) return offset;
-  const std::int64_t distance =
-      limbs::Leading_Power(found_.root) - limbs::Leading_Power(offset.e) - 1;
+  const std::int64_t distance = limbs::Leading_Power(root_) - limbs::Leading_Power(offset.e) - 1;
   const auto reach = static_cast<std::int64_t>(p + 9);
   if (4 * distance < reach) return std::nullopt;
   const auto all = static_cast<std::int64_t>(p + beyond_quotient);
   offset.digits = static_cast<std::size_t>(std::max<std::int64_t>(all - distance, 1));
   if (2 * distance >= reach) return offset;
-  offset.w = Product(offset.e, found_.inverse, offset.digits);
+  offset.w = Product(offset.e, inverse(), offset.digits);
   const Number one = Short_Number(1, 0);
   const Number rest =
       Product(offset.w, Sum(one, offset.w, !offset.w.negative, offset.digits), offset.digits);
@@ -196,12 +144,12 @@ std::optional<Root_Neighbourhood::Offset> Root_Neighbourhood::offset_of(const Nu
 double Root_Neighbourhood::lost_by_inverse(const Offset& offset) const {
   constexpr double least = 1e-6;
   const std::size_t p = digits_ + guard_digits;
-  const std::int64_t last = limbs::Leading_Power(found_.inverse) + 1 - static_cast<std::int64_t>(p);
-  const Number w = offset.g ? offset.w : Product(offset.e, found_.inverse, offset.digits);
-  Number correction = Product(w, found_.inverse, offset.digits);
+  const std::int64_t last = limbs::Leading_Power(inverse()) + 1 - static_cast<std::int64_t>(p);
+  const Number w = offset.g ? offset.w : Product(offset.e, inverse(), offset.digits);
+  Number correction = Product(w, inverse(), offset.digits);
   if (offset.g) limbs::Multiply(correction, *offset.g, offset.digits, correction);
   const double part =
-      Part_Behind(Sum(found_.inverse, correction, !correction.negative, p + beyond_quotient), last);
+      Part_Behind(Sum(inverse(), correction, !correction.negative, p + beyond_quotient), last);
   return part > least && part < 1 - least ? part : -1;
 }
 
@@ -210,15 +158,14 @@ std::optional<Step_Number> Root_Neighbourhood::quotient(const Step_Number& value
   const std::optional<Offset> offset = offset_of(value.in_limbs());
   if (!offset) return std::nullopt;
   const Number less = offset->g ? Product(offset->e, *offset->g, offset->digits) : offset->e;
-  Number quotient =
-      Sum(found_.root, less, !less.negative, digits_ + guard_digits + beyond_quotient);
+  Number quotient = Sum(root_, less, !less.negative, digits_ + guard_digits + beyond_quotient);
   const double guards = Part_Behind(quotient, last_) * guard_units;
-  Raise raise = Raise_Between(guards - most_lost_ - safe, guards + safe);
+  Raise raise = Raise_Between(guards - most_lost_ - safe_guards, guards + safe_guards);
   if (raise == Raise::in_doubt) {
     const double part = lost_by_inverse(*offset);
     if (part < 0) return std::nullopt;
     const double lowered = guards - part * most_lost_;
-    raise = Raise_Between(lowered - safe, lowered + safe);
+    raise = Raise_Between(lowered - safe_guards, lowered + safe_guards);
     if (raise == Raise::in_doubt) return std::nullopt;
   }
   const double to_next = (raise == Raise::yes ? guard_units : 0) - guards;
@@ -237,26 +184,19 @@ std::optional<Step_Number> Root_Neighbourhood::quotient(const Step_Number& value
 // 1. A value behind another one has e^2 / (2 (1 + e)) for e. A value below the root has a quotient
 //    above it, and the same mean as that. Floats tell e to 10^-15 of itself where it begins, and
 //    grow wrong with each round by (2 + e) / (1 + e) times and a rounding. What the iteration
-//    itself rounds away is less than 2 u of T. That makes less than 10^-3 v of s e^2.
-// 2. No round up to that T ends the iteration: e was above 10^(7 - D) / 2.1 in each, so that
+//    itself rounds away is less than 2 u of T. That makes less than 10^-3 v of s e^2. A value to
+//    begin with is exact.
+// 2. No round up to that T ends the iteration: e is above 10^(7 - D) / 2.1 in each, so that
 //    quotient and mean were as far apart, and to agree they have to be within 10^(5 - D). Each was
 //    closer together than the one before.
 std::optional<Later_Values> Root_Neighbourhood::later_values(const Step_Number& value) const {
   if (!value.is_in_limbs() || value.is_zero() || value.is_negative()) return std::nullopt;
-  const std::optional<Far_Value> reached = Way_To_Root(value.in_limbs(), found_.root, digits_);
+  const std::optional<Far_Value> reached = Way_To_Root(value.in_limbs(), root_, digits_);
   if (!reached) return std::nullopt;
-  const double root = Leading_Digits_Of(found_.root).mantissa;
-  const Leading_Digits square =
-      Scaled(reached->e.mantissa * reached->e.mantissa * root, 2 * reached->e.power);
-  const auto p = static_cast<std::int64_t>(digits_ + guard_digits);
-  const double added = Leading_Digits{square.mantissa, square.power + p - 1}.number();
-  const double slack = 1e-3 + 2 * added * reached->error;
-
-  const Number twice = Sum(found_.root, found_.root, false, digits_ + beyond_quotient);
+  const Number twice = Sum(root_, root_, false, digits_ + beyond_quotient);
   const double guards = Part_Behind(twice, last_) * guard_units;
-  const double units = std::floor((guards + added) / guard_units);
-  const double left = guards + added - units * guard_units;
-  const Raise raise = Raise_Between(left - most_lost_ - slack, left + slack);
+  const auto [units, raise] =
+      Sum_With_Quotient(*reached, guards, Leading_Digits_Of(root_).mantissa, digits_);
   Later_Values later;
   later.rounds = reached->rounds + 1;
   if (raise != Raise::yes) later.values.push_back(half_of(twice, units * guard_units - guards));
@@ -267,6 +207,11 @@ std::optional<Later_Values> Root_Neighbourhood::later_values(const Step_Number& 
     }
   }
   return later;
+}
+
+std::optional<Decimal> Root_Neighbourhood::end(const Step_Number& start, double maxSD) const {
+  if (!start.is_in_limbs() || start.is_zero() || start.is_negative()) return std::nullopt;
+  return Mean_End(root_, digits_, start.in_limbs(), maxSD);
 }
 
 // The half of M, which is so many thousandths of a unit above what is given.

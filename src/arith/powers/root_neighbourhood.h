@@ -8,7 +8,7 @@
 
 #include "arith/limbs/limb_number.h"
 #include "arith/operation/steps.h"
-#include "arith/powers/inverse_root.h"
+#include "text/decimal.h"
 
 namespace quorvex {
 
@@ -29,6 +29,9 @@ class Root_Neighbourhood {
   /// Nothing for radicands and limits that this is not for.
   static std::optional<Root_Neighbourhood> Of(const Step_Number& radicand, double limit);
 
+  /// What the iteration from `start` ends with at a limit of `maxSD`, told by `Mean_End`.
+  std::optional<Decimal> end(const Step_Number& start, double maxSD) const;
+
   /// The quotient of the radicand by a value near its root.
   std::optional<Step_Number> quotient(const Step_Number& value) const;
 
@@ -45,13 +48,16 @@ class Root_Neighbourhood {
   struct Offset;
 
   bool is_told() const;
+  const limbs::Number& inverse() const;
   std::optional<Offset> offset_of(const limbs::Number& value) const;
   double lost_by_inverse(const Offset& offset) const;
   Step_Number half_of(const limbs::Number& twice, double to_sum) const;
 
   std::size_t digits_;  // that a quotient keeps
   std::int64_t last_;   // the power of ten of the last of them
-  Root_And_Inverse found_;
+  limbs::Number radicand_;
+  limbs::Number root_;
+  mutable std::optional<limbs::Number> inverse_;  // found where it is asked for
   double most_lost_ = 0;  // of a product by a reciprocal that is cut, in thousandths of a unit
 };
 

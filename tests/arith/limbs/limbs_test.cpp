@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <compare>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,8 @@
 #include "arith/digits/multiply_digits.h"
 #include "arith/division/quotient_limbs.h"
 #include "arith/limbs/limb_division.h"
+#include "arith/limbs/limb_number.h"
+#include "support/random_numbers.h"
 #include "text/primitives.h"
 
 namespace quorvex {
@@ -74,6 +77,40 @@ TEST(Limbs, MultipliesFullLimbs) {
     std::vector<Limb> product(2 * count + 2);
     limbs::Multiply(product.data(), a.data(), a.size(), b.data(), b.size());
     EXPECT_EQ(Text_Of(product), Multiply_Digits(Text_Of(a), Text_Of(b))) << count;
+  }
+}
+
+// Squares and products of equal and of other lengths, rounded by a digit that is never reached.
+TEST(Limbs, OfNumbersAreMultipliedAsTheirDigitsAre) {
+  Random_Numbers random(1901);
+  const auto filled = [&](std::size_t count) {
+    std::vector<Limb> number(count, limbs::base - 1);
+    if (random.one_in(2)) {
+      for (Limb& limb : number) limb = edges[random.below(edges.size())];
+    }
+    number.front() += static_cast<Limb>(number.front() == 0);
+    number.back() += static_cast<Limb>(number.back() == 0);
+    limbs::Number trimmed;
+    limbs::Trim({number.data(), count, 0, false}, trimmed);
+    return trimmed;
+  };
+  for (std::size_t round = 0; round < 600; ++round) {
+    const limbs::Number a = filled(1 + round % 24);
+    const limbs::Number b = filled(1 + random.below(24));
+    limbs::Number square;
+    limbs::Number product;
+    limbs::Multiply(a, a, 1000, square);
+    limbs::Multiply(a, b, 1000, product);
+    ASSERT_EQ(limbs::Text_Of(square), Multiply_Digits(limbs::Text_Of(a), limbs::Text_Of(a)));
+    ASSERT_EQ(limbs::Text_Of(product), Multiply_Digits(limbs::Text_Of(a), limbs::Text_Of(b)));
+    // Shortened, the first dropped digit rounds as it does in the whole product.
+    const std::size_t kept = 1 + random.below(400);
+    limbs::Number rounded;
+    limbs::Multiply(a, limbs::Number(a), kept, rounded);
+    limbs::Add(square, limbs::Number(), false, kept, product);
+    limbs::Multiply(a, a, kept, square);
+    ASSERT_TRUE(std::is_eq(limbs::Compare_Magnitudes(square, rounded))) << kept;
+    ASSERT_TRUE(std::is_eq(limbs::Compare_Magnitudes(square, product))) << kept;
   }
 }
 

@@ -55,6 +55,31 @@ TEST(InverseRoot, RootsAreRightToTheDigitsAskedFor) {
   }
 }
 
+// Squares and their neighbours, rows of nines, powers of ten, and any digits; the lengths about
+// where roots are found limb by limb and where not.
+TEST(InverseRoot, SquareRootsAreRightToTheDigitsAskedFor) {
+  Random_Numbers random(1811);
+  for (int round = 0; round < 4000; ++round) {
+    const std::size_t count = 15 + random.below(random.one_in(3) ? 700 : 120);
+    std::string digits = random.one_of("123456789") + random.digits(random.below(300));
+    if (random.one_in(3)) {
+      limbs::Number square = limbs::Number_Of({digits, 0});
+      limbs::Multiply(square, square, 2 * digits.size() + 36, square);
+      limbs::Add(square, Short_Number(1, 0), random.one_in(2), 2 * digits.size() + 36, square);
+      if (!square.is_zero()) digits = limbs::Digits_Of(square);
+    } else if (random.one_in(4)) {
+      digits = random.one_in(2) ? std::string(digits.size(), '9') : "1";
+    }
+    const auto scale = static_cast<std::int64_t>(random.below(400)) - 200;
+    const limbs::Number radicand = limbs::Number_Of({digits, 2 * scale});
+    const limbs::Number root = Find_Square_Root(radicand, count);
+    const std::size_t more = count + 10;
+    const std::string expected = Whole_Root(digits, 2, more);
+    ASSERT_TRUE(Agree(root, expected, scale - static_cast<std::int64_t>(more), count))
+        << digits << " at " << scale << " to " << count;
+  }
+}
+
 TEST(InverseRoot, LeadingDigitsAreThoseOfTheNumber) {
   struct Case {
     const char* number;

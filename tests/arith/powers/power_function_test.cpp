@@ -96,7 +96,8 @@ TEST(Powers, AreThoseOfProductsOfTexts) {
           is_large ? (random.one_in(2) ? "1.0" : "-0.99") + random.digits(30) : random.number(40));
       const std::size_t whole = random.below(is_large ? 100'000 : 60);
       const NumberText exponent = (random.one_in(4) ? "-" : "") + std::to_string(whole);
-      const auto limit = static_cast<double>(random.below(random.one_in(2) ? 12 : 120));
+      const std::size_t most = random.one_in(2) ? 12 : random.one_in(4) ? 260 : 120;
+      const auto limit = static_cast<double>(random.below(most));
       ASSERT_EQ(Power(base, exponent, limit), Power_By_Text::at(base, exponent, limit))
           << base << " ^ " << exponent << " at " << limit;
     }
@@ -177,12 +178,20 @@ TEST(ExponentSplit, FindsTheCheapestOfTheHalves) {
   }
 }
 
+NumberText Whole_Power_Of_Two(std::size_t exponent) {
+  return Power("2", std::to_string(exponent), 100);
+}
+
+// Those that begin near the end of the search among them.
 TEST(ExponentSplit, IsTheSameInRegistersAsByText) {
   Random_Numbers random(64);
   for (int round = 0; round < 2000; ++round) {
-    NumberText n = std::to_string(1 + random.below(9)) + random.digits(random.below(18));
+    const std::size_t most = random.one_in(20) ? 90 : 18;
+    NumberText n = std::to_string(1 + random.below(9)) + random.digits(random.below(most));
     if (n.size() == 1) n = "4";
-    const auto limit = static_cast<double>(n.size() + 4 - random.below(n.size()));
+    if (random.one_in(50)) n = Whole_Power_Of_Two(50 + random.below(150));
+    const auto limit =
+        static_cast<double>(n.size() + 4 - random.below(random.one_in(2) ? n.size() : 3));
     const Exponent_Split quick = Split_Exponent(n, limit);
     const Exponent_Split by_text = Split_Exponent_By_Steps(n, limit);
     ASSERT_EQ(quick.A, by_text.A) << n << " at " << limit;

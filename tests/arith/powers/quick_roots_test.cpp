@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <string>
 
@@ -10,10 +11,12 @@
 #include "arith/powers/power_function.h"
 #include "arith/powers/root_estimate.h"
 #include "arith/powers/root_neighbourhood.h"
+#include "host/conversions.h"
 #include "support/random_numbers.h"
 #include "support/text_steps.h"
 #include "text/compare_numbers.h"
 #include "text/decimal.h"
+#include "text/expand_exponent.h"
 #include "text/round_to_length.h"
 
 namespace quorvex {
@@ -125,6 +128,24 @@ TEST(QuickRoots, ValuesThatRoundsLeadToAreAmongThoseTold) {
   }
   EXPECT_GT(told, 500);
   EXPECT_LT(4 * doubtful, told);
+}
+
+// What the host writes of the floats' root, wherever floats have one.
+TEST(QuickRoots, EstimatesAreTheHostsDigits) {
+  Random_Numbers random(1823);
+  for (int round = Rounds(20000); round > 0; --round) {
+    NumberText radicand = random.one_of("123456789") + random.digits(random.below(60));
+    if (random.one_in(2)) radicand.insert(1 + random.below(radicand.size()), ".");
+    if (random.one_in(6))
+      radicand = "0." + std::string(random.below(30), '0') + random.one_of("19");
+    const double degree = random.one_in(2) ? 2 : static_cast<double>(1 + random.below(12));
+    const Step_Number number(radicand);
+    if (!number.is_in_limbs()) continue;
+    const double root = std::pow(Text_To_Number(radicand), 1 / degree);
+    ASSERT_EQ(Root_Estimate(number, Step_Number(degree)).text(),
+              Expand_Exponent(Number_To_Text(root)))
+        << radicand << " degree " << degree;
+  }
 }
 
 // The iteration itself, its end told by rounded texts; nothing where it takes long.

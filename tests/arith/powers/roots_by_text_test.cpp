@@ -228,6 +228,20 @@ TEST(Roots, OfDegreeTwoAreThoseOfStepsOnText) {
   }
 }
 
+// The way from 1 to a root beyond floats is long, and most of it is halves.
+TEST(Roots, FarFromTheirEstimateAreThoseOfStepsOnText) {
+  Random_Numbers random(1413);
+  for (int round = Rounds(60); round > 0; --round) {
+    std::string radicand = random.one_of("123456789") + random.digits(random.below(30));
+    const std::string zeros(310 + random.below(300), '0');
+    radicand = random.one_in(2) ? radicand + zeros : "0." + zeros + radicand + "1";
+    const int limit = 1 + static_cast<int>(random.below(random.one_in(2) ? 8 : 60));
+    ASSERT_EQ(Written(Mean_Root(Step_Number(radicand), Step_Number(1), limit + 1), limit),
+              Written(Read_Decimal(Mean_Root_By_Text(radicand, "1", limit)), limit))
+        << radicand << " at " << limit;
+  }
+}
+
 TEST(Roots, OfAnyDegreeAreThoseOfStepsOnText) {
   constexpr const char* degrees[] = {"3", "4", "5", "7", "10", "1.5", "2.5", "0.5", "0.75", "100"};
   Random_Numbers random(1412);
