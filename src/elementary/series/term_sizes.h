@@ -46,4 +46,7 @@ class Error_Of_Steps {
 /// Doubt about the end is none where the term after it is too small to change the sum.
 std::optional<std::uint64_t> Count_Terms(const Series_Tail& tail, std::uint64_t divisor_end);
 
+/// The same for a rule without a divisor of powers.
+std::optional<std::uint64_t> Count_Powers(const Series_Tail& tail);
+
 }  // namespace quorvex
