@@ -108,7 +108,7 @@ Step_Number Restored(Step_Number power, const Reduced& reduced, const Steps& ste
 // A square doubles a relative difference. It and the product with the power of two are rounded in
 // both chains, by half a unit each; a reciprocal leaves off less than 10 u.
 std::optional<Step_Number> Quick_Value(const Reduced& reduced, double digits, const Steps& steps) {
-  constexpr double lowest_limit = 70;  // below, terms in turn cost less
+  constexpr double lowest_limit = 30;  // below, terms in turn cost less
   constexpr double highest_limit = 1'000'000;
   constexpr std::int64_t lowest_power = -15;
   const Step_Number& r = reduced.rest;

@@ -109,6 +109,22 @@ Number To_Decimal(Word* row, std::size_t count) {
   return number;
 }
 
+// Words that are as far down as the places still to come no longer count.
+Number Fraction_To_Decimal(Word* row, std::size_t count, std::size_t limbs) {
+  limbs::Scratch scratch(limbs);
+  for (std::size_t left = limbs; left-- > 0;) {
+    Wide column = 0;
+    for (std::size_t place = count > left + 2 ? count - left - 2 : 0; place < count; ++place) {
+      column += Wide{row[place]} * limbs::base;
+      row[place] = Take_Word(column);
+    }
+    scratch.data()[left] = static_cast<Limb>(column);
+  }
+  Number number;
+  limbs::Trim({scratch.data(), limbs, -static_cast<std::int64_t>(limbs), false}, number);
+  return number;
+}
+
 // Of the columns below the one that begins, each of at most `count` products adds less than a unit.
 void Multiply(const Word* row, const Word* fraction, std::size_t count, Word* out) {
   Expects(count <= most_words && count > 0);
@@ -160,6 +176,19 @@ Word Sum_Of(const Multiples& multiples, bool alternates, std::size_t count, Word
     carry >>= bits;
   }
   Expects(carry >= 0 && carry < static_cast<Signed_Wide>(Divisor::end));
+  return static_cast<Word>(carry);
+}
+
+Word Add_Multiples(const Multiples& multiples, std::size_t count, Word* row) {
+  const auto [a, b, c, d] = multiples.lifted;
+  const auto [by_a, by_b, by_c, by_d] = multiples.factors;
+  Wide carry = 0;
+  for (std::size_t place = count; place-- > 0; ++row) {
+    const Wide sum = Wide{a[place]} * by_a + Wide{b[place]} * by_b + Wide{c[place]} * by_c +
+                     Wide{d[place]} * by_d;
+    carry += (sum >> lift) + *row;
+    *row = Take_Word(carry);
+  }
   return static_cast<Word>(carry);
 }
 

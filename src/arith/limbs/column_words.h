@@ -43,6 +43,9 @@ void Fraction_Of(const limbs::Number& number, std::size_t count, Word* fraction)
 /// The whole number of a row without words behind the point. Its words are used up.
 limbs::Number To_Decimal(Word* row, std::size_t count);
 
+/// The number of a row behind the point, its first `limbs` limbs cut off or a unit less.
+limbs::Number Fraction_To_Decimal(Word* row, std::size_t count, std::size_t limbs);
+
 /// The product of a row and a fraction of as many words, in the places of the row: less than
 /// count + 2 units too small. `out`, another row, is padded.
 void Multiply(const Word* row, const Word* fraction, std::size_t count, Word* out);
@@ -122,5 +125,8 @@ struct Multiples {
 /// The sum of multiples, every other one with a minus if they alternate, as a row behind the point;
 /// gives what stands before it. It is not negative.
 Word Sum_Of(const Multiples& multiples, bool alternates, std::size_t count, Word* row);
+
+/// Adds multiples to a row behind the point, and gives what stands before it then.
+Word Add_Multiples(const Multiples& multiples, std::size_t count, Word* row);
 
 }  // namespace quorvex::columns

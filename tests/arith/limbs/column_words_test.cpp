@@ -130,6 +130,10 @@ TEST(Column_Words, AreAddedInMultiples) {
     Words row(count);
     const Word before = columns::Sum_Of(multiples, alternates, count, row.data());
     ASSERT_EQ((Number(before) * Units(count) + Value_Of_Row(row, count)).text(), expected.text());
+    if (alternates) continue;
+    const Word after = columns::Add_Multiples(multiples, count, row.data());
+    expected = expected + expected - Number(before) * Units(count);
+    ASSERT_EQ((Number(after) * Units(count) + Value_Of_Row(row, count)).text(), expected.text());
   }
 }
 
@@ -159,6 +163,18 @@ TEST(Column_Words, AreReadFromDecimalsAndBack) {
         Value_Of_Fraction(fraction, words) * Whole_Number::Ten_To(decimals.size());
     ASSERT_TRUE(!(too_small < zero) &&
                 too_small < Whole_Number("2") * Whole_Number::Ten_To(decimals.size()));
+
+    std::reverse(fraction.begin(), fraction.end());
+    const Whole_Number value = Value_Of_Row(fraction, words);
+    const std::size_t limb_count = 1 + random.below(words);
+    const limbs::Number back = columns::Fraction_To_Decimal(fraction.data(), words, limb_count);
+    const std::size_t digits = limb_count * limbs::digits;
+    const Whole_Number scaled = value * Whole_Number::Ten_To(digits) / Units(words);
+    Whole_Number read = back.is_zero() ? zero : Whole_Number(limbs::Digits_Of(back));
+    read = read * Whole_Number::Ten_To(
+                      static_cast<std::size_t>(back.low + static_cast<std::int64_t>(limb_count)) *
+                      limbs::digits);
+    ASSERT_TRUE(read == scaled || read + Number(1) == scaled);
   }
 }
 
