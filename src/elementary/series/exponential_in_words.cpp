@@ -49,7 +49,10 @@ class Term_Size {
 
   void step() {
     product_ *= static_cast<double>(++k_) * reciprocal_;
-    for (; product_ >= one; product_ /= one) ++zeros_;
+    while (product_ >= one) {
+      product_ /= one;
+      ++zeros_;
+    }
   }
   std::size_t k() const { return k_; }
 

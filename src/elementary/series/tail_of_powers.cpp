@@ -101,7 +101,7 @@ class Powers_Tail {
 
  private:
   static constexpr std::size_t other_rows = 6 + Divisions::most;
-  static constexpr double negligible = 1e-10;  // of errors by exact steps
+  static constexpr double negligible = 1e-8;  // of errors by exact steps
 
   void fill_babies(const Number& factor) {
     Word* const first = divisions_.quotients[0];  // as a row
