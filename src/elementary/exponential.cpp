@@ -17,7 +17,6 @@
 #include "text/compare_numbers.h"
 #include "text/decimal.h"
 #include "text/limits.h"
-#include "text/primitives.h"
 #include "text/tokens.h"
 
 namespace quorvex {
@@ -73,8 +72,8 @@ Reduced Reduce(const NumberText& magnitude, bool is_negative, const Steps& steps
   const NumberText ln2 = To_Text(Ln2_Digits(steps.limit()));
   const std::int32_t n = Multiple_Of_Ln2(magnitude, ln2);
   Step_Number r =
-      steps.difference(Step_Number(magnitude), steps.product(Step_Number(n), Step_Number(ln2)));
-  const Step_Number tenth("0" + Decimal_Separator() + "1");
+      steps.difference(Step_Number(magnitude), steps.product(Step_Number(n), Number_Of_Ln2(ln2)));
+  const Step_Number tenth(Decimal{"1", -1});
   const Step_Number two(2);
   int halvings = 0;
   for (; !Is_Greater(tenth, r); ++halvings) {

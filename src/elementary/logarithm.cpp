@@ -143,8 +143,7 @@ Step_Number Value_Of_Logarithm(const NumberText& num, const HostValue& ln2,
   const Step_Number one(1);
   const Step_Number t = steps.quotient(steps.difference(y, one), steps.sum(y, one));
   const Step_Number twice = steps.product(Step_Number(2), Area_Tangent(t, precision));
-  // At a digit or less the text of ln 2 is no more than "0.", "0" or nothing.
-  return steps.sum(twice, steps.product(Step_Number(n), Step_Number(ln2.text())));
+  return steps.sum(twice, steps.product(Step_Number(n), Number_Of_Ln2(ln2.text())));
 }
 
 // The natural logarithm as `close` makes it of its value; known ones are not closed.

@@ -26,8 +26,10 @@ constexpr double lowest_limit_of_groups = 400;
 constexpr double highest_limit = 1'000'000;
 
 // So many places the first power lies below the sum. Its digits behind the last place of the sum
-// make doubt as seldom as one time in some thousand, and where doubt is dear, in some million.
+// make doubt as seldom as one time in some thousand, and where doubt is dear, in some ten thousand
+// or some million.
 constexpr std::int64_t places_below = 3;
+constexpr std::int64_t places_below_of_powers = 4;
 constexpr std::int64_t places_below_of_groups = 6;
 
 // Of the leading digits of a sum and of what is still to come.
@@ -43,6 +45,11 @@ Way Way_Of(const Series_Rule& rule, double limit) {
     return Way::by_powers;
   }
   return limit < lowest_limit_of_groups ? Way::in_turn : Way::in_groups;
+}
+
+std::int64_t Places_Below(const Series_Rule& rule, double limit) {
+  if (limit < lowest_limit_of_groups) return places_below;
+  return Way_Of(rule, limit) == Way::by_powers ? places_below_of_powers : places_below_of_groups;
 }
 
 std::optional<Step_Number> Sum_Of_Tail(const Series_Tail& tail) {
@@ -93,9 +100,7 @@ bool Shortened_Series::is_ready(const Series_State& state) const {
   if (is_over_ || !Is_Number(state.power) || !Is_Number(state.sum)) return false;
   if (state.power.is_negative() && !rule_.alternates) return false;
   const std::int64_t below = state.sum.leading_power() - state.power.leading_power();
-  if (below < (limit_ >= lowest_limit_of_groups ? places_below_of_groups : places_below)) {
-    return false;
-  }
+  if (below < Places_Below(rule_, limit_)) return false;
   const double still_to_come = std::pow(10.0, static_cast<double>(1 - below)) + margin;
   const double mantissa = Mantissa(state.sum.in_limbs());
   const std::uint64_t next_k = state.k + rule_.stride;

@@ -155,6 +155,11 @@ double Error_Of_Steps::next() {
   k_ += rule_.stride;
   size_ *= factor_ / static_cast<double>(Divisor_At(rule_.power_divisor, k_));
   ++steps_;
+  if (rule_.power_divisor == nullptr) {
+    constexpr double unit_of_quotient = 10;
+    return (steps_ / 2 + unit_of_quotient) * size_ /
+           static_cast<double>(Divisor_At(rule_.term_divisor, k_));
+  }
   constexpr double units_of_leading_digit = 20;  // twice those of digit limit + 2
   return steps_ * size_ * units_of_leading_digit;
 }
