@@ -17,7 +17,6 @@
 #include "text/compare_numbers.h"
 #include "text/decimal.h"
 #include "text/limits.h"
-#include "text/primitives.h"
 #include "text/tokens.h"
 
 namespace quorvex {
@@ -73,8 +72,8 @@ Reduced Reduce(const NumberText& magnitude, bool is_negative, const Steps& steps
   const NumberText ln2 = To_Text(Ln2_Digits(steps.limit()));
   const std::int32_t n = Multiple_Of_Ln2(magnitude, ln2);
   Step_Number r =
-      steps.difference(Step_Number(magnitude), steps.product(Step_Number(n), Step_Number(ln2)));
-  const Step_Number tenth("0" + Decimal_Separator() + "1");
+      steps.difference(Step_Number(magnitude), steps.product(Step_Number(n), Number_Of_Ln2(ln2)));
+  const Step_Number tenth(Decimal{"1", -1});
   const Step_Number two(2);
   int halvings = 0;
   for (; !Is_Greater(tenth, r); ++halvings) {
@@ -108,7 +107,7 @@ Step_Number Restored(Step_Number power, const Reduced& reduced, const Steps& ste
 // A square doubles a relative difference. It and the product with the power of two are rounded in
 // both chains, by half a unit each; a reciprocal leaves off less than 10 u.
 std::optional<Step_Number> Quick_Value(const Reduced& reduced, double digits, const Steps& steps) {
-  constexpr double lowest_limit = 70;  // below, terms in turn cost less
+  constexpr double lowest_limit = 30;  // below, terms in turn cost less
   constexpr double highest_limit = 1'000'000;
   constexpr std::int64_t lowest_power = -15;
   const Step_Number& r = reduced.rest;

@@ -8,6 +8,7 @@
 #include "elementary/steps/step_functions.h"
 #include "host/conversions.h"
 #include "text/compare_numbers.h"
+#include "text/decimal.h"
 #include "text/limits.h"
 #include "text/primitives.h"
 #include "text/tokens.h"
@@ -22,8 +23,7 @@ bool Exceeds_1(const Step_Number& num) {
 }
 
 bool Exceeds_Two_Fifths(const Step_Number& num) {
-  constexpr double two_fifths = 0.4;
-  return Is_Greater(Magnitude_Of(num), Step_Number(two_fifths));
+  return Is_Greater(Magnitude_Of(num), Step_Number(Decimal{"4", -1}));
 }
 
 // (y - 1) / (y + 1), whose arc tangent is that of y less an eighth of a turn

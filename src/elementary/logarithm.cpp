@@ -8,6 +8,7 @@
 #include <string_view>
 #include <utility>
 
+#include "arith/digits/multiply_digits.h"
 #include "arith/operation/steps.h"
 #include "elementary/constants.h"
 #include "elementary/series/shortened_series.h"
@@ -44,14 +45,27 @@ std::int32_t Power_Of_Two(const NumberText& num) {
   return static_cast<std::int32_t>(std::floor(std::log(approximate) / std::log(2.0)));
 }
 
+// Text can name a limit otherwise.
+bool Is_Number(const HostValue& value, double number) {
+  return value.kind() == HostValue::Kind::number && value.number() == number;
+}
+
 // The precision of a logarithm, as far as its steps read it.
 class Precision {
  public:
   // Fails where the limit can't be read, by the host or by arithmetic.
   explicit Precision(const HostValue& maxSD)
-      : steps_(Restrictionator({.maximum_significant_digits = maxSD}).maxSD),
-        last_factor_(To_Int32(steps_.product(Step_Number(5), Step_Number(To_Text(maxSD))).text())),
-        last_power_(Greatest_Below(Opposite_Of(Step_Number(To_Text(maxSD))))) {}
+      : steps_(Restrictionator({.maximum_significant_digits = maxSD}).maxSD) {
+    const auto digits = Whole_Digits_Of(steps_.limit());
+    if (digits && Is_Number(maxSD, steps_.limit()) && Can_Multiply()) {
+      last_factor_ = static_cast<std::int32_t>(5 * *digits);
+      last_power_ = -static_cast<std::int64_t>(*digits) - 1;
+      return;
+    }
+    const Step_Number limit(To_Text(maxSD));
+    last_factor_ = To_Int32(steps_.product(Step_Number(5), limit).text());
+    last_power_ = Greatest_Below(Opposite_Of(limit));
+  }
 
   const Steps& steps() const { return steps_; }
 
@@ -70,8 +84,8 @@ class Precision {
   }
 
   Steps steps_;
-  std::int32_t last_factor_;
-  std::int64_t last_power_;
+  std::int32_t last_factor_ = 0;
+  std::int64_t last_power_ = 0;
 };
 
 // True where a sum stays as it is whatever negative terms follow this one. They only become smaller
@@ -129,8 +143,7 @@ Step_Number Value_Of_Logarithm(const NumberText& num, const HostValue& ln2,
   const Step_Number one(1);
   const Step_Number t = steps.quotient(steps.difference(y, one), steps.sum(y, one));
   const Step_Number twice = steps.product(Step_Number(2), Area_Tangent(t, precision));
-  // At a digit or less the text of ln 2 is no more than "0.", "0" or nothing.
-  return steps.sum(twice, steps.product(Step_Number(n), Step_Number(ln2.text())));
+  return steps.sum(twice, steps.product(Step_Number(n), Number_Of_Ln2(ln2.text())));
 }
 
 // The natural logarithm as `close` makes it of its value; known ones are not closed.

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "arith/limbs/limb_rows.h"
+#include "elementary/series/exponential_in_words.h"
 #include "elementary/series/term_sizes.h"
 #include "expects.h"
 #include "host/platform.h"
@@ -180,6 +181,8 @@ class Taylor_Sum {
 
 Number Exponential_Less_One(const Number& r, std::size_t digits) {
   Expects(!r.is_zero() && !r.negative && limbs::Leading_Power(r) < -1 && r.top() >= 0);
+  constexpr std::size_t most_in_words = 3000;
+  if (digits <= most_in_words) return Exponential_In_Words(r, digits);
   const std::size_t halvings = Halvings_For(digits);
   constexpr std::size_t guard_digits = 6;
   const std::size_t width = limbs::Count_For(digits + guard_digits + (halvings + 4) / 3);

@@ -41,8 +41,12 @@ Step_Number Series_Counter::product_with_the_one_before() const {
 }
 
 // The limit is read as its text has it, with 15 digits, and its sign is forced.
-Series_End::Series_End(double limit)
-    : lowest_power_(-std::fabs(To_Number(Number_To_Text(limit)))) {}
+Series_End::Series_End(double limit) : lowest_power_(-std::fabs(limit)) {
+  constexpr double plain_whole_numbers = 1e15;
+  if (!(std::fabs(limit) < plain_whole_numbers && std::trunc(limit) == limit)) {
+    lowest_power_ = -std::fabs(To_Number(Number_To_Text(limit)));
+  }
+}
 
 std::int64_t Series_End::last_power() const {
   constexpr double lowest = -1e15;  // of those that can be counted

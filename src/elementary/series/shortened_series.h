@@ -16,11 +16,12 @@ namespace quorvex {
 ///
 /// In a chain of exact steps, terms keep as many significant digits as the sum, and so many more
 /// places than the sum has room for. Here no more are formed than the sum has room for, and a few
-/// for the fraction behind them: of few digits in turn (`tail_in_turn.h`), of many in groups
-/// (`tail_in_groups.h`), each with a bound of what it cuts off; what exact steps can differ by is
-/// bounded in `term_sizes.h`. A term that is farther than both together from the middle between
-/// two units rounds as the exact one does, and one that is as far from the power of ten that ends
-/// the series ends it or not as that one.
+/// for the fraction behind them: of few digits in turn (`tail_in_turn.h`), of more in groups of
+/// powers (`tail_of_powers.h`), of many in groups of any kind (`tail_in_groups.h`), each with a
+/// bound of what it cuts off; what exact steps can differ by is bounded in `term_sizes.h`. A term
+/// that is farther than both together from the middle between two units rounds as the exact one
+/// does, and one that is as far from the power of ten that ends the series ends it or not as that
+/// one.
 class Shortened_Series {
  public:
   static constexpr std::uint64_t endless = std::numeric_limits<std::int64_t>::max();

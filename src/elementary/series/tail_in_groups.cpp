@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "arith/limbs/limb_rows.h"
+#include "elementary/series/tail_ends.h"
 #include "elementary/series/term_sizes.h"
 #include "host/platform.h"
-#include "text/guard_digits.h"
 
 namespace quorvex {
 namespace {
@@ -22,22 +22,10 @@ using limbs::Row_Divisor;
 using limbs::Row_Table;
 using limbs::rows_at_once;
 
-constexpr auto limb_digits = static_cast<std::int64_t>(limbs::digits);
 constexpr auto all_digits = static_cast<std::size_t>(std::numeric_limits<std::int64_t>::max());
 
 // Of all rows together.
 constexpr std::size_t most_limbs = std::size_t{1} << 20U;
-
-// number * 10^shift, with all digits.
-Number Scaled(const Number& number, std::int64_t shift) {
-  std::int64_t beyond = shift % limb_digits;
-  if (beyond < 0) beyond += limb_digits;
-  Limb power = limbs::Ten_To(static_cast<std::size_t>(beyond));
-  Number scaled;
-  limbs::Trim({&power, 1, (shift - beyond) / limb_digits, false}, scaled);
-  limbs::Multiply(number, scaled, all_digits, scaled);
-  return scaled;
-}
 
 void Add(Number& sum, const Number& other) {
   limbs::Add(sum, other, other.negative, all_digits, sum);
@@ -287,15 +275,10 @@ class Groups {
 std::optional<Step_Number> Sum_In_Groups(const Series_Tail& tail) {
   const std::optional<std::uint64_t> terms = Count_Terms(tail, Row_Divisor::end);
   if (!terms) return std::nullopt;
-  Number sum = tail.state.sum.in_limbs();
-  if (*terms == 0) return Step_Number(std::move(sum));
-  std::optional<Number> rest = Groups(tail, *terms).sum();
+  if (*terms == 0) return tail.state.sum;
+  const std::optional<Number> rest = Groups(tail, *terms).sum();
   if (!rest) return std::nullopt;
-  Number scaled = Scaled(*rest, -tail.shift());
-  scaled.negative = tail.state.power.is_negative() != tail.rule.alternates;
-  limbs::Add(sum, scaled, scaled.negative, static_cast<std::size_t>(Digits_Of_Result(tail.limit)),
-             sum);
-  return Step_Number(std::move(sum));
+  return With_Rest(tail, *rest);
 }
 
 }  // namespace quorvex

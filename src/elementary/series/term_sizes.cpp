@@ -10,6 +10,7 @@ namespace {
 using limbs::Number;
 
 constexpr std::uint64_t most_terms = 1'000'000;
+constexpr double too_small = 0.4;  // to change the sum, of its last place
 
 std::uint64_t Divisor_At(Divisor_Of_Counter divisor, std::uint64_t k) {
   return divisor == nullptr ? 1 : divisor(k);
@@ -93,6 +94,42 @@ bool Has_Divisors_Below(const Series_Rule& rule, std::uint64_t k, std::uint64_t 
   return Divisor_At(rule.power_divisor, k) < end && Divisor_At(rule.term_divisor, k) < end;
 }
 
+double Logarithm_Of(const Number& number) {
+  return std::log10(Mantissa(number)) + static_cast<double>(limbs::Leading_Power(number));
+}
+
+// The terms of a series whose powers are not divided, by their logarithms to the base ten.
+class Terms_By_Logarithms {
+ public:
+  explicit Terms_By_Logarithms(const Series_Tail& tail)
+      : tail_(tail),
+        factor_(Logarithm_Of(tail.factor)),
+        power_(Logarithm_Of(tail.state.power.in_limbs())) {}
+
+  double power(double count) const { return power_ + count * factor_; }
+  double term(double count) const { return power(count) - divisor(count); }
+  double what_tells_the_end(double count) const {
+    return tail_.rule.ends_by_power ? power(count) : term(count);
+  }
+
+  // Near the first one that is below.
+  double first_below(double size) const {
+    const double by_power = (size - power_) / factor_;
+    if (tail_.rule.ends_by_power) return std::ceil(by_power);
+    return std::ceil((size + divisor(std::fmax(by_power, 1)) - power_) / factor_);
+  }
+
+ private:
+  double divisor(double count) const {
+    const std::uint64_t k = tail_.state.k + static_cast<std::uint64_t>(count) * tail_.rule.stride;
+    return std::log10(static_cast<double>(Divisor_At(tail_.rule.term_divisor, k)));
+  }
+
+  const Series_Tail& tail_;
+  double factor_;
+  double power_;
+};
+
 }  // namespace
 
 double Mantissa(const Number& number) {
@@ -118,12 +155,16 @@ double Error_Of_Steps::next() {
   k_ += rule_.stride;
   size_ *= factor_ / static_cast<double>(Divisor_At(rule_.power_divisor, k_));
   ++steps_;
+  if (rule_.power_divisor == nullptr) {
+    constexpr double unit_of_quotient = 10;
+    return (steps_ / 2 + unit_of_quotient) * size_ /
+           static_cast<double>(Divisor_At(rule_.term_divisor, k_));
+  }
   constexpr double units_of_leading_digit = 20;  // twice those of digit limit + 2
   return steps_ * size_ * units_of_leading_digit;
 }
 
 std::optional<std::uint64_t> Count_Terms(const Series_Tail& tail, std::uint64_t divisor_end) {
-  constexpr double too_small = 0.4;  // of the sum's last place
   const std::int64_t last_place = -tail.shift();
   Terms_By_Floats terms(tail);
   for (std::uint64_t count = 0; count < most_terms; ++count) {
@@ -138,6 +179,37 @@ std::optional<std::uint64_t> Count_Terms(const Series_Tail& tail, std::uint64_t 
     return count + 1;
   }
   return std::nullopt;
+}
+
+std::optional<std::uint64_t> Count_Powers(const Series_Tail& tail) {
+  const Terms_By_Logarithms terms(tail);
+  const auto end = static_cast<double>(tail.last_power + 1);
+  double count = std::fmax(terms.first_below(end), 1);
+  if (!(count < static_cast<double>(most_terms))) return std::nullopt;
+  double size = terms.what_tells_the_end(count);
+  double size_before = terms.what_tells_the_end(count - 1);
+  while (size >= end) {
+    size_before = size;
+    size = terms.what_tells_the_end(++count);
+  }
+  while (count > 1 && size_before < end) {
+    size = size_before;
+    size_before = terms.what_tells_the_end(--count - 1);
+  }
+
+  bool is_in_doubt = size > end - float_margin;
+  if (!is_in_doubt && count > 1 && size_before < end + float_margin) {
+    is_in_doubt = true;
+    --count;
+  }
+  const std::uint64_t most =
+      tail.last_k < tail.state.k ? 0 : (tail.last_k - tail.state.k) / tail.rule.stride;
+  if (most < static_cast<std::uint64_t>(count)) return most;
+  const auto last_place = -static_cast<double>(tail.shift());
+  if (is_in_doubt && terms.term(count + 1) > last_place + std::log10(too_small)) {
+    return std::nullopt;
+  }
+  return static_cast<std::uint64_t>(count);
 }
 
 }  // namespace quorvex

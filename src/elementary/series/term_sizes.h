@@ -23,7 +23,8 @@ double Upper_Bound(const limbs::Number& number, std::int64_t power_of_ten = 0);
 /// An exact step rounds a product by at most half a unit of digit limit + 2, and leaves less than a
 /// unit of digit limit + 1 off a quotient: together less than 2 * 10^-limit of the power's size.
 /// What is added may be a quotient of the power, of as much. Sizes of powers are known from above,
-/// and after n steps n such parts have come together.
+/// and after n steps n such parts have come together. Where powers are not divided, a step costs
+/// half a unit, and the quotient one of digit limit + 1 alone.
 class Error_Of_Steps {
  public:
   explicit Error_Of_Steps(const Series_Tail& tail);
@@ -45,5 +46,8 @@ class Error_Of_Steps {
 ///
 /// Doubt about the end is none where the term after it is too small to change the sum.
 std::optional<std::uint64_t> Count_Terms(const Series_Tail& tail, std::uint64_t divisor_end);
+
+/// The same for a rule without a divisor of powers.
+std::optional<std::uint64_t> Count_Powers(const Series_Tail& tail);
 
 }  // namespace quorvex

@@ -9,6 +9,7 @@
 #include "elementary/steps/step_digits.h"
 #include "host/conversions.h"
 #include "text/clean_up_number.h"
+#include "text/digit_runs.h"
 #include "text/format_result.h"
 #include "text/guard_digits.h"
 #include "text/options.h"
@@ -33,6 +34,13 @@ NumberText Finish(const Step_Number& value, const HostValue& exponential_notatio
   // As the sum with 0 would have it.
   options.maxSD = With_Guard_Digit(options.maxSD);
   return Format_Result(value.decimal(), options, false);
+}
+
+// At a digit or less the text is no more than "0.", "0" or nothing.
+Step_Number Number_Of_Ln2(std::string_view text) {
+  constexpr std::size_t shortest = 4;
+  if (text.size() >= shortest) text.remove_suffix(Count_Trailing_Zeros(text));
+  return Step_Number(text);
 }
 
 // A small power has no digits to be rounded.

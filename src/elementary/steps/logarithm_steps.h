@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "arith/operation/step_number.h"
 #include "arith/operation/steps.h"
@@ -17,6 +18,9 @@ NumberText Normal_Form(const HostValue& num);
 /// type_mismatch for an option that can't be read.
 NumberText Finish(const Step_Number& value, const HostValue& exponential_notation,
                   const HostValue& maxSD);
+
+/// ln 2 as it is served. Zeros behind its decimals would keep it from the limbs.
+Step_Number Number_Of_Ln2(std::string_view text);
 
 /// 2 to the power of a whole number of 0 or more, at the limit of the steps.
 Step_Number Two_To(std::int32_t exponent, const Steps& steps);

@@ -81,7 +81,10 @@ TEST(Shortened_Series, Sums_Up_As_Exact_Steps_Do) {
   constexpr int cases = 3000;
   for (int i = 0; i < cases; ++i) {
     const Series& series = all_series[random.below(std::size(all_series))];
-    const std::size_t most = random.one_in(300) ? 2200 : random.one_in(10) ? 700 : 60;
+    const std::size_t most = random.one_in(300)  ? 2200
+                             : random.one_in(10) ? 700
+                             : random.one_in(2)  ? 150
+                                                 : 60;
     const auto limit = static_cast<double>(1 + random.below(most));
     const NumberText x = Random_Argument(random, series, static_cast<std::size_t>(limit));
     NumberText exact;
@@ -101,10 +104,18 @@ constexpr Series_Rule geometric{.stride = 1,
                                 .ends_by_power = true,
                                 .alternates = false};
 
+// The same with divisors of what is added, which end the series.
+constexpr Series_Rule divided{.stride = 2,
+                              .power_divisor = nullptr,
+                              .term_divisor = [](std::uint64_t k) { return k; },
+                              .ends_by_power = false,
+                              .alternates = false};
+
 std::optional<Step_Number> Geometric_Sum(const std::string& power, const std::string& sum,
-                                         const std::string& factor, double limit) {
+                                         const std::string& factor, double limit,
+                                         const Series_Rule& rule = geometric) {
   const Step_Number ratio(factor);
-  Shortened_Series series(geometric, ratio, limit, -static_cast<std::int64_t>(limit) - 1);
+  Shortened_Series series(rule, ratio, limit, -static_cast<std::int64_t>(limit) - 1);
   return series.sum_from({Step_Number(power), Step_Number(sum), 1});
 }
 
@@ -143,6 +154,13 @@ TEST(Shortened_Series, Begins_Where_All_Digits_Can_Be_Told) {
     EXPECT_EQ(Geometric_Sum(c.power, c.sum, c.factor, c.limit).has_value(), c.is_told)
         << c.power << " " << c.sum << " " << c.factor << " " << c.limit;
   }
+  // The first term added ends in a half unit, then in a tenth more.
+  const std::string zeros(53, '0');
+  EXPECT_FALSE(Geometric_Sum("0.000012" + zeros + "15", "2", "0.1", 60, divided));
+  EXPECT_TRUE(Geometric_Sum("0.000012" + zeros + "18", "2", "0.1", 60, divided));
+  // A term next to the end, and then too small to change the sum what follows.
+  EXPECT_FALSE(Geometric_Sum("0.0000107", "2", "0.1", 60, divided));
+  EXPECT_TRUE(Geometric_Sum("0.0000107", "20", "0.1", 60, divided));
   EXPECT_EQ(Geometric_Sum("0.000012", "2", "0.1", 20)->text(), "2.000001333333333333333");
   EXPECT_EQ(Geometric_Sum("0.0000012", "2", "0.1", 2000)->text(),
             "2.0000001" + std::string(1994, '3'));
