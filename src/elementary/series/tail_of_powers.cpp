@@ -254,7 +254,7 @@ class Powers_Tail {
     }
     Expects(carry == 0);
     constexpr double farthest = 0.02;
-    const double from_whole = static_cast<double>(static_cast<std::int64_t>(sum_[0]) - half);
+    const auto from_whole = static_cast<double>(static_cast<std::int64_t>(sum_[0]) - half);
     if (std::fabs(from_whole) > farthest * one_as_float) return {};
     return columns::To_Decimal(sum_ + 1, width_ - 1);
   }
