@@ -61,11 +61,12 @@ class Mean_Rounds {
   std::optional<Decimal> end(const Far_Value& value) const {
     const double twice = 2 * f_;
     const double over = std::floor(twice);
-    const auto [units, raise] = Sum_With_Quotient(
+    const std::optional<Rounded_Sum> rounded = Sum_With_Quotient(
         value, (twice - over) * guard_units, leading_.mantissa, static_cast<std::size_t>(digits_));
-    const auto sum = static_cast<std::int64_t>(over + units);
-    const std::optional<std::int64_t> digits =
-        common_end(raise, [&](std::int64_t raised) { return end_from(Half_Down(sum + raised)); });
+    if (!rounded) return std::nullopt;
+    const auto sum = static_cast<std::int64_t>(over + rounded->units);
+    const std::optional<std::int64_t> digits = common_end(
+        rounded->rounding, [&](std::int64_t raised) { return end_from(Half_Down(sum + raised)); });
     if (!digits) return std::nullopt;
     return with_last_digits(*digits);
   }
@@ -75,14 +76,14 @@ class Mean_Rounds {
 
   // What one or both ways of rounding lead to.
   template <typename Way>
-  static std::optional<std::int64_t> common_end(Raise raise, const Way& way) {
+  static std::optional<std::int64_t> common_end(Told_Rounding rounding, const Way& way) {
     std::optional<std::int64_t> end;
-    if (raise != Raise::yes) {
+    if (rounding != Told_Rounding::is_raised) {
       end = way(0);
-      if (!end || raise == Raise::no) return end;
+      if (!end || rounding == Told_Rounding::stays) return end;
     }
     const std::optional<std::int64_t> raised = way(1);
-    return raise == Raise::yes || raised == end ? raised : std::nullopt;
+    return rounding == Told_Rounding::is_raised || raised == end ? raised : std::nullopt;
   }
 
   std::optional<std::int64_t> end_from(std::int64_t value, int rounds = most_rounds) const {
@@ -91,9 +92,9 @@ class Mean_Rounds {
     const double part = 2 * f_ + offset * offset / units_;
     const double over = std::floor(part);
     const double guards = (part - over) * guard_units;
-    const Raise raise =
-        Raise_Between(guards - Most_Lost(leading_.mantissa) - safe_guards, guards + safe_guards);
-    return common_end(raise, [&](std::int64_t raised) -> std::optional<std::int64_t> {
+    const Told_Rounding rounding =
+        Round_Between(guards - Most_Lost(leading_.mantissa) - safe_guards, guards + safe_guards);
+    return common_end(rounding, [&](std::int64_t raised) -> std::optional<std::int64_t> {
       const std::int64_t quotient = static_cast<std::int64_t>(over) - value + raised;
       const std::int64_t mean = Half_Down(value + quotient);
       if (!is_within(quotient) || !is_within(mean)) return std::nullopt;

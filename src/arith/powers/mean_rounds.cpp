@@ -18,17 +18,6 @@ Leading_Digits Next_Distance(const Leading_Digits& e) {
 
 }  // namespace
 
-Raise Raise_Between(double low, double high) {
-  constexpr double half = 500;
-  constexpr double with_carry = 950;
-  if (high < half) return Raise::no;
-  if (low >= with_carry) return Raise::yes;
-  const double tens = std::floor(low / 10);
-  if (low < half || high >= with_carry || tens != std::floor(high / 10)) return Raise::in_doubt;
-  if (low - 10 * tens >= 1) return Raise::yes;
-  return high - 10 * tens < 1 ? Raise::no : Raise::in_doubt;
-}
-
 std::optional<Far_Value> Way_To_Root(const Number& value, const Number& root, std::size_t digits) {
   constexpr std::int64_t far = 8;
   const auto is_near = [&](const Leading_Digits& e) {
@@ -52,18 +41,21 @@ std::optional<Far_Value> Way_To_Root(const Number& value, const Number& root, st
   return reached;
 }
 
-// What is added to the twofold root s is s e^2 / (1 + e).
-Rounded_Sum Sum_With_Quotient(const Far_Value& value, double guards, double root_mantissa,
-                              std::size_t digits) {
+// What is added to the twofold root s is s e^2 / (1 + e). Where e went through so many rounds that
+// it is known too roughly, one unit more or none may both be wrong.
+std::optional<Rounded_Sum> Sum_With_Quotient(const Far_Value& value, double guards,
+                                             double root_mantissa, std::size_t digits) {
+  constexpr double most_slack = 30;
   const double near = 1 + value.e.number();
   const Leading_Digits square =
       Scaled(value.e.mantissa * value.e.mantissa * root_mantissa / near, 2 * value.e.power);
   const auto p = static_cast<std::int64_t>(digits + guard_digits);
   const double added = Leading_Digits{square.mantissa, square.power + p - 1}.number();
   const double slack = 1e-3 + 2 * added * value.error;
+  if (slack > most_slack) return std::nullopt;
   const double units = std::floor((guards + added) / guard_units);
   const double left = guards + added - units * guard_units;
-  return {units, Raise_Between(left - Most_Lost(root_mantissa) - slack, left + slack)};
+  return Rounded_Sum{units, Round_Between(left - Most_Lost(root_mantissa) - slack, left + slack)};
 }
 
 }  // namespace quorvex

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 
+#include "arith/division/told_rounding.h"
 #include "arith/limbs/limb_number.h"
 #include "arith/powers/leading_digits.h"
 
@@ -19,14 +20,6 @@ inline constexpr std::size_t beyond_quotient = 13;
 // What floats of guard digits may be wrong by, in thousandths of a unit, the digits of the root
 // among it.
 inline constexpr double safe_guards = 1e-5;
-
-/// What division makes of guard digits: half up by the first of three; but zeros at their end bring
-/// the rounding as many digits down, where it reaches the kept digits by a carry alone. Guards just
-/// below 0 belong to the unit before, and raise it: nothing is raised here.
-enum class Raise { no, yes, in_doubt };
-
-/// For guard digits with what follows them, anywhere from `low` to `high`.
-Raise Raise_Between(double low, double high);
 
 /// A value on the way to the root, root (1 + e), and the rounds to it. e is known to `error` of
 /// itself.
@@ -46,11 +39,12 @@ std::optional<Far_Value> Way_To_Root(const limbs::Number& value, const limbs::Nu
 /// one more beyond those of the twofold root, of which `guards` thousandths are known behind.
 struct Rounded_Sum {
   double units = 0;
-  Raise raise = Raise::in_doubt;
+  Told_Rounding rounding = Told_Rounding::in_doubt;
 };
 
-Rounded_Sum Sum_With_Quotient(const Far_Value& value, double guards, double root_mantissa,
-                              std::size_t digits);
+/// Nothing where even that can't be told.
+std::optional<Rounded_Sum> Sum_With_Quotient(const Far_Value& value, double guards,
+                                             double root_mantissa, std::size_t digits);
 
 /// How many thousandths of a unit a quotient loses by a reciprocal that is cut, at most.
 inline double Most_Lost(double root_mantissa) {

@@ -160,15 +160,15 @@ std::optional<Step_Number> Root_Neighbourhood::quotient(const Step_Number& value
   const Number less = offset->g ? Product(offset->e, *offset->g, offset->digits) : offset->e;
   Number quotient = Sum(root_, less, !less.negative, digits_ + guard_digits + beyond_quotient);
   const double guards = Part_Behind(quotient, last_) * guard_units;
-  Raise raise = Raise_Between(guards - most_lost_ - safe_guards, guards + safe_guards);
-  if (raise == Raise::in_doubt) {
+  Told_Rounding rounding = Round_Between(guards - most_lost_ - safe_guards, guards + safe_guards);
+  if (rounding == Told_Rounding::in_doubt) {
     const double part = lost_by_inverse(*offset);
     if (part < 0) return std::nullopt;
     const double lowered = guards - part * most_lost_;
-    raise = Raise_Between(lowered - safe_guards, lowered + safe_guards);
-    if (raise == Raise::in_doubt) return std::nullopt;
+    rounding = Round_Between(lowered - safe_guards, lowered + safe_guards);
+    if (rounding == Told_Rounding::in_doubt) return std::nullopt;
   }
-  const double to_next = (raise == Raise::yes ? guard_units : 0) - guards;
+  const double to_next = (rounding == Told_Rounding::is_raised ? guard_units : 0) - guards;
   limbs::Add(quotient,
              Short_Number(std::llround(std::fabs(to_next)),
                           last_ - static_cast<std::int64_t>(guard_digits)),
@@ -195,12 +195,15 @@ std::optional<Later_Values> Root_Neighbourhood::later_values(const Step_Number& 
   if (!reached) return std::nullopt;
   const Number twice = Sum(root_, root_, false, digits_ + beyond_quotient);
   const double guards = Part_Behind(twice, last_) * guard_units;
-  const auto [units, raise] =
+  const std::optional<Rounded_Sum> sum =
       Sum_With_Quotient(*reached, guards, Leading_Digits_Of(root_).mantissa, digits_);
+  if (!sum) return std::nullopt;
+  const auto [units, rounding] = *sum;
   Later_Values later;
   later.rounds = reached->rounds + 1;
-  if (raise != Raise::yes) later.values.push_back(half_of(twice, units * guard_units - guards));
-  if (raise != Raise::no) {
+  if (rounding != Told_Rounding::is_raised)
+    later.values.push_back(half_of(twice, units * guard_units - guards));
+  if (rounding != Told_Rounding::stays) {
     Step_Number raised = half_of(twice, (units + 1) * guard_units - guards);
     if (later.values.empty() || !Is_Equal(later.values.front(), raised)) {
       later.values.push_back(std::move(raised));
