@@ -16,7 +16,7 @@ namespace quorvex {
 namespace {
 
 TEST(ShortCalls, EndWithinABoundOfWorkAndMemory) {
-  constexpr std::size_t most_yields = 100'000;
+  constexpr std::size_t most_yields = 500'000;
   constexpr long most_bytes = 1'000'000'000;
   constexpr std::size_t granted = 200'000'000;  // what a text of 50 million digits takes
   const Locale_Guard locale(Point_Locale());

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "allocation/calls.h"
+#include "arith/digits/multiply_digits.h"
 #include "batch/value_codec.h"
 #include "frame/catalogue.h"
 #include "host/platform.h"
@@ -65,6 +66,7 @@ TEST(Threads, GiveTheAnswersOfOneToMixedCalls) {
   constexpr std::size_t threads = 8;
   constexpr std::size_t calls_of_engine = 500;
   const Locale_Guard locale(Point_Locale());
+  ASSERT_TRUE(Can_Multiply()) << "most calls would fail, in each thread alike";
   const std::vector<Known_Call> known = Known_Calls();
   ASSERT_GT(known.size(), 2000U);
   // So that the threads make the first instances, and look for the library of products, themselves.

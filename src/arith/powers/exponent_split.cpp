@@ -31,19 +31,24 @@ Exponent_Split Search(const NumberText& text, Step_Number m, double maxSD) {
   const Step_Number zero(0);
   const Step_Number one(1);
   const Step_Number n(text);
-  Exponent_Split split;
+  // Written out at the end alone: exponents of a few characters have texts of millions.
+  Step_Number best_a("");
+  Step_Number best_b("");
+  Step_Number best_c("");
   Step_Number best = n;
   for (;;) {
     Yield();
     Step_Number a = Whole_Quotient(m, Step_Number(2), steps);
-    const Step_Number b = Whole_Quotient(n, a, steps);
-    const Step_Number c = steps.difference(n, steps.product(a, b));
+    Step_Number b = Whole_Quotient(n, a, steps);
+    Step_Number c = steps.difference(n, steps.product(a, b));
     Step_Number cost = steps.sum(steps.sum(a, c), b);
     if (Is_Greater(a, zero)) steps.subtract(cost, one);
     if (Is_Greater(b, zero)) steps.subtract(cost, one);
-    if (!Is_Greater(best, cost)) return split;
+    if (!Is_Greater(best, cost)) return {best_a.text(), best_b.text(), best_c.text()};
     best = std::move(cost);
-    split = {a.text(), b.text(), c.text()};
+    best_a = a;
+    best_b = std::move(b);
+    best_c = std::move(c);
     m = std::move(a);
   }
 }

@@ -14,6 +14,7 @@ namespace {
 
 TEST(BatchCommand, AnswersALineForEachAndNeverStops) {
   const std::string input =
+      "\xEF\xBB\xBF"
       "{\"id\":1,\"call\":\"qvxADD\",\"args\":[1,\"2.5\"]}\n"
       "\n"
       "nonsense\r\n"

@@ -146,6 +146,8 @@ TEST(Serve, NoProcessOutlivesTheRun) {
     const pid_t run = ::fork();
     if (run == 0) {
       ::close(lives[0]);
+      // Who starts the tests in the background may have it ignored.
+      std::signal(signal, SIG_DFL);
       Served(Numbered_Lines(2, ""), 2, [&](std::string&, std::string_view) {
         const char sign = 'x';
         while (::write(lives[1], &sign, 1) == 1) ::sleep(60);
