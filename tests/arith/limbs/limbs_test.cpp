@@ -160,30 +160,35 @@ TEST(Limbs, AreRaisedToTheThirdAsStepByStep) {
   }
 }
 
-// q / base^count is below x / d, and (q + 2.2) / base^count above.
+// q / base^count is at most x / d, and (q + 2.2) / base^count above.
+void Expect_Quotient(const std::vector<Limb>& x, const std::vector<Limb>& d,
+                     const std::vector<Limb>& q) {
+  const std::size_t count = q.size();
+  const auto text = [](std::vector<Limb> highest_first) {
+    std::reverse(highest_first.begin(), highest_first.end());
+    return Text_Of(highest_first);
+  };
+  const auto padded = [](const NumberText& digits, std::size_t length) {
+    return NumberText(length - digits.size(), '0') + digits;
+  };
+  // All three as multiples of base^-(count + size) / 10.
+  const std::size_t size = std::max(x.size(), d.size());
+  const std::size_t length = (count + size + 1) * limbs::digits;
+  const NumberText divisor = text(d) + NumberText((size - d.size()) * limbs::digits + 1, '0');
+  const NumberText dividend =
+      text(x) + NumberText((count + size - x.size()) * limbs::digits + 1, '0');
+  const NumberText low = Multiply_Digits(text(q), divisor);
+  const NumberText owed = Multiply_Digits(divisor.substr(0, divisor.size() - 1), NumberText("22"));
+  EXPECT_LE(padded(low, length), padded(dividend, length)) << divisor;
+  EXPECT_GT(padded(Add_Decimals({low, {}}, {owed, {}}), length), padded(dividend, length))
+      << divisor;
+}
+
 TEST(Limbs, DividesFractions) {
   const auto check = [](const std::vector<Limb>& x, const std::vector<Limb>& d, std::size_t count) {
     std::vector<Limb> q(count);
     limbs::Divide_Fractions({x.data(), x.size()}, {d.data(), d.size()}, count, q.data());
-    const auto text = [](std::vector<Limb> highest_first) {
-      std::reverse(highest_first.begin(), highest_first.end());
-      return Text_Of(highest_first);
-    };
-    const auto padded = [](const NumberText& digits, std::size_t length) {
-      return NumberText(length - digits.size(), '0') + digits;
-    };
-    // All three as multiples of base^-(count + size) / 10.
-    const std::size_t size = std::max(x.size(), d.size());
-    const std::size_t length = (count + size + 1) * limbs::digits;
-    const NumberText divisor = text(d) + NumberText((size - d.size()) * limbs::digits + 1, '0');
-    const NumberText dividend =
-        text(x) + NumberText((count + size - x.size()) * limbs::digits + 1, '0');
-    const NumberText low = Multiply_Digits(text(q), divisor);
-    const NumberText owed =
-        Multiply_Digits(divisor.substr(0, divisor.size() - 1), NumberText("22"));
-    EXPECT_LE(padded(low, length), padded(dividend, length)) << divisor;
-    EXPECT_GT(padded(Add_Decimals({low, {}}, {owed, {}}), length), padded(dividend, length))
-        << divisor;
+    Expect_Quotient(x, d, q);
   };
   const Limb least = limbs::base / 10;
   for (const std::size_t n : {1U, 2U, 3U, 4U, 5U, 9U, 40U, 150U}) {
@@ -201,6 +206,25 @@ TEST(Limbs, DividesFractions) {
           }
           check(x, d, count);
         }
+      }
+    }
+  }
+}
+
+TEST(Limbs, DividesPairs) {
+  const Limb least = limbs::base / 10;
+  const auto check = [](limbs::Pair x, Limb further, limbs::Pair d) {
+    const limbs::Pair q = limbs::Divide_Pairs(x, further, d);
+    ASSERT_LT(q.low, limbs::base);
+    Expect_Quotient({x.high, x.low, further}, {d.high, d.low}, {q.high, q.low});
+  };
+  for (const Limb top : {least, least + 1, 2 * least, 5 * least, limbs::base - 1}) {
+    for (const Limb low : edges) {
+      for (const Limb further : edges) {
+        check({least - 1, low}, further, {top, limbs::base - 1 - low});
+        check({0, low}, further, {top, low});
+        if (low > 0) check({top, low - 1}, further, {top, low});
+        check({top - 1, limbs::base - 1}, further, {top, low});
       }
     }
   }
