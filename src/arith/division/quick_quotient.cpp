@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <cstring>
 #include <optional>
@@ -52,7 +53,7 @@ bool Begins_Beyond_Doubt(limbs::Fraction k, std::size_t p) {
   const double least = tenths[std::min(Digits_Behind_First(p), enough)];
   if (behind > least + unsafe && behind < 1 - unsafe) return true;
   // One that ends there goes on in nines.
-  return k.count == 1 && static_cast<Limb>(inverse + 0.5) * leading == limbs::base;
+  return k.count == 1 && static_cast<Limb>(std::llround(inverse)) * leading == limbs::base;
 }
 
 // The limbs of a quotient, highest first.

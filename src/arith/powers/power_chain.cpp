@@ -180,7 +180,7 @@ Decimal Integer_Power(Base& base, const Exponent& n, double maxSD, int depth) {
                            "An exponent is too long for the limit of digits.");
   }
   const auto split = Split(n, maxSD);
-  const Decimal part = Partial_Power(base, split.A, maxSD, depth);
+  Decimal part = Partial_Power(base, split.A, maxSD, depth);
   if (part.is_token()) return part;
   Base part_base(part);
   Decimal power = Partial_Power(part_base, split.B, maxSD, depth);
