@@ -162,11 +162,10 @@ NumberText Format_Result(Decimal number, const type_Restrictionator& options, bo
   return std::move(result);
 }
 
-NumberText Unformatted(NumberText digits, std::size_t places, bool negative) {
+void Write_Unformatted(NumberText& digits, std::size_t places, bool negative) {
   Expects(!digits.empty() && !Has_Non_Digit(digits));
   Write_Plain(digits, places);
   if (negative && digits != "0") digits.insert(0, 1, '-');
-  return digits;
 }
 
 NumberText Format_Number(std::string_view number, const Format_Arguments& arguments) {

@@ -23,9 +23,9 @@ namespace quorvex {
 /// to fixed places runs into a thousands separator.
 NumberText Format_Result(Decimal number, const type_Restrictionator& options, bool noLengthChecks);
 
-/// The same for digits that no limit cuts, where no option asks for anything: with so many of them
-/// behind the separator.
-NumberText Unformatted(NumberText digits, std::size_t places, bool negative);
+/// Makes digits that no limit cuts the same text where no option asks for anything: with so many of
+/// them behind the separator.
+void Write_Unformatted(NumberText& digits, std::size_t places, bool negative);
 
 /// The worker of `qvxFORMAT`: `Clean_Up_Number`, then `Format_Result` with the limit as given.
 NumberText Format_Number(std::string_view number, const Format_Arguments& arguments);

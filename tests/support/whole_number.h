@@ -58,6 +58,11 @@ class Whole_Number {
     mpz_sqrt(root.value_, square.value_);
     return root;
   }
+  static Whole_Number Root(const Whole_Number& radicand, unsigned long degree) {
+    Whole_Number root;
+    mpz_root(root.value_, radicand.value_, degree);
+    return root;
+  }
   friend Whole_Number operator+(const Whole_Number& a, const Whole_Number& b) {
     Whole_Number sum;
     mpz_add(sum.value_, a.value_, b.value_);

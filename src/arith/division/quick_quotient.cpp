@@ -65,6 +65,10 @@ class Quotient {
     limbs::Divide_Fractions(x, k, count_, limbs_.data());
   }
   void set(Limb limb) { *limbs_.data() = limb; }
+  void set(limbs::Pair pair) {
+    limbs_.data()[0] = pair.high;
+    limbs_.data()[1] = pair.low;
+  }
 
   // What stands behind so many digits, as a fraction of their last one.
   double behind(std::size_t digits_before) {
@@ -97,18 +101,16 @@ class Quotient {
 
   // The first digits.
   void write(std::size_t digits, NumberText& text) {
-    text.reserve(digits + room_for_marks);
-    text.resize(digits);
-    const std::size_t whole = digits / limbs::digits;
+    const std::size_t count = limbs::Count_For(digits);
+    text.resize(count * limbs::digits + room_for_marks);
+    char* out = text.data();
     const Limb* limb = limbs_.data();
-    for (std::size_t place = 0; place < whole; ++place) {
-      limbs::Write(text.data() + place * limbs::digits, *limb++);
-      if (place % limbs::between_yields == limbs::between_yields - 1) Yield();
+    for (std::size_t left = count; left > 0; --left) {
+      limbs::Write(out, *limb++);
+      out += limbs::digits;
+      if (left % limbs::between_yields == 0) Yield();
     }
-    if (const std::size_t left = digits % limbs::digits; left > 0) {
-      limbs::Write_Few(text.data() + whole * limbs::digits,
-                       *limb / limbs::Ten_To(limbs::digits - left), left);
-    }
+    text.resize(digits);
   }
 
  private:
@@ -188,6 +190,35 @@ bool Divide_In_Words(std::string_view X, std::string_view k, const Limit& limit,
   return true;
 }
 
+limbs::Pair Read_Pair(std::string_view text) {
+  const std::string_view high = text.substr(0, limbs::digits);
+  const std::string_view low = text.substr(high.size());
+  return {limbs::Read(high) * limbs::Ten_To(limbs::digits - high.size()),
+          limbs::Read(low) * limbs::Ten_To(limbs::digits - low.size())};
+}
+
+// Operands and quotient of two limbs each.
+bool Divide_In_Pairs(std::string_view X, std::string_view k, const Limit& limit, Decimal& result) {
+  const limbs::Pair divisor = Read_Pair(k);
+  const std::array<Limb, 2> divisor_limbs{divisor.high, divisor.low};
+  const limbs::Fraction d{divisor_limbs.data(), divisor.low == 0 ? 1U : 2U};
+  if (!Begins_Beyond_Doubt(d, limit.p)) return false;
+  limbs::Pair dividend = Read_Pair(X);
+  const bool leads = dividend.high > divisor.high ||
+                     (dividend.high == divisor.high && dividend.low >= divisor.low);
+  Limb further = 0;
+  if (leads) {
+    constexpr Limb tenth = limbs::base / 10;
+    further = dividend.low % 10 * tenth;
+    dividend = {dividend.high / 10, dividend.high % 10 * tenth + dividend.low / 10};
+  }
+  Quotient quotient(2 * limbs::digits);
+  quotient.set(limbs::Divide_Pairs(dividend, further, divisor));
+  if (!Write_Rounded(quotient, {&dividend.high, 1}, d, limit, result)) return false;
+  if (leads) ++result.power_of_ten;
+  return true;
+}
+
 bool Divide_By_Limbs(std::string_view X, std::string_view k, const Limit& limit, Decimal& result) {
   const std::size_t room = limbs::Count_For(limit.p + more_of_reciprocal) + 1;
   if (std::min(limbs::Count_For(k.size()), room) > limbs::most_quotient_limbs) return false;
@@ -208,10 +239,12 @@ bool Quick_Quotient(std::string_view X, std::string_view k, std::int32_t sd, Dec
   Limit limit{static_cast<std::size_t>(sd), 0, false};
   limit.p = limit.kept + guard_digits;
   const auto length = static_cast<std::int64_t>(X.size()) - static_cast<std::int64_t>(k.size());
-  const bool are_words = std::max({X.size(), k.size(), limit.p + more_digits}) <= limbs::digits;
-  if (!are_words) k.remove_suffix(Count_Trailing_Zeros(k));
+  const std::size_t longest = std::max({X.size(), k.size(), limit.p + more_digits});
+  if (longest > 2 * limbs::digits) k.remove_suffix(Count_Trailing_Zeros(k));
   limit.may_be_less = !Ends_Beyond_Doubt(k.size(), limit.p);
-  const auto divide = are_words ? Divide_In_Words : Divide_By_Limbs;
+  const auto divide = longest <= limbs::digits       ? Divide_In_Words
+                      : longest <= 2 * limbs::digits ? Divide_In_Pairs
+                                                     : Divide_By_Limbs;
   if (!divide(X, k, limit, quotient)) return false;
   quotient.power_of_ten += length;
   return true;

@@ -86,6 +86,19 @@ Fraction Read_Down(std::string_view text, std::size_t zeros, std::size_t count, 
   return {out, place};
 }
 
+Pair Divide_Pairs(Pair x, Limb further, Pair d) {
+  Expects(d.high >= base / 10 && d.high < base && x.wide() <= d.wide());
+  const Wide divisor = d.wide();
+  const Guesser guesser(divisor);
+  Pair quotient;
+  quotient.high = guesser.guess(x.wide());
+  // Modulo 2^128, as what passes that goes again.
+  quotient.low = guesser.guess(x.wide() * base + further - quotient.high * divisor);
+  const Limb carry =
+      static_cast<Limb>(quotient.low >= base) + static_cast<Limb>(quotient.low >= 2 * base);
+  return {quotient.high + carry, quotient.low - carry * base};
+}
+
 // Column m of x - d q is x_m less the products of limbs whose places add up to m. `left` is the
 // rest down to the column of the limb that comes next, which so sums products one by one, and
 // modulo 2^128, as the sums are only passing by. The guess takes the column below into account:

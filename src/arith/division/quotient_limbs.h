@@ -29,4 +29,15 @@ inline constexpr std::size_t most_quotient_limbs = 150;
 /// first count + 1 are not looked at.
 void Divide_Fractions(Fraction x, Fraction d, std::size_t count, Limb* quotient);
 
+/// A number of two limbs.
+struct Pair {
+  Limb high;
+  Limb low;
+
+  Wide wide() const { return Wide{high} * base + low; }
+};
+
+/// The same of two limbs for x and d each, and a further one of x.
+Pair Divide_Pairs(Pair x, Limb further, Pair d);
+
 }  // namespace quorvex::limbs

@@ -130,4 +130,7 @@ void Add(const Number& a, const Number& b, bool b_is_negative, std::size_t digit
 /// a b. Long numbers are multiplied by the library of products, which must be there.
 void Multiply(const Number& a, const Number& b, std::size_t digits, Number& result);
 
+/// The cube. Its square and itself are rounded to `guarded` digits before it is rounded to fewer.
+void Cube(const Number& number, std::size_t guarded, std::size_t digits, Number& result);
+
 }  // namespace quorvex::limbs

@@ -41,15 +41,6 @@ void Write(char* out, Limb limb) {
   native::Write_Limb(out, limb);
 }
 
-void Write_Few(char* out, Limb limb, std::size_t count) {
-  Expects(count > 0 && count <= digits && limb < Ten_To(count));
-  for (; count > word_digits; limb /= native::ten_to_8) {
-    count -= word_digits;
-    native::Store_Word(out + count, native::Part_Digits(limb % native::ten_to_8));
-  }
-  native::Store_Short(out, native::Part_Digits(limb) >> (8 * (word_digits - count)), count);
-}
-
 void Read_Number(std::string_view text, Limb* out) {
   for (std::size_t place = 0; !text.empty(); ++place) {
     const std::size_t count = std::min(text.size(), digits);

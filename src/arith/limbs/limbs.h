@@ -58,9 +58,6 @@ inline std::size_t Count_Digits(Limb limb) {
   return guess + static_cast<std::size_t>(limb >= powers_of_ten[guess]);
 }
 
-/// Writes so many digits, from one to eighteen, of a number that has no more.
-void Write_Few(char* out, Limb limb, std::size_t count);
-
 /// A whole number into `Count_For` its digits limbs.
 void Read_Number(std::string_view text, Limb* out);
 

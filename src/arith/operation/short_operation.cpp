@@ -65,11 +65,13 @@ bool Add(const Plain_Number& a, const Plain_Number& b, double limit, NumberText&
 }
 
 // Digits as they come from a product or a quotient; the number is theirs times ten to `power`.
-NumberText Written(NumberText digits, std::int64_t power, bool negative, const Terms& terms) {
-  if (digits.starts_with(token_mark)) return digits;
+NumberText Written(NumberText&& digits, std::int64_t power, bool negative, const Terms& terms) {
+  if (digits.starts_with(token_mark)) return std::move(digits);
   if (power <= 0 && power > -most_zeros && !digits.empty() && Fits(digits.size(), terms.limit)) {
-    if (power == 0 && !negative && digits.front() != '0') return digits;
-    return Unformatted(std::move(digits), static_cast<std::size_t>(-power), negative);
+    if (power < 0 || negative || digits.front() == '0') {
+      Write_Unformatted(digits, static_cast<std::size_t>(-power), negative);
+    }
+    return std::move(digits);
   }
   type_Restrictionator options;
   options.maxSD = terms.limit + 1;

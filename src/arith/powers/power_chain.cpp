@@ -112,13 +112,32 @@ Decimal Multiply_Out(const Decimal& base, int factors, double limit) {
   return factors == 2 ? product : Product(product, base, limit);
 }
 
+// A number that is raised, with its square and its cube once one is asked for: both parts of a
+// split often are.
+class Base {
+ public:
+  explicit Base(const Decimal& number) : number_(number) {}
+
+  const Decimal& number() const { return number_; }
+  std::optional<Decimal>& square() { return square_; }
+  std::optional<Decimal>& cube() { return cube_; }
+
+ private:
+  const Decimal& number_;
+  std::optional<Decimal> square_;
+  std::optional<Decimal> cube_;
+};
+
 template <typename Exponent>
-Decimal Integer_Power(const Decimal& base, const Exponent& n, double maxSD, int depth);
+Decimal Integer_Power(Base& base, const Exponent& n, double maxSD, int depth);
 
 template <typename Exponent>
 Decimal Positive_Power(const Decimal& base, const Exponent& exponent, double maxSD, double limit,
                        int depth) {
-  if (Is_Split(exponent)) return Integer_Power(base, exponent, maxSD, depth);
+  if (Is_Split(exponent)) {
+    Base raised(base);
+    return Integer_Power(raised, exponent, maxSD, depth);
+  }
   return Multiply_Out(base, Factors(exponent), limit);
 }
 
@@ -145,20 +164,26 @@ Decimal Power_At(const Decimal& base, const Exponent& exponent, double limit, in
 }
 
 template <typename Exponent>
-Decimal Partial_Power(const Decimal& base, const Exponent& n, double maxSD, int depth) {
-  return Is_Split(n) ? Integer_Power(base, n, maxSD, depth + 1) : Power_At(base, n, maxSD, depth);
+Decimal Partial_Power(Base& base, const Exponent& n, double maxSD, int depth) {
+  if (Is_Split(n)) return Integer_Power(base, n, maxSD, depth + 1);
+  if (!Is(n, '2') && !Is(n, '3')) return Power_At(base.number(), n, maxSD, depth);
+  std::optional<Decimal>& known = Is(n, '2') ? base.square() : base.cube();
+  if (!known) known = Power_At(base.number(), n, maxSD, depth);
+  return *known;
 }
 
 // base to the n = A * B + C, every product rounded at the limit.
 template <typename Exponent>
-Decimal Integer_Power(const Decimal& base, const Exponent& n, double maxSD, int depth) {
+Decimal Integer_Power(Base& base, const Exponent& n, double maxSD, int depth) {
   if (depth > deepest_split) {
     throw Run_Time_Failure(Failure_Number::too_complex,
                            "An exponent is too long for the limit of digits.");
   }
   const auto split = Split(n, maxSD);
-  Decimal power = Partial_Power(base, split.A, maxSD, depth);
-  if (!power.is_token()) power = Partial_Power(power, split.B, maxSD, depth);
+  Decimal part = Partial_Power(base, split.A, maxSD, depth);
+  if (part.is_token()) return part;
+  Base part_base(part);
+  Decimal power = Partial_Power(part_base, split.B, maxSD, depth);
   if (power.is_token() || Is(split.C, '0')) return power;
   const Decimal rest = Partial_Power(base, split.C, maxSD, depth);
   return Is_One(rest) ? power : Product(power, rest, maxSD);
@@ -167,7 +192,7 @@ Decimal Integer_Power(const Decimal& base, const Exponent& n, double maxSD, int 
 // Products of short numbers cost less as limbs, where no power of ten runs over: there is room for
 // any number between the steps then.
 bool Takes_Limbs(const Decimal& base, Word exponent, double maxSD) {
-  constexpr double most_digits = 200;
+  constexpr double most_digits = 1000;
   constexpr double farthest_power = 1e12;
   if (base.is_token() || !Is_Split(exponent) || !(maxSD >= 1 && maxSD <= most_digits)) return false;
   const auto length = static_cast<double>(base.digits.size());

@@ -15,6 +15,7 @@
 #include "arith/limbs/limb_division.h"
 #include "arith/limbs/limb_number.h"
 #include "support/random_numbers.h"
+#include "support/whole_number.h"
 #include "text/primitives.h"
 
 namespace quorvex {
@@ -80,27 +81,30 @@ TEST(Limbs, MultipliesFullLimbs) {
   }
 }
 
+// Full limbs, or such as lie at edges.
+limbs::Number Filled(std::size_t count, Random_Numbers& random) {
+  std::vector<Limb> number(count, limbs::base - 1);
+  if (random.one_in(2)) {
+    for (Limb& limb : number) limb = edges[random.below(edges.size())];
+  }
+  number.front() += static_cast<Limb>(number.front() == 0);
+  number.back() += static_cast<Limb>(number.back() == 0);
+  limbs::Number trimmed;
+  limbs::Trim({number.data(), count, 0, false}, trimmed);
+  return trimmed;
+}
+
 // Squares and products of equal and of other lengths, rounded by a digit that is never reached.
 TEST(Limbs, OfNumbersAreMultipliedAsTheirDigitsAre) {
   Random_Numbers random(1901);
-  const auto filled = [&](std::size_t count) {
-    std::vector<Limb> number(count, limbs::base - 1);
-    if (random.one_in(2)) {
-      for (Limb& limb : number) limb = edges[random.below(edges.size())];
-    }
-    number.front() += static_cast<Limb>(number.front() == 0);
-    number.back() += static_cast<Limb>(number.back() == 0);
-    limbs::Number trimmed;
-    limbs::Trim({number.data(), count, 0, false}, trimmed);
-    return trimmed;
-  };
-  for (std::size_t round = 0; round < 600; ++round) {
-    const limbs::Number a = filled(1 + round % 24);
-    const limbs::Number b = filled(1 + random.below(24));
+  for (std::size_t round = 0; round < 700; ++round) {
+    const std::size_t most = round < 600 ? 24 : 99;
+    const limbs::Number a = Filled(1 + round % most, random);
+    const limbs::Number b = Filled(1 + random.below(most), random);
     limbs::Number square;
     limbs::Number product;
-    limbs::Multiply(a, a, 1000, square);
-    limbs::Multiply(a, b, 1000, product);
+    limbs::Multiply(a, a, 4000, square);
+    limbs::Multiply(a, b, 4000, product);
     ASSERT_EQ(limbs::Text_Of(square), Multiply_Digits(limbs::Text_Of(a), limbs::Text_Of(a)));
     ASSERT_EQ(limbs::Text_Of(product), Multiply_Digits(limbs::Text_Of(a), limbs::Text_Of(b)));
     // Shortened, the first dropped digit rounds as it does in the whole product.
@@ -114,30 +118,77 @@ TEST(Limbs, OfNumbersAreMultipliedAsTheirDigitsAre) {
   }
 }
 
-// q / base^count is below x / d, and (q + 2.2) / base^count above.
+// A root of so many random digits, a five behind them and zeros, so that it has twice as many, or a
+// unit more: digits far behind tell how its power is rounded.
+limbs::Number Root_Of_Half(std::size_t kept, unsigned degree, Random_Numbers& random) {
+  const std::size_t zeros = degree * (2 * kept + 80) - kept - 1;
+  const NumberText half = "7" + random.digits(kept - 1) + "5" + NumberText(zeros, '0');
+  const auto root = Whole_Number::Root(Whole_Number(half), degree);
+  return limbs::Number_Of({(root + Whole_Number(random.one_in(2) ? "1" : "0")).text()});
+}
+
+TEST(Limbs, AreRoundedByAllThatStandsBehind) {
+  Random_Numbers random(1902);
+  for (std::size_t round = 0; round < 500; ++round) {
+    const std::size_t kept = 1 + random.below(150);
+    const limbs::Number root = Root_Of_Half(kept, 2, random);
+    limbs::Number expected;
+    limbs::Multiply(root, root, 4000, expected);
+    limbs::Add(expected, limbs::Number(), false, kept, expected);
+    limbs::Number square;
+    limbs::Multiply(root, root, kept, square);
+    ASSERT_EQ(limbs::Text_Of(square), limbs::Text_Of(expected)) << kept;
+    limbs::Multiply(root, limbs::Number(root), kept, square);
+    ASSERT_EQ(limbs::Text_Of(square), limbs::Text_Of(expected)) << kept;
+  }
+}
+
+TEST(Limbs, AreRaisedToTheThirdAsStepByStep) {
+  Random_Numbers random(1903);
+  for (std::size_t round = 0; round < 2000; ++round) {
+    const std::size_t kept = 1 + random.below(150);
+    const limbs::Number number =
+        random.one_in(2) ? Root_Of_Half(kept, 3, random) : Filled(1 + random.below(30), random);
+    const std::size_t guarded = kept + static_cast<std::size_t>(limbs::Plain_Length(number)) + 2;
+    limbs::Number expected;
+    limbs::Multiply(number, number, guarded, expected);
+    limbs::Multiply(expected, number, guarded, expected);
+    limbs::Add(expected, limbs::Number(), false, kept, expected);
+    limbs::Number cube;
+    limbs::Cube(number, guarded, kept, cube);
+    ASSERT_EQ(limbs::Text_Of(cube), limbs::Text_Of(expected)) << kept;
+  }
+}
+
+// q / base^count is at most x / d, and (q + 2.2) / base^count above.
+void Expect_Quotient(const std::vector<Limb>& x, const std::vector<Limb>& d,
+                     const std::vector<Limb>& q) {
+  const std::size_t count = q.size();
+  const auto text = [](std::vector<Limb> highest_first) {
+    std::reverse(highest_first.begin(), highest_first.end());
+    return Text_Of(highest_first);
+  };
+  const auto padded = [](const NumberText& digits, std::size_t length) {
+    return NumberText(length - digits.size(), '0') + digits;
+  };
+  // All three as multiples of base^-(count + size) / 10.
+  const std::size_t size = std::max(x.size(), d.size());
+  const std::size_t length = (count + size + 1) * limbs::digits;
+  const NumberText divisor = text(d) + NumberText((size - d.size()) * limbs::digits + 1, '0');
+  const NumberText dividend =
+      text(x) + NumberText((count + size - x.size()) * limbs::digits + 1, '0');
+  const NumberText low = Multiply_Digits(text(q), divisor);
+  const NumberText owed = Multiply_Digits(divisor.substr(0, divisor.size() - 1), NumberText("22"));
+  EXPECT_LE(padded(low, length), padded(dividend, length)) << divisor;
+  EXPECT_GT(padded(Add_Decimals({low, {}}, {owed, {}}), length), padded(dividend, length))
+      << divisor;
+}
+
 TEST(Limbs, DividesFractions) {
   const auto check = [](const std::vector<Limb>& x, const std::vector<Limb>& d, std::size_t count) {
     std::vector<Limb> q(count);
     limbs::Divide_Fractions({x.data(), x.size()}, {d.data(), d.size()}, count, q.data());
-    const auto text = [](std::vector<Limb> highest_first) {
-      std::reverse(highest_first.begin(), highest_first.end());
-      return Text_Of(highest_first);
-    };
-    const auto padded = [](const NumberText& digits, std::size_t length) {
-      return NumberText(length - digits.size(), '0') + digits;
-    };
-    // All three as multiples of base^-(count + size) / 10.
-    const std::size_t size = std::max(x.size(), d.size());
-    const std::size_t length = (count + size + 1) * limbs::digits;
-    const NumberText divisor = text(d) + NumberText((size - d.size()) * limbs::digits + 1, '0');
-    const NumberText dividend =
-        text(x) + NumberText((count + size - x.size()) * limbs::digits + 1, '0');
-    const NumberText low = Multiply_Digits(text(q), divisor);
-    const NumberText owed =
-        Multiply_Digits(divisor.substr(0, divisor.size() - 1), NumberText("22"));
-    EXPECT_LE(padded(low, length), padded(dividend, length)) << divisor;
-    EXPECT_GT(padded(Add_Decimals({low, {}}, {owed, {}}), length), padded(dividend, length))
-        << divisor;
+    Expect_Quotient(x, d, q);
   };
   const Limb least = limbs::base / 10;
   for (const std::size_t n : {1U, 2U, 3U, 4U, 5U, 9U, 40U, 150U}) {
@@ -155,6 +206,25 @@ TEST(Limbs, DividesFractions) {
           }
           check(x, d, count);
         }
+      }
+    }
+  }
+}
+
+TEST(Limbs, DividesPairs) {
+  const Limb least = limbs::base / 10;
+  const auto check = [](limbs::Pair x, Limb further, limbs::Pair d) {
+    const limbs::Pair q = limbs::Divide_Pairs(x, further, d);
+    ASSERT_LT(q.low, limbs::base);
+    Expect_Quotient({x.high, x.low, further}, {d.high, d.low}, {q.high, q.low});
+  };
+  for (const Limb top : {least, least + 1, 2 * least, 5 * least, limbs::base - 1}) {
+    for (const Limb low : edges) {
+      for (const Limb further : edges) {
+        check({least - 1, low}, further, {top, limbs::base - 1 - low});
+        check({0, low}, further, {top, low});
+        if (low > 0) check({top, low - 1}, further, {top, low});
+        check({top - 1, limbs::base - 1}, further, {top, low});
       }
     }
   }
