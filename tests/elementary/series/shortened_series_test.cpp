@@ -159,8 +159,8 @@ TEST(Shortened_Series, Begins_Where_All_Digits_Can_Be_Told) {
   EXPECT_FALSE(Geometric_Sum("0.000012" + zeros + "15", "2", "0.1", 60, divided));
   EXPECT_TRUE(Geometric_Sum("0.000012" + zeros + "18", "2", "0.1", 60, divided));
   // A term next to the end, and then too small to change the sum what follows.
-  EXPECT_FALSE(Geometric_Sum("0.0000107", "2", "0.1", 60, divided));
-  EXPECT_TRUE(Geometric_Sum("0.0000107", "20", "0.1", 60, divided));
+  EXPECT_FALSE(Geometric_Sum("0.0000267", "2", "0.1", 140, divided));
+  EXPECT_TRUE(Geometric_Sum("0.0000267", "20", "0.1", 140, divided));
   EXPECT_EQ(Geometric_Sum("0.000012", "2", "0.1", 20)->text(), "2.000001333333333333333");
   EXPECT_EQ(Geometric_Sum("0.0000012", "2", "0.1", 2000)->text(),
             "2.0000001" + std::string(1994, '3'));
