@@ -144,9 +144,9 @@ bool Divide_By_Many(const Number& a, const Number& b, std::size_t digits_kept, N
   if (!Told_Quotient::Begins_Beyond_Doubt(k.fraction(), limit.p)) return false;
   const auto order = Compare(x.fraction(), k.fraction());
   // Equal digits have an answer of their own.
-  if (order == 0) return false;
+  if (std::is_eq(order)) return false;
   std::int64_t power = Leading_Power(a) - Leading_Power(b);
-  if (order > 0) {
+  if (std::is_gt(order)) {
     x.put_zero_before(room);
     ++power;
   }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -114,7 +115,7 @@ class Told_Quotient {
     const double least = tenths[std::min(Digits_Behind_First(p), enough)];
     if (behind > least + unsafe && behind < 1 - unsafe) return true;
     // One that ends there goes on in nines.
-    return k.count == 1 && static_cast<limbs::Limb>(inverse + 0.5) * leading == limbs::base;
+    return k.count == 1 && static_cast<limbs::Limb>(std::llround(inverse)) * leading == limbs::base;
   }
 
  private:

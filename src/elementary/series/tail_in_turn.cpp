@@ -98,7 +98,7 @@ class Tail_In_Turn {
   Answer is_last(std::uint64_t k) const {
     if (count_ > end_count_ + 1) return Answer::no;
     if (count_ + 1 < end_count_) return Answer::yes;
-    double size = static_cast<double>(power_[count_ - 1]);
+    auto size = static_cast<double>(power_[count_ - 1]);
     if (count_ > 1) size += static_cast<double>(power_[count_ - 2]) / one_as_float;
     if (count_ > end_count_) size *= one_as_float;
     if (count_ < end_count_) size /= one_as_float;
