@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 #include "expects.h"
 
@@ -31,6 +32,59 @@ Word Take_Word(Wide& column) {
   const Word word = static_cast<Word>(column) & mask;
   column >>= bits;
   return word;
+}
+
+// `Multiply` of a count that is known: without loops, whose ends are dear where they are short.
+template <std::size_t count>
+void Multiply_Known(const Word* row, const Word* fraction, Word* out) {
+  Wide carry = 0;
+  const auto add_column = [&]<std::size_t... places>(const Word* first,
+                                                     std::index_sequence<places...>) {
+    ((carry += Wide{first[places]} * fraction[places]), ...);
+  };
+  const auto multiply = [&]<std::size_t... columns>(std::index_sequence<columns...>) {
+    const auto form_column = [&]<std::size_t column>() {
+      add_column(row + column, std::make_index_sequence<count - column>());
+      const Word word = Take_Word(carry);
+      if constexpr (column > 0) out[column - 1] = word;
+    };
+    (form_column.template operator()<columns>(), ...);
+  };
+  multiply(std::make_index_sequence<count>());
+  out[count - 1] = static_cast<Word>(carry);
+  std::fill_n(out + count, padding, 0);
+}
+
+// True if this has multiplied.
+bool Multiply_Few(const Word* row, const Word* fraction, std::size_t count, Word* out) {
+  switch (count) {
+    case 1:
+      Multiply_Known<1>(row, fraction, out);
+      return true;
+    case 2:
+      Multiply_Known<2>(row, fraction, out);
+      return true;
+    case 3:
+      Multiply_Known<3>(row, fraction, out);
+      return true;
+    case 4:
+      Multiply_Known<4>(row, fraction, out);
+      return true;
+    case 5:
+      Multiply_Known<5>(row, fraction, out);
+      return true;
+    case 6:
+      Multiply_Known<6>(row, fraction, out);
+      return true;
+    case 7:
+      Multiply_Known<7>(row, fraction, out);
+      return true;
+    case 8:
+      Multiply_Known<8>(row, fraction, out);
+      return true;
+    default:
+      return false;
+  }
 }
 
 // The limbs of a number by their power of the base.
@@ -128,18 +182,19 @@ Number Fraction_To_Decimal(Word* row, std::size_t count, std::size_t limbs) {
 // Of the columns below the one that begins, each of at most `count` products adds less than a unit.
 void Multiply(const Word* row, const Word* fraction, std::size_t count, Word* out) {
   Expects(count <= most_words && count > 0);
+  if (Multiply_Few(row, fraction, count, out)) return;
   Wide carry = 0;
-  std::size_t place = 0;
-  for (; place < count; place += 2) {
+  for (std::size_t place = 0; place < count; place += 2) {
     const Two_Columns columns = Columns_Of(row + place, fraction, count - place);
     carry += columns.first;
     const Word word = Take_Word(carry);
     if (place > 0) out[place - 1] = word;
+    if (place + 1 == count) break;
     carry += columns.second;
     out[place] = Take_Word(carry);
   }
-  out[place - 1] = static_cast<Word>(carry);
-  std::fill(out + place, out + count + padding, 0);
+  out[count - 1] = static_cast<Word>(carry);
+  std::fill_n(out + count, padding, 0);
 }
 
 void Divide(Divisions& divisions, std::size_t ways, std::size_t count) {

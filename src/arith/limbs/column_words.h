@@ -47,7 +47,9 @@ limbs::Number To_Decimal(Word* row, std::size_t count);
 limbs::Number Fraction_To_Decimal(Word* row, std::size_t count, std::size_t limbs);
 
 /// The product of a row and a fraction of as many words, in the places of the row: less than
-/// count + 2 units too small. `out`, another row, is padded.
+/// count + 2 units too small. `out`, another row, is padded. Up to 64 words of the row may be as
+/// large as those of loose quotients: it is then less than 3 count + 2 units too small, and what
+/// runs over is left in its last word.
 void Multiply(const Word* row, const Word* fraction, std::size_t count, Word* out);
 
 /// A divisor from 2 to below 2^31, so small that a dividend is a word and not two: as in
@@ -82,6 +84,37 @@ class Divisor {
   Word rest_of_base_ = 0;
   unsigned shift_ = 0;
   Word reciprocal_ = 0;
+};
+
+/// A divisor from 1 to below 2^59 that divides a row from its last word on, by two products a word
+/// and without guesses to be corrected: words of a quotient are up to three times what a row's are,
+/// and a quotient is less than three units too small.
+///
+/// 2^t being the highest bit of the divisor, a dividend without its last t bits is multiplied by a
+/// reciprocal of 64 bits. Each of those bits, of what the reciprocal is cut by, and of what the
+/// product is, makes a quotient at most one too small: so the rest is below three divisors. With a
+/// word of up to 3 * 2^60 the dividend is below 6 * 2^(60 + t).
+class Loose_Divisor {
+ public:
+  explicit Loose_Divisor(Word number)
+      : number_(number),
+        shift_(static_cast<unsigned>(std::bit_width(number)) - 1),
+        reciprocal_(static_cast<Word>(((Wide{1} << (64U + shift_)) - 1) / number)) {
+    Expects(number >= 1 && number < Word{1} << (bits - 1));
+  }
+
+  /// Divides rest * 2^60 + word; `rest` becomes the new rest.
+  Word divide(Word& rest, Word word) const {
+    const Word dividend = (rest << (bits - shift_)) + (word >> shift_);
+    const auto quotient = static_cast<Word>(Wide{dividend} * reciprocal_ >> 64U);
+    rest = (rest << bits) + word - quotient * number_;
+    return quotient;
+  }
+
+ private:
+  Word number_;
+  unsigned shift_;
+  Word reciprocal_;
 };
 
 /// Divisions side by side: one waits for itself at every word, and four don't wait for each other.

@@ -7,6 +7,7 @@
 
 #include "arith/digits/multiply_digits.h"
 #include "arith/division/limb_quotient.h"
+#include "arith/division/number_quotient.h"
 #include "arith/division/quick_reciprocal.h"
 #include "arith/division/recip_divide.h"
 #include "arith/operation/four_operations.h"
@@ -120,6 +121,7 @@ void Steps::divide(Step_Number& a, const Step_Number& b) const {
   if (!are_in_limbs(a, b) || !Can_Multiply()) return by_text(operation::divide, a, b);
   if (limbs::Divide(a.number_, b.number_, Digits_Of_Quotient(digits_), a.number_)) return;
   if (Divide_By_Shifted(a.number_, b.number_, Digits_Of_Quotient(digits_))) return;
+  if (limbs::Divide_By_Many(a.number_, b.number_, Digits_Of_Quotient(digits_), a.number_)) return;
   a = With_Handler([&] { return long_quotient(a.number_, b.number_); },
                    [](const Run_Time_Failure&) { return Step_Number(value_token); });
 }

@@ -17,7 +17,7 @@ namespace {
 constexpr double lowest_limit = 15;
 
 // From and up to these, sums of powers cost less than other ways, where powers are not divided.
-constexpr double lowest_limit_of_powers = 45;
+constexpr double lowest_limit_of_powers = 135;
 constexpr double highest_limit_of_powers = 2500;
 
 // From here on groups cost less than terms in turn, although they take two divisions a term. What

@@ -1,4 +1,4 @@
-// The long tail of a series of some hundred digits, term by term in binary words.
+// The long tail of a series of up to some hundred digits, term by term in binary words.
 #pragma once
 
 #include <optional>
@@ -11,10 +11,12 @@ namespace quorvex {
 /// The sum that exact steps arrive at, as `Shortened_Series` says; nothing where a digit is in
 /// doubt.
 ///
-/// All numbers are held in units of the sum's last place, with 64 bits for the fraction. A step
-/// cuts off less than a unit of 2^-64 for each word and six more; the conversions at the start less
-/// than 20. Since each power is at most half the one before, all that powers bring along is no more
-/// than twice that of one step.
+/// Numbers are held in binary words, in units of the sum's last place, with one word for their
+/// fraction, u = 2^-60. Rows have w words, which loose quotients make up to three times as large;
+/// all that is cut off makes numbers too small. The first power is wrong by less than 3 u. A step
+/// takes what a power is wrong by times a half at most, and adds less than 6 u for the factor,
+/// 3 w + 2 for the product and 3 for a quotient: less than 6 w + 22 in all. A term, divided once
+/// more, is wrong by less than 6 w + 25.
 std::optional<Step_Number> Sum_In_Turn(const Series_Tail& tail);
 
 }  // namespace quorvex

@@ -44,6 +44,11 @@ Words Random_Words(Random_Numbers& random, std::size_t count, bool is_padded) {
   return words;
 }
 
+// Words as large as those of loose quotients.
+void Triple(Words& row, std::size_t count) {
+  for (std::size_t place = 0; place < count; ++place) row[place] *= 3;
+}
+
 Whole_Number Value_Of_Row(const Words& row, std::size_t count) {
   Whole_Number value;
   for (std::size_t place = count; place-- > 0;) value = value * Units(1) + Number(row[place]);
@@ -59,14 +64,18 @@ TEST(Column_Words, AreMultipliedToTheirLastPlace) {
   Random_Numbers random(101);
   for (int round = 0; round < 2000; ++round) {
     const std::size_t count = 1 + random.below(random.one_in(20) ? columns::most_words : 12);
-    const Words row = Random_Words(random, count, true);
+    Words row = Random_Words(random, count, true);
+    const bool is_loose = count <= 64 && random.one_in(2);
+    if (is_loose) Triple(row, count);
     Words fraction = Random_Words(random, count, false);
     Words product(columns::Room_For(count), 1);
     columns::Multiply(row.data(), fraction.data(), count, product.data());
     const Whole_Number exact = Value_Of_Row(row, count) * Value_Of_Fraction(fraction, count);
     const Whole_Number left = exact - Value_Of_Row(product, count) * Units(count);
-    ASSERT_TRUE(!(left < zero) && left < Units(count) * Number(count + 2)) << count;
+    ASSERT_TRUE(!(left < zero) && left < Units(count) * Number((is_loose ? 3 : 1) * count + 2))
+        << count;
     ASSERT_EQ(product[count] + product[count + 1], 0);
+    if (is_loose) continue;
 
     for (Word& word : fraction) word <<= columns::lift;
     const Word lowest =
@@ -102,6 +111,26 @@ TEST(Column_Words, AreDividedSideBySide) {
       ASSERT_EQ(Value_Of_Row(rows[way], count).text(),
                 (dividends[way] / Number(numbers[way])).text());
     }
+  }
+}
+
+TEST(Column_Words, AreDividedLoosely) {
+  Random_Numbers random(104);
+  for (int round = 0; round < 3000; ++round) {
+    const std::size_t count = 1 + random.below(12);
+    const Word number = random.one_in(3)   ? (Word{1} << random.below(59)) + random.below(2)
+                        : random.one_in(4) ? (Word{1} << 59U) - 1 - random.below(3)
+                                           : 1 + random.below(random.one_in(2) ? 10 : 2000);
+    const columns::Loose_Divisor divisor(number);
+    Words row = Random_Words(random, count, true);
+    if (random.one_in(2)) Triple(row, count);
+    const Whole_Number dividend = Value_Of_Row(row, count);
+    Word rest = 0;
+    for (std::size_t place = count; place-- > 0;) row[place] = divisor.divide(rest, row[place]);
+    const Whole_Number left = dividend - Value_Of_Row(row, count) * Number(number);
+    ASSERT_TRUE(!(left < zero) && left < Number(3) * Number(number)) << number;
+    ASSERT_EQ(left.text(), Number(rest).text());
+    for (const Word word : row) ASSERT_LE(word, 6 * (columns::mask + 1));
   }
 }
 

@@ -7,7 +7,7 @@
 #include "arith/division/recip_divide.h"
 #include "arith/fractions/exact_divisor.h"
 #include "arith/fractions/fraction_scale.h"
-#include "arith/limbs/binary_words.h"
+#include "arith/limbs/column_words.h"
 #include "arith/limbs/limb_number.h"
 #include "text/decimal.h"
 
@@ -36,9 +36,7 @@ TEST(ContractsDeathTest, EndTheProgramWhereTheyAreBroken) {
   limbs::Number number = *limbs::Read_Canonical("12.5");
   EXPECT_DEATH(number.store.fill(number.data() + 1, 1), "owns");
   EXPECT_DEATH(limbs::Leading_Power({}), "is_zero");
-  words::Word less = 1;
-  words::Word more = 2;
-  EXPECT_DEATH(words::Subtract({&less, 1}, {&more, 1}), "borrow");
+  EXPECT_DEATH(columns::Divisor(1), "number >= 2");
   char digits[] = "123456789";
   EXPECT_DEATH(digit_spans::Add(digits + 1, digits, digits, 8, false), "Can_Be_Output");
   EXPECT_DEATH(Divide_Digits("7", "03", 10), "Are_Significant");

@@ -229,6 +229,22 @@ TEST(StepNumber, DividesAllEndingsAsTextsDo) {
   }
 }
 
+// Reciprocals of reciprocals: their digits behind the last ones that are looked at are zeros or
+// nines.
+TEST(StepNumber, DividesIntoOneAsTextsDoNextToShortNumbers) {
+  Random_Numbers random(9);
+  for (int round = 0; round < 2000; ++round) {
+    const std::size_t limit = 18 + random.below(random.one_in(4) ? 200 : 60);
+    const std::string number = random.one_in(2) ? std::to_string(1 + random.below(999))
+                                                : "3." + random.digits(1 + random.below(limit));
+    const auto places = static_cast<double>(limit + random.below(6)) - 3;
+    const std::string divisor = Intermediate(operation::divide, "1", number, places);
+    for (const char* dividend : {"1", "100", "-0.1", "2"}) {
+      Expect_As_Text(operations[3], dividend, divisor, static_cast<double>(limit));
+    }
+  }
+}
+
 TEST(StepNumber, ServesVeryLongAndVeryFarNumbers) {
   Random_Numbers random(4);
   const std::string longer = "7" + random.digits(5000);
