@@ -12,8 +12,7 @@
 namespace quorvex::limbs {
 namespace {
 
-constexpr std::size_t guard_digits = 3;  // of the division behind the digits it rounds to
-constexpr double most_missing = 10;      // units of the last of them that a quotient may lose
+constexpr double most_missing = 10;  // units of the last of them that a quotient may lose
 
 // A whole number without zeros behind, and how many it had.
 struct Significant {
@@ -144,9 +143,10 @@ struct Guard {
 
 // `rest` is what the limb before `next` holds behind its kept digits, and has `length` digits.
 Guard Guard_Of(Limb rest, std::size_t length, const Limb* next) {
-  const bool has_all = length >= guard_digits;
-  const std::size_t behind = has_all ? length - guard_digits : digits + length - guard_digits;
-  const Limb before = has_all ? 0 : rest * Ten_To(guard_digits - length);
+  const bool has_all = length >= division_guard_digits;
+  const std::size_t behind =
+      has_all ? length - division_guard_digits : digits + length - division_guard_digits;
+  const Limb before = has_all ? 0 : rest * Ten_To(division_guard_digits - length);
   const Limb* const limb = has_all ? &rest : next++;
   const Limb guard = *limb / Ten_To(behind);
   const Limb left = *limb - guard * Ten_To(behind);
@@ -167,7 +167,7 @@ void Raise_Up(Limb* limb, Limb unit) {
 bool Divide(const Number& a, const Number& b, std::size_t digits_kept, Number& result) {
   Expects(digits_kept > 0);
   if (b.count() != 1 || a.is_zero()) return false;
-  const std::size_t p = digits_kept + guard_digits;
+  const std::size_t p = digits_kept + division_guard_digits;
   const Significant k = Without_Zeros(*b.data());
   const std::size_t length = Count_Digits(k.digits);
   const bool is_told = p >= static_cast<std::size_t>(least_quick_precision) &&

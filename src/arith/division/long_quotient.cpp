@@ -34,8 +34,7 @@ constexpr std::size_t more_of_rest = 3;
 constexpr double unit = 1e-10;  // of digit n, as one of the last guard digit
 constexpr double too_high = 0.02 * unit;
 constexpr double too_low = 1.03 * unit;
-constexpr double slip = 1e-9;  // more than floats here are wrong by
-constexpr std::size_t guard_digits = 3;
+constexpr double slip = 1e-9;               // more than floats here are wrong by
 constexpr std::size_t leading_digits = 15;  // that a float holds
 
 // Digits behind zeros behind a point.
@@ -119,7 +118,7 @@ bool Long_Quotient(std::string_view X, std::string_view k, std::int32_t sd, Deci
   constexpr std::int32_t least = 100;
   if (sd < least) return false;
   const auto kept = static_cast<std::size_t>(sd);
-  const std::size_t p = kept + guard_digits;
+  const std::size_t p = kept + division_guard_digits;
   const std::size_t n = p + more_digits;
   Require_Memory(4.0 * static_cast<double>(n));
   const auto length = static_cast<std::int64_t>(X.size()) - static_cast<std::int64_t>(k.size());
@@ -132,7 +131,7 @@ bool Long_Quotient(std::string_view X, std::string_view k, std::int32_t sd, Deci
   if (digits.empty() || digits.front() == '0') return false;
 
   const double guard =
-      Number_Of(std::string_view(digits).substr(kept, guard_digits + more_digits)) * unit;
+      Number_Of(std::string_view(digits).substr(kept, division_guard_digits + more_digits)) * unit;
   const std::string_view leading = X.substr(0, leading_digits);
   const double fraction = Number_Of(leading) * std::pow(10, -static_cast<double>(leading.size()));
   const Loss loss{leads ? fraction : 10 * fraction, !Ends_Beyond_Doubt(k.size(), p)};

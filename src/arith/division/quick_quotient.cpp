@@ -8,6 +8,7 @@
 #include "arith/division/quick_reciprocal.h"
 #include "arith/division/quotient_limbs.h"
 #include "arith/division/told_quotient.h"
+#include "arith/division/told_rounding.h"
 #include "arith/limbs/limbs.h"
 #include "expects.h"
 #include "text/digit_runs.h"
@@ -119,7 +120,7 @@ bool Divide_By_Limbs(std::string_view X, std::string_view k, const Quotient_Limi
 
 bool Quick_Quotient(std::string_view X, std::string_view k, std::int32_t sd, Decimal& quotient) {
   Expects(Are_Significant(X) && Are_Significant(k));
-  if (sd + static_cast<std::int32_t>(Quotient_Limit::guard_digits) < least_quick_precision) {
+  if (sd + static_cast<std::int32_t>(division_guard_digits) < least_quick_precision) {
     return false;
   }
   Quotient_Limit limit(static_cast<std::size_t>(sd));

@@ -10,6 +10,7 @@
 #include "arith/digits/multiply_digits.h"
 #include "arith/division/long_quotient.h"
 #include "arith/division/quick_quotient.h"
+#include "arith/division/told_rounding.h"
 #include "expects.h"
 #include "host/conversions.h"
 #include "host/run_time_failure.h"
@@ -21,8 +22,6 @@
 
 namespace quorvex {
 namespace {
-
-constexpr std::int32_t guard_digits = 3;
 
 std::int32_t In_32_Bits(std::int64_t number) {
   if (number > std::numeric_limits<std::int32_t>::max() ||
@@ -65,7 +64,7 @@ Decimal Multiply_By_Reciprocal(std::string_view X, std::string_view Y, std::int3
 // Works in `quotient`, which is the result also where a failure ends it early.
 void Divide(std::string_view X, std::string_view Y, Operands operands, std::int32_t sd,
             Decimal& quotient) {
-  const std::int32_t p = In_32_Bits(std::int64_t{sd} + guard_digits);
+  const std::int32_t p = In_32_Bits(std::int64_t{sd} + std::int64_t{division_guard_digits});
   const bool may_be_quick = operands == Operands::digits && Can_Multiply();
   if (may_be_quick && (Quick_Quotient(X, Y, sd, quotient) || Long_Quotient(X, Y, sd, quotient))) {
     return;

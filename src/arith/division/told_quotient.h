@@ -21,10 +21,8 @@ namespace quorvex {
 
 /// How many digits of a quotient are asked for, and what for.
 struct Quotient_Limit {
-  static constexpr std::size_t guard_digits = 3;
-
   explicit Quotient_Limit(std::size_t digits_kept)
-      : kept(digits_kept), p(digits_kept + guard_digits) {}
+      : kept(digits_kept), p(digits_kept + division_guard_digits) {}
 
   /// The limbs of an operand that are looked at.
   std::size_t most_limbs() const;

@@ -1,9 +1,13 @@
 // How division rounds a quotient that is known to lie within bounds.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 
 namespace quorvex {
+
+/// Division works out so many digits behind those that it keeps, and rounds by the first of them.
+inline constexpr std::size_t division_guard_digits = 3;
 
 /// What becomes of the digits that are kept.
 enum class Told_Rounding { stays, is_raised, in_doubt };

@@ -24,7 +24,7 @@ std::optional<Far_Value> Way_To_Root(const Number& value, const Number& root, st
     return e.mantissa == 0 || 2 * e.power + 2 <= far - static_cast<std::int64_t>(digits);
   };
   Number difference;
-  limbs::Add(value, root, true, digits + guard_digits + beyond_quotient, difference);
+  limbs::Add(value, root, true, digits + division_guard_digits + beyond_quotient, difference);
   const Leading_Digits distance = Leading_Digits_Of(difference);
   const Leading_Digits of = Leading_Digits_Of(distance.mantissa < 0 ? value : root);
   constexpr double rounding = 1e-15;
@@ -49,7 +49,7 @@ std::optional<Rounded_Sum> Sum_With_Quotient(const Far_Value& value, double guar
   const double near = 1 + value.e.number();
   const Leading_Digits square =
       Scaled(value.e.mantissa * value.e.mantissa * root_mantissa / near, 2 * value.e.power);
-  const auto p = static_cast<std::int64_t>(digits + guard_digits);
+  const auto p = static_cast<std::int64_t>(digits + division_guard_digits);
   const double added = Leading_Digits{square.mantissa, square.power + p - 1}.number();
   const double slack = 1e-3 + 2 * added * value.error;
   if (slack > most_slack) return std::nullopt;

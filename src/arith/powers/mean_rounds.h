@@ -10,8 +10,7 @@
 
 namespace quorvex {
 
-// Division rounds by three guard digits.
-inline constexpr std::size_t guard_digits = 3;
+// Of the guard digits that division rounds by, in a unit.
 inline constexpr double guard_units = 1000;
 
 // Digits of a root that are found beyond those of a quotient.

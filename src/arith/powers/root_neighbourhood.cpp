@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "arith/digits/multiply_digits.h"
+#include "arith/division/told_rounding.h"
 #include "arith/powers/inverse_root.h"
 #include "arith/powers/leading_digits.h"
 #include "arith/powers/mean_end.h"
@@ -122,7 +123,7 @@ struct Root_Neighbourhood::Offset {
 };
 
 std::optional<Root_Neighbourhood::Offset> Root_Neighbourhood::offset_of(const Number& value) const {
-  const std::size_t p = digits_ + guard_digits;
+  const std::size_t p = digits_ + division_guard_digits;
   Offset offset;
   offset.e = Sum(value, root_, true, p + beyond_quotient);
   if (offset.e.is_zero()) return offset;
@@ -143,7 +144,7 @@ std::optional<Root_Neighbourhood::Offset> Root_Neighbourhood::offset_of(const Nu
 // f, or below 0 where it can't be told.
 double Root_Neighbourhood::lost_by_inverse(const Offset& offset) const {
   constexpr double least = 1e-6;
-  const std::size_t p = digits_ + guard_digits;
+  const std::size_t p = digits_ + division_guard_digits;
   const std::int64_t last = limbs::Leading_Power(inverse()) + 1 - static_cast<std::int64_t>(p);
   const Number w = offset.g ? offset.w : Product(offset.e, inverse(), offset.digits);
   Number correction = Product(w, inverse(), offset.digits);
@@ -158,7 +159,8 @@ std::optional<Step_Number> Root_Neighbourhood::quotient(const Step_Number& value
   const std::optional<Offset> offset = offset_of(value.in_limbs());
   if (!offset) return std::nullopt;
   const Number less = offset->g ? Product(offset->e, *offset->g, offset->digits) : offset->e;
-  Number quotient = Sum(root_, less, !less.negative, digits_ + guard_digits + beyond_quotient);
+  Number quotient =
+      Sum(root_, less, !less.negative, digits_ + division_guard_digits + beyond_quotient);
   const double guards = Part_Behind(quotient, last_) * guard_units;
   Told_Rounding rounding = Round_Between(guards - most_lost_ - safe_guards, guards + safe_guards);
   if (rounding == Told_Rounding::in_doubt) {
@@ -171,7 +173,7 @@ std::optional<Step_Number> Root_Neighbourhood::quotient(const Step_Number& value
   const double to_next = (rounding == Told_Rounding::is_raised ? guard_units : 0) - guards;
   limbs::Add(quotient,
              Short_Number(std::llround(std::fabs(to_next)),
-                          last_ - static_cast<std::int64_t>(guard_digits)),
+                          last_ - static_cast<std::int64_t>(division_guard_digits)),
              to_next < 0, digits_, quotient);
   return Step_Number(std::move(quotient));
 }
@@ -221,7 +223,7 @@ std::optional<Decimal> Root_Neighbourhood::end(const Step_Number& start, double 
 Step_Number Root_Neighbourhood::half_of(const Number& twice, double to_sum) const {
   const auto kept = static_cast<std::size_t>(limbs::Leading_Power(twice) - last_ + 1);
   const Number unit = Short_Number(std::llround(std::fabs(to_sum)),
-                                   last_ - static_cast<std::int64_t>(guard_digits));
+                                   last_ - static_cast<std::int64_t>(division_guard_digits));
   return Step_Number(Half_Down(Sum(twice, unit, to_sum < 0, kept), last_));
 }
 

@@ -20,7 +20,7 @@ double Units_Of(double guards) {
 // Values are known the less the more rounds led to them.
 TEST(SumWithQuotient, HoldsWhateverTheValueIsWrongBy) {
   constexpr std::size_t digits = 40;
-  constexpr int last_power = 2 - static_cast<int>(digits + guard_digits);
+  constexpr int last_power = 2 - static_cast<int>(digits + division_guard_digits);
   std::mt19937 random(29);
   const auto part = [&random] { return std::uniform_real_distribution<double>(0, 1)(random); };
   int told = 0;
