@@ -13,7 +13,7 @@ from sheets import answers, cell, fill
 VALUE, NO_CONVERGENCE = 519, 523
 # Longer than anybody waits.
 ENDLESS = ['=QVXROOT("2";"1234567.1";;;;;1000000)', "=QVXSQRT(2;;;;100000000)",
-           '=QVXDIVIDE("1";"7"&REPT("3";50);;;;;100000000)']
+           '=QVXPOWER("1."&REPT("0";20)&"3";"9999999999999999";;;;;50000000)']
 
 
 def home_with(seconds):

@@ -78,13 +78,13 @@ Number Half_Down(const Number& number, std::int64_t last) {
 
 bool Root_Neighbourhood::Is_For(double limit) {
   constexpr double least_limit = 24;  // for a reciprocal of 28 digits
-  constexpr double highest_limit = 1'000'000;
+  constexpr double highest_limit = 10'000'000;
   return limit >= least_limit && limit <= highest_limit && std::trunc(limit) == limit;
 }
 
 std::optional<Root_Neighbourhood> Root_Neighbourhood::Of(const Step_Number& radicand,
                                                          double limit) {
-  constexpr std::int64_t farthest_power = 1'000'000;
+  constexpr std::int64_t farthest_power = 10'000'000;
   const bool is_for_this = radicand.is_in_limbs() && !radicand.is_zero() &&
                            !radicand.is_negative() && Is_For(limit) && Can_Multiply();
   if (!is_for_this || std::abs(radicand.leading_power()) > farthest_power) return std::nullopt;
