@@ -97,8 +97,7 @@ Limb Limb_At(const Number& number, std::int64_t power) {
 // 2^60 is 1.153 bases, and `above` the part above 1 in 64 bits. So the guess lacks less than 1.07
 // for what is cut off, and 1.153 for the word: two at most.
 Word Divide_By_Base(Limb& rest, Word word) {
-  constexpr auto above =
-      static_cast<Word>((Wide{(Word{1} << bits) - limbs::base} << 64U) / limbs::base);
+  constexpr auto above = static_cast<Word>((Wide{one - limbs::base} << 64U) / limbs::base);
   Word quotient = rest + static_cast<Word>(Wide{rest} * above >> 64U);
   rest = (rest << bits) + word - quotient * limbs::base;
   for (int left = 2; left > 0; --left) {
@@ -195,6 +194,22 @@ void Multiply(const Word* row, const Word* fraction, std::size_t count, Word* ou
   }
   out[count - 1] = static_cast<Word>(carry);
   std::fill_n(out + count, padding, 0);
+}
+
+void Lift_Powers(Word* fraction, std::size_t count, std::size_t powers, Word* lifted,
+                 std::size_t apart) {
+  limbs::Scratch scratch(2 * Room_For(count));
+  Word* const first = scratch.data();  // as a row
+  Word* const product = first + Room_For(count);
+  std::reverse_copy(fraction, fraction + count, first);
+  std::fill_n(first + count, padding, 0);
+  for (std::size_t power = 1; power <= powers; ++power, lifted += apart) {
+    if (power > 1) {
+      Multiply(first, fraction, count, product);
+      std::reverse_copy(product, product + count, fraction);
+    }
+    std::transform(fraction, fraction + count, lifted, [](Word word) { return word << lift; });
+  }
 }
 
 void Divide(Divisions& divisions, std::size_t ways, std::size_t count) {

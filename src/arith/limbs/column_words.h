@@ -20,7 +20,10 @@ using limbs::Wide;
 __extension__ using Signed_Wide = __int128;
 
 inline constexpr unsigned bits = 60;
-inline constexpr Word mask = (Word{1} << bits) - 1;
+/// What a word and its fraction are counted in: the unit of the word above.
+inline constexpr Word one = Word{1} << bits;
+inline constexpr auto one_as_float = static_cast<double>(one);
+inline constexpr Word mask = one - 1;
 
 /// Of the longest row: so many products and a carry have room in a column.
 inline constexpr std::size_t most_words = 250;
@@ -61,8 +64,8 @@ class Divisor {
   Divisor() = default;
   explicit Divisor(Word number)
       : number_(number),
-        bases_((Word{1} << bits) / number),
-        rest_of_base_((Word{1} << bits) % number),
+        bases_(one / number),
+        rest_of_base_(one % number),
         shift_(static_cast<unsigned>(std::bit_width(number - 1)) - 1),
         reciprocal_(static_cast<Word>((Wide{1} << (64U + shift_)) / number +
                                       static_cast<Word>(!std::has_single_bit(number)))) {
@@ -133,6 +136,11 @@ void Divide(Divisions& divisions, std::size_t ways, std::size_t count);
 /// Fractions whose words are lifted to the top of theirs: the high half of a product with one is
 /// then what it passes on to the next column.
 inline constexpr unsigned lift = 64 - bits;
+
+/// The powers of a fraction from the first on, lifted, each so many words behind the one before;
+/// the fraction becomes the last of them.
+void Lift_Powers(Word* fraction, std::size_t count, std::size_t powers, Word* lifted,
+                 std::size_t apart);
 
 /// The lowest word of the product of a row and a lifted fraction, lifted as well. It runs round,
 /// and is less than 2 count + 2 units too small.

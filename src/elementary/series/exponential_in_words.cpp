@@ -14,9 +14,9 @@ namespace quorvex {
 namespace {
 
 using columns::Multiples;
+using columns::one_as_float;
 using columns::Word;
 
-constexpr double one = 0x1p60;
 constexpr std::size_t guard_digits = 5;
 
 // Halvings are squares later, and make terms fewer: as many as make both together least.
@@ -45,12 +45,13 @@ void Halve(Word* fraction, std::size_t count, std::size_t halvings) {
 class Term_Size {
  public:
   explicit Term_Size(const Word* y)
-      : reciprocal_(one / (static_cast<double>(y[0]) + (static_cast<double>(y[1]) + 2) / one)) {}
+      : reciprocal_(one_as_float /
+                    (static_cast<double>(y[0]) + (static_cast<double>(y[1]) + 2) / one_as_float)) {}
 
   void step() {
     product_ *= static_cast<double>(++k_) * reciprocal_;
-    while (product_ >= one) {
-      product_ /= one;
+    while (product_ >= one_as_float) {
+      product_ /= one_as_float;
       ++zeros_;
     }
   }
@@ -85,7 +86,7 @@ class Taylor_Sum {
       if (index % size_ == 0) zeros_of_groups_.push_back(term.zeros());
       term.step();
     }
-    fill_powers();
+    columns::Lift_Powers(y_, width_, size_, powers_, room_);
   }
 
   const Word* sum() {
@@ -113,22 +114,6 @@ class Taylor_Sum {
   std::size_t group_size() const {
     const double best = std::sqrt(static_cast<double>(count_) / 3) / Multiples::most;
     return Multiples::most * static_cast<std::size_t>(std::fmax(std::round(best), 1));
-  }
-
-  // Leaves the last of the powers in the place of the first.
-  void fill_powers() {
-    Word* const first = sum_;
-    std::reverse_copy(y_, y_ + width_, first);
-    std::fill_n(first + width_, columns::padding, 0);
-    for (std::size_t index = 0; index < size_; ++index) {
-      if (index > 0) {
-        columns::Multiply(first, y_, width_, other_);
-        std::reverse_copy(other_, other_ + width_, y_);
-      }
-      for (std::size_t place = 0; place < width_; ++place) {
-        powers_[index * room_ + place] = y_[place] << columns::lift;
-      }
-    }
   }
 
   // Brings the sum of what follows to more words, and multiplies it by the last power.

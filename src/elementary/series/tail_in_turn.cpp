@@ -17,12 +17,11 @@ namespace quorvex {
 namespace {
 
 using columns::Loose_Divisor;
+using columns::one;
+using columns::one_as_float;
 using columns::Word;
 using limbs::Number;
 using limbs::Wide;
-
-constexpr Word one = Word{1} << columns::bits;
-constexpr auto one_as_float = static_cast<double>(one);
 
 // Of the longest row: so many products of a word and one of a loose quotient have room in a column.
 constexpr std::size_t most_words = 64;

@@ -18,11 +18,10 @@ namespace {
 
 using columns::Divisions;
 using columns::Multiples;
+using columns::one;
+using columns::one_as_float;
 using columns::Word;
 using limbs::Number;
-
-constexpr Word one = Word{1} << columns::bits;
-constexpr auto one_as_float = static_cast<double>(one);
 
 // A row that is told where its numbers stand.
 struct Row {
@@ -42,13 +41,13 @@ struct Terms_Together {
   Multiples multiples;
 };
 
-// Takes the room for rows one after the other.
+// Gives the room for rows one after the other.
 class Rows {
  public:
   Rows(std::size_t rows, std::size_t width)
       : room_(columns::Room_For(width)), scratch_(rows * room_), next_(scratch_.data()) {}
 
-  Word* next() { return std::exchange(next_, next_ + room_); }
+  Word* next(std::size_t rows = 1) { return std::exchange(next_, next_ + rows * room_); }
 
   // From each row to the next.
   std::size_t room() const { return room_; }
@@ -85,9 +84,11 @@ class Powers_Tail {
     sum_of_group_ = rows_.next();
     sum_ = rows_.next();
     last_baby_ = rows_.next();
+    babies_ = rows_.next(size_);
     std::fill_n(sum_, width_, 0);
     cut_off_ = static_cast<double>(6 * width_ + 16) * columns::Divisor::end / one_as_float;
-    fill_babies(tail.factor);
+    columns::Fraction_Of(tail.factor, width_, last_baby_);
+    columns::Lift_Powers(last_baby_, width_, size_, babies_, rows_.room());
   }
 
   // The sum of the terms as they are rounded, without the sign of the first.
@@ -102,24 +103,6 @@ class Powers_Tail {
  private:
   static constexpr std::size_t other_rows = 6 + Divisions::most;
   static constexpr double negligible = 1e-8;  // of errors by exact steps
-
-  void fill_babies(const Number& factor) {
-    Word* const first = divisions_.quotients[0];  // as a row
-    columns::Fraction_Of(factor, width_, last_baby_);
-    std::reverse_copy(last_baby_, last_baby_ + width_, first);
-    std::fill_n(first + width_, columns::padding, 0);
-    for (std::size_t index = 0; index < size_; ++index) {
-      if (index > 0) {
-        columns::Multiply(first, last_baby_, width_, product_);
-        std::reverse_copy(product_, product_ + width_, last_baby_);
-      }
-      Word* const baby = rows_.next();
-      if (index == 0) babies_ = baby;
-      for (std::size_t place = 0; place < width_; ++place) {
-        baby[place] = last_baby_[place] << columns::lift;
-      }
-    }
-  }
 
   const Word* baby_at(std::size_t index) const { return babies_ + index * rows_.room(); }
 
@@ -276,7 +259,7 @@ class Powers_Tail {
   Word* sum_of_group_;
   Word* sum_;
   Word* last_baby_;
-  const Word* babies_ = nullptr;  // powers of the factor, from the first on
+  Word* babies_;  // powers of the factor, from the first on
   std::array<Terms_Together, Divisions::most> terms_;
   Divisions divisions_;
   columns::Signed_Wide rounded_off_ = 0;
